@@ -1,0 +1,28 @@
+// What the host keeps for the whole process: one user, one front window, one set of switches.
+#pragma once
+
+namespace easel::host {
+
+class DrawingWindow;
+class Port;
+class User;
+
+enum class Switch { off, on };
+
+struct SnapSwitches {
+    Switch grid = Switch::off;
+    Switch object = Switch::off;
+};
+
+// Everything here is used on the user-interface thread only. Nothing pointed to is owned.
+struct Host {
+    User* user = nullptr;                  // who is asked, never null once a program runs the plug-in
+    DrawingWindow* activeWindow = nullptr; // the front drawing window
+    Port* currentPort = nullptr;           // where the plug-in's drawing calls go
+    SnapSwitches snap;
+};
+
+// The one host of the process.
+Host& theHost();
+
+} // namespace easel::host
