@@ -1,0 +1,25 @@
+// Selection and commands of the list of things to delete.
+#include "easel/interface/DeletionList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace easel::host {
+
+DeletionList::DeletionList(std::string title, std::vector<std::string> rows, Handler handler)
+    : title_(std::move(title)), rows_(std::move(rows)), handler_(std::move(handler)) {}
+
+void DeletionList::select(std::vector<int> rows) {
+    std::erase_if(rows, [this](int row) { return row < 0 || row >= static_cast<int>(rows_.size()); });
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    selection_ = std::move(rows);
+}
+
+void DeletionList::command(DeletionCommand command) {
+    if (command == DeletionCommand::Ok && !canConfirm())
+        return;
+    handler_(command);
+}
+
+} // namespace easel::host
