@@ -1,0 +1,101 @@
+#include "easel/drawing/DisplayList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace easel::drawing {
+
+namespace {
+constexpr std::size_t kLargestBlock = 512;
+} // namespace
+
+bool DisplayList::holds(Slot slot) const {
+    return slot < entries_.size() && entries_[slot].block != kNoBlock;
+}
+
+DisplayList::Place DisplayList::placeOf(std::size_t index) const {
+    std::size_t block = 0;
+    while (block + 1 < blocks_.size() && index >= blocks_[block].slots.size())
+        index -= blocks_[block++].slots.size();
+    return {block, index};
+}
+
+Slot DisplayList::slotAt(std::size_t index) const {
+    const Place place = placeOf(index);
+    return blocks_[place.block].slots[place.position];
+}
+
+std::size_t DisplayList::indexOf(Slot slot) const {
+    const std::size_t block = entries_[slot].block;
+    std::size_t index = 0;
+    for (std::size_t i = 0; i < block; ++i)
+        index += blocks_[i].slots.size();
+    const std::vector<Slot>& slots = blocks_[block].slots;
+    return index + static_cast<std::size_t>(std::find(slots.begin(), slots.end(), slot) - slots.begin());
+}
+
+Slot DisplayList::newSlot() {
+    entries_.emplace_back();
+    return static_cast<Slot>(entries_.size() - 1);
+}
+
+void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
+    if (blocks_.empty())
+        blocks_.emplace_back();
+    // An index just past a full block's end may also go to the start of the next; either is right.
+    const Place place = placeOf(index);
+    std::vector<Slot>& slots = blocks_[place.block].slots;
+    slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(place.position), slot);
+    entries_[slot] = {std::move(object), static_cast<std::uint32_t>(place.block)};
+    ++size_;
+    if (slots.size() > kLargestBlock)
+        split(place.block);
+}
+
+ObjectPtr DisplayList::erase(Slot slot) {
+    Entry& entry = entries_[slot];
+    const std::size_t block = entry.block;
+    std::vector<Slot>& slots = blocks_[block].slots;
+    slots.erase(std::find(slots.begin(), slots.end(), slot));
+    entry.block = kNoBlock;
+    --size_;
+    if (slots.empty()) {
+        blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(block));
+        renumber(block);
+    }
+    return std::exchange(entry.object, nullptr);
+}
+
+ObjectPtr DisplayList::replace(Slot slot, ObjectPtr object) {
+    return std::exchange(entries_[slot].object, std::move(object));
+}
+
+void DisplayList::append(std::vector<ObjectPtr> objects) {
+    entries_.reserve(entries_.size() + objects.size());
+    for (ObjectPtr& object : objects) {
+        if (blocks_.empty() || blocks_.back().slots.size() >= kLargestBlock / 2)
+            blocks_.emplace_back();
+        const Slot slot = newSlot();
+        blocks_.back().slots.push_back(slot);
+        entries_[slot] = {std::move(object), static_cast<std::uint32_t>(blocks_.size() - 1)};
+    }
+    size_ += objects.size();
+}
+
+void DisplayList::split(std::size_t block) {
+    Block upper;
+    std::vector<Slot>& slots = blocks_[block].slots;
+    const auto middle = slots.begin() + static_cast<std::ptrdiff_t>(slots.size() / 2);
+    upper.slots.assign(middle, slots.end());
+    slots.erase(middle, slots.end());
+    blocks_.insert(blocks_.begin() + static_cast<std::ptrdiff_t>(block) + 1, std::move(upper));
+    renumber(block + 1);
+}
+
+void DisplayList::renumber(std::size_t firstBlock) {
+    for (std::size_t i = firstBlock; i < blocks_.size(); ++i)
+        for (const Slot slot : blocks_[i].slots)
+            entries_[slot].block = static_cast<std::uint32_t>(i);
+}
+
+} // namespace easel::drawing

@@ -1,0 +1,70 @@
+// The objects of a drawing from back to front, quick to change and to number however many there are.
+#pragma once
+
+#include "easel/drawing/Object.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace easel::drawing {
+
+// Names one entry of the list for as long as the drawing lives: never given to another entry.
+using Slot = std::uint32_t;
+
+// The list is cut into blocks of some hundred entries, so that finding, inserting and deleting at an index,
+// and finding the index of an entry, take time that grows with the square root of the number of entries at
+// most.
+class DisplayList {
+  public:
+    std::size_t size() const { return size_; }
+    bool holds(Slot slot) const;
+    // index < size()
+    Slot slotAt(std::size_t index) const;
+    // The slot is in the list.
+    std::size_t indexOf(Slot slot) const;
+    const ObjectPtr& object(Slot slot) const { return entries_[slot].object; }
+
+    // Gives out a slot that is in no list yet.
+    Slot newSlot();
+    // index <= size(); the slot was given out and is not in the list.
+    void insert(std::size_t index, Slot slot, ObjectPtr object);
+    // The object, which the list holds no longer. The slot may be inserted again.
+    ObjectPtr erase(Slot slot);
+    // The object that was there.
+    ObjectPtr replace(Slot slot, ObjectPtr object);
+    // Appends many at once.
+    void append(std::vector<ObjectPtr> objects);
+
+    // Back to front.
+    template <class Visitor> void forEach(Visitor visit) const {
+        for (const Block& block : blocks_)
+            for (const Slot slot : block.slots)
+                visit(slot, entries_[slot].object);
+    }
+
+  private:
+    static constexpr std::uint32_t kNoBlock = UINT32_MAX;
+
+    struct Block {
+        std::vector<Slot> slots;
+    };
+    struct Entry {
+        ObjectPtr object;
+        std::uint32_t block = kNoBlock;
+    };
+    struct Place {
+        std::size_t block = 0;
+        std::size_t position = 0;
+    };
+
+    Place placeOf(std::size_t index) const;
+    void split(std::size_t block);
+    void renumber(std::size_t firstBlock);
+
+    std::vector<Block> blocks_;
+    std::vector<Entry> entries_; // by slot
+    std::size_t size_ = 0;
+};
+
+} // namespace easel::drawing

@@ -1,0 +1,182 @@
+#include "easel/drawing/Drawing.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace easel::drawing {
+
+namespace {
+
+// Room for what marks a selected object around its box, and for the blurred edge of its pixels.
+constexpr double kRepaintMargin = 8;
+
+} // namespace
+
+Drawing Drawing::create(double width, double height) {
+    return {width, height, {}, nullptr, {}};
+}
+
+Drawing::Drawing(double width, double height, std::vector<ObjectPtr> objects,
+                 std::shared_ptr<const DocumentSource> source, std::vector<std::string> notes)
+    : width_(width), height_(height), source_(std::move(source)), notes_(std::move(notes)) {
+    list_.append(std::move(objects));
+    std::vector<PlaceIndex::Item> items;
+    items.reserve(list_.size());
+    list_.forEach(
+        [&](Slot slot, const ObjectPtr& object) { items.emplace_back(object->paintBounds(), slot); });
+    places_.assign(items);
+}
+
+std::optional<std::size_t> Drawing::indexOfId(std::string_view id) const {
+    std::size_t index = 0;
+    std::optional<std::size_t> found;
+    list_.forEach([&](Slot, const ObjectPtr& object) {
+        if (!found && object->id == id)
+            found = index;
+        ++index;
+    });
+    return found;
+}
+
+std::vector<ObjectPtr> Drawing::objectsWithin(const Box& area) const {
+    std::vector<std::pair<std::size_t, Slot>> order;
+    for (const Slot slot : places_.within(area))
+        order.emplace_back(list_.indexOf(slot), slot);
+    std::sort(order.begin(), order.end());
+    std::vector<ObjectPtr> objects;
+    objects.reserve(order.size());
+    for (const auto& [index, slot] : order)
+        objects.push_back(list_.object(slot));
+    return objects;
+}
+
+std::optional<std::size_t> Drawing::pick(Point point, double reach, KindSet kinds) const {
+    std::vector<std::pair<std::size_t, Slot>> candidates;
+    for (const Slot slot : places_.within(Box{point.x, point.y, point.x, point.y}.grownBy(reach)))
+        if (kinds.has(list_.object(slot)->kind))
+            candidates.emplace_back(list_.indexOf(slot), slot);
+    std::sort(candidates.rbegin(), candidates.rend());
+    for (const auto& [index, slot] : candidates)
+        if (list_.object(slot)->hitBy(point, reach))
+            return index;
+    return std::nullopt;
+}
+
+void Drawing::insert(std::size_t index, ObjectPtr object) {
+    const Slot slot = list_.newSlot();
+    putIn(index, slot, object);
+    history_.record({Edit::What::Insert, slot, index, std::move(object)});
+}
+
+void Drawing::erase(std::size_t index) {
+    const Slot slot = list_.slotAt(index);
+    ObjectPtr object = takeOut(slot);
+    history_.record({Edit::What::Erase, slot, index, std::move(object)});
+}
+
+void Drawing::amend(std::size_t index, ObjectPtr object) {
+    const Slot slot = list_.slotAt(index);
+    const ObjectPtr before = list_.replace(slot, object);
+    places_.erase(before->paintBounds(), slot);
+    places_.insert(object->paintBounds(), slot);
+    changed(before);
+    changed(object);
+    history_.close();
+    history_.record({});
+}
+
+bool Drawing::undo() {
+    const Step* step = history_.takeUndo(selectedSlots());
+    if (!step)
+        return false;
+    for (auto edit = step->edits.rbegin(); edit != step->edits.rend(); ++edit)
+        revert(*edit);
+    restoreSelection(step->selectionBefore);
+    return true;
+}
+
+bool Drawing::redo() {
+    const Step* step = history_.takeRedo();
+    if (!step)
+        return false;
+    for (const Edit& edit : step->edits)
+        apply(edit);
+    restoreSelection(step->selectionAfter);
+    return true;
+}
+
+void Drawing::apply(const Edit& edit) {
+    if (edit.what == Edit::What::Insert)
+        putIn(edit.index, edit.slot, edit.object);
+    else
+        takeOut(edit.slot);
+}
+
+void Drawing::revert(const Edit& edit) {
+    if (edit.what == Edit::What::Erase)
+        putIn(edit.index, edit.slot, edit.object);
+    else
+        takeOut(edit.slot);
+}
+
+void Drawing::putIn(std::size_t index, Slot slot, const ObjectPtr& object) {
+    // Changes outside the undo history may have left fewer objects than a step of the history knew.
+    list_.insert(std::min(index, list_.size()), slot, object);
+    places_.insert(object->paintBounds(), slot);
+    changed(object);
+}
+
+ObjectPtr Drawing::takeOut(Slot slot) {
+    if (!list_.holds(slot))
+        return nullptr;
+    selection_.erase(slot);
+    ObjectPtr object = list_.erase(slot);
+    places_.erase(object->paintBounds(), slot);
+    changed(object);
+    return object;
+}
+
+void Drawing::select(std::size_t index) {
+    const Slot slot = list_.slotAt(index);
+    if (selection_.insert(slot).second)
+        changed(list_.object(slot));
+}
+
+void Drawing::unselect(std::size_t index) {
+    const Slot slot = list_.slotAt(index);
+    if (selection_.erase(slot) != 0)
+        changed(list_.object(slot));
+}
+
+void Drawing::unselectAll() {
+    for (const Slot slot : std::exchange(selection_, {}))
+        changed(list_.object(slot));
+}
+
+std::vector<std::size_t> Drawing::selection() const {
+    std::vector<std::size_t> indices;
+    indices.reserve(selection_.size());
+    for (const Slot slot : selection_)
+        indices.push_back(list_.indexOf(slot));
+    std::sort(indices.begin(), indices.end());
+    return indices;
+}
+
+void Drawing::restoreSelection(const std::vector<Slot>& slots) {
+    unselectAll();
+    for (const Slot slot : slots)
+        if (list_.holds(slot) && selection_.insert(slot).second)
+            changed(list_.object(slot));
+}
+
+void Drawing::invalidateSelection() {
+    for (const Slot slot : selection_)
+        changed(list_.object(slot));
+}
+
+void Drawing::changed(const ObjectPtr& object) {
+    if (listener_)
+        listener_(object->paintBounds().grownBy(kRepaintMargin));
+}
+
+} // namespace easel::drawing

@@ -1,0 +1,37 @@
+// Layers that several objects share: group opacity and clip paths, as a chain from the inside out.
+#pragma once
+
+#include "easel/drawing/Path.h"
+
+#include <memory>
+#include <vector>
+
+namespace easel::drawing {
+
+struct ClipPath;
+
+// One shape of a clip path, in drawing coordinates; `clip` narrows this shape alone.
+struct ClipShape {
+    Path outline;
+    FillRule rule = FillRule::NonZero;
+    std::shared_ptr<const ClipPath> clip;
+};
+
+// The union of its shapes; without shapes nothing shows. `clip` narrows the whole of it.
+struct ClipPath {
+    std::vector<ClipShape> shapes;
+    std::shared_ptr<const ClipPath> clip;
+};
+
+// Objects that follow each other in the drawing and name the same group are painted into one layer, which is
+// clipped, made fainter by `opacity` and laid on what `parent` (null: the drawing) holds so far.
+struct Group {
+    std::shared_ptr<const Group> parent;
+    double opacity = 1;
+    std::shared_ptr<const ClipPath> clip; // null: not clipped
+    std::uint32_t depth = 1;              // number of groups up to the outermost, this one included
+};
+
+using GroupPtr = std::shared_ptr<const Group>;
+
+} // namespace easel::drawing

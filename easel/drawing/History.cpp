@@ -1,0 +1,57 @@
+#include "easel/drawing/History.h"
+
+#include <utility>
+
+namespace easel::drawing {
+
+void History::prepare(long kind, std::vector<Slot> selection) {
+    open_ = false;
+    preparedKind_ = kind;
+    prepared_ = Step{kind, {}, std::move(selection), {}, revision_, revision_};
+}
+
+void History::close() {
+    open_ = false;
+    prepared_.reset();
+}
+
+void History::record(Edit edit) {
+    revision_ = ++lastRevision_;
+    if (prepared_) {
+        undone_.clear();
+        done_.push_back(std::move(*prepared_));
+        prepared_.reset();
+        open_ = true;
+    }
+    if (!open_)
+        return;
+    done_.back().edits.push_back(std::move(edit));
+    done_.back().revisionAfter = revision_;
+}
+
+const Step* History::takeUndo(std::vector<Slot> selection) {
+    close();
+    if (done_.empty())
+        return nullptr;
+    undone_.push_back(std::move(done_.back()));
+    done_.pop_back();
+    Step& step = undone_.back();
+    step.selectionAfter = std::move(selection);
+    // A change outside the steps is not undone with them, so the state before the step does not come back
+    // whole.
+    revision_ = revision_ == step.revisionAfter ? step.revisionBefore : ++lastRevision_;
+    return &step;
+}
+
+const Step* History::takeRedo() {
+    close();
+    if (undone_.empty())
+        return nullptr;
+    done_.push_back(std::move(undone_.back()));
+    undone_.pop_back();
+    const Step& step = done_.back();
+    revision_ = revision_ == step.revisionBefore ? step.revisionAfter : ++lastRevision_;
+    return &step;
+}
+
+} // namespace easel::drawing

@@ -1,0 +1,104 @@
+// One object of a drawing. Objects in a drawing are immutable and shared, so that clones and undo cost
+// little.
+#pragma once
+
+#include "easel/drawing/Group.h"
+#include "easel/drawing/ObjectGradient.h"
+#include "easel/drawing/Paint.h"
+#include "easel/drawing/Path.h"
+#include "easel/drawing/Style.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace easel::drawing {
+
+// Values are the kind numbers that plug-ins see; 0 stands for "no object" there.
+enum class Kind : std::uint16_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line };
+
+inline constexpr Kind kAllKinds[] = {Kind::Rect, Kind::Ellipse,  Kind::Polygon,
+                                     Kind::Path, Kind::Polyline, Kind::Line};
+
+// "rect", "ellipse", "polygon", "path", "polyline", "line".
+std::string_view kindName(Kind kind);
+std::optional<Kind> kindFromName(std::string_view name);
+// Closed kinds carry gradients: all but polyline and line.
+bool carriesGradient(Kind kind);
+
+// A set of kinds, such as the filter of a pick.
+class KindSet {
+  public:
+    static KindSet none() { return {}; }
+    static KindSet all();
+    void add(Kind kind) { bits_ = static_cast<std::uint16_t>(bits_ | bit(kind)); }
+    bool has(Kind kind) const { return (bits_ & bit(kind)) != 0; }
+    friend bool operator==(const KindSet&, const KindSet&) = default;
+
+  private:
+    static std::uint16_t bit(Kind kind) {
+        return static_cast<std::uint16_t>(1u << static_cast<unsigned>(kind));
+    }
+    std::uint16_t bits_ = 0;
+};
+
+// What the host's pattern of the fill is. A gradient shows only over a pattern other than None.
+enum class FillPattern : std::uint8_t { None, SolidBlack, Other };
+
+// Which fill the source file states for the object: the one it was read with, or one given since.
+enum class FillOrigin : std::uint8_t { File, Edited };
+
+// Byte offsets in the drawing's source file of the element an object came from.
+struct ElementSpan {
+    std::uint32_t tagBegin = 0;   // the '<' of the start tag
+    std::uint32_t tagEnd = 0;     // one past its '>'; equal to tagBegin for an object that is in no file
+    std::uint32_t elementEnd = 0; // one past the end tag's '>', or tagEnd
+    std::uint32_t instance =
+        0; // objects of one `use` element share its span and are numbered from 1; 0 otherwise
+
+    bool inFile() const { return tagEnd > tagBegin; }
+    friend bool operator==(const ElementSpan&, const ElementSpan&) = default;
+};
+
+struct Object {
+    Kind kind = Kind::Path;
+    FillRule fillRule = FillRule::NonZero;
+    FillPattern fillPattern = FillPattern::None;
+    FillOrigin fillOrigin = FillOrigin::File;
+    std::string id;                      // the element's id, UTF-8; may be empty
+    std::shared_ptr<const Path> outline; // in drawing coordinates; never null in a drawing
+    Affine transform;                    // from the object's own units to the drawing: the shape of its pen
+    std::shared_ptr<const Style> style;  // null: not stroked, opaque
+    Paint fill;                          // what fills the object when it has no gradient
+    ObjectGradient gradient;             // empty: none
+    GroupPtr group;                      // innermost layer; null: the drawing itself
+    ElementSpan source;
+
+    // Tight box of the outline, without stroke. Kept by `sealed`.
+    Box bounds;
+
+    // Gives the object another fill: this pattern and gradient, from now on stated by the user, not the file.
+    void setFillPattern(FillPattern pattern);
+    void setGradient(const ObjectGradient& newGradient);
+
+    bool showsGradient() const;
+    // Whether the point is inside by the fill rule, or within `reach` of the outline (drawing units).
+    bool hitBy(Point p, double reach) const;
+    // Everything that painting the object may touch: outline and stroke.
+    Box paintBounds() const;
+};
+
+using ObjectPtr = std::shared_ptr<const Object>;
+
+// Makes an object fit for a drawing: fills in what is missing and computes its bounds.
+ObjectPtr sealed(Object object);
+
+// The style that a null style stands for.
+const Style& plainStyle();
+inline const Style& styleOf(const Object& object) {
+    return object.style ? *object.style : plainStyle();
+}
+
+} // namespace easel::drawing

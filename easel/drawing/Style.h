@@ -1,0 +1,45 @@
+// How an object is painted apart from its fill: stroke, opacity and order. One style serves many objects.
+#pragma once
+
+#include "easel/drawing/Paint.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace easel::drawing {
+
+enum class LineJoin : std::uint8_t { Miter, Round, Bevel };
+enum class LineCap : std::uint8_t { Butt, Round, Square };
+enum class PaintStep : std::uint8_t { Fill, Stroke };
+
+// Lengths are in the object's own units; `Object::transform` takes them to the drawing.
+struct Stroke {
+    Paint paint; // without paint nothing is stroked
+    double opacity = 1;
+    double width = 1;
+    LineJoin join = LineJoin::Miter;
+    LineCap cap = LineCap::Butt;
+    double miterLimit = 4;
+    std::vector<double> dashes; // an even number of lengths, none negative, not all 0; empty for a solid line
+    double dashOffset = 0;
+
+    friend bool operator==(const Stroke&, const Stroke&) = default;
+};
+
+struct Style {
+    Stroke stroke;
+    double fillOpacity = 1; // multiplies every kind of fill
+    double opacity = 1;     // of fill and stroke painted together
+    PaintStep first = PaintStep::Fill;
+
+    friend bool operator==(const Style&, const Style&) = default;
+};
+
+// Whether the stroke leaves any mark.
+bool strokes(const Style& style);
+
+// How far the stroke may reach from the outline, in the object's own units.
+double strokeReach(const Style& style);
+
+} // namespace easel::drawing
