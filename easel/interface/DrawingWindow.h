@@ -1,6 +1,8 @@
-// A drawing and the window that shows it, as far as the host knows about it.
+// A drawing and the window that shows it, as far as the host knows about it: its view, its image and the
+// feedback on top.
 #pragma once
 
+#include "easel/drawing/Drawing.h"
 #include "easel/interface/View.h"
 
 #include <memory>
@@ -8,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-namespace easel::drawing {
-class Drawing;
+namespace easel::paint {
+class Surface;
 }
 
 namespace easel::host {
@@ -22,18 +24,31 @@ struct ConstructionLine {
 
 class DrawingWindow {
   public:
-    explicit DrawingWindow(std::unique_ptr<drawing::Drawing> drawing);
+    // The view shows the whole drawing at scale 1 until it is set.
+    explicit DrawingWindow(drawing::Drawing drawing);
     ~DrawingWindow();
     DrawingWindow(const DrawingWindow&) = delete;
     DrawingWindow& operator=(const DrawingWindow&) = delete;
 
-    drawing::Drawing& drawing() { return *drawing_; }
-    const drawing::Drawing& drawing() const { return *drawing_; }
+    drawing::Drawing& drawing() { return drawing_; }
+    const drawing::Drawing& drawing() const { return drawing_; }
 
+    // Setting the view marks everything for repainting.
     const View& view() const { return view_; }
-    void setView(const View& view) { view_ = view; }
+    void setView(const View& view);
 
-    // The feedback that is to be seen on top of the drawing; it takes the place of what was there.
+    // The image holds what has been painted: white paper with the drawing on it, in the pixels of the view.
+    // Areas (in drawing coordinates) are marked when they change and painted by `paintMarked`, so that the
+    // image never changes behind the back of a tracking loop. Changes of the drawing mark their areas
+    // themselves and tell the user.
+    void mark(const drawing::Box& area);
+    bool hasMarks() const { return !marks_.empty(); }
+    // Paints what is marked. Throws std::bad_alloc if there is no memory for an image of this size.
+    void paintMarked();
+    // Painted at least once before this is asked for.
+    const paint::Surface& image() const { return *image_; }
+
+    // What is to be seen on top of the image; it takes the place of what was there.
     const std::vector<ConstructionLine>& feedback() const { return feedback_; }
     void setFeedback(std::vector<ConstructionLine> lines) { feedback_ = std::move(lines); }
 
@@ -42,8 +57,10 @@ class DrawingWindow {
     void setCursor(long id) { cursor_ = id; }
 
   private:
-    std::unique_ptr<drawing::Drawing> drawing_;
+    drawing::Drawing drawing_;
     View view_;
+    std::unique_ptr<paint::Surface> image_;
+    std::vector<drawing::Box> marks_;
     std::vector<ConstructionLine> feedback_;
     std::optional<long> cursor_;
 };

@@ -1,10 +1,13 @@
 // What the host keeps for the whole process: one user, one front window, one set of switches.
 #pragma once
 
+namespace easel::paint {
+class Port;
+}
+
 namespace easel::host {
 
 class DrawingWindow;
-class Port;
 class User;
 
 enum class Switch { off, on };
@@ -18,7 +21,7 @@ struct SnapSwitches {
 struct Host {
     User* user = nullptr;                  // who is asked, never null once a program runs the plug-in
     DrawingWindow* activeWindow = nullptr; // the front drawing window
-    Port* currentPort = nullptr;           // where the plug-in's drawing calls go
+    paint::Port* currentPort = nullptr;    // where the plug-in's drawing calls go
     SnapSwitches snap;
 };
 

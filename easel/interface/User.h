@@ -73,17 +73,12 @@ class User {
     // Says something the user has to know, naming the file and the reason.
     virtual void tell(const std::string& message) = 0;
 
-    // A dialog becomes visible, filled as it is now; it stays the host's.
+    // A dialog becomes visible, filled as it is now; it stays the host's. Changes from here on are told to
+    // the dialog's observer.
     virtual void dialogShown(Dialog& dialog) = 0;
 
     // The last word about a dialog, shown or not; the reference is void afterwards.
     virtual void dialogClosed(Dialog& dialog) = 0;
-
-    // An item's text, selection, value or menu, or the focus, was changed by the program.
-    virtual void dialogChanged(Dialog& dialog) = 0;
-
-    // Shows at once what the dialog's port image now holds.
-    virtual void present(Dialog& dialog) = 0;
 
     // Waits for the user to hit an item of the dialog and returns its number. 0 when the program is quitting:
     // nobody will hit anything any more, which counts as Cancel.
