@@ -1,0 +1,84 @@
+// Pixels to paint on: 32 bits each, premultiplied alpha, laid out as Cairo's ARGB32 image surfaces are.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace easel::paint {
+
+// A rectangle of whole pixels; right and bottom are one past the last pixel.
+struct PixelBox {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    friend bool operator==(const PixelBox&, const PixelBox&) = default;
+
+    bool empty() const { return left >= right || top >= bottom; }
+    int width() const { return empty() ? 0 : right - left; }
+    int height() const { return empty() ? 0 : bottom - top; }
+    PixelBox intersection(const PixelBox& other) const {
+        return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+                std::min(bottom, other.bottom)};
+    }
+};
+
+// Pixels owned by someone else, with the box outside of which nothing is painted. A pixel is 0xAARRGGBB in
+// the machine's byte order.
+class SurfaceView {
+  public:
+    SurfaceView() = default;
+    // `stride` is the distance between rows in bytes, a multiple of 4.
+    SurfaceView(std::uint32_t* pixels, int width, int height, std::ptrdiff_t stride)
+        : pixels_(pixels), width_(width), height_(height), stride_(stride), clip_{0, 0, width, height} {}
+
+    int width() const { return width_; }
+    int height() const { return height_; }
+    std::ptrdiff_t stride() const { return stride_; }
+    std::uint32_t* row(int y) const { return pixels_ + y * (stride_ / 4); }
+
+    // Always within the surface.
+    const PixelBox& clip() const { return clip_; }
+    // The same pixels, painted only where both the present clip and `box` allow it.
+    SurfaceView clippedTo(const PixelBox& box) const {
+        SurfaceView view = *this;
+        view.clip_ = clip_.intersection(box);
+        return view;
+    }
+
+  private:
+    std::uint32_t* pixels_ = nullptr;
+    int width_ = 0;
+    int height_ = 0;
+    std::ptrdiff_t stride_ = 0;
+    PixelBox clip_;
+};
+
+// A surface with pixels of its own, transparent black at first. Rows begin on 64-byte boundaries.
+class Surface {
+  public:
+    // Throws std::bad_alloc when there is no memory for it. Sizes below 1 give an empty surface.
+    Surface(int width, int height);
+
+    int width() const { return width_; }
+    int height() const { return height_; }
+    std::ptrdiff_t stride() const { return stride_; }
+    std::uint32_t* row(int y) { return pixels_.get() + y * (stride_ / 4); }
+    const std::uint32_t* row(int y) const { return pixels_.get() + y * (stride_ / 4); }
+    SurfaceView view() { return {pixels_.get(), width_, height_, stride_}; }
+    void clear(std::uint32_t pixel);
+
+  private:
+    struct Free {
+        void operator()(std::uint32_t* pixels) const;
+    };
+    int width_;
+    int height_;
+    std::ptrdiff_t stride_;
+    std::unique_ptr<std::uint32_t, Free> pixels_;
+};
+
+} // namespace easel::paint
