@@ -1,0 +1,44 @@
+// Reads numbers, words and separators from the text of an attribute.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace easel::svg {
+
+inline bool isSpace(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+}
+std::string_view trimmed(std::string_view text);
+// Letters A to Z only; the keywords of SVG and CSS have no others.
+bool equalIgnoringCase(std::string_view a, std::string_view b);
+
+class Scanner {
+  public:
+    explicit Scanner(std::string_view text) : rest_(text) {}
+
+    bool done() const { return rest_.empty(); }
+    char peek() const { return rest_.empty() ? '\0' : rest_.front(); }
+    std::string_view rest() const { return rest_; }
+
+    void skipSpaces();
+    // Blanks with at most one comma among them.
+    void skipSeparator();
+    // Takes the character if it is next.
+    bool take(char c);
+    // Takes the text if it is next, whatever its case.
+    bool takeWord(std::string_view word);
+    // One character, which must be there.
+    char next();
+    // A decimal number right here; one too large for a double is infinite. Nothing is taken if there is none.
+    std::optional<double> number();
+    // A run of letters, digits, '-', '_' and bytes above ASCII; may be empty.
+    std::string_view word();
+    // Everything up to `end`, which is taken too; the whole rest if it does not come.
+    std::string_view until(char end);
+
+  private:
+    std::string_view rest_;
+};
+
+} // namespace easel::svg
