@@ -58,6 +58,14 @@ class DialogObserver {
 // What became of a keystroke or an edit.
 enum class EditOutcome { Accepted, Refused };
 
+enum class DialogKey { Enter, Escape };
+
+// The items that Enter and Escape stand for; 0 for none.
+struct KeyItems {
+    int enter = 0;
+    int escape = 0;
+};
+
 class Dialog {
   public:
     Dialog(DialogDescription description, const DialogScreen& screen);
@@ -72,7 +80,7 @@ class Dialog {
     const std::vector<DialogItem>& items() const { return items_; }
     // Null when there is no item of that number.
     const DialogItem* item(int number) const;
-    // The front-most item whose bounds hold the point, or null.
+    // The item with the lowest number whose bounds hold the point, or null.
     const DialogItem* itemAt(paint::PixelPoint point) const;
     // The item with the keyboard focus, or 0. A dialog opens with its first edit field focused.
     int focus() const { return focus_; }
@@ -99,9 +107,10 @@ class Dialog {
     EditOutcome chooseEntry(int item, int entry);
     // Moves the keyboard focus, selecting all of an edit field; no hit. 0 takes the focus away.
     void setFocus(int item);
-    // A press in a user item or an edit field, or a click on a control. Disabled items and static texts are
-    // hit as well: what a hit means is the business of who runs the dialog.
+    // A press in a user item or an edit field, or a click on a control. Disabled items are not hit.
     void hit(int item);
+    // A key that stands for an item, if who runs the dialog has said so.
+    void pressKey(DialogKey key);
     std::optional<int> takeHit();
     bool hasHit() const { return !hits_.empty(); }
 
@@ -109,9 +118,8 @@ class Dialog {
     void setText(int item, std::string text);
     void setValue(int item, int value);
     void setDrawProcedure(int item, ItemDrawProcedure procedure);
+    void setKeyItems(const KeyItems& items) { keyItems_ = items; }
     void invalidate(int item);
-    // To be called after changing an item's menu.
-    void menuChanged(int item);
     void show();
 
     // --- The port and what is drawn in it.
@@ -124,8 +132,8 @@ class Dialog {
     // Calls the draw procedures of the invalid items, in the order of their numbers, with this dialog's port
     // current.
     void drawInvalidItems();
-    // Reports what has been drawn since the last call to the observer. Whoever waits for input calls it
-    // before waiting.
+    // Reports drawn pixels and changed menus to the observer, however many changes there were since the last
+    // call. Whoever waits for input calls it before waiting.
     void flush();
 
     // The same dialog as the interface names it.
@@ -133,10 +141,13 @@ class Dialog {
     static Dialog& from(OpaqueDialogPtr* ref) { return *reinterpret_cast<Dialog*>(ref); }
 
   private:
-    DialogItem* mutableItem(int number);
-    DialogItem* focusedField();
+    DialogItem* find(int number);
+    DialogItem* itemOfKind(int number, ItemKind kind);
+    DialogItem* focusedField() { return itemOfKind(focus_, ItemKind::EditText); }
     void replaceSelection(DialogItem& field, const std::string& replacement);
+    void moveFocus(int item);
     void changed(int item, ItemChange change);
+    void invalidateDrawnItems();
 
     int id_;
     std::string title_;
@@ -146,6 +157,7 @@ class Dialog {
     int focus_ = 0;
     bool shown_ = false;
     std::deque<int> hits_;
+    KeyItems keyItems_;
     DialogScreen screen_;
     std::unique_ptr<paint::Port> port_;
     DialogObserver* observer_ = nullptr;

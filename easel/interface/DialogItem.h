@@ -4,6 +4,8 @@
 #include "easel/interface/Menus.h"
 #include "easel/paint/PixelGeometry.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -24,6 +26,9 @@ struct TextSelection {
     friend bool operator==(const TextSelection&, const TextSelection&) = default;
 };
 
+// The most that a text of an item holds, as the length-prefixed strings of the host do.
+inline constexpr std::size_t kLongestText = 255;
+
 // Texts are kept in the host's encoding, one byte a character; every such character is one UTF-16 unit as
 // well, so positions in them are positions in the text that a desktop shows.
 struct DialogItem {
@@ -36,9 +41,10 @@ struct DialogItem {
         accessibleName; // UTF-8; what a screen reader says, which for a drawn item is all there is to say
     bool enabled = true;
 
-    TextSelection selection;    // of an edit field
-    int value = 0;              // of a popup (entry shown) or a radio button (1 when set)
-    std::shared_ptr<Menu> menu; // of a popup; never null there
+    TextSelection selection;        // of an edit field
+    int value = 0;                  // of a popup (entry shown) or a radio button (1 when set)
+    std::shared_ptr<Menu> menu;     // of a popup; never null there
+    std::uint64_t menuReported = 0; // the revision of the menu that the observer was last told of
 
     ItemDrawProcedure draw = nullptr; // of a user item
     bool invalid = false;             // waits to be drawn again
@@ -48,6 +54,6 @@ struct DialogItem {
 };
 
 // What about an item changed, for those who show it.
-enum class ItemChange { Text, Selection, Value, Menu, Invalid, Enabled };
+enum class ItemChange { Text, Selection, Value, Menu, Invalid };
 
 } // namespace easel::host
