@@ -3,7 +3,9 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/interface/HostWindow.h"
 #include "easel/interface/View.h"
+#include "host/Windows.h"
 
 #include <memory>
 #include <optional>
@@ -11,8 +13,9 @@
 #include <vector>
 
 namespace easel::paint {
+class Port;
 class Surface;
-}
+} // namespace easel::paint
 
 namespace easel::host {
 
@@ -48,6 +51,11 @@ class DrawingWindow {
     // Painted at least once before this is asked for.
     const paint::Surface& image() const { return *image_; }
 
+    // The window as the host interface names it.
+    DWindow& ref() { return ref_; }
+    // Holds the state of the pen while the window is the current port; what is drawn in it is not shown.
+    paint::Port& port() { return *port_; }
+
     // What is to be seen on top of the image; it takes the place of what was there.
     const std::vector<ConstructionLine>& feedback() const { return feedback_; }
     void setFeedback(std::vector<ConstructionLine> lines) { feedback_ = std::move(lines); }
@@ -57,6 +65,9 @@ class DrawingWindow {
     void setCursor(long id) { cursor_ = id; }
 
   private:
+    HostWindow handle_{this};
+    DWindow ref_{handle_};
+    std::unique_ptr<paint::Port> port_;
     drawing::Drawing drawing_;
     View view_;
     std::unique_ptr<paint::Surface> image_;

@@ -1,6 +1,8 @@
 // What the host keeps for the whole process: one user, one front window, one set of switches.
 #pragma once
 
+#include "host/Objects.h"
+
 namespace easel::paint {
 class Port;
 }
@@ -22,6 +24,7 @@ struct Host {
     User* user = nullptr;                  // who is asked, never null once a program runs the plug-in
     DrawingWindow* activeWindow = nullptr; // the front drawing window
     paint::Port* currentPort = nullptr;    // where the plug-in's drawing calls go
+    SelDescrimT pickFilter;                // the object kinds that a pick may return; at first all of them
     SnapSwitches snap;
 };
 

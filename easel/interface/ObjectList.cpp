@@ -1,0 +1,92 @@
+// Picking objects, the pick filter, and changes of a drawing's list of objects.
+#include "easel/interface/DrawingWindow.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/HostObject.h"
+#include "easel/interface/HostPoint.h"
+#include "easel/interface/HostWindow.h"
+#include "easel/interface/Journal.h"
+#include "easel/interface/PickFilter.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace drawing = easel::drawing;
+using easel::host::journal;
+using easel::host::theHost;
+
+namespace {
+
+// How far from an outline a click still means the object, in screen pixels.
+constexpr double kReach = 3;
+
+// Null for a list of no drawing.
+drawing::Drawing* drawingOf(CTessObjList const& list) {
+    return list.State() ? &list.State()->window->drawing() : nullptr;
+}
+
+// Null if the list has no object at the index.
+drawing::Drawing* drawingWith(CTessObjList const& list, long index) {
+    drawing::Drawing* own = drawingOf(list);
+    return own && index >= 0 && static_cast<std::size_t>(index) < own->size() ? own : nullptr;
+}
+
+} // namespace
+
+TessObject CTessObjList::operator[](long index) const {
+    const drawing::Drawing* own = drawingWith(*this, index);
+    if (!own)
+        return {};
+    return TessObject(std::make_shared<HostObject>(HostObject{own->object(static_cast<std::size_t>(index))}));
+}
+
+SelDescrimT const descrimAllOff{};
+
+void GetSelDescrim(SelDescrimT& filter) {
+    journal("GetSelDescrim");
+    filter = theHost().pickFilter;
+}
+
+void SetSelDescrim(SelDescrimT filter) {
+    journal("SetSelDescrim");
+    theHost().pickFilter = filter;
+}
+
+void SetOneSelDescrim(short kind) {
+    journal("SetOneSelDescrim", kind);
+    easel::host::admit(theHost().pickFilter, kind);
+}
+
+bool PickObj(DWindow* window, TPoint<double> where, long& index, CTessObjList& list) {
+    journal("PickObj");
+    if (!window)
+        return false;
+    easel::host::DrawingWindow& own = *window->State().window;
+    const drawing::KindSet kinds = easel::host::kindsIn(theHost().pickFilter);
+    const auto found = own.drawing().pick(easel::host::toPoint(where), kReach / own.view().zoom, kinds);
+    if (!found)
+        return false;
+    index = static_cast<long>(*found);
+    list = CTessObjList(std::make_shared<HostObjectList>(HostObjectList{&own}));
+    return true;
+}
+
+void DeleteUObj(long index, CTessObjList const& list) {
+    journal("DeleteUObj", index);
+    if (drawing::Drawing* own = drawingWith(list, index))
+        own->erase(static_cast<std::size_t>(index));
+}
+
+void InsertObj(TessObject const& object, long index, CTessObjList list) {
+    journal("InsertObj", index);
+    drawing::Drawing* own = drawingOf(list);
+    if (!own || !object.State())
+        return;
+    const std::size_t place = std::min(static_cast<std::size_t>(std::max(index, 0L)), own->size());
+    own->insert(place, object.State()->object);
+}
+
+void SelObject(long index, CTessObjList list) {
+    journal("SelObject", index);
+    if (drawing::Drawing* own = drawingWith(list, index))
+        own->select(static_cast<std::size_t>(index));
+}

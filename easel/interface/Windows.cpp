@@ -1,0 +1,92 @@
+// Drawing windows and the feedback in them, as the host interface names them.
+#include "host/Windows.h"
+
+#include "easel/interface/DrawingWindow.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/HostGraphics.h"
+#include "easel/interface/HostWindow.h"
+#include "easel/interface/Journal.h"
+#include "easel/interface/User.h"
+#include "host/Drawing.h"
+
+using easel::host::DrawingWindow;
+using easel::host::journal;
+using easel::host::theHost;
+
+OpaqueGrafPtr* DWindow::GetMacPort() {
+    journal("DWindow::GetMacPort");
+    return reinterpret_cast<OpaqueGrafPtr*>(&state_->window->port());
+}
+
+void DWindow::UnselectAll() {
+    journal("DWindow::UnselectAll");
+    state_->window->drawing().unselectAll();
+}
+
+void DWindow::SetUndo(long kind) {
+    journal("DWindow::SetUndo", kind);
+    state_->window->drawing().prepareUndo(kind);
+}
+
+void DWindow::InvalSelection() {
+    journal("DWindow::InvalSelection");
+    state_->window->drawing().invalidateSelection();
+}
+
+void DWindow::SetIDCursor(long cursorId) {
+    journal("DWindow::SetIDCursor", cursorId);
+    state_->window->setCursor(cursorId);
+    theHost().user->setCursor(*state_->window, cursorId);
+}
+
+void DWindow::ScrollWDiag(bool wait) {
+    journal("DWindow::ScrollWDiag", wait);
+    theHost().user->scrollTowardsMouse(*state_->window);
+}
+
+DWindow* ActiveDrawingWindow() {
+    journal("ActiveDrawingWindow");
+    DrawingWindow* window = theHost().activeWindow;
+    return window ? &window->ref() : nullptr;
+}
+
+// The lines of one round and where they are to be shown; no window shows nothing.
+struct CSyncronizedBuffer::State {
+    explicit State(DrawingWindow* shownIn) : window(shownIn), environment(graphics) {}
+
+    void show() {
+        if (!window)
+            return;
+        window->setFeedback(graphics.lines);
+        theHost().user->present(*window);
+    }
+
+    DrawingWindow* window;
+    HostGraphics graphics;
+    CGraphicsEnvironment environment;
+};
+
+CSyncronizedBuffer::CSyncronizedBuffer(DWindow* window, bool wholeWindow)
+    : state_(std::make_unique<State>(window ? window->State().window : nullptr)) {
+    journal("CSyncronizedBuffer", wholeWindow);
+}
+
+CSyncronizedBuffer::~CSyncronizedBuffer() {
+    state_->graphics.lines.clear();
+    state_->show();
+}
+
+void CSyncronizedBuffer::RefreshAndBeginDrawing() {
+    journal("CSyncronizedBuffer::RefreshAndBeginDrawing");
+    state_->graphics.lines.clear();
+}
+
+CGraphicsEnvironment* CSyncronizedBuffer::GetGEnv() {
+    journal("CSyncronizedBuffer::GetGEnv");
+    return &state_->environment;
+}
+
+void CSyncronizedBuffer::EndDrawingAndUpdateScreen() {
+    journal("CSyncronizedBuffer::EndDrawingAndUpdateScreen");
+    state_->show();
+}
