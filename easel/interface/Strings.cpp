@@ -1,0 +1,95 @@
+// Implements the length-prefixed strings and the number formatting of host/Strings.h.
+#include "host/Strings.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstring>
+
+namespace {
+
+constexpr unsigned char kLongCapacity = 255;
+constexpr unsigned char kShortCapacity = 31;
+
+} // namespace
+
+CPString::CPString(unsigned char capacity) : capacity_(capacity) {}
+
+CPString& CPString::operator=(CPString const& other) {
+    if (this != &other)
+        Assign(other.Text());
+    return *this;
+}
+
+std::size_t CPString::Length() const {
+    return bytes_[0];
+}
+
+std::size_t CPString::Capacity() const {
+    return capacity_;
+}
+
+char const* CPString::c_str() const {
+    return reinterpret_cast<char const*>(bytes_ + 1);
+}
+
+unsigned char const* CPString::PascalBytes() const {
+    return bytes_;
+}
+
+std::string CPString::Text() const {
+    return {c_str(), Length()};
+}
+
+void CPString::Assign(std::string_view text) {
+    const auto length = std::min<std::size_t>(text.size(), capacity_);
+    // The text may be part of this very string.
+    std::memmove(bytes_ + 1, text.data(), length);
+    bytes_[0] = static_cast<unsigned char>(length);
+    bytes_[length + 1] = 0;
+}
+
+void CPString::Delete(std::size_t first, std::size_t count) {
+    if (first < 1 || first > Length())
+        return;
+    auto text = Text();
+    text.erase(first - 1, count);
+    Assign(text);
+}
+
+CStr255::CStr255() : CPString(kLongCapacity) {}
+
+CStr255::CStr255(char const* text) : CPString(kLongCapacity) {
+    Assign(text ? text : "");
+}
+
+CStr255::CStr255(std::string const& text) : CPString(kLongCapacity) {
+    Assign(text);
+}
+
+CStr255::CStr255(CPString const& other) : CPString(kLongCapacity) {
+    Assign(other.Text());
+}
+
+CStr255 CStr255::FromPascal(unsigned char const* bytes) {
+    return std::string(reinterpret_cast<char const*>(bytes + 1), bytes[0]);
+}
+
+CFStringRef CStr255::CreateCopy() const {
+    return CFStringCreateWithPascalString(kCFAllocatorDefault, PascalBytes(), kCFStringEncodingMacRoman);
+}
+
+CStr32::CStr32() : CPString(kShortCapacity) {}
+
+CStr32::CStr32(CPString const& other) : CPString(kShortCapacity) {
+    Assign(other.Text());
+}
+
+void DoubleToStr(double value, short precision, CStr255& out) {
+    // The largest double has 309 digits before the point. What is longer than a string is cut there.
+    std::array<char, 512> text{};
+    const int decimals = std::clamp<int>(precision, 0, 100);
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals).ptr;
+    out.Assign({text.data(), static_cast<std::size_t>(end - text.data())});
+}
