@@ -8,6 +8,7 @@
 #include "host/Geometry.h"
 #include "host/Gradient.h"
 #include "host/Strings.h"
+#include "host/TypeCodes.h"
 
 #include <cstdint>
 #include <memory>
@@ -76,12 +77,11 @@ void SetItemCtlValue(DialogRef dialog, short item, short value);
 [[nodiscard]] short GetPopMenuSelectedItem(DialogRef dialog, short item);
 /// The control of an item; null if it has none. The result is 0 or an error.
 short GetDialogItemAsControl(DialogRef dialog, short item, ControlRef* control);
-/// The tag "mhan": a popup's menu, as an OpaqueMenuRef*.
-inline constexpr std::uint32_t kControlPopupButtonMenuHandleTag = 0x6D68616E;
+/// Tag of a popup's menu, as an OpaqueMenuRef*.
+inline constexpr OSType kControlPopupButtonMenuHandleTag = FourCC("mhan");
 /// Reads a piece of a control's data: at most `size` bytes into `data`, and the size it has into `actualSize`
 /// unless that is null. The result is 0 or an error; `data` is then left as it was.
-short GetControlData(ControlRef control, short part, std::uint32_t tag, long size, void* data,
-                     long* actualSize);
+short GetControlData(ControlRef control, short part, OSType tag, long size, void* data, long* actualSize);
 
 /// Shows the confirmation alert with that resource id; true if the user confirms.
 [[nodiscard]] bool Confirm(short id);
@@ -96,8 +96,8 @@ struct HICommandExtended {
     std::uint32_t attributes = 0;
     std::uint32_t commandID = 0;
 };
-inline constexpr std::uint32_t kOKCommand = 0x6F6B2020;     // "ok  "
-inline constexpr std::uint32_t kCancelCommand = 0x6E6F7421; // "not!"
+inline constexpr std::uint32_t kOKCommand = FourCC("ok  ");
+inline constexpr std::uint32_t kCancelCommand = FourCC("not!");
 
 /// Base of dialogs that are driven by commands.
 ///

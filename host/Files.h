@@ -6,13 +6,12 @@
 
 #include "host/Memory.h"
 #include "host/Strings.h"
+#include "host/TypeCodes.h"
 
 #include <cstdint>
 
 #pragma GCC visibility push(default)
 
-/// A four-character code, the first character in the highest byte.
-using OSType = std::uint32_t;
 /// A result code.
 using OSErr = std::int16_t;
 
@@ -35,7 +34,7 @@ static_assert(sizeof(FSSpec) == 70, "listings of files are made of 70-byte recor
 [[nodiscard]] FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create);
 
 /// Appends to the block `list`, growing it, one record for each file of that type that lies directly in the
-/// directory.
+/// directory. Null for `list` does nothing.
 void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** list);
 
 /// Resolves a name, or a partial path that begins with ':', against a directory. -43 if everything but the

@@ -36,6 +36,9 @@ template <typename T> struct TPoint {
 
     TPoint() = default;
     TPoint(T horizontal, T vertical) : v(vertical), h(horizontal) {}
+    /// The same point in another number type, each coordinate converted on its own.
+    template <typename U>
+    explicit TPoint(TPoint<U> const& other) : v(static_cast<T>(other.v)), h(static_cast<T>(other.h)) {}
 
     void Set(T horizontal, T vertical) {
         h = horizontal;

@@ -1,0 +1,98 @@
+// Templates as files of one folder.
+#include "Gradient/TemplateUtil/TemplateStore.h"
+
+#include "Gradient/TemplateUtil/LastDAIndex.h"
+#include "Gradient/model/GradientBlock.h"
+#include "host/Dialogs.h"
+#include "host/TypeCodes.h"
+
+#include <cstring>
+
+namespace {
+
+constexpr OSType kCreator = FourCC("*Kst");
+constexpr OSType kResourceType = FourCC("TMPL");
+constexpr short kResourceId = 0;
+constexpr short kReplaceAlert = 9320;
+
+/// Volume and id of the template folder. The leaf name is that of a file that never exists: resolving a path
+/// to it is how the folder's own id is learned.
+FSSpec gTemplateSpec{};
+
+/// Makes the resource file current again, at the end of a scope, that is current at its start.
+class CurrentResourceFile {
+  public:
+    CurrentResourceFile() : refNum_(CurResFile()) {}
+    CurrentResourceFile(CurrentResourceFile const&) = delete;
+    CurrentResourceFile& operator=(CurrentResourceFile const&) = delete;
+    ~CurrentResourceFile() { UseResFile(refNum_); }
+
+  private:
+    short refNum_;
+};
+
+OSErr ResolveTemplate(CStr255 const& fileName, FSSpec& spec) {
+    return FSMakeFSSpec(gTemplateSpec.vRefNum, gTemplateSpec.parID, fileName, &spec);
+}
+
+std::string LeafName(FSSpec const& spec) {
+    return CStr255::FromPascal(spec.name).Text();
+}
+
+} // namespace
+
+void InitTemplates(CStr255 const& folderName) {
+    FSSpec const folder = FindSecondaryPreferencesFolder(folderName, true);
+    std::string placeholder = ":";
+    placeholder.append(folderName.Text()).append(":JUNK");
+    FSMakeFSSpec(folder.vRefNum, folder.parID, placeholder, &gTemplateSpec);
+}
+
+void SaveTemplate(Handle data, std::string const& fileName, unsigned long fileType) {
+    CurrentResourceFile const current;
+    FSSpec spec{};
+    // A name that cannot be resolved is asked about like one that is taken.
+    if (ResolveTemplate(fileName, spec) != kFileNotFoundErr && !Confirm(kReplaceAlert)) {
+        return;
+    }
+    FSpDelete(&spec);
+    FSpCreateResFile(&spec, kCreator, static_cast<OSType>(fileType), 0);
+    short const file = FSpOpenResFile(&spec, kWritePermission);
+    UseResFile(file);
+    AddResource(data, kResourceType, kResourceId, "");
+    CloseResFile(file);
+}
+
+Handle LoadTemplate(std::string const& fileName) {
+    CurrentResourceFile const current;
+    FSSpec spec{};
+    if (ResolveTemplate(fileName, spec) != kNoErr) {
+        return nullptr;
+    }
+    short const file = FSpOpenResFile(&spec, kReadPermission);
+    UseResFile(file);
+    Handle const block = GetResource(kResourceType, kResourceId);
+    DetachResource(block);
+    CloseResFile(file);
+    return block;
+}
+
+std::vector<std::string> GetTemplateList(unsigned long fileType) {
+    std::vector<std::string> names;
+    OwnedBlock const block(NewHandle(0));
+    auto* const list = reinterpret_cast<FSSpec**>(block.get());
+    EnumerShell(gTemplateSpec.vRefNum, gTemplateSpec.parID, fileType, list);
+    for (long index = 0; index <= LastDAIndex(list); ++index) {
+        FSSpec spec;
+        std::memcpy(&spec, *block + static_cast<std::size_t>(index) * sizeof spec, sizeof spec);
+        names.push_back(LeafName(spec));
+    }
+    return names;
+}
+
+void DeleteTemplate(CStr255 const& fileName) {
+    FSSpec spec{};
+    if (ResolveTemplate(fileName, spec) == kNoErr) {
+        FSpDelete(&spec);
+    }
+}

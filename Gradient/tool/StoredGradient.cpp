@@ -1,0 +1,30 @@
+// The current gradient in the host's store of defaults.
+#include "Gradient/tool/StoredGradient.h"
+
+#include "Gradient/model/GradientBlock.h"
+#include "Gradient/tool/Globals.h"
+#include "host/Defaults.h"
+#include "host/TypeCodes.h"
+
+namespace {
+
+constexpr OSType kDefaultsType = FourCC("GRDT");
+constexpr short kDefaultsId = 10001;
+
+} // namespace
+
+void InitDefaults() {
+    OwnedBlock const block(GetDefaultsResource(kDefaultsType, kDefaultsId));
+    if (block) {
+        ReadGradient(block.get(), gCurrentGradient);
+    } else {
+        gCurrentGradient = CGradientData();
+    }
+}
+
+void SaveDefaults() {
+    OwnedBlock const block(MakeGradientData(gCurrentGradient));
+    if (block) {
+        SetDefaultsResource(block.get(), kDefaultsType, kDefaultsId, "Gradient Default");
+    }
+}
