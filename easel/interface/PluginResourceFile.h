@@ -1,0 +1,19 @@
+// The resources of the plug-in that is loaded.
+#pragma once
+
+#include "easel/toolbox/PluginResources.h"
+
+#include <filesystem>
+
+namespace easel::host {
+
+// Without a plug-in there are none, and every look-up finds nothing.
+const toolbox::PluginResources& pluginResources();
+
+// Reads the resources in a module's resource folder, in place of those before. After an error (which names
+// the file) there are none.
+[[nodiscard]] toolbox::FileOutcome openPluginResources(const std::filesystem::path& folder);
+// To be called when the module is unloaded.
+void closePluginResources();
+
+} // namespace easel::host
