@@ -8,7 +8,9 @@ namespace easel::host {
 // Texts are UTF-8.
 struct Alert {
     int id = 0;
-    std::string text;
+    std::string title;
+    std::string text;   // the question
+    std::string detail; // what there is to know beyond it; may be empty
     std::string yesButton;
     std::string noButton;
 };

@@ -2,6 +2,7 @@
 #include "easel/interface/CurrentPort.h"
 
 #include "easel/interface/Host.h"
+#include "easel/paint/Port.h"
 
 #include <algorithm>
 #include <vector>
@@ -27,9 +28,18 @@ void forgetPort(const paint::Port& port) {
         theHost().currentPort = nullptr;
 }
 
+bool isRegistered(const paint::Port* port) {
+    return std::find(ports().begin(), ports().end(), port) != ports().end();
+}
+
 void setCurrentPort(paint::Port* port) {
-    const bool alive = std::find(ports().begin(), ports().end(), port) != ports().end();
-    theHost().currentPort = alive ? port : nullptr;
+    theHost().currentPort = isRegistered(port) ? port : nullptr;
+}
+
+paint::Port& currentPort() {
+    static paint::Port nowhere({}, 1.0, 0xffffff);
+    paint::Port* const port = theHost().currentPort;
+    return port != nullptr ? *port : nowhere;
 }
 
 CurrentPortScope::CurrentPortScope(paint::Port& port) : saved_(theHost().currentPort) {

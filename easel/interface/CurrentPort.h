@@ -13,8 +13,13 @@ void registerPort(paint::Port& port);
 // To be called before a registered port is destroyed. If it is the current one, none is.
 void forgetPort(const paint::Port& port);
 
+bool isRegistered(const paint::Port* port);
+
 // Makes a port current if it is registered, and none otherwise.
 void setCurrentPort(paint::Port* port);
+
+// The current port; while there is none, a port without pixels, which takes every call and shows nothing.
+paint::Port& currentPort();
 
 // Makes a registered port current for a scope.
 class CurrentPortScope {

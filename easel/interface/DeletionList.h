@@ -8,6 +8,7 @@
 namespace easel::host {
 
 enum class DeletionCommand { Ok, Cancel };
+enum class SelectionMode { One, Several };
 
 class DeletionList {
   public:
@@ -15,13 +16,15 @@ class DeletionList {
     using Handler = std::function<void(DeletionCommand)>;
 
     // Texts are UTF-8.
-    DeletionList(std::string title, std::vector<std::string> rows, Handler handler);
+    DeletionList(std::string title, std::vector<std::string> rows, SelectionMode mode, Handler handler);
 
     const std::string& title() const { return title_; }
     const std::vector<std::string>& rows() const { return rows_; }
+    SelectionMode mode() const { return mode_; }
     // The selected rows, numbered from 0, in ascending order.
     const std::vector<int>& selection() const { return selection_; }
-    // Replaces the selection; rows that are not there and repeated ones are left out.
+    // Replaces the selection; rows that are not there and repeated ones are left out, and all but the
+    // first where only one can be selected.
     void select(std::vector<int> rows);
     // OK has something to delete; without a selection its button is disabled.
     bool canConfirm() const { return !selection_.empty(); }
@@ -35,6 +38,7 @@ class DeletionList {
   private:
     std::string title_;
     std::vector<std::string> rows_;
+    SelectionMode mode_;
     std::vector<int> selection_;
     Handler handler_;
     bool open_ = true;

@@ -15,6 +15,11 @@ namespace easel::host {
 
 enum class ItemKind { Button, StaticText, EditText, UserDrawn, Popup, Radio };
 
+// How a button is pressed from the keyboard.
+enum class ButtonRole { Plain, Default, Cancel };
+
+enum class TextAlignment { Left, Center, Right };
+
 // Draws one user item of a dialog into the current port; given the dialog and the item's number.
 using ItemDrawProcedure = void (*)(OpaqueDialogPtr*, short);
 
@@ -40,6 +45,8 @@ struct DialogItem {
     std::string
         accessibleName; // UTF-8; what a screen reader says, which for a drawn item is all there is to say
     bool enabled = true;
+    ButtonRole role = ButtonRole::Plain;           // of a button
+    TextAlignment alignment = TextAlignment::Left; // of a static text
 
     TextSelection selection;        // of an edit field
     int value = 0;                  // of a popup (entry shown) or a radio button (1 when set)

@@ -31,9 +31,10 @@ paint::SurfaceView surfaceOf(paint::Port& port) {
     return whole.clippedTo({clip.left, clip.top, clip.right, clip.bottom});
 }
 
-drawing::Affine toImage(const paint::Port& port) {
-    const double scale = port.scale();
-    return {scale, 0, 0, scale, -port.bounds().left * scale, -port.bounds().top * scale};
+drawing::Affine toImage(paint::Port const& port) {
+    const paint::PixelRect origin = port.imageRect({});
+    return {port.scale(), 0, 0, port.scale(), static_cast<double>(origin.left),
+            static_cast<double>(origin.top)};
 }
 
 drawing::Rgb16 toRgb(RGBColor const& color) {

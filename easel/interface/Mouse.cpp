@@ -6,6 +6,7 @@
 #include "easel/interface/HostPoint.h"
 #include "easel/interface/HostWindow.h"
 #include "easel/interface/Journal.h"
+#include "easel/interface/OpenDialogs.h"
 #include "easel/interface/Snap.h"
 #include "easel/interface/User.h"
 
@@ -39,11 +40,13 @@ Switch switchOf(bool on) {
 
 bool StillDown() {
     journal("StillDown");
+    easel::host::flushFrontDialog();
     return theHost().user->waitWhileDown().down;
 }
 
 void WaitMove(TPoint<short> from, TPoint<short>& to, long ticks) {
     journal("WaitMove", ticks);
+    easel::host::flushFrontDialog();
     const auto mouse =
         theHost().user->waitForMove({static_cast<double>(from.h), static_cast<double>(from.v)});
     to.Set(toPixel(mouse.at.x), toPixel(mouse.at.y));

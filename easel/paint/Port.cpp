@@ -93,13 +93,14 @@ void Port::fillSpan(int row, int from, int to, const PixelRect& clip, Ink ink) {
     }
     const bool solid = state_.pen.pattern == kSolidPattern;
     const std::uint32_t foreground = pixelOf(state_.foreground);
-    if (solid && state_.pen.mode == PenMode::Copy) {
+    const bool inverts = state_.pen.mode == PenMode::Invert;
+    if (solid && !inverts) {
         std::fill(start + from, start + to, foreground);
         return;
     }
     for (int column = from; column < to; ++column) {
         const bool set = solid || patternBit(row, column);
-        if (state_.pen.mode == PenMode::Copy)
+        if (!inverts)
             start[column] = set ? foreground : background;
         else if (set)
             start[column] ^= kColorBits;

@@ -1,0 +1,129 @@
+// The bases of dialogs that are driven by commands, as the host interface names them.
+#include "host/Dialogs.h"
+
+#include "easel/interface/CFString.h"
+#include "easel/interface/DeletionList.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/Journal.h"
+#include "easel/interface/User.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+using easel::host::DeletionCommand;
+using easel::host::DeletionList;
+using easel::host::journal;
+using easel::host::SelectionMode;
+using easel::host::theHost;
+
+namespace {
+
+constexpr std::int32_t kNoError = 0;
+constexpr std::int32_t kCommandNotHandled = -9874;
+
+// The text of a string object that is given up with this.
+std::string taken(CFStringRef string) {
+    std::string text = easel::host::utf8Of(string);
+    CFRelease(string);
+    return text;
+}
+
+} // namespace
+
+struct CCarbonDialogBase::State {
+    std::string title;
+    SelectionMode mode = SelectionMode::Several;
+    std::function<long()> count = [] { return 0L; };
+    std::function<std::string(long)> describe;
+    DeletionList* list = nullptr; // while the dialog runs
+    bool confirmed = false;
+
+    std::vector<std::string> rows() const {
+        std::vector<std::string> all;
+        const long there = count();
+        for (long index = 0; index < there; ++index)
+            all.push_back(describe(index));
+        return all;
+    }
+
+    // Where the thing that was listed in a row is now. What is listed can change behind the dialog's back,
+    // and then a row must not name another thing than the user selected.
+    std::optional<long> find(int row) const {
+        const long there = count();
+        const std::string& text = list->rows()[static_cast<std::size_t>(row)];
+        if (row < there && describe(row) == text)
+            return row;
+        for (long index = 0; index < there; ++index)
+            if (describe(index) == text)
+                return index;
+        return std::nullopt;
+    }
+};
+
+CCarbonDialogBase::CCarbonDialogBase() : state_(std::make_unique<State>()) {}
+
+CCarbonDialogBase::~CCarbonDialogBase() = default;
+
+bool CCarbonDialogBase::Run() {
+    journal("CCarbonDialogBase::Run");
+    // The class, and with it the code of the destructor, may be a plug-in's, which can be gone after this
+    // call.
+    struct Destroy {
+        void operator()(CCarbonDialogBase* dialog) const { delete dialog; }
+    };
+    const std::unique_ptr<CCarbonDialogBase, Destroy> self(this);
+    DeletionList list(state_->title, state_->rows(), state_->mode, [this](DeletionCommand given) {
+        const HICommandExtended command{0, given == DeletionCommand::Ok ? kOKCommand : kCancelCommand};
+        if (CanProcessCommand(command))
+            DoCommand(command);
+    });
+    state_->list = &list;
+    theHost().user->runDeletion(list);
+    return state_->confirmed;
+}
+
+bool CCarbonDialogBase::CanProcessCommand(HICommandExtended command) {
+    return command.commandID != kOKCommand || (state_->list != nullptr && state_->list->canConfirm());
+}
+
+std::int32_t CCarbonDialogBase::DoCommand(HICommandExtended command) {
+    journal("CCarbonDialogBase::DoCommand", command.commandID);
+    if (command.commandID != kOKCommand && command.commandID != kCancelCommand)
+        return kCommandNotHandled;
+    state_->confirmed = command.commandID == kOKCommand;
+    if (state_->confirmed)
+        DoOKAction();
+    else
+        DoCancelAction();
+    if (state_->list != nullptr)
+        state_->list->close();
+    return kNoError;
+}
+
+void CCarbonDialogBase::DoOKAction() {}
+
+void CCarbonDialogBase::DoCancelAction() {}
+
+DeleteDialog::DeleteDialog(CFStringRef title, bool multiple) {
+    State& state = DialogState();
+    state.title = taken(title);
+    state.mode = multiple ? SelectionMode::Several : SelectionMode::One;
+    state.describe = [this](long index) { return taken(GetListItemDescription(index)); };
+    state.count = [this] { return GetListItemCount(); };
+    journal("DeleteDialog", state.title, multiple);
+}
+
+DeleteDialog::~DeleteDialog() = default;
+
+void DeleteDialog::DoOKAction() {
+    const State& state = DialogState();
+    if (state.list == nullptr)
+        return;
+    const std::vector<int>& selection = state.list->selection();
+    // From the last to the first, since a deletion moves those behind it.
+    for (auto row = selection.rbegin(); row != selection.rend(); ++row)
+        if (const std::optional<long> index = state.find(*row))
+            DeleteListItem(*index);
+}

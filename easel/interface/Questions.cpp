@@ -1,0 +1,27 @@
+// Alerts and the color picker, as the host interface names them.
+#include "host/Dialogs.h"
+
+#include "easel/interface/DialogResources.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/Journal.h"
+#include "easel/interface/User.h"
+#include "easel/toolbox/MacRoman.h"
+
+using easel::host::journal;
+using easel::host::theHost;
+
+bool Confirm(short id) {
+    journal("Confirm", id);
+    const auto alert = easel::host::alertDescription(id);
+    // A question that cannot be put is taken as declined.
+    return alert && theHost().user->confirm(*alert) == easel::host::Answer::yes;
+}
+
+bool GetColor(TPoint<short>, unsigned char const* prompt, RGBColor const* color, RGBColor* result) {
+    const std::string text = easel::toolbox::fromMacRoman(CStr255::FromPascal(prompt).Text());
+    journal("GetColor", text);
+    const auto picked = theHost().user->pickColor(text, *color);
+    if (picked)
+        *result = *picked;
+    return picked.has_value();
+}
