@@ -1,0 +1,230 @@
+// Strokes against geometry: how far from the outline a point lies decides whether the pen covers it.
+#include "easel/paint/Stroker.h"
+#include "easel/paint/Painter.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <random>
+
+namespace {
+
+using easel::drawing::Contour;
+using easel::drawing::FillRule;
+using easel::drawing::LineCap;
+using easel::drawing::LineJoin;
+using easel::drawing::Path;
+using easel::drawing::Point;
+using easel::drawing::Stroke;
+using easel::paint::Painter;
+using easel::paint::strokeShape;
+using easel::paint::Surface;
+
+constexpr int kSide = 120;
+constexpr double kTolerance = 0.02;
+
+Stroke pen(double width, LineJoin join, LineCap cap, std::vector<double> dashes = {}, double offset = 0) {
+    Stroke stroke;
+    stroke.width = width;
+    stroke.join = join;
+    stroke.cap = cap;
+    stroke.dashes = std::move(dashes);
+    stroke.dashOffset = offset;
+    return stroke;
+}
+
+Surface stroked(const Path& path, const Stroke& stroke) {
+    Surface surface(kSide, kSide);
+    const auto shape = strokeShape(path, stroke, kTolerance);
+    Painter().fill(surface.view(), shape.polygons, FillRule::NonZero, {}, easel::drawing::ColorPaint{},
+                   shape.opacity);
+    return surface;
+}
+
+double coverage(const Surface& surface, int x, int y) {
+    return (surface.row(y)[x] >> 24) / 255.0;
+}
+
+double area(const Surface& surface) {
+    double sum = 0;
+    for (int y = 0; y < kSide; ++y)
+        for (int x = 0; x < kSide; ++x)
+            sum += coverage(surface, x, y);
+    return sum;
+}
+
+double areaOf(const Path& path, const Stroke& stroke) {
+    return area(stroked(path, stroke));
+}
+
+Path corner(Point from, Point tip, Point to) {
+    Path path;
+    path.moveTo(from);
+    path.lineTo(tip);
+    path.lineTo(to);
+    return path;
+}
+
+Path line(Point from, Point to) {
+    Path path;
+    path.moveTo(from);
+    path.lineTo(to);
+    return path;
+}
+
+// A pixel's center that is well inside the pen's reach must be covered, one well outside bare.
+void expectRoundPen(const Path& path, double width, const Surface& surface) {
+    const double half = width / 2;
+    const double margin = std::numbers::sqrt2 / 2 + 2 * kTolerance;
+    for (int y = 0; y < kSide; ++y)
+        for (int x = 0; x < kSide; ++x) {
+            const Point center{x + 0.5, y + 0.5};
+            if (easel::drawing::outlineWithin(path, center, half - margin)) {
+                ASSERT_GT(coverage(surface, x, y), 0.99) << x << "," << y;
+            }
+            if (!easel::drawing::outlineWithin(path, center, half + margin)) {
+                ASSERT_LT(coverage(surface, x, y), 0.01) << x << "," << y;
+            }
+        }
+}
+
+TEST(Stroker, ARoundPenCoversExactlyThePointsWithinItsRadius) {
+    std::mt19937 random(17);
+    std::uniform_real_distribution<double> place(20, 100);
+    const auto point = [&] { return Point{place(random), place(random)}; };
+    for (int i = 0; i < 60; ++i) {
+        SCOPED_TRACE(i);
+        Path path;
+        path.moveTo(point());
+        for (int k = 0; k < 3; ++k) {
+            path.lineTo(point());
+            const Point control1 = point();
+            const Point control2 = point();
+            path.cubicTo(control1, control2, point());
+        }
+        if (i % 2 == 0)
+            path.close();
+        const double width = 2 + i % 9 * 3;
+        const Surface surface = stroked(path, pen(width, LineJoin::Round, LineCap::Round));
+        expectRoundPen(path, width, surface);
+        if (HasFatalFailure())
+            return;
+    }
+}
+
+TEST(Stroker, CapsAddNothingHalfACircleOrHalfASquareAtEachEnd) {
+    const Path path = line({30, 40}, {90, 85});
+    const double length = 75;
+    EXPECT_NEAR(areaOf(path, pen(10, LineJoin::Miter, LineCap::Butt)), length * 10, 1);
+    EXPECT_NEAR(areaOf(path, pen(10, LineJoin::Miter, LineCap::Round)), length * 10 + std::numbers::pi * 25,
+                1);
+    EXPECT_NEAR(areaOf(path, pen(10, LineJoin::Miter, LineCap::Square)), length * 10 + 100, 1);
+}
+
+TEST(Stroker, JoinsFillTheWedgeOutsideACorner) {
+    // A right angle: without a join the two bars cover 2 * 40 * 12 less the shared quarter; the wedge is 6
+    // by 6.
+    const Path path = corner({30, 70}, {70, 70}, {70, 30});
+    const double bare = 2 * 40 * 12 - 6 * 6;
+    EXPECT_NEAR(areaOf(path, pen(12, LineJoin::Miter, LineCap::Butt)), bare + 36, 0.5);
+    EXPECT_NEAR(areaOf(path, pen(12, LineJoin::Bevel, LineCap::Butt)), bare + 18, 0.5);
+    EXPECT_NEAR(areaOf(path, pen(12, LineJoin::Round, LineCap::Butt)), bare + std::numbers::pi * 9, 0.5);
+}
+
+TEST(Stroker, AMiterLongerThanItsLimitIsCutToABevel) {
+    // The ratio of miter to width at a right angle is the square root of 2.
+    const Path path = corner({30, 70}, {70, 70}, {70, 30});
+    Stroke stroke = pen(12, LineJoin::Miter, LineCap::Butt);
+    stroke.miterLimit = 1.42;
+    const double mitered = areaOf(path, stroke);
+    stroke.miterLimit = 1.41;
+    EXPECT_NEAR(mitered - areaOf(path, stroke), 18, 0.1);
+}
+
+TEST(Stroker, AClosedOutlineIsABandWithoutCaps) {
+    const Path path = easel::drawing::rectanglePath({30, 30, 90, 70});
+    const Surface surface = stroked(path, pen(8, LineJoin::Miter, LineCap::Square));
+    EXPECT_NEAR(area(surface), 68 * 48 - 52 * 32, 0.5);
+    EXPECT_EQ(coverage(surface, 60, 50), 0);
+    EXPECT_EQ(coverage(surface, 26, 26), 1);
+}
+
+TEST(Stroker, ACircleIsARing) {
+    const Path path = easel::drawing::ellipsePath({60, 60}, 40, 40);
+    for (const LineJoin join : {LineJoin::Miter, LineJoin::Bevel, LineJoin::Round})
+        EXPECT_NEAR(areaOf(path, pen(10, join, LineCap::Butt)), std::numbers::pi * (45 * 45 - 35 * 35), 3);
+}
+
+TEST(Stroker, DashesCoverTheirShareAndBeginAtTheOffset) {
+    const Path path = line({10, 60}, {110, 60});
+    const Surface plain = stroked(path, pen(4, LineJoin::Miter, LineCap::Butt, {10, 10}));
+    EXPECT_NEAR(area(plain), 50 * 4, 0.1);
+    EXPECT_EQ(coverage(plain, 12, 60), 1);
+    EXPECT_EQ(coverage(plain, 22, 60), 0);
+    const Surface shifted = stroked(path, pen(4, LineJoin::Miter, LineCap::Butt, {10, 10}, 10));
+    EXPECT_EQ(coverage(shifted, 12, 60), 0);
+    EXPECT_EQ(coverage(shifted, 22, 60), 1);
+    const Surface backwards = stroked(path, pen(4, LineJoin::Miter, LineCap::Butt, {10, 10}, -10));
+    EXPECT_EQ(coverage(backwards, 12, 60), 0);
+}
+
+TEST(Stroker, ADashThatRunsThroughTheStartOfAClosedOutlineIsOnePieceWithAJoin) {
+    // The pattern begins 5 before the corner at (30, 30), so the corner shows its miter.
+    const Path path = easel::drawing::rectanglePath({30, 30, 90, 90});
+    const Surface surface = stroked(path, pen(8, LineJoin::Miter, LineCap::Butt, {20, 20}, 5));
+    EXPECT_EQ(coverage(surface, 26, 26), 1);
+}
+
+TEST(Stroker, DashesFinerThanCanBeDrawnBecomeAFainterLine) {
+    const auto shape =
+        strokeShape(line({0, 0}, {1e7, 0}), pen(4, LineJoin::Miter, LineCap::Butt, {1e-3, 3e-3}), 0.02);
+    EXPECT_DOUBLE_EQ(shape.opacity, 0.25);
+    EXPECT_EQ(shape.polygons.size(), 1u);
+}
+
+TEST(Stroker, ASubpathWithoutLengthIsADotOnlyForCapsThatReachOut) {
+    const Path path = line({60, 60}, {60, 60});
+    EXPECT_EQ(areaOf(path, pen(20, LineJoin::Round, LineCap::Butt)), 0);
+    EXPECT_NEAR(areaOf(path, pen(20, LineJoin::Round, LineCap::Round)), std::numbers::pi * 100, 1);
+    EXPECT_NEAR(areaOf(path, pen(20, LineJoin::Round, LineCap::Square)), 400, 0.1);
+    Path move;
+    move.moveTo({60, 60});
+    EXPECT_EQ(areaOf(move, pen(20, LineJoin::Round, LineCap::Round)), 0);
+}
+
+TEST(Stroker, DashesOfNoLengthAreDots) {
+    const Path path = line({20, 60}, {100, 60});
+    const double dots = areaOf(path, pen(6, LineJoin::Round, LineCap::Round, {0, 16}));
+    EXPECT_NEAR(dots, 5 * std::numbers::pi * 9, 1);
+}
+
+TEST(Stroker, ALineThatTurnsStraightBackHasItsJoinOnce) {
+    const Path path = corner({30, 60}, {80, 60}, {30, 60});
+    EXPECT_NEAR(areaOf(path, pen(10, LineJoin::Round, LineCap::Butt)), 500 + std::numbers::pi * 12.5, 1);
+    EXPECT_NEAR(areaOf(path, pen(10, LineJoin::Miter, LineCap::Butt)), 500, 1);
+}
+
+TEST(Stroker, PointsThatNearlyCoincideMakeNoSpike) {
+    Path path = line({30, 60}, {80, 60});
+    path.lineTo({80 + 1e-9, 60 + 1e-9});
+    path.lineTo({80, 90});
+    EXPECT_NEAR(areaOf(path, pen(10, LineJoin::Miter, LineCap::Butt)), 50 * 10 + 30 * 10, 0.5);
+}
+
+TEST(Stroker, NumbersThatAreNoneAndHugeOnesNeverHang) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    Path path;
+    path.moveTo({10, 10});
+    path.lineTo({kNan, 20});
+    path.cubicTo({kInfinity, 0}, {30, -kInfinity}, {40, 40});
+    path.lineTo({1e300, -1e300});
+    path.lineTo({50, 50});
+    path.close();
+    for (const double width : {1.0, 1e-300, 1e300, kInfinity, kNan, -3.0})
+        for (const LineJoin join : {LineJoin::Miter, LineJoin::Bevel, LineJoin::Round})
+            stroked(path, pen(width, join, LineCap::Round, {3, 4}, kNan));
+}
+
+} // namespace
