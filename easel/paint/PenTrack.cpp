@@ -78,7 +78,8 @@ class Dasher {
         offset = std::fmod(offset, whole);
         if (offset < 0)
             offset += whole;
-        while (offset >= dashes_[index_] && index_ + 1 < dashes_.size())
+        while (index_ + 1 < dashes_.size() &&
+               (offset > dashes_[index_] || (offset == dashes_[index_] && offset > 0)))
             offset -= dashes_[index_++];
         left_ = std::max(0.0, dashes_[index_] - offset);
     }

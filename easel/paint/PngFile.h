@@ -1,0 +1,30 @@
+// Pictures as PNG files: 8 bits a channel, with an alpha channel only where a pixel needs it.
+#pragma once
+
+#include "easel/paint/Parallel.h"
+#include "easel/paint/Surface.h"
+#include "easel/toolbox/FileError.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace easel::paint {
+
+// Pixels to be read, premultiplied 0xAARRGGBB; `stride` is the distance between rows in bytes.
+struct PixelRows {
+    const std::uint32_t* pixels = nullptr;
+    int width = 0;
+    int height = 0;
+    std::ptrdiff_t stride = 0;
+
+    const std::uint32_t* row(int y) const { return pixels + y * (stride / 4); }
+};
+PixelRows rowsOf(const Surface& surface);
+
+// The bytes of the PNG file, the same for any number of threads. Width and height are above 0.
+std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads = usefulThreads());
+
+// Replaces the file whole or, after an error, not at all.
+[[nodiscard]] toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture);
+
+} // namespace easel::paint
