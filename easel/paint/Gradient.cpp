@@ -1,4 +1,4 @@
-// Gradients of files made ready for painting.
+// Gradients of files and of the tool made ready for painting.
 #include "easel/paint/Gradient.h"
 
 namespace easel::paint {
@@ -9,6 +9,20 @@ Gradient gradientOf(const drawing::ForeignGradient& foreign) {
     for (const drawing::ForeignStop& stop : foreign.stops)
         stops.push_back({stop.offset, stop.color, stop.opacity});
     return {foreign.geometry, foreign.toDrawing, foreign.spread, Ramp(std::move(stops))};
+}
+
+Gradient gradientOf(const drawing::FittedGradient& fitted) {
+    std::vector<RampStop> stops;
+    stops.reserve(fitted.stops.size());
+    for (const drawing::FittedStop& stop : fitted.stops)
+        stops.push_back({stop.position, stop.color, 1});
+    Gradient gradient{{}, {}, drawing::Spread::Pad, Ramp(std::move(stops))};
+    if (fitted.kind == drawing::FittedKind::Linear)
+        gradient.geometry = drawing::LinearGeometry{fitted.start, fitted.end};
+    else
+        gradient.geometry =
+            drawing::RadialGeometry{fitted.start, fitted.startRadius, fitted.end, fitted.endRadius};
+    return gradient;
 }
 
 } // namespace easel::paint

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
+#include "easel/drawing/GradientFit.h"
 #include "easel/drawing/Paint.h"
 #include "easel/paint/Ramp.h"
 
@@ -20,5 +21,6 @@ struct Gradient {
 };
 
 Gradient gradientOf(const drawing::ForeignGradient& foreign);
+Gradient gradientOf(const drawing::FittedGradient& fitted);
 
 } // namespace easel::paint

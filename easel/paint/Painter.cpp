@@ -1,8 +1,11 @@
 // The way of a fill: outline to edges, edges to rows, rows to the shader of the ink.
 #include "easel/paint/Painter.h"
 
+#include "easel/paint/FlatShader.h"
+#include "easel/paint/LinearShader.h"
 #include "easel/paint/OutlineEdges.h"
 #include "easel/paint/PointShader.h"
+#include "easel/paint/RadialShader.h"
 
 #include <cmath>
 
@@ -16,35 +19,90 @@ double sanitised(double opacity) {
     return std::isnan(opacity) ? 1 : std::clamp(opacity, 0.0, 1.0);
 }
 
-// Calls `use` with the shader for the ink.
-template <class Use>
-void withShader(const SurfaceView& surface, const Affine& toSurface, const Ink& ink, double opacity,
-                Use&& use) {
-    if (const auto* gradient = std::get_if<const Gradient*>(&ink)) {
-        PointShader shader(surface, **gradient, parameterMapOf(**gradient, toSurface), sanitised(opacity));
-        return use(shader);
+RampColor colorOf(const drawing::ColorPaint& paint) {
+    return paint::colorOf(RampStop{0, paint.color, sanitised(paint.opacity)});
+}
+
+// The largest parameter at the pixels of an area, and the smallest, which for circles may lie between the
+// corners.
+struct ParameterRange {
+    double lowest;
+    double highest;
+};
+
+template <class Map> ParameterRange cornersRange(const Map& map, const PixelBox& area) {
+    ParameterRange range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+    for (const int x : {area.left, area.right}) {
+        for (const int y : {area.top, area.bottom}) {
+            const double parameter = map.at({static_cast<double>(x), static_cast<double>(y)});
+            range = {std::min(range.lowest, parameter), std::max(range.highest, parameter)};
+        }
     }
-    const auto& color = std::get<drawing::ColorPaint>(ink);
-    const Gradient flat{
-        drawing::LinearGeometry{}, {}, drawing::Spread::Pad, Ramp({{0, color.color, color.opacity}})};
-    PointShader shader(surface, flat, FlatMap{}, sanitised(opacity));
-    use(shader);
+    return range;
+}
+
+ParameterRange rangeOf(const LinearMap& map, const PixelBox& area) {
+    return cornersRange(map, area);
+}
+ParameterRange rangeOf(const RadialMap& map, const PixelBox& area) {
+    return {-map.radius / map.radiusStep, cornersRange(map, area).highest};
 }
 
 } // namespace
+
+// Calls `use` with the shader for the ink, which serves the pixels of `area`.
+template <class Use>
+void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const Affine& toSurface,
+                         const Ink& ink, double opacity, const Use& use) {
+    opacity = sanitised(opacity);
+    if (const auto* color = std::get_if<drawing::ColorPaint>(&ink)) {
+        FlatShader shader(surface, colorOf(*color), opacity);
+        return use(shader);
+    }
+    const Gradient& gradient = *std::get<const Gradient*>(ink);
+    const ParameterMap map = parameterMapOf(gradient, toSurface);
+    const auto laidOut = [&](const auto& known) {
+        const ParameterRange range = rangeOf(known, area);
+        return segments_.layOut(gradient.ramp, gradient.spread, range.lowest, range.highest) ==
+               RampSegments::Outcome::Ready;
+    };
+    if (std::holds_alternative<FlatMap>(map)) {
+        FlatShader shader(surface, paint::colorOf(gradient.ramp.stops().back()), opacity);
+        return use(shader);
+    }
+    if (const auto* line = std::get_if<LinearMap>(&map); line && laidOut(*line)) {
+        LinearShader shader(surface, *line, segments_, opacity, steps_);
+        return use(shader);
+    }
+    if (const auto* circles = std::get_if<RadialMap>(&map);
+        circles && RadialShader::handles(*circles) && laidOut(*circles)) {
+        RadialShader shader(surface, *circles, segments_, opacity);
+        return use(shader);
+    }
+    PointShader shader(surface, gradient, map, opacity);
+    use(shader);
+}
+
+void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Affine& toSurface,
+                    const Ink& ink, double opacity) {
+    const PixelBox area = rasteriser_.bounds();
+    if (!area.empty())
+        withShader(surface, area, toSurface, ink, opacity,
+                   [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
+}
 
 void Painter::fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,
                    const Affine& toSurface, const Ink& ink, double opacity) {
     rasteriser_.begin(surface.clip());
     addOutline(rasteriser_, shape, toSurface);
-    withShader(surface, toSurface, ink, opacity, [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
+    sweep(surface, rule, toSurface, ink, opacity);
 }
 
 void Painter::fill(const SurfaceView& surface, std::span<const drawing::Contour> polygons,
                    drawing::FillRule rule, const Affine& toSurface, const Ink& ink, double opacity) {
     rasteriser_.begin(surface.clip());
     addOutline(rasteriser_, polygons, toSurface);
-    withShader(surface, toSurface, ink, opacity, [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
+    sweep(surface, rule, toSurface, ink, opacity);
 }
 
 void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const Ink& ink, double opacity) {
@@ -52,7 +110,7 @@ void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const
     if (clip.empty())
         return;
     const CoverageRun whole[] = {{clip.left, clip.right, kFullCoverage}};
-    withShader(surface, toSurface, ink, opacity, [&](RowSink& shader) {
+    withShader(surface, clip, toSurface, ink, opacity, [&](RowSink& shader) {
         for (int y = clip.top; y < clip.bottom; ++y)
             shader.row(y, whole);
     });

@@ -4,6 +4,8 @@
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 #include "easel/paint/Gradient.h"
+#include "easel/paint/PixelKernels.h"
+#include "easel/paint/RampSegments.h"
 #include "easel/paint/Rasteriser.h"
 #include "easel/paint/Surface.h"
 
@@ -33,7 +35,15 @@ class Painter {
                  double opacity = 1);
 
   private:
+    template <class Use>
+    void withShader(const SurfaceView& surface, const PixelBox& area, const drawing::Affine& toSurface,
+                    const Ink& ink, double opacity, const Use& use);
+    void sweep(const SurfaceView& surface, drawing::FillRule rule, const drawing::Affine& toSurface,
+               const Ink& ink, double opacity);
+
     Rasteriser rasteriser_;
+    RampSegments segments_;
+    std::vector<LinearSteps> steps_;
 };
 
 } // namespace easel::paint

@@ -37,6 +37,10 @@ void Rasteriser::begin(const PixelBox& clip) {
     clip_ = clip;
     width_ = clip.width();
     height_ = clip.height();
+    leftmost_ = width_;
+    rightmost_ = 0;
+    highest_ = clip.height() * kUnit;
+    lowest_ = 0;
     edges_.clear();
     active_.clear();
     // Coverage that ends at the right border leaves its change one or two columns beyond it.
@@ -92,7 +96,9 @@ void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
         const double x = xAt((top + bottom) / 2);
         if (x < 0)
             addSloped({0, top}, {0, bottom}, winding);
-        else if (x <= width_)
+        else if (x > width_)
+            rightmost_ = width_;
+        else
             addSloped({std::clamp(xAt(top), 0.0, width_), top},
                       {std::clamp(xAt(bottom), 0.0, width_), bottom}, winding);
     }
@@ -101,9 +107,22 @@ void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
 void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int winding) {
     const auto top = static_cast<std::int64_t>(std::llrint(upper.y * kUnit));
     const auto bottom = static_cast<std::int64_t>(std::llrint(lower.y * kUnit));
-    if (top < bottom)
-        edges_.push_back(
-            {top, bottom, upper.x, (lower.x - upper.x) / static_cast<double>(bottom - top), winding});
+    if (top >= bottom)
+        return;
+    edges_.push_back(
+        {top, bottom, upper.x, (lower.x - upper.x) / static_cast<double>(bottom - top), winding});
+    leftmost_ = std::min({leftmost_, upper.x, lower.x});
+    rightmost_ = std::max({rightmost_, upper.x, lower.x});
+    highest_ = std::min(highest_, top);
+    lowest_ = std::max(lowest_, bottom);
+}
+
+PixelBox Rasteriser::bounds() const {
+    if (edges_.empty())
+        return {};
+    return {clip_.left + static_cast<int>(leftmost_), clip_.top + static_cast<int>(highest_ / kUnit),
+            clip_.left + static_cast<int>(std::ceil(rightmost_)),
+            clip_.top + static_cast<int>((lowest_ + kUnit - 1) / kUnit)};
 }
 
 void Rasteriser::sweep(drawing::FillRule rule, RowSink& sink) {

@@ -37,6 +37,8 @@ class Rasteriser {
     // One side of a polygon, in surface coordinates. The sides of a polygon may come in any order but all of
     // them must come, in one sense of rotation. A side with a coordinate that is not finite is left out.
     void addEdge(drawing::Point from, drawing::Point to);
+    // Encloses all pixels that the edges touch, within the clip.
+    PixelBox bounds() const;
     // Hands every row that the shape touches to the sink.
     void sweep(drawing::FillRule rule, RowSink& sink);
 
@@ -66,6 +68,11 @@ class Rasteriser {
     PixelBox clip_;
     double width_ = 0;
     double height_ = 0;
+    // Extent of the edges, from the clip's corner.
+    double leftmost_ = 0;
+    double rightmost_ = 0;
+    std::int64_t highest_ = 0;
+    std::int64_t lowest_ = 0;
     std::vector<Edge> edges_;
     std::vector<Edge> active_;
     // By how much the coverage changes at each column of the current row, and which columns have such a

@@ -1,0 +1,32 @@
+// Paints radial gradients whose start circle lies inside the end circle: along a row the parameter falls to a
+// lowest value and then rises, and each piece between stops is one square root and one multiply-add a
+// channel.
+#pragma once
+
+#include "easel/paint/ParameterMap.h"
+#include "easel/paint/RampSegments.h"
+#include "easel/paint/Rasteriser.h"
+
+namespace easel::paint {
+
+class RadialShader : public RowSink {
+  public:
+    // Whether the shader knows the geometry; others need evaluation pixel by pixel.
+    static bool handles(const RadialMap& map);
+
+    // `segments` covers the parameters of every pixel that will be painted and must outlive the shader.
+    RadialShader(const SurfaceView& surface, const RadialMap& map, const RampSegments& segments,
+                 double opacity)
+        : surface_(surface), map_(map), segments_(segments), opacity_(opacity) {}
+    void row(int y, std::span<const CoverageRun> runs) override;
+
+  private:
+    class Track;
+
+    SurfaceView surface_;
+    RadialMap map_;
+    const RampSegments& segments_;
+    double opacity_;
+};
+
+} // namespace easel::paint
