@@ -1,0 +1,92 @@
+// Commands about the drawing at hand: making it, adding objects, undo and the switches.
+#include "easel/drawing/Drawing.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/PickFilter.h"
+#include "easel/play/Command.h"
+#include "easel/play/NewObject.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Session.h"
+
+namespace easel::play {
+
+namespace {
+
+void newDrawing(Session& session, Arguments& arguments) {
+    const double width = arguments.size("W");
+    const double height = arguments.size("H");
+    arguments.done();
+    session.show(drawing::Drawing::create(width, height));
+}
+
+void add(Session& session, Arguments& arguments) {
+    drawing::Object object = newObject(arguments);
+    drawing::Drawing& drawing = session.frontWindow().drawing();
+    if (drawing.indexOfId(object.id))
+        throw PlayError("there is an object \"" + object.id + "\" already");
+    drawing.closeUndo();
+    drawing.insert(drawing.size(), sealed(std::move(object)));
+}
+
+void gradient(Session& session, Arguments& arguments) {
+    const std::size_t index = session.objectIndex(arguments.text("ID"));
+    const CGradientData record = gradientRecord(arguments);
+    drawing::Drawing& drawing = session.frontWindow().drawing();
+    drawing::Object object = *drawing.object(index);
+    if (!carriesGradient(object.kind))
+        throw PlayError("a " + std::string(kindName(object.kind)) + " carries no gradient");
+    object.setFillPattern(drawing::FillPattern::SolidBlack);
+    object.setGradient(drawing::ObjectGradient(std::make_unique<CGradient>(record).release()));
+    drawing.amend(index, sealed(std::move(object)));
+}
+
+void undo(Session& session, Arguments& arguments) {
+    arguments.done();
+    session.frontWindow().drawing().undo();
+}
+
+void redo(Session& session, Arguments& arguments) {
+    arguments.done();
+    session.frontWindow().drawing().redo();
+}
+
+void snap(Session&, Arguments& arguments) {
+    const std::string& what = arguments.text("grid or object");
+    const host::Switch state = arguments.onOff() ? host::Switch::on : host::Switch::off;
+    arguments.done();
+    if (what == "grid")
+        host::theHost().snap.grid = state;
+    else if (what == "object")
+        host::theHost().snap.object = state;
+    else
+        throw PlayError("\"" + what + "\" is neither grid nor object");
+}
+
+void filter(Session&, Arguments& arguments) {
+    drawing::KindSet kinds;
+    if (arguments.takeIf("all"))
+        kinds = drawing::KindSet::all();
+    else if (!arguments.takeIf("none"))
+        do {
+            const std::string& name = arguments.text("KIND");
+            const auto kind = drawing::kindFromName(name);
+            if (!kind)
+                throw PlayError("there is no kind \"" + name + "\"");
+            kinds.add(*kind);
+        } while (!arguments.empty());
+    arguments.done();
+    host::theHost().pickFilter = host::filterOf(kinds);
+}
+
+constexpr Command kCommands[] = {
+    {"new", When::idle, newDrawing}, {"add", When::idle, add},   {"gradient", When::idle, gradient},
+    {"undo", When::idle, undo},      {"redo", When::idle, redo}, {"snap", When::idle, snap},
+    {"filter", When::idle, filter},
+};
+
+} // namespace
+
+std::span<const Command> drawingCommands() {
+    return kCommands;
+}
+
+} // namespace easel::play

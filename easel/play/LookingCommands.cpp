@@ -1,0 +1,48 @@
+// Commands that look: prints.
+#include "easel/interface/Journal.h"
+#include "easel/play/Command.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Prints.h"
+#include "easel/play/Session.h"
+
+#include <map>
+
+namespace easel::play {
+
+namespace {
+
+Json printJournal(Session&, Arguments&) {
+    return {{"journal", host::hostJournal().take()}};
+}
+
+using Print = Json (*)(Session&, Arguments&);
+
+const std::map<std::string, Print>& prints() {
+    static const std::map<std::string, Print> all{
+        {"object", printObject},   {"fit", printFit},         {"window", printWindow},
+        {"palette", printPalette}, {"journal", printJournal},
+    };
+    return all;
+}
+
+void print(Session& session, Arguments& arguments) {
+    const std::string& what = arguments.text("what to print");
+    const auto found = prints().find(what);
+    if (found == prints().end())
+        throw PlayError("there is no \"" + what + "\" to print");
+    const Json answer = found->second(session, arguments);
+    arguments.done();
+    session.print(answer);
+}
+
+constexpr Command kCommands[] = {
+    {"print", When::always, print},
+};
+
+} // namespace
+
+std::span<const Command> lookingCommands() {
+    return kCommands;
+}
+
+} // namespace easel::play

@@ -1,0 +1,73 @@
+// What the user does with mouse and keys.
+#include "easel/interface/ToolCalls.h"
+#include "easel/play/Command.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Session.h"
+
+namespace easel::play {
+
+namespace {
+
+// Between calls of the plug-in there is no dialog that a point could be in.
+drawing::Point pointInDrawing(Arguments& arguments) {
+    if (arguments.takeIf("item"))
+        throw PlayError("no dialog is open");
+    const drawing::Point point = arguments.point();
+    arguments.done();
+    return point;
+}
+
+void press(Session& session, Arguments& arguments) {
+    const drawing::Point where = pointInDrawing(arguments);
+    const HostTool& tool = session.activeTool();
+    host::DrawingWindow& window = session.frontWindow();
+    session.user().press(where);
+    host::clickWithTool(tool, window, where);
+}
+
+void move(Session& session, Arguments& arguments) {
+    session.user().moveTo(pointInDrawing(arguments));
+}
+
+void release(Session& session, Arguments& arguments) {
+    arguments.done();
+    session.user().release();
+}
+
+// `click` and `drag` are played as their steps.
+void takenApart(Session&, Arguments&) {}
+
+void key(Session& session, Arguments& arguments) {
+    const std::string& name = arguments.text("option or shift");
+    const std::string& state = arguments.text("up or down");
+    arguments.done();
+    if (state != "up" && state != "down")
+        throw PlayError("\"" + state + "\" is neither up nor down");
+    if (name == "option")
+        session.user().setOption(state == "down");
+    else if (name == "shift")
+        session.user().setShift(state == "down");
+    else
+        throw PlayError("\"" + name + "\" is neither option nor shift");
+}
+
+constexpr Command kCommands[] = {
+    {"press", When::idle, press}, {"move", When::idle, move},        {"release", When::idle, release},
+    {"key", When::always, key},   {"click", When::idle, takenApart}, {"drag", When::idle, takenApart},
+};
+
+} // namespace
+
+std::span<const Command> mouseCommands() {
+    return kCommands;
+}
+
+void playMouseStep(Session& session, const Step& step) {
+    Arguments arguments({step.words.begin() + 1, step.words.end()});
+    if (step.words[0] == "move")
+        move(session, arguments);
+    else
+        release(session, arguments);
+}
+
+} // namespace easel::play

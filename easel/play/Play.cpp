@@ -1,0 +1,65 @@
+// Reads a scenario and gives it its folders.
+#include "easel/play/Play.h"
+
+#include "easel/interface/PluginModule.h"
+#include "easel/play/Session.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <ostream>
+#include <system_error>
+
+namespace easel::play {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kStandardInput = "-";
+
+std::string contentOf(std::istream& stream) {
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+// Nothing, and a word to the user, if the file cannot be read.
+std::optional<std::string> readScript(const std::string& file, std::istream& input, std::ostream& messages) {
+    if (file == kStandardInput)
+        return contentOf(input);
+    std::error_code error;
+    if (fs::is_directory(file, error)) {
+        messages << file << ": is a folder\n";
+        return std::nullopt;
+    }
+    errno = 0;
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) {
+        messages << file << ": " << std::strerror(errno != 0 ? errno : EIO) << '\n';
+        return std::nullopt;
+    }
+    return contentOf(stream);
+}
+
+fs::path folderOf(const std::string& file) {
+    return file == kStandardInput ? fs::current_path() : fs::absolute(file).parent_path();
+}
+
+} // namespace
+
+PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::ostream& answers,
+                         std::ostream& messages) {
+    auto script = readScript(request.file, input, messages);
+    if (!script)
+        return PlayOutcome::failed;
+    Session session({.script = std::move(*script),
+                     .name = request.file,
+                     .folder = folderOf(request.file),
+                     .plugin = request.plugin.empty() ? host::PluginModule::defaultFile() : request.plugin,
+                     .answers = &answers,
+                     .messages = &messages});
+    return session.play() ? PlayOutcome::played : PlayOutcome::failed;
+}
+
+} // namespace easel::play

@@ -1,0 +1,177 @@
+// Prints objects, the gradients drawn in them, windows and the palette.
+#include "easel/play/Prints.h"
+
+#include "easel/drawing/GradientFit.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/HostPoint.h"
+#include "easel/interface/PickFilter.h"
+#include "easel/interface/ToolPalette.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Session.h"
+
+namespace easel::play {
+
+namespace {
+
+constexpr int kSlots = 8;
+
+const drawing::Object& objectNamed(Session& session, const std::string& id) {
+    return *session.frontWindow().drawing().object(session.objectIndex(id));
+}
+
+const char* nameOf(drawing::FillPattern pattern) {
+    switch (pattern) {
+    case drawing::FillPattern::None:
+        return "none";
+    case drawing::FillPattern::SolidBlack:
+        return "solid-black";
+    case drawing::FillPattern::Other:
+        break;
+    }
+    return "other";
+}
+
+Json stopOf(double position, std::uint16_t red, std::uint16_t green, std::uint16_t blue) {
+    return Json::array({jsonNumber(position), red, green, blue});
+}
+
+Json gradientOf(Session& session, const drawing::ObjectGradient& gradient) {
+    const CGradient* shared = gradient;
+    if (!shared)
+        return nullptr;
+    const CGradientData& record = shared->GetGradientData();
+    Json stops = Json::array();
+    for (const CGradientColor& stop : record.ColorList()) {
+        const RGBColor color = stop.ColorRGB();
+        stops.push_back(stopOf(stop.Percent(), color.red, color.green, color.blue));
+    }
+    return {{"type", static_cast<std::int32_t>(record.Type())},
+            {"angle", jsonNumber(static_cast<double>(record.Angle()))},
+            {"start", jsonPoint(host::toPoint(record.Start()))},
+            {"end", jsonPoint(host::toPoint(record.End()))},
+            {"startRadius", jsonNumber(record.StartRadius())},
+            {"endRadius", jsonNumber(record.EndRadius())},
+            {"stops", std::move(stops)},
+            {"resource", session.gradientNumber(gradient)}};
+}
+
+// What an object is called in answers: its id, or its index if it has none.
+std::string nameOf(const drawing::Object& object, std::size_t index) {
+    std::string name = object.id;
+    if (name.empty())
+        name.append(1, '@').append(std::to_string(index));
+    return name;
+}
+
+Json objectsOf(const drawing::Drawing& drawing) {
+    Json names = Json::array();
+    drawing.forEach(
+        [&](const drawing::ObjectPtr& object) { names.push_back(nameOf(*object, names.size())); });
+    return names;
+}
+
+Json selectionOf(const drawing::Drawing& drawing) {
+    Json names = Json::array();
+    for (const std::size_t index : drawing.selection())
+        names.push_back(nameOf(*drawing.object(index), index));
+    return names;
+}
+
+Json optionalNumber(std::optional<long> number) {
+    return number ? Json(*number) : Json(nullptr);
+}
+
+Json filterNames() {
+    Json names = Json::array();
+    const drawing::KindSet kinds = host::kindsIn(host::theHost().pickFilter);
+    for (const drawing::Kind kind : drawing::kAllKinds)
+        if (kinds.has(kind))
+            names.push_back(std::string(kindName(kind)));
+    return names;
+}
+
+const char* nameOf(host::SlotOwner owner) {
+    switch (owner) {
+    case host::SlotOwner::none:
+        return "none";
+    case host::SlotOwner::host:
+        return "host";
+    case host::SlotOwner::plugin:
+        break;
+    }
+    return "plugin";
+}
+
+Json toolOf(const HostTool& tool) {
+    Json methods = Json::array();
+    for (int slot = 1; slot <= kSlots; ++slot)
+        methods.push_back(nameOf(tool.slotOwner(slot)));
+    const PaletteElement& element = tool.element;
+    return {
+        {"tool", tool.number},
+        {"name", tool.name},
+        {"element", {element.icon, element.group, element.position, element.attributes, element.available}},
+        {"nameCode", tool.nameCode},
+        {"flags", tool.flags},
+        {"methods", std::move(methods)}};
+}
+
+} // namespace
+
+Json printObject(Session& session, Arguments& arguments) {
+    const std::string& id = arguments.text("ID");
+    const std::size_t index = session.objectIndex(id);
+    const drawing::Object& object = objectNamed(session, id);
+    return {{"object", id},
+            {"kind", std::string(kindName(object.kind))},
+            {"index", index},
+            {"fillPattern", nameOf(object.fillPattern)},
+            {"gradient", gradientOf(session, object.gradient)}};
+}
+
+Json printFit(Session& session, Arguments& arguments) {
+    const std::string& id = arguments.text("ID");
+    const drawing::Object& object = objectNamed(session, id);
+    const CGradient* gradient = object.gradient;
+    if (!gradient)
+        throw PlayError("the object \"" + id + "\" has no gradient");
+    const drawing::FittedGradient fit = drawing::fitGradient(gradient->GetGradientData(), *object.outline);
+    Json stops = Json::array();
+    for (const drawing::FittedStop& stop : fit.stops)
+        stops.push_back(stopOf(stop.position, stop.color.red, stop.color.green, stop.color.blue));
+    return {{"fit", id},
+            {"start", jsonPoint(fit.start)},
+            {"end", jsonPoint(fit.end)},
+            {"startRadius", jsonNumber(fit.startRadius)},
+            {"endRadius", jsonNumber(fit.endRadius)},
+            {"stops", std::move(stops)}};
+}
+
+Json printWindow(Session& session, Arguments&) {
+    if (!session.hasWindow())
+        return {{"window", nullptr}};
+    const host::DrawingWindow& window = session.frontWindow();
+    const drawing::Drawing& drawing = window.drawing();
+    const host::SnapSwitches& snap = host::theHost().snap;
+    return {{"window",
+             {{"objects", objectsOf(drawing)},
+              {"selection", selectionOf(drawing)},
+              {"undoKind", optionalNumber(drawing.undoKind())},
+              {"undoLevels", drawing.undoLevels()},
+              {"redoLevels", drawing.redoLevels()},
+              {"cursor", optionalNumber(window.cursor())},
+              {"pickFilter", filterNames()},
+              {"gridSnap", snap.grid == host::Switch::on},
+              {"objectSnap", snap.object == host::Switch::on},
+              {"beeps", session.user().beeps()},
+              {"dirty", drawing.dirty()}}}};
+}
+
+Json printPalette(Session&, Arguments&) {
+    Json tools = Json::array();
+    for (const HostTool& tool : host::thePalette().tools())
+        tools.push_back(toolOf(tool));
+    return {{"palette", std::move(tools)}};
+}
+
+} // namespace easel::play

@@ -1,0 +1,67 @@
+// Commands about the plug-in as a whole: start, quit, message, and what it adds to the palette.
+#include "easel/interface/Journal.h"
+#include "easel/interface/ToolCalls.h"
+#include "easel/play/Command.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Session.h"
+
+#include <limits>
+#include <nlohmann/json.hpp>
+
+namespace easel::play {
+
+namespace {
+
+void start(Session& session, Arguments& arguments) {
+    arguments.done();
+    session.plugin().send(host::kStartUpMessage);
+}
+
+void quit(Session& session, Arguments& arguments) {
+    arguments.done();
+    if (!session.pluginLoaded())
+        throw PlayError("the plug-in is not loaded");
+    session.plugin().send(host::kShutDownMessage);
+    session.unloadPlugin();
+}
+
+void message(Session& session, Arguments& arguments) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const long number = arguments.integer("N", Limits::min(), Limits::max());
+    arguments.done();
+    const std::int32_t result = session.plugin().send(static_cast<std::int16_t>(number));
+    session.print({{"message", number}, {"result", result}});
+}
+
+void options(Session& session, Arguments& arguments) {
+    arguments.done();
+    host::openToolOptions(session.activeTool());
+}
+
+void cursor(Session& session, Arguments& arguments) {
+    arguments.done();
+    host::updateToolCursor(session.activeTool(), session.frontWindow());
+}
+
+void switchJournal(Session&, Arguments& arguments) {
+    const bool on = arguments.onOff();
+    arguments.done();
+    if (on)
+        host::hostJournal().switchOn();
+    else
+        host::hostJournal().switchOff();
+}
+
+constexpr Command kCommands[] = {
+    {"start", When::idle, start},     {"quit", When::idle, quit},
+    {"message", When::idle, message}, {"options", When::idle, options},
+    {"cursor", When::idle, cursor},   {"journal", When::always, switchJournal},
+};
+
+} // namespace
+
+std::span<const Command> sessionCommands() {
+    return kCommands;
+}
+
+} // namespace easel::play
