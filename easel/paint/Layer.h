@@ -1,0 +1,34 @@
+// A sheet of pixels laid over a part of a surface: painted apart, then clipped, made fainter and laid on as
+// one.
+#pragma once
+
+#include "easel/drawing/Geometry.h"
+#include "easel/paint/Surface.h"
+
+namespace easel::paint {
+
+// The pixels that the box touches after the map, within `limit`. A box that is not finite gives the whole
+// limit.
+PixelBox pixelsUnder(const drawing::Box& box, const drawing::Affine& toSurface, const PixelBox& limit);
+
+class Layer {
+  public:
+    // Transparent; `place` is the part of the surface below that the layer covers, not empty.
+    explicit Layer(const PixelBox& place);
+
+    // The layer's pixels, and the map to them in place of one to the surface below.
+    SurfaceView view() { return pixels_.view(); }
+    drawing::Affine mapped(const drawing::Affine& toSurface) const;
+    const PixelBox& place() const { return place_; }
+
+    // Multiplies each pixel by the alpha of the mask's pixel; both layers cover the same place.
+    void maskWith(const Layer& mask);
+    // Composes the layer, its opacity from 0 to 1, over the surface.
+    void layOn(const SurfaceView& surface, double opacity) const;
+
+  private:
+    PixelBox place_;
+    Surface pixels_;
+};
+
+} // namespace easel::paint

@@ -1,0 +1,43 @@
+// What the fill and the stroke of an object are painted with.
+#include "easel/paint/ObjectInk.h"
+
+#include "host/Gradient.h"
+
+namespace easel::paint {
+
+namespace {
+
+drawing::Paint fillOf(const drawing::Object& object) {
+    if (object.fillPattern == drawing::FillPattern::None)
+        return drawing::NoPaint{};
+    if (object.fillOrigin == drawing::FillOrigin::Edited &&
+        object.fillPattern == drawing::FillPattern::SolidBlack)
+        return drawing::ColorPaint{};
+    return object.fill;
+}
+
+} // namespace
+
+HeldInk::HeldInk(const drawing::Paint& paint) {
+    if (const auto* color = std::get_if<drawing::ColorPaint>(&paint)) {
+        color_ = *color;
+        visible_ = color->opacity > 0;
+    } else if (const auto* foreign = std::get_if<std::shared_ptr<const drawing::ForeignGradient>>(&paint)) {
+        gradient_ = gradientOf(**foreign);
+        visible_ = true;
+    }
+}
+
+HeldInk HeldInk::ofFill(const drawing::Object& object) {
+    if (!object.showsGradient())
+        return HeldInk(fillOf(object));
+    const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
+    return HeldInk(gradientOf(drawing::fitGradient(record, *object.outline)));
+}
+
+HeldInk HeldInk::ofStroke(const drawing::Object& object) {
+    const drawing::Style& style = drawing::styleOf(object);
+    return drawing::strokes(style) ? HeldInk(style.stroke.paint) : HeldInk();
+}
+
+} // namespace easel::paint

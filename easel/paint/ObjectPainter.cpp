@@ -1,0 +1,145 @@
+// Objects to pixels: fill and stroke of each, layers where opacity or a clip path concerns several things at
+// once.
+#include "easel/paint/ObjectPainter.h"
+
+#include "easel/paint/ClipMask.h"
+#include "easel/paint/Layer.h"
+#include "easel/paint/ObjectInk.h"
+#include "easel/paint/Stroker.h"
+
+namespace easel::paint {
+
+using drawing::Affine;
+using drawing::Object;
+using drawing::ObjectPtr;
+
+namespace {
+
+constexpr double kStrokeTolerance = 0.02; // pixels
+// Layers in layers beyond this depth are painted straight on, so that hostile files cannot use up the memory.
+constexpr std::uint32_t kDeepestLayer = 100;
+
+using ObjectSpan = std::span<const ObjectPtr>;
+
+// The group of the object's chain that lies directly in `parent`.
+const drawing::Group* childOf(const drawing::Group* parent, const Object& object) {
+    const std::uint32_t depth = parent ? parent->depth : 0;
+    const drawing::Group* group = object.group.get();
+    while (group && group->depth > depth + 1)
+        group = group->parent.get();
+    return group && group->depth == depth + 1 ? group : nullptr;
+}
+
+// How many of the first objects belong to the same group in `parent` as the first of all.
+std::size_t runLength(const drawing::Group* parent, ObjectSpan objects) {
+    const drawing::Group* const group = childOf(parent, *objects.front());
+    std::size_t count = 1;
+    while (count < objects.size() && childOf(parent, *objects[count]) == group)
+        ++count;
+    return count;
+}
+
+PixelBox pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelBox& limit) {
+    drawing::Box box;
+    for (const ObjectPtr& object : objects)
+        box.add(object->paintBounds());
+    return pixelsUnder(box, toSurface, limit);
+}
+
+bool shows(const Object& object, drawing::PaintStep step) {
+    return step == drawing::PaintStep::Fill ? object.fillPattern != drawing::FillPattern::None
+                                            : drawing::strokes(drawing::styleOf(object));
+}
+
+} // namespace
+
+void ObjectPainter::paint(ObjectSpan objects, const SurfaceView& surface, const Affine& toSurface) {
+    paintWithin(nullptr, objects, surface, toSurface);
+}
+
+void ObjectPainter::paintWithin(const drawing::Group* parent, ObjectSpan objects, const SurfaceView& surface,
+                                const Affine& toSurface) {
+    while (!objects.empty()) {
+        const drawing::Group* const group = childOf(parent, *objects.front());
+        if (!group) {
+            paintObject(*objects.front(), surface, toSurface);
+            objects = objects.subspan(1);
+            continue;
+        }
+        const std::size_t count = runLength(parent, objects);
+        paintGroup(*group, objects.first(count), surface, toSurface);
+        objects = objects.subspan(count);
+    }
+}
+
+void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, const SurfaceView& surface,
+                               const Affine& toSurface) {
+    if (!(group.opacity > 0))
+        return;
+    if (group.depth > kDeepestLayer || (group.opacity >= 1 && !group.clip))
+        return paintWithin(&group, objects, surface, toSurface);
+    PixelBox place = pixelsUnder(objects, toSurface, surface.clip());
+    if (group.clip)
+        place = pixelsInside(*group.clip, toSurface, place);
+    if (place.empty())
+        return;
+    Layer layer(place);
+    const Affine toLayer = layer.mapped(toSurface);
+    paintWithin(&group, objects, layer.view(), toLayer);
+    if (group.clip)
+        clipLayer(layer, *group.clip, toLayer, painter_);
+    layer.layOn(surface, group.opacity);
+}
+
+void ObjectPainter::paintObject(const Object& object, const SurfaceView& surface, const Affine& toSurface) {
+    const PixelBox place = pixelsUnder(object.paintBounds(), toSurface, surface.clip());
+    const double opacity = drawing::styleOf(object).opacity;
+    if (place.empty() || !(opacity > 0))
+        return;
+    const bool both = shows(object, drawing::PaintStep::Fill) && shows(object, drawing::PaintStep::Stroke);
+    if (opacity >= 1 || !both)
+        return paintSteps(object, surface, toSurface, opacity);
+    Layer layer(place);
+    paintSteps(object, layer.view(), layer.mapped(toSurface), 1);
+    layer.layOn(surface, opacity);
+}
+
+void ObjectPainter::paintSteps(const Object& object, const SurfaceView& surface, const Affine& toSurface,
+                               double opacity) {
+    if (drawing::styleOf(object).first == drawing::PaintStep::Fill) {
+        paintFill(object, surface, toSurface, opacity);
+        paintStroke(object, surface, toSurface, opacity);
+    } else {
+        paintStroke(object, surface, toSurface, opacity);
+        paintFill(object, surface, toSurface, opacity);
+    }
+}
+
+void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, const Affine& toSurface,
+                              double opacity) {
+    const HeldInk fill = HeldInk::ofFill(object);
+    if (fill.visible())
+        painter_.fill(surface, *object.outline, object.fillRule, toSurface, fill.ink(),
+                      opacity * drawing::styleOf(object).fillOpacity);
+}
+
+// The pen is round in the object's own units only, so the stroke is made there and mapped to the drawing.
+void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface, const Affine& toSurface,
+                                double opacity) {
+    const HeldInk ink = HeldInk::ofStroke(object);
+    const double scale = (toSurface * object.transform).largestScale();
+    if (!ink.visible() || !object.transform.invertible() || !(scale > 0))
+        return;
+    const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
+    StrokeShape shape = object.transform == Affine{}
+                            ? strokeShape(*object.outline, stroke, kStrokeTolerance / scale)
+                            : strokeShape(object.outline->transformed(object.transform.inverse()), stroke,
+                                          kStrokeTolerance / scale);
+    for (drawing::Contour& polygon : shape.polygons)
+        for (drawing::Point& point : polygon.points)
+            point = object.transform(point);
+    painter_.fill(surface, shape.polygons, drawing::FillRule::NonZero, toSurface, ink.ink(),
+                  opacity * stroke.opacity * shape.opacity);
+}
+
+} // namespace easel::paint

@@ -1,0 +1,35 @@
+// Paints objects in their order, group by group.
+#pragma once
+
+#include "easel/drawing/Object.h"
+#include "easel/paint/Painter.h"
+
+#include <span>
+
+namespace easel::paint {
+
+// Holds scratch memory; use one for each thread.
+class ObjectPainter {
+  public:
+    // Back to front, over what the surface's clip holds. `toSurface` maps drawing units to surface pixels.
+    void paint(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
+               const drawing::Affine& toSurface);
+
+  private:
+    void paintWithin(const drawing::Group* parent, std::span<const drawing::ObjectPtr> objects,
+                     const SurfaceView& surface, const drawing::Affine& toSurface);
+    void paintGroup(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
+                    const SurfaceView& surface, const drawing::Affine& toSurface);
+    void paintObject(const drawing::Object& object, const SurfaceView& surface,
+                     const drawing::Affine& toSurface);
+    void paintSteps(const drawing::Object& object, const SurfaceView& surface,
+                    const drawing::Affine& toSurface, double opacity);
+    void paintFill(const drawing::Object& object, const SurfaceView& surface,
+                   const drawing::Affine& toSurface, double opacity);
+    void paintStroke(const drawing::Object& object, const SurfaceView& surface,
+                     const drawing::Affine& toSurface, double opacity);
+
+    Painter painter_;
+};
+
+} // namespace easel::paint

@@ -1,0 +1,51 @@
+// Paints drawings in bands of rows, each of them by whichever thread is free.
+#include "easel/paint/RenderDrawing.h"
+
+#include "easel/paint/Layer.h"
+#include "easel/paint/ObjectPainter.h"
+
+namespace easel::paint {
+
+namespace {
+
+using drawing::Affine;
+using drawing::Box;
+
+// Bands begin at whole multiples of this many rows of the surface, whatever is painted and however many
+// threads there are: where shapes are cut can show in the last bit of a pixel.
+constexpr int kBandRows = 256;
+
+// The box of drawing coordinates that the pixels show, a little more to be safe from rounding.
+Box drawnArea(const PixelBox& pixels, const Affine& toSurface) {
+    const Affine toDrawing = toSurface.inverse();
+    Box area;
+    for (const int x : {pixels.left - 1, pixels.right + 1})
+        for (const int y : {pixels.top - 1, pixels.bottom + 1})
+            area.add(toDrawing({static_cast<double>(x), static_cast<double>(y)}));
+    return area;
+}
+
+} // namespace
+
+void renderObjects(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
+                   const Affine& toSurface, unsigned threads) {
+    const PixelBox& clip = surface.clip();
+    if (clip.empty() || objects.empty() || !toSurface.invertible())
+        return;
+    const int first = clip.top / kBandRows;
+    const int last = (clip.bottom - 1) / kBandRows;
+    forEachPiece(static_cast<std::size_t>(last - first + 1), threads, [&](std::size_t piece) {
+        const int top = (first + static_cast<int>(piece)) * kBandRows;
+        ObjectPainter painter;
+        painter.paint(objects, surface.clippedTo({clip.left, top, clip.right, top + kBandRows}), toSurface);
+    });
+}
+
+void renderDrawing(const drawing::Drawing& drawing, const SurfaceView& surface, const Affine& toSurface,
+                   unsigned threads) {
+    if (surface.clip().empty() || !toSurface.invertible())
+        return;
+    renderObjects(drawing.objectsWithin(drawnArea(surface.clip(), toSurface)), surface, toSurface, threads);
+}
+
+} // namespace easel::paint

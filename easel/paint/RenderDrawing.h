@@ -1,0 +1,22 @@
+// Paints drawings, whole or in part.
+#pragma once
+
+#include "easel/drawing/Drawing.h"
+#include "easel/paint/Parallel.h"
+#include "easel/paint/Surface.h"
+
+#include <span>
+
+namespace easel::paint {
+
+// Paints the drawing over what the surface holds, within the surface's clip: for a partial repaint, clip to
+// the area that changed. `toSurface` maps drawing units to surface pixels. The pixels are the same for any
+// number of threads. Throws std::bad_alloc when there is no memory for a layer.
+void renderDrawing(const drawing::Drawing& drawing, const SurfaceView& surface,
+                   const drawing::Affine& toSurface, unsigned threads = usefulThreads());
+
+// The same for objects that are in no drawing, back to front.
+void renderObjects(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
+                   const drawing::Affine& toSurface, unsigned threads = 1);
+
+} // namespace easel::paint
