@@ -27,6 +27,7 @@ const Command* findCommand(const std::string& name);
 std::span<const Command> sessionCommands();
 std::span<const Command> drawingCommands();
 std::span<const Command> mouseCommands();
+std::span<const Command> dialogCommands();
 std::span<const Command> lookingCommands();
 
 } // namespace easel::play

@@ -15,12 +15,16 @@ Json printJournal(Session&, Arguments&) {
     return {{"journal", host::hostJournal().take()}};
 }
 
+Json printDialog(Session& session, Arguments&) {
+    return {{"dialog", session.user().questions().describeFront()}};
+}
+
 using Print = Json (*)(Session&, Arguments&);
 
 const std::map<std::string, Print>& prints() {
     static const std::map<std::string, Print> all{
         {"object", printObject},   {"fit", printFit},         {"window", printWindow},
-        {"palette", printPalette}, {"journal", printJournal},
+        {"palette", printPalette}, {"journal", printJournal}, {"dialog", printDialog},
     };
     return all;
 }

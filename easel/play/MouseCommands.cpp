@@ -8,7 +8,6 @@ namespace easel::play {
 
 namespace {
 
-// Between calls of the plug-in there is no dialog that a point could be in.
 drawing::Point pointInDrawing(Arguments& arguments) {
     if (arguments.takeIf("item"))
         throw PlayError("no dialog is open");
@@ -26,7 +25,8 @@ void press(Session& session, Arguments& arguments) {
 }
 
 void move(Session& session, Arguments& arguments) {
-    session.user().moveTo(pointInDrawing(arguments));
+    const host::Dialog* dialog = session.user().questions().frontDialog();
+    session.user().moveTo(dialog ? pointInDialog(*dialog, arguments) : pointInDrawing(arguments));
 }
 
 void release(Session& session, Arguments& arguments) {

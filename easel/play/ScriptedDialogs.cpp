@@ -1,33 +1,150 @@
-// The dialogs of the user that a scenario plays.
+// The dialogs, questions and lists that the user of a scenario answers.
+#include "easel/interface/Alert.h"
+#include "easel/interface/DeletionList.h"
 #include "easel/interface/Dialog.h"
+#include "easel/play/Command.h"
 #include "easel/play/ScriptedUser.h"
 #include "easel/play/Session.h"
 #include "easel/play/Waiting.h"
 
-#include <algorithm>
-
 namespace easel::play {
 
+namespace {
+
+constexpr const char* kDialogOpen = "a dialog is open";
+constexpr const char* kAlertOpen = "an alert is open";
+constexpr const char* kPickerOpen = "the color picker is open";
+constexpr const char* kListOpen = "the deletion dialog is open";
+
+Arguments argumentsOf(const Step& step) {
+    return Arguments({step.words.begin() + 1, step.words.end()});
+}
+
+host::Answer answerIn(Arguments& arguments) {
+    const std::string word = arguments.text("yes or no");
+    arguments.done();
+    if (word != "yes" && word != "no")
+        throw PlayError("\"" + word + "\" is neither yes nor no");
+    return word == "yes" ? host::Answer::yes : host::Answer::no;
+}
+
+// Nothing for a cancelled choice.
+std::optional<RGBColor> colorIn(Arguments& arguments) {
+    std::optional<RGBColor> color;
+    if (!arguments.takeIf("cancel")) {
+        const auto channel = [&arguments](const char* name) {
+            return static_cast<std::uint16_t>(arguments.integer(name, 0, 65535));
+        };
+        color.emplace();
+        color->red = channel("R");
+        color->green = channel("G");
+        color->blue = channel("B");
+    }
+    arguments.done();
+    return color;
+}
+
+void selectRows(host::DeletionList& list, Arguments& arguments) {
+    std::vector<int> rows;
+    while (!arguments.empty())
+        rows.push_back(
+            static_cast<int>(arguments.integer("the row", 1, static_cast<long>(list.rows().size()))) - 1);
+    if (list.mode() == host::SelectionMode::One && rows.size() > 1)
+        throw PlayError("only one row can be selected");
+    list.select(std::move(rows));
+}
+
+void giveCommand(host::DeletionList& list, Arguments& arguments) {
+    const std::string word = arguments.text("ok or cancel");
+    arguments.done();
+    if (word != "ok" && word != "cancel")
+        throw PlayError("\"" + word + "\" is neither ok nor cancel");
+    list.command(word == "ok" ? host::DeletionCommand::Ok : host::DeletionCommand::Cancel);
+}
+
+} // namespace
+
 void ScriptedUser::dialogShown(host::Dialog& dialog) {
-    dialogs_.push_back(&dialog);
+    questions_.open(&dialog);
 }
 
 void ScriptedUser::dialogClosed(host::Dialog& dialog) {
-    std::erase(dialogs_, &dialog);
+    questions_.close(&dialog);
 }
 
-std::int16_t ScriptedUser::nextHit(host::Dialog&) {
-    return 0;
+std::int16_t ScriptedUser::nextHit(host::Dialog& dialog) {
+    for (;;) {
+        if (const std::optional<int> hit = dialog.takeHit())
+            return static_cast<std::int16_t>(*hit);
+        if (hands_.isTyping()) {
+            hands_.strikeKey(dialog);
+            continue;
+        }
+        const auto played = waitFor<bool>(session_, session_.steps(), kDialogOpen,
+                                          [&](const Step& step) -> std::optional<bool> {
+                                              if (!hands_.play(dialog, step))
+                                                  throw outOfPlace(step, kDialogOpen);
+                                              return true;
+                                          });
+        if (!played)
+            return 0;
+    }
 }
 
-host::Answer ScriptedUser::confirm(const host::Alert&) {
-    return host::Answer::no;
+bool ScriptedUser::movesOrLetsGo(const Step& step) {
+    if (step.words[0] != "move" && step.words[0] != "release")
+        return false;
+    playMouseStep(session_, step);
+    return true;
 }
 
-std::optional<RGBColor> ScriptedUser::pickColor(const std::string&, const RGBColor&) {
-    return std::nullopt;
+host::Answer ScriptedUser::confirm(const host::Alert& alert) {
+    const QuestionScope open(questions_, &alert);
+    const auto answer = waitFor<host::Answer>(session_, session_.steps(), kAlertOpen,
+                                              [&](const Step& step) -> std::optional<host::Answer> {
+                                                  if (movesOrLetsGo(step))
+                                                      return std::nullopt;
+                                                  if (step.words[0] != "answer")
+                                                      throw outOfPlace(step, kAlertOpen);
+                                                  Arguments arguments = argumentsOf(step);
+                                                  return answerIn(arguments);
+                                              });
+    return answer.value_or(host::Answer::no);
 }
 
-void ScriptedUser::runDeletion(host::DeletionList&) {}
+std::optional<RGBColor> ScriptedUser::pickColor(const std::string& prompt, const RGBColor& start) {
+    const ColorQuestion question{prompt, start};
+    const QuestionScope open(questions_, &question);
+    using Choice = std::optional<RGBColor>;
+    const auto choice = waitFor<Choice>(session_, session_.steps(), kPickerOpen,
+                                        [&](const Step& step) -> std::optional<Choice> {
+                                            if (movesOrLetsGo(step))
+                                                return std::nullopt;
+                                            if (step.words[0] != "color")
+                                                throw outOfPlace(step, kPickerOpen);
+                                            Arguments arguments = argumentsOf(step);
+                                            return std::optional<Choice>(colorIn(arguments));
+                                        });
+    return choice.value_or(std::nullopt);
+}
+
+void ScriptedUser::runDeletion(host::DeletionList& list) {
+    const QuestionScope open(questions_, &list);
+    const auto closed =
+        waitFor<bool>(session_, session_.steps(), kListOpen, [&](const Step& step) -> std::optional<bool> {
+            if (movesOrLetsGo(step))
+                return std::nullopt;
+            Arguments arguments = argumentsOf(step);
+            if (step.words[0] == "select")
+                selectRows(list, arguments);
+            else if (step.words[0] == "command")
+                giveCommand(list, arguments);
+            else
+                throw outOfPlace(step, kListOpen);
+            return list.isOpen() ? std::nullopt : std::optional<bool>(true);
+        });
+    if (!closed)
+        list.command(host::DeletionCommand::Cancel);
+}
 
 } // namespace easel::play

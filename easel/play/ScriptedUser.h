@@ -2,9 +2,9 @@
 #pragma once
 
 #include "easel/interface/User.h"
+#include "easel/play/DialogHands.h"
+#include "easel/play/OpenQuestions.h"
 #include "easel/play/Step.h"
-
-#include <vector>
 
 namespace easel::play {
 
@@ -25,8 +25,8 @@ class ScriptedUser : public host::User {
 
     bool holdsButton() const { return mouse_.down; }
     long beeps() const { return beeps_; }
-    // The open dialogs, the front one last.
-    const std::vector<host::Dialog*>& dialogs() const { return dialogs_; }
+    // What is open in front of the drawing.
+    const OpenQuestions& questions() const { return questions_; }
 
     host::MouseState mouse() override { return mouse_; }
     host::MouseState waitWhileDown() override;
@@ -50,13 +50,16 @@ class ScriptedUser : public host::User {
   private:
     // Plays steps up to the next move or release.
     void waitForMouse();
+    // Plays the step if it moves the mouse or releases its button, and says whether it did.
+    bool movesOrLetsGo(const Step& step);
 
     Session& session_;
     host::MouseState mouse_;
     bool optionDown_ = false;
     bool shiftDown_ = false;
     long beeps_ = 0;
-    std::vector<host::Dialog*> dialogs_;
+    OpenQuestions questions_;
+    DialogHands hands_{*this};
 };
 
 } // namespace easel::play

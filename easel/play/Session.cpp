@@ -3,6 +3,7 @@
 
 #include "easel/interface/Host.h"
 #include "easel/interface/Journal.h"
+#include "easel/interface/PluginResourceFile.h"
 #include "easel/interface/ToolPalette.h"
 #include "easel/play/Arguments.h"
 #include "easel/play/Command.h"
@@ -117,6 +118,9 @@ host::PluginModule& Session::plugin() {
     if (!plugin_) {
         try {
             plugin_ = std::make_unique<host::PluginModule>(plan_.plugin);
+            // Without its resources a plug-in has no texts and no dialogs, and still works.
+            if (const auto error = host::openPluginResources(plugin_->resourceFolder()))
+                say(error->message());
         } catch (const host::PluginError& error) {
             throw PlayError(error.what());
         }
@@ -127,6 +131,7 @@ host::PluginModule& Session::plugin() {
 void Session::unloadPlugin() {
     host::thePalette().clear();
     plugin_.reset();
+    host::closePluginResources();
 }
 
 const HostTool& Session::activeTool() const {

@@ -45,10 +45,12 @@ std::vector<Step> stepsOfDrag(const Step& line) {
 std::vector<Step> stepsOf(Step line) {
     if (line.words[0] == "drag")
         return stepsOfDrag(line);
-    if (line.words[0] != "click")
+    if (line.words[0] != "click" && line.words[0] != "hit")
         return {std::move(line)};
     Step release{line.line, {"release"}};
-    line.words[0] = "press";
+    // A hit is a press in the middle of an item, which is known only when the dialog is open.
+    if (line.words[0] == "click")
+        line.words[0] = "press";
     return {std::move(line), std::move(release)};
 }
 

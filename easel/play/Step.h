@@ -13,7 +13,8 @@ struct Step {
 };
 
 // The steps that a line of the script consists of: `click` is press and release, `drag` is press, moves and
-// release, everything else is one step. Throws PlayError for a drag without a second point.
+// release, `hit` is followed by a release, everything else is one step. Throws PlayError for a drag without a
+// second point.
 std::vector<Step> stepsOf(Step line);
 
 } // namespace easel::play

@@ -1,0 +1,178 @@
+// Plays the steps of a scenario that act on a dialog.
+#include "easel/play/DialogHands.h"
+
+#include "easel/interface/Dialog.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/ScriptedUser.h"
+#include "easel/toolbox/MacRoman.h"
+#include "easel/toolbox/Utf8.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <utility>
+
+namespace easel::play {
+
+namespace {
+
+constexpr long kLastNumber = std::numeric_limits<std::int16_t>::max();
+
+const host::DialogItem& itemIn(const host::Dialog& dialog, Arguments& arguments) {
+    const long number = arguments.integer("the item", 1, kLastNumber);
+    const host::DialogItem* item = dialog.item(static_cast<int>(number));
+    if (item == nullptr)
+        throw PlayError("the dialog has no item " + std::to_string(number));
+    return *item;
+}
+
+const host::DialogItem& itemOfKind(const host::Dialog& dialog, Arguments& arguments, host::ItemKind kind,
+                                   const char* name) {
+    const host::DialogItem& item = itemIn(dialog, arguments);
+    if (item.kind != kind)
+        throw PlayError("item " + std::to_string(item.number) + " is no " + name);
+    return item;
+}
+
+void checkFocus(const host::Dialog& dialog) {
+    const host::DialogItem* item = dialog.item(dialog.focus());
+    if (item == nullptr || item->kind != host::ItemKind::EditText)
+        throw PlayError("no edit field has the focus");
+}
+
+paint::PixelPoint pixelAt(drawing::Point point) {
+    return {static_cast<int>(point.x), static_cast<int>(point.y)};
+}
+
+bool isControl(const host::DialogItem& item) {
+    return item.kind == host::ItemKind::Button || item.kind == host::ItemKind::Popup ||
+           item.kind == host::ItemKind::Radio;
+}
+
+// Accents that are typed after their letters make one character with them, where the text as a whole can be
+// typed.
+std::string composed(const std::string& utf8) {
+    const toolbox::EncodedText encoded = toolbox::toMacRoman(utf8);
+    return encoded.outcome == toolbox::EncodingOutcome::Converted ? toolbox::fromMacRoman(encoded.text)
+                                                                  : utf8;
+}
+
+} // namespace
+
+drawing::Point pointInDialog(const host::Dialog& dialog, Arguments& arguments) {
+    const host::DialogItem* item = arguments.takeIf("item") ? &itemIn(dialog, arguments) : nullptr;
+    const drawing::Point point = arguments.point();
+    arguments.done();
+    const auto pixel = [](double offset, int origin) {
+        constexpr double kFarthest = std::numeric_limits<std::int16_t>::max();
+        return std::clamp(std::floor(offset) + origin, -kFarthest, kFarthest);
+    };
+    return {pixel(point.x, item != nullptr ? item->bounds.left : 0),
+            pixel(point.y, item != nullptr ? item->bounds.top : 0)};
+}
+
+DialogHands::Play DialogHands::playOf(const std::string& command) {
+    static const std::map<std::string, Play> all{
+        {"hit", &DialogHands::hit},         {"press", &DialogHands::press}, {"move", &DialogHands::move},
+        {"release", &DialogHands::release}, {"focus", &DialogHands::focus}, {"type", &DialogHands::type},
+        {"erase", &DialogHands::erase},     {"set", &DialogHands::set},     {"choose", &DialogHands::choose},
+    };
+    const auto found = all.find(command);
+    return found == all.end() ? nullptr : found->second;
+}
+
+bool DialogHands::play(host::Dialog& dialog, const Step& step) {
+    const Play known = playOf(step.words[0]);
+    if (known == nullptr)
+        return false;
+    Arguments arguments({step.words.begin() + 1, step.words.end()});
+    (this->*known)(dialog, arguments);
+    return true;
+}
+
+// The release is a step of its own that follows.
+void DialogHands::hit(host::Dialog& dialog, Arguments& arguments) {
+    const paint::PixelRect bounds = itemIn(dialog, arguments).bounds;
+    arguments.done();
+    pressAt(dialog,
+            {std::floor((bounds.left + bounds.right) / 2.0), std::floor((bounds.top + bounds.bottom) / 2.0)});
+}
+
+void DialogHands::press(host::Dialog& dialog, Arguments& arguments) {
+    pressAt(dialog, pointInDialog(dialog, arguments));
+}
+
+void DialogHands::pressAt(host::Dialog& dialog, drawing::Point where) {
+    user_.press(where);
+    const host::DialogItem* item = dialog.itemAt(pixelAt(where));
+    if (item == nullptr)
+        return;
+    if (isControl(*item)) {
+        pressedControl_ = item->number;
+        return;
+    }
+    if (item->kind == host::ItemKind::EditText) {
+        const int end = static_cast<int>(item->text.size());
+        dialog.selectText(item->number, {end, end});
+    }
+    dialog.hit(item->number);
+}
+
+void DialogHands::move(host::Dialog& dialog, Arguments& arguments) {
+    user_.moveTo(pointInDialog(dialog, arguments));
+}
+
+void DialogHands::release(host::Dialog& dialog, Arguments& arguments) {
+    arguments.done();
+    user_.release();
+    const host::DialogItem* pressed = dialog.item(std::exchange(pressedControl_, 0));
+    if (pressed != nullptr && pressed->bounds.contains(pixelAt(user_.mouse().at)))
+        dialog.hit(pressed->number);
+}
+
+void DialogHands::focus(host::Dialog& dialog, Arguments& arguments) {
+    const int item = itemIn(dialog, arguments).number;
+    arguments.done();
+    dialog.setFocus(item);
+}
+
+void DialogHands::type(host::Dialog& dialog, Arguments& arguments) {
+    const std::string text = arguments.text("the text");
+    arguments.done();
+    checkFocus(dialog);
+    for (const char32_t key : toolbox::codePointsOf(composed(text)))
+        keys_.push_back(key);
+}
+
+void DialogHands::strikeKey(host::Dialog& dialog) {
+    const char32_t key = keys_.front();
+    keys_.pop_front();
+    if (dialog.typeCharacter(key) == host::EditOutcome::Refused)
+        user_.beep();
+}
+
+void DialogHands::erase(host::Dialog& dialog, Arguments& arguments) {
+    arguments.done();
+    checkFocus(dialog);
+    dialog.eraseBackward();
+}
+
+void DialogHands::set(host::Dialog& dialog, Arguments& arguments) {
+    const int item = itemOfKind(dialog, arguments, host::ItemKind::EditText, "edit field").number;
+    const std::string text = arguments.text("the text");
+    arguments.done();
+    if (dialog.enterText(item, text) == host::EditOutcome::Refused)
+        user_.beep();
+}
+
+void DialogHands::choose(host::Dialog& dialog, Arguments& arguments) {
+    const int item = itemOfKind(dialog, arguments, host::ItemKind::Popup, "popup menu").number;
+    const auto entry = static_cast<int>(arguments.integer("the entry", 1, kLastNumber));
+    arguments.done();
+    if (dialog.chooseEntry(item, entry) == host::EditOutcome::Refused)
+        throw PlayError("entry " + std::to_string(entry) + " of item " + std::to_string(item) +
+                        " cannot be chosen");
+}
+
+} // namespace easel::play

@@ -1,0 +1,55 @@
+// What the hands of the user that a scenario plays do in a dialog: pressing, typing, choosing.
+#pragma once
+
+#include "easel/play/Arguments.h"
+#include "easel/play/Step.h"
+
+#include <deque>
+
+namespace easel::host {
+class Dialog;
+}
+
+namespace easel::play {
+
+class ScriptedUser;
+
+class DialogHands {
+  public:
+    explicit DialogHands(ScriptedUser& user) : user_(user) {}
+
+    // Plays a step of the scenario in the dialog, which may hit an item or begin to type. False for a command
+    // that is not one for dialogs. Throws PlayError.
+    bool play(host::Dialog& dialog, const Step& step);
+
+    // Whether keys of an earlier step wait to be struck.
+    bool isTyping() const { return !keys_.empty(); }
+    // Strikes the next of them.
+    void strikeKey(host::Dialog& dialog);
+
+  private:
+    using Play = void (DialogHands::*)(host::Dialog&, Arguments&);
+    static Play playOf(const std::string& command);
+
+    void hit(host::Dialog& dialog, Arguments& arguments);
+    void press(host::Dialog& dialog, Arguments& arguments);
+    void move(host::Dialog& dialog, Arguments& arguments);
+    void release(host::Dialog& dialog, Arguments& arguments);
+    void focus(host::Dialog& dialog, Arguments& arguments);
+    void type(host::Dialog& dialog, Arguments& arguments);
+    void erase(host::Dialog& dialog, Arguments& arguments);
+    void set(host::Dialog& dialog, Arguments& arguments);
+    void choose(host::Dialog& dialog, Arguments& arguments);
+
+    void pressAt(host::Dialog& dialog, drawing::Point where);
+
+    ScriptedUser& user_;
+    int pressedControl_ = 0; // a control that is hit if the button is released in it, or 0
+    std::deque<char32_t> keys_;
+};
+
+// The point that the arguments name in a dialog, in its local pixels: `H V`, or `item N H V` from the item's
+// top-left corner. Pixels are whole.
+drawing::Point pointInDialog(const host::Dialog& dialog, Arguments& arguments);
+
+} // namespace easel::play

@@ -1,0 +1,95 @@
+// Describes what is open in front of the drawing.
+#include "easel/play/OpenQuestions.h"
+
+#include "easel/interface/Alert.h"
+#include "easel/interface/DeletionList.h"
+#include "easel/interface/Dialog.h"
+
+#include <algorithm>
+
+namespace easel::play {
+
+namespace {
+
+const char* kindName(host::ItemKind kind) {
+    switch (kind) {
+    case host::ItemKind::Button:
+        return "button";
+    case host::ItemKind::EditText:
+        return "edit";
+    case host::ItemKind::UserDrawn:
+        return "user";
+    case host::ItemKind::Popup:
+        return "popup";
+    case host::ItemKind::Radio:
+        return "radio";
+    case host::ItemKind::StaticText:
+        break;
+    }
+    return "static";
+}
+
+Json textsOf(const host::Menu& menu) {
+    Json texts = Json::array();
+    for (int number = 1; number <= menu.count(); ++number)
+        texts.push_back(menu.text(number));
+    return texts;
+}
+
+Json describe(const host::DialogItem& item) {
+    const paint::PixelRect& bounds = item.bounds;
+    Json json{{"item", item.number},
+              {"kind", kindName(item.kind)},
+              {"bounds", {bounds.top, bounds.left, bounds.bottom, bounds.right}}};
+    if (item.kind != host::ItemKind::UserDrawn && item.kind != host::ItemKind::Popup)
+        json["text"] = item.shownText();
+    if (item.kind == host::ItemKind::EditText)
+        json["selection"] = {item.selection.from, item.selection.to};
+    if (item.kind == host::ItemKind::UserDrawn)
+        json["invalid"] = item.invalid;
+    if (item.kind == host::ItemKind::Popup || item.kind == host::ItemKind::Radio)
+        json["value"] = item.value;
+    if (item.kind == host::ItemKind::Popup)
+        json["menu"] = textsOf(*item.menu);
+    return json;
+}
+
+Json describe(const host::Dialog* dialog) {
+    Json items = Json::array();
+    for (const host::DialogItem& item : dialog->items())
+        items.push_back(describe(item));
+    return {{"id", dialog->id()}, {"items", std::move(items)}};
+}
+
+Json describe(const host::Alert* alert) {
+    return {{"id", alert->id}, {"kind", "alert"}, {"text", alert->text}};
+}
+
+Json describe(const ColorQuestion* question) {
+    const RGBColor& color = question->color;
+    return {{"id", "color"}, {"prompt", question->prompt}, {"color", {color.red, color.green, color.blue}}};
+}
+
+Json describe(const host::DeletionList* list) {
+    Json selected = Json::array();
+    for (const int row : list->selection())
+        selected.push_back(row + 1);
+    return {{"id", "delete"}, {"title", list->title()}, {"rows", list->rows()}, {"selected", selected}};
+}
+
+} // namespace
+
+host::Dialog* OpenQuestions::frontDialog() const {
+    const auto front = std::find_if(all_.rbegin(), all_.rend(), [](const Question& each) {
+        return std::holds_alternative<host::Dialog*>(each);
+    });
+    return front == all_.rend() ? nullptr : std::get<host::Dialog*>(*front);
+}
+
+Json OpenQuestions::describeFront() const {
+    if (all_.empty())
+        return nullptr;
+    return std::visit([](const auto* question) { return describe(question); }, all_.back());
+}
+
+} // namespace easel::play

@@ -1,0 +1,57 @@
+// What is open in front of the drawing: dialogs, alerts, the color picker, the deletion list.
+#pragma once
+
+#include "easel/play/Json.h"
+#include "host/Gradient.h"
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace easel::host {
+class DeletionList;
+class Dialog;
+struct Alert;
+} // namespace easel::host
+
+namespace easel::play {
+
+// The color picker, which has no model of its own.
+struct ColorQuestion {
+    std::string prompt;
+    RGBColor color;
+};
+
+using Question =
+    std::variant<host::Dialog*, const host::Alert*, const ColorQuestion*, const host::DeletionList*>;
+
+class OpenQuestions {
+  public:
+    void open(Question question) { all_.push_back(question); }
+    void close(Question question) { std::erase(all_, question); }
+
+    // The dialog in front of the other dialogs, also while something else is open in front of it; or null.
+    host::Dialog* frontDialog() const;
+    // The front one as `print dialog` writes it; null when nothing is open.
+    Json describeFront() const;
+
+  private:
+    std::vector<Question> all_; // the front one last
+};
+
+// Keeps a question open for a scope.
+class QuestionScope {
+  public:
+    QuestionScope(OpenQuestions& open, Question question) : open_(open), question_(question) {
+        open_.open(question_);
+    }
+    QuestionScope(const QuestionScope&) = delete;
+    QuestionScope& operator=(const QuestionScope&) = delete;
+    ~QuestionScope() { open_.close(question_); }
+
+  private:
+    OpenQuestions& open_;
+    Question question_;
+};
+
+} // namespace easel::play
