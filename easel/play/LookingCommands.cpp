@@ -1,6 +1,7 @@
-// Commands that look: prints.
+// Commands that look: prints and pictures.
 #include "easel/interface/Journal.h"
 #include "easel/play/Command.h"
+#include "easel/play/DialogPictures.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
@@ -39,8 +40,18 @@ void print(Session& session, Arguments& arguments) {
     session.print(answer);
 }
 
+void picture(Session& session, Arguments& arguments) {
+    if (arguments.takeIf("item"))
+        pictureOfItem(session, arguments);
+    else if (arguments.takeIf("dialog"))
+        pictureOfDialog(session, arguments);
+    else
+        throw PlayError("a picture is of an item or of a dialog");
+}
+
 constexpr Command kCommands[] = {
     {"print", When::always, print},
+    {"picture", When::always, picture},
 };
 
 } // namespace

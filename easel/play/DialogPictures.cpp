@@ -1,0 +1,55 @@
+// Writes parts of a dialog's image as pictures.
+#include "easel/play/DialogPictures.h"
+
+#include "easel/interface/Dialog.h"
+#include "easel/paint/PngFile.h"
+#include "easel/paint/Port.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Session.h"
+
+#include <limits>
+
+namespace easel::play {
+
+namespace {
+
+const host::Dialog& frontDialog(Session& session) {
+    const host::Dialog* dialog = session.user().questions().frontDialog();
+    if (dialog == nullptr)
+        throw PlayError("no dialog is open");
+    return *dialog;
+}
+
+void write(Session& session, const paint::Port& port, const paint::PixelRect& area, const std::string& file) {
+    const paint::PixelRect part =
+        intersection(port.imageRect(area), {0, 0, port.imageHeight(), port.imageWidth()});
+    if (part.empty())
+        throw PlayError("there is nothing to be seen there");
+    const std::ptrdiff_t width = port.imageWidth();
+    const paint::PixelRows rows{port.pixels() + part.top * width + part.left, part.width(), part.height(),
+                                width * std::ptrdiff_t{sizeof(std::uint32_t)}};
+    if (const auto error = paint::writePng(session.resolve(file), rows))
+        throw PlayError(error->message());
+}
+
+} // namespace
+
+void pictureOfItem(Session& session, Arguments& arguments) {
+    const host::Dialog& dialog = frontDialog(session);
+    const long number = arguments.integer("the item", 1, std::numeric_limits<std::int16_t>::max());
+    const std::string file = arguments.text("the file");
+    arguments.done();
+    const host::DialogItem* item = dialog.item(static_cast<int>(number));
+    if (item == nullptr)
+        throw PlayError("the dialog has no item " + std::to_string(number));
+    write(session, dialog.port(), item->bounds, file);
+}
+
+void pictureOfDialog(Session& session, Arguments& arguments) {
+    const host::Dialog& dialog = frontDialog(session);
+    const std::string file = arguments.text("the file");
+    arguments.done();
+    write(session, dialog.port(), dialog.port().bounds(), file);
+}
+
+} // namespace easel::play
