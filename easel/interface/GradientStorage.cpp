@@ -1,4 +1,5 @@
 // Implements the storing of gradients that host/Gradient.h declares.
+#include "easel/interface/Journal.h"
 #include "easel/toolbox/GradientBytes.h"
 #include "easel/toolbox/MemoryBlocks.h"
 
@@ -7,6 +8,7 @@
 using namespace easel;
 
 Handle MakeGradientData(CGradientData const& data) {
+    host::journal("MakeGradientData");
     const auto bytes = toolbox::gradientToBytes(data);
     if (!bytes)
         return nullptr;
@@ -17,6 +19,7 @@ Handle MakeGradientData(CGradientData const& data) {
 }
 
 bool ExtractGradientInfo(char* bytes, long size, CGradientData& out) {
+    host::journal("ExtractGradientInfo", size);
     if (!bytes || size < 0)
         return false;
     auto read = toolbox::gradientFromBytes(

@@ -128,6 +128,20 @@ OrFileError<TemporaryFile> TemporaryFile::write(const fs::path& folder,
                      std::make_error_code(std::errc::file_exists)};
 }
 
+std::optional<TemporaryFile> TemporaryFile::linkTo(const fs::path& file) {
+    const auto path = folderOf(file) / newTemporaryName();
+    if (::link(file.c_str(), path.c_str()) != 0)
+        return std::nullopt;
+    TemporaryFile marker(
+        path, FileDescriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK)));
+    if (marker.open_) {
+        ::flock(marker.open_.number(), LOCK_EX | LOCK_NB);
+        return marker;
+    }
+    ::unlink(path.c_str());
+    return std::nullopt;
+}
+
 TemporaryFile::~TemporaryFile() {
     if (open_)
         ::unlink(path_.c_str());

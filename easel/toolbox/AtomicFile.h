@@ -32,6 +32,9 @@ class TemporaryFile {
     static OrFileError<TemporaryFile> write(const std::filesystem::path& folder,
                                             std::span<const std::uint8_t> content);
 
+    /// A temporary second name for a file, in its folder; nothing where the file system has no such names.
+    static std::optional<TemporaryFile> linkTo(const std::filesystem::path& file);
+
     TemporaryFile(TemporaryFile&& other) noexcept = default;
     TemporaryFile& operator=(TemporaryFile&&) = delete;
     TemporaryFile(const TemporaryFile&) = delete;
@@ -42,6 +45,8 @@ class TemporaryFile {
     const FileDescriptor& descriptor() const { return open_; }
     /// Takes the place of `target`, which lies in the same folder.
     [[nodiscard]] FileOutcome moveTo(const std::filesystem::path& target);
+    /// Lets go of the file as a crash would: the next start clears it away.
+    void leaveBehind() { open_.close(); }
 
   private:
     TemporaryFile(std::filesystem::path path, FileDescriptor open)

@@ -1,0 +1,84 @@
+// Implements the files of host/Files.h.
+#include "host/Files.h"
+
+#include "easel/interface/HostSpec.h"
+#include "easel/interface/Journal.h"
+#include "easel/interface/Storage.h"
+#include "easel/toolbox/MacRoman.h"
+
+#include <algorithm>
+#include <cstring>
+
+using namespace easel;
+using host::journal;
+using host::theStorage;
+using toolbox::fromMacRoman;
+
+namespace {
+
+// Room for one record more at the end of a listing.
+bool append(FSSpec** list, const FSSpec& spec) {
+    const Handle block = reinterpret_cast<Handle>(list);
+    const long size = GetHandleSize(block);
+    if (!SetHandleSize(block, size + static_cast<long>(sizeof(FSSpec))))
+        return false;
+    std::memcpy(*block + size, &spec, sizeof(FSSpec));
+    return true;
+}
+
+} // namespace
+
+namespace easel::host {
+
+toolbox::FileSpec fileSpecFrom(const FSSpec& spec) {
+    const std::size_t length = std::min<std::size_t>(spec.name[0], sizeof(spec.name) - 1);
+    return {spec.vRefNum, spec.parID, std::string(reinterpret_cast<const char*>(spec.name + 1), length)};
+}
+
+FSSpec hostSpecFrom(const toolbox::FileSpec& spec) {
+    FSSpec out{};
+    out.vRefNum = spec.volume;
+    out.parID = spec.folder;
+    const std::size_t length = std::min(spec.name.size(), sizeof(out.name) - 1);
+    out.name[0] = static_cast<std::uint8_t>(length);
+    std::memcpy(out.name + 1, spec.name.data(), length);
+    return out;
+}
+
+} // namespace easel::host
+
+FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create) {
+    journal("FindSecondaryPreferencesFolder", fromMacRoman(name.Text()), create);
+    const auto found = theStorage().files().findSecondaryFolder(
+        name.Text(), create ? toolbox::FolderCreation::IfMissing : toolbox::FolderCreation::Never);
+    if (found.failure)
+        theStorage().tellNothingIsKept(*found.failure);
+    return host::hostSpecFrom(found.spec);
+}
+
+void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** list) {
+    journal("EnumerShell", vRefNum, dirID, fileType);
+    for (const auto& file : theStorage().files().list(vRefNum, dirID))
+        if (file.info.type == fileType &&
+            !append(list, host::hostSpecFrom({vRefNum, static_cast<std::int32_t>(dirID), file.hostName})))
+            return;
+}
+
+OSErr FSMakeFSSpec(short vRefNum, long dirID, CStr255 const& name, FSSpec* out) {
+    journal("FSMakeFSSpec", vRefNum, dirID, fromMacRoman(name.Text()));
+    toolbox::FileSpec spec;
+    const auto result = theStorage().files().resolve(vRefNum, dirID, name.Text(), spec);
+    if (result == toolbox::FileResult::Done || result == toolbox::FileResult::NoSuchFile)
+        *out = host::hostSpecFrom(spec);
+    return static_cast<OSErr>(result);
+}
+
+OSErr FSpDelete(FSSpec const* spec) {
+    journal("FSpDelete");
+    return static_cast<OSErr>(theStorage().files().remove(host::fileSpecFrom(*spec)));
+}
+
+void FSpCreateResFile(FSSpec const* spec, OSType creator, OSType fileType, short scriptCode) {
+    journal("FSpCreateResFile", creator, fileType, scriptCode);
+    theStorage().files().create(host::fileSpecFrom(*spec), {fileType, creator});
+}

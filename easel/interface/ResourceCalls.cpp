@@ -1,0 +1,47 @@
+// Implements the resource files of host/Files.h.
+#include "host/Files.h"
+
+#include "easel/interface/HostSpec.h"
+#include "easel/interface/Journal.h"
+#include "easel/interface/Storage.h"
+#include "easel/toolbox/MacRoman.h"
+
+using namespace easel;
+using host::journal;
+using host::theStorage;
+
+short FSpOpenResFile(FSSpec const* spec, signed char permission) {
+    journal("FSpOpenResFile", permission);
+    const auto access = permission == kReadPermission ? toolbox::Access::Read : toolbox::Access::Write;
+    return theStorage().resourceFiles().open(host::fileSpecFrom(*spec), access);
+}
+
+short CurResFile() {
+    journal("CurResFile");
+    return theStorage().resourceFiles().current();
+}
+
+void UseResFile(short refNum) {
+    journal("UseResFile", refNum);
+    theStorage().resourceFiles().use(refNum);
+}
+
+void CloseResFile(short refNum) {
+    journal("CloseResFile", refNum);
+    theStorage().resourceFiles().close(refNum);
+}
+
+void AddResource(Handle data, OSType type, short id, CStr255 const& name) {
+    journal("AddResource", type, id, toolbox::fromMacRoman(name.Text()));
+    theStorage().resourceFiles().add(data, type, id, name.Text());
+}
+
+Handle GetResource(OSType type, short id) {
+    journal("GetResource", type, id);
+    return theStorage().resourceFiles().get(type, id);
+}
+
+void DetachResource(Handle resource) {
+    journal("DetachResource");
+    theStorage().resourceFiles().detach(resource);
+}

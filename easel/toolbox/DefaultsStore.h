@@ -1,0 +1,27 @@
+// The defaults that outlive a run: typed, numbered, named blocks in one resource file in the preferences
+// folder.
+#pragma once
+
+#include "easel/toolbox/HostFiles.h"
+#include "easel/toolbox/ResourceFork.h"
+
+namespace easel::toolbox {
+
+/// Nothing is cached, so that two programs with one preferences folder see each other's changes; the later
+/// wins.
+class DefaultsStore {
+  public:
+    explicit DefaultsStore(StoragePlaces places) : places_(std::move(places)) {}
+
+    std::filesystem::path file() const { return places_.preferences / "Defaults.rsrc"; }
+
+    /// Everything stored. A file that is missing holds nothing.
+    OrFileError<ResourceFork> read() const;
+    /// Stores a default in place of an earlier one. A damaged file goes to the trash first.
+    [[nodiscard]] FileOutcome put(Resource resource) const;
+
+  private:
+    StoragePlaces places_;
+};
+
+} // namespace easel::toolbox

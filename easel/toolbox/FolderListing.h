@@ -1,0 +1,19 @@
+// What lies in a folder of host files.
+#pragma once
+
+#include "easel/toolbox/FilePair.h"
+
+namespace easel::toolbox {
+
+struct ListedFile {
+    std::string hostName; ///< Mac Roman
+    FilePair file;
+    FinderInfo info;
+};
+
+/// The files directly in the folder that the host can name, in the order of their names, upper and lower case
+/// alike. Of each file no more is read than tells its type; folders, links to nowhere and header files are no
+/// files.
+std::vector<ListedFile> listFolder(const std::filesystem::path& folder);
+
+} // namespace easel::toolbox
