@@ -55,8 +55,8 @@ std::int32_t PluginModule::send(std::int16_t message) {
     return entry_(message, nullptr);
 }
 
-fs::path PluginModule::resourceFolder() const {
-    return file_.parent_path() / file_.stem();
+fs::path PluginModule::resourceFolder(const fs::path& file) {
+    return file.parent_path() / file.stem();
 }
 
 fs::path PluginModule::defaultFile() {

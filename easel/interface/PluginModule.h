@@ -31,7 +31,8 @@ class PluginModule {
     const std::filesystem::path& file() const { return file_; }
 
     // The folder of the module's resources: beside the module, under its name.
-    std::filesystem::path resourceFolder() const;
+    std::filesystem::path resourceFolder() const { return resourceFolder(file_); }
+    static std::filesystem::path resourceFolder(const std::filesystem::path& file);
 
     // Where the module of this program is: in `plugins` beside the program, else in `../lib/easel/plugins`.
     // Gives the first of the two when neither exists, so that the error names the place where it is expected.

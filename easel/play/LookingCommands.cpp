@@ -24,8 +24,9 @@ using Print = Json (*)(Session&, Arguments&);
 
 const std::map<std::string, Print>& prints() {
     static const std::map<std::string, Print> all{
-        {"object", printObject},   {"fit", printFit},         {"window", printWindow},
-        {"palette", printPalette}, {"journal", printJournal}, {"dialog", printDialog},
+        {"object", printObject},       {"fit", printFit},           {"window", printWindow},
+        {"palette", printPalette},     {"journal", printJournal},   {"dialog", printDialog},
+        {"templates", printTemplates}, {"defaults", printDefaults}, {"resourcefiles", printResourceFiles},
     };
     return all;
 }

@@ -2,7 +2,9 @@
 #include "easel/play/Play.h"
 
 #include "easel/interface/PluginModule.h"
+#include "easel/interface/Storage.h"
 #include "easel/play/Session.h"
+#include "easel/toolbox/ScratchFolder.h"
 
 #include <cerrno>
 #include <cstring>
@@ -46,6 +48,14 @@ fs::path folderOf(const std::string& file) {
     return file == kStandardInput ? fs::current_path() : fs::absolute(file).parent_path();
 }
 
+// With a folder of its own a scenario leaves nothing behind, in the desktop's trash neither.
+toolbox::StoragePlaces placesOf(const PlayRequest& request,
+                                const std::optional<toolbox::ScratchFolder>& scratch) {
+    if (scratch)
+        return toolbox::StoragePlaces::within(scratch->path());
+    return {fs::absolute(request.preferences), toolbox::Trash::desktopHome()};
+}
+
 } // namespace
 
 PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::ostream& answers,
@@ -53,13 +63,26 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
     auto script = readScript(request.file, input, messages);
     if (!script)
         return PlayOutcome::failed;
+    std::optional<toolbox::ScratchFolder> scratch;
+    if (request.preferences.empty()) {
+        auto made = toolbox::ScratchFolder::make();
+        if (const auto* error = std::get_if<toolbox::FileError>(&made)) {
+            messages << error->message() << '\n';
+            return PlayOutcome::failed;
+        }
+        scratch.emplace(std::get<toolbox::ScratchFolder>(std::move(made)));
+    }
+    host::useStorage(placesOf(request, scratch));
     Session session({.script = std::move(*script),
                      .name = request.file,
                      .folder = folderOf(request.file),
                      .plugin = request.plugin.empty() ? host::PluginModule::defaultFile() : request.plugin,
                      .answers = &answers,
                      .messages = &messages});
-    return session.play() ? PlayOutcome::played : PlayOutcome::failed;
+    const bool played = session.play();
+    session.unloadPlugin();
+    host::theStorage().files().settle();
+    return played ? PlayOutcome::played : PlayOutcome::failed;
 }
 
 } // namespace easel::play

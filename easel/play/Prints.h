@@ -13,5 +13,8 @@ Json printObject(Session& session, Arguments& arguments);
 Json printFit(Session& session, Arguments& arguments);
 Json printWindow(Session& session, Arguments& arguments);
 Json printPalette(Session& session, Arguments& arguments);
+Json printTemplates(Session& session, Arguments& arguments);
+Json printDefaults(Session& session, Arguments& arguments);
+Json printResourceFiles(Session& session, Arguments& arguments);
 
 } // namespace easel::play

@@ -58,6 +58,7 @@ class Session {
 
     // Throws PlayError if the module cannot be loaded.
     host::PluginModule& plugin();
+    const std::filesystem::path& pluginFile() const { return plan_.plugin; }
     bool pluginLoaded() const { return plugin_ != nullptr; }
     void unloadPlugin();
     // Throws PlayError if no tool has been registered.

@@ -1,0 +1,82 @@
+// Prints what the host keeps on disk: templates, defaults and open resource files.
+#include "easel/interface/Storage.h"
+#include "easel/interface/TemplateFolder.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Prints.h"
+#include "easel/play/Session.h"
+#include "easel/toolbox/MacRoman.h"
+
+namespace easel::play {
+
+namespace {
+
+using toolbox::fromMacRoman;
+
+std::string codeText(std::uint32_t code) {
+    std::string text;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        text += static_cast<char>(static_cast<unsigned char>(code >> shift));
+    return fromMacRoman(text);
+}
+
+Json resourceOf(const toolbox::Resource& resource) {
+    return {{"type", codeText(resource.type)},
+            {"id", resource.id},
+            {"name", fromMacRoman(resource.name.value_or(""))},
+            {"bytes", resource.data.size()}};
+}
+
+Json resourcesOf(const toolbox::ResourceFork& fork) {
+    Json resources = Json::array();
+    for (const auto& resource : fork.resources())
+        resources.push_back(resourceOf(resource));
+    return resources;
+}
+
+// A file whose resources cannot be read has none to show.
+Json resourcesIn(const toolbox::FilePair& file) {
+    const auto header = toolbox::readHeader(file);
+    if (std::holds_alternative<toolbox::FileError>(header))
+        return Json::array();
+    const auto fork = toolbox::ResourceFork::read(std::get<toolbox::AppleDouble>(header).resourceFork());
+    const auto* const resources = std::get_if<toolbox::ResourceFork>(&fork);
+    return resources ? resourcesOf(*resources) : Json::array();
+}
+
+Json fileOf(const toolbox::ListedFile& file) {
+    std::error_code error;
+    const auto dataBytes = std::filesystem::file_size(file.file.data(), error);
+    return {{"name", fromMacRoman(file.hostName)},
+            {"type", codeText(file.info.type)},
+            {"creator", codeText(file.info.creator)},
+            {"dataBytes", error ? 0 : dataBytes},
+            {"resources", resourcesIn(file.file)}};
+}
+
+} // namespace
+
+Json printTemplates(Session& session, Arguments&) {
+    auto& files = host::theStorage().files();
+    const auto folder = host::templateFolder(session.pluginFile(), files.places());
+    if (const auto* const error = std::get_if<toolbox::FileError>(&folder))
+        throw PlayError(error->message());
+    files.settle();
+    Json templates = Json::array();
+    for (const auto& file : toolbox::listFolder(std::get<std::filesystem::path>(folder)))
+        templates.push_back(fileOf(file));
+    return {{"templates", std::move(templates)}};
+}
+
+Json printDefaults(Session&, Arguments&) {
+    const auto stored = host::theStorage().defaults().read();
+    if (const auto* const error = std::get_if<toolbox::FileError>(&stored))
+        throw PlayError(error->message());
+    return {{"defaults", resourcesOf(std::get<toolbox::ResourceFork>(stored))}};
+}
+
+Json printResourceFiles(Session&, Arguments&) {
+    const auto& files = host::theStorage().resourceFiles();
+    return {{"resourceFiles", {{"current", files.current()}, {"open", files.openFiles()}}}};
+}
+
+} // namespace easel::play
