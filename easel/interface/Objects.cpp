@@ -28,11 +28,17 @@ template <class Change> void changeOwn(const std::shared_ptr<HostObject>& state,
     state->object = std::make_shared<const drawing::Object>(std::move(own));
 }
 
+const SharedResourcePtr<CPatRecord>& blackPattern() {
+    static const SharedResourcePtr<CPatRecord> black(
+        new CPatRecord({0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff}));
+    return black;
+}
+
 drawing::FillPattern patternKind(SharedResourcePtr<CPatRecord> const& pattern) {
     const CPatRecord* rows = pattern;
     if (!rows)
         return drawing::FillPattern::None;
-    const CPatRecord* black = kBlackPat();
+    const CPatRecord* black = blackPattern();
     return rows->Rows() == black->Rows() ? drawing::FillPattern::SolidBlack : drawing::FillPattern::Other;
 }
 
@@ -67,10 +73,8 @@ std::uint32_t CPatRecord::HashID() const {
 }
 
 SharedResourcePtr<CPatRecord> kBlackPat() {
-    static const SharedResourcePtr<CPatRecord> black(
-        new CPatRecord({0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff}));
     journal("kBlackPat");
-    return black;
+    return blackPattern();
 }
 
 short TessObject::WhatObject() const {

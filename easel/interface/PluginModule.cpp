@@ -1,6 +1,9 @@
 // Loads the plug-in with the dynamic linker.
 #include "easel/interface/PluginModule.h"
 
+#include "easel/interface/PluginResourceFile.h"
+#include "easel/interface/ToolPalette.h"
+
 #include <dlfcn.h>
 
 #include <string>
@@ -49,6 +52,13 @@ PluginModule::PluginModule(const fs::path& file) : file_(fs::absolute(file)) {
     if (!entry)
         throw PluginError(file_.string() + ": not a plug-in: it has no MainEntry");
     entry_ = reinterpret_cast<Entry>(entry);
+    if (const toolbox::FileOutcome trouble = openPluginResources(resourceFolder()))
+        resourceTrouble_ = trouble->message();
+}
+
+PluginModule::~PluginModule() {
+    thePalette().clear();
+    closePluginResources();
 }
 
 std::int32_t PluginModule::send(std::int16_t message) {

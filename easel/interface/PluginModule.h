@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <stdexcept>
+#include <string>
 
 struct XTNLParmBlk;
 
@@ -21,14 +23,22 @@ constexpr std::int16_t kShutDownMessage = 2;
 
 class PluginModule {
   public:
-    // Loads the module and finds its entry. Throws PluginError if the file is missing, no module, or lacks
-    // the entry.
+    // Loads the module, finds its entry and opens its resources. Throws PluginError if the file is missing,
+    // no module, or lacks the entry.
     explicit PluginModule(const std::filesystem::path& file);
+    // Takes the plug-in's tools out of the palette and unloads the module.
+    ~PluginModule();
+    PluginModule(const PluginModule&) = delete;
+    PluginModule& operator=(const PluginModule&) = delete;
 
     // Sends a message as it stands and returns what the entry answers.
     std::int32_t send(std::int16_t message);
 
     const std::filesystem::path& file() const { return file_; }
+
+    // What is wrong with the plug-in's resources, naming the file; it then runs without texts, dialogs and
+    // pictures.
+    const std::optional<std::string>& resourceTrouble() const { return resourceTrouble_; }
 
     // The folder of the module's resources: beside the module, under its name.
     std::filesystem::path resourceFolder() const { return resourceFolder(file_); }
@@ -47,6 +57,7 @@ class PluginModule {
     std::filesystem::path file_;
     std::unique_ptr<void, Unload> library_;
     Entry entry_ = nullptr;
+    std::optional<std::string> resourceTrouble_;
 };
 
 } // namespace easel::host

@@ -2,8 +2,6 @@
 #include "easel/play/Session.h"
 
 #include "easel/interface/Host.h"
-#include "easel/interface/Journal.h"
-#include "easel/interface/PluginResourceFile.h"
 #include "easel/interface/ToolPalette.h"
 #include "easel/play/Arguments.h"
 #include "easel/play/Command.h"
@@ -48,7 +46,7 @@ Session::Session(SessionPlan plan) : plan_(std::move(plan)), steps_(plan_.script
 }
 
 Session::~Session() {
-    unloadPlugin();
+    plugin_.reset();
     windows_.clear();
     host::theHost().user = nullptr;
 }
@@ -118,20 +116,13 @@ host::PluginModule& Session::plugin() {
     if (!plugin_) {
         try {
             plugin_ = std::make_unique<host::PluginModule>(plan_.plugin);
-            // Without its resources a plug-in has no texts and no dialogs, and still works.
-            if (const auto error = host::openPluginResources(plugin_->resourceFolder()))
-                say(error->message());
         } catch (const host::PluginError& error) {
             throw PlayError(error.what());
         }
+        if (plugin_->resourceTrouble())
+            say(*plugin_->resourceTrouble());
     }
     return *plugin_;
-}
-
-void Session::unloadPlugin() {
-    host::thePalette().clear();
-    plugin_.reset();
-    host::closePluginResources();
 }
 
 const HostTool& Session::activeTool() const {

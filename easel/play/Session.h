@@ -60,7 +60,7 @@ class Session {
     host::PluginModule& plugin();
     const std::filesystem::path& pluginFile() const { return plan_.plugin; }
     bool pluginLoaded() const { return plugin_ != nullptr; }
-    void unloadPlugin();
+    void unloadPlugin() { plugin_.reset(); }
     // Throws PlayError if no tool has been registered.
     const HostTool& activeTool() const;
 
