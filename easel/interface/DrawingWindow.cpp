@@ -1,12 +1,16 @@
-// Keeps what of a drawing's window has to be painted anew.
+// Paints a drawing into its window's image where it was marked.
 #include "easel/interface/DrawingWindow.h"
 
 #include "easel/interface/CurrentPort.h"
 #include "easel/interface/Host.h"
 #include "easel/interface/User.h"
 #include "easel/paint/Port.h"
+#include "easel/paint/RenderDrawing.h"
 #include "easel/paint/Surface.h"
 
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
 #include <utility>
 
 namespace easel::host {
@@ -26,6 +30,33 @@ View wholeDrawing(const drawing::Drawing& drawing) {
 drawing::Box seenThrough(const View& view) {
     const drawing::Point end = view.toDrawing({view.width, view.height});
     return {view.origin.x, view.origin.y, end.x, end.y};
+}
+
+// In pixels, each way: what fits the image formats that windows and files use.
+constexpr double kLargestImage = 32767;
+
+int imageLength(double length, double scale) {
+    const double pixels = std::max(1.0, std::ceil(length * scale));
+    if (!(pixels <= kLargestImage))
+        throw std::length_error("the window is too large to be painted");
+    return static_cast<int>(pixels);
+}
+
+// Every pixel that the area touches.
+paint::PixelBox pixelsOf(const drawing::Box& area, const drawing::Affine& toImage,
+                         const paint::Surface& image) {
+    const drawing::Point corner = toImage({area.left, area.top});
+    const drawing::Point end = toImage({area.right, area.bottom});
+    const auto pixel = [](double at, int limit) {
+        return static_cast<int>(std::clamp(at, 0.0, static_cast<double>(limit)));
+    };
+    return {pixel(std::floor(corner.x), image.width()), pixel(std::floor(corner.y), image.height()),
+            pixel(std::ceil(end.x), image.width()), pixel(std::ceil(end.y), image.height())};
+}
+
+void whiten(paint::Surface& image, const paint::PixelBox& box) {
+    for (int y = box.top; y < box.bottom; ++y)
+        std::fill(image.row(y) + box.left, image.row(y) + box.right, kWhite);
 }
 
 } // namespace
@@ -65,6 +96,22 @@ void DrawingWindow::mark(const drawing::Box& area) {
     for (const drawing::Box& one : marks_)
         all.add(one);
     marks_.assign(1, all);
+}
+
+void DrawingWindow::paintMarked() {
+    const int width = imageLength(view_.width, view_.deviceScale);
+    const int height = imageLength(view_.height, view_.deviceScale);
+    if (!image_ || image_->width() != width || image_->height() != height) {
+        image_ = std::make_unique<paint::Surface>(width, height);
+        marks_.assign(1, seenThrough(view_));
+    }
+    for (const drawing::Box& mark : std::exchange(marks_, {})) {
+        const paint::PixelBox box = pixelsOf(mark, view_.toImage(), *image_);
+        if (box.empty())
+            continue;
+        whiten(*image_, box);
+        paint::renderDrawing(drawing_, image_->view().clippedTo(box), view_.toImage());
+    }
 }
 
 } // namespace easel::host

@@ -46,8 +46,10 @@ class DrawingWindow {
     // themselves and tell the user.
     void mark(const drawing::Box& area);
     bool hasMarks() const { return !marks_.empty(); }
-    // Paints what is marked. Throws std::bad_alloc if there is no memory for an image of this size.
+    // Paints what is marked. Throws std::length_error or std::bad_alloc if the view is too large for an
+    // image.
     void paintMarked();
+    bool painted() const { return image_ != nullptr; }
     // Painted at least once before this is asked for.
     const paint::Surface& image() const { return *image_; }
 

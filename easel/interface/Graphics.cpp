@@ -33,8 +33,8 @@ paint::SurfaceView surfaceOf(paint::Port& port) {
 
 drawing::Affine toImage(paint::Port const& port) {
     const paint::PixelRect origin = port.imageRect({});
-    return {port.scale(), 0, 0, port.scale(), static_cast<double>(origin.left),
-            static_cast<double>(origin.top)};
+    return {
+        port.scale(), 0, 0, port.scale(), static_cast<double>(origin.left), static_cast<double>(origin.top)};
 }
 
 drawing::Rgb16 toRgb(RGBColor const& color) {

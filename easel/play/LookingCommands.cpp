@@ -2,6 +2,7 @@
 #include "easel/interface/Journal.h"
 #include "easel/play/Command.h"
 #include "easel/play/DialogPictures.h"
+#include "easel/play/Pictures.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
@@ -47,7 +48,7 @@ void picture(Session& session, Arguments& arguments) {
     else if (arguments.takeIf("dialog"))
         pictureOfDialog(session, arguments);
     else
-        throw PlayError("a picture is of an item or of a dialog");
+        pictureOfWindow(session, arguments);
 }
 
 constexpr Command kCommands[] = {

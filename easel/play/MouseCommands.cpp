@@ -20,6 +20,8 @@ void press(Session& session, Arguments& arguments) {
     const drawing::Point where = pointInDrawing(arguments);
     const HostTool& tool = session.activeTool();
     host::DrawingWindow& window = session.frontWindow();
+    // The image as it is before the button goes down is what a drag begins with.
+    session.paintForPictures();
     session.user().press(where);
     host::clickWithTool(tool, window, where);
 }

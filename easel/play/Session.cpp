@@ -41,7 +41,9 @@ bool playAtAnyTime(Session& session, const Step& step) {
     return true;
 }
 
-Session::Session(SessionPlan plan) : plan_(std::move(plan)), steps_(plan_.script), user_(*this) {
+Session::Session(SessionPlan plan)
+    : plan_(std::move(plan)), steps_(plan_.script), user_(*this),
+      looksAtPictures_(plan_.script.find("picture") != std::string::npos) {
     host::theHost().user = &user_;
 }
 
@@ -110,6 +112,11 @@ std::size_t Session::objectIndex(const std::string& id) {
     if (static_cast<std::size_t>(index) >= drawing.size())
         throw PlayError("there is no object " + id + ": the drawing has " + std::to_string(drawing.size()));
     return static_cast<std::size_t>(index);
+}
+
+void Session::paintForPictures() {
+    if (looksAtPictures_)
+        frontWindow().paintMarked();
 }
 
 host::PluginModule& Session::plugin() {

@@ -56,6 +56,9 @@ class Session {
     // The index of an object of the front drawing: its element's id, or `@N` for index N. Throws PlayError.
     std::size_t objectIndex(const std::string& id);
 
+    // Brings the front window's image up to date, in scenarios that look at pictures.
+    void paintForPictures();
+
     // Throws PlayError if the module cannot be loaded.
     host::PluginModule& plugin();
     const std::filesystem::path& pluginFile() const { return plan_.plugin; }
@@ -77,6 +80,7 @@ class Session {
     std::vector<std::unique_ptr<host::DrawingWindow>> windows_; // the front one last
     // Held so that no address is used twice.
     std::vector<drawing::ObjectGradient> knownGradients_;
+    bool looksAtPictures_;
     std::unique_ptr<host::PluginModule> plugin_;
 };
 

@@ -52,10 +52,8 @@ message 32767
 message -32768
 print palette
 )");
-    for (const json& answer : played.answers)
-        if (answer.contains("message"))
-            EXPECT_EQ(answer["result"], 0) << answer;
     EXPECT_EQ(played.all("message").size(), 5u);
+    EXPECT_EQ(played.all("result"), std::vector<json>(5, json(0)));
     EXPECT_EQ(played["palette"], json::array());
 }
 
