@@ -60,7 +60,9 @@ Played Player::run(const std::vector<std::string>& arguments, const std::string&
     const std::filesystem::path err = folder_ / ".err";
     const std::filesystem::path in = folder_ / ".in";
     writeContent(in, input);
-    std::string command = "cd " + quoted(folder().string()) + " && exec " + quoted(EASEL_PROGRAM);
+    std::string command = "cd " + quoted(folder().string()) +
+                          " && XDG_DATA_HOME=" + quoted((folder_ / "data").string()) + " exec " +
+                          quoted(EASEL_PROGRAM);
     for (const std::string& argument : arguments)
         command += ' ' + quoted(argument);
     command += " <" + quoted(in.string()) + " >" + quoted(out.string()) + " 2>" + quoted(err.string());

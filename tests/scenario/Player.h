@@ -22,8 +22,8 @@ struct Played {
     std::vector<nlohmann::json> all(const std::string& key) const;
 };
 
-// A folder with a scenario in it, its preferences and whatever the scenario writes. Relative paths in
-// scenarios start from it.
+// A folder with a scenario in it, its preferences, the desktop's data (in `data`) and whatever the scenario
+// writes. Relative paths in scenarios start from it.
 class Player {
   public:
     // Keeps defaults and templates from one play to the next.
