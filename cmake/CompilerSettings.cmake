@@ -13,7 +13,9 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 add_compile_options(-ffp-contract=off)
 
 if(EASEL_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
+  # With coverage in everything, since a fuzzing engine learns from nothing else which inputs lead somewhere new.
+  add_compile_options(-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer -O1)
   add_link_options(-fsanitize=address,undefined)
 endif()
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")

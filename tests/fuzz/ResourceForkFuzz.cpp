@@ -1,0 +1,25 @@
+// Resource files: any bytes are refused, or give resources that survive writing and reading.
+#include "easel/toolbox/ResourceFork.h"
+
+#include <cstdlib>
+
+using namespace easel::toolbox;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto read = ResourceFork::read({data, size});
+    const auto* const fork = std::get_if<ResourceFork>(&read);
+    if (!fork)
+        return 0;
+    const auto written = fork->write();
+    if (!written)
+        return 0;
+    const auto again = ResourceFork::read(*written);
+    // Resources of one type come together when they are written, so compare one by one.
+    const auto* const back = std::get_if<ResourceFork>(&again);
+    if (!back || back->resources().size() != fork->resources().size())
+        std::abort();
+    for (const auto& resource : fork->resources())
+        if (*back->find(resource.type, resource.id) != *fork->find(resource.type, resource.id))
+            std::abort();
+    return 0;
+}
