@@ -1,6 +1,8 @@
 // Points, boxes and affine maps of the drawing: horizontal coordinate first, vertical axis downwards.
 #pragma once
 
+#include "host/Geometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -104,10 +106,10 @@ struct Affine {
 
     static Affine translation(double x, double y) { return {1, 0, 0, 1, x, y}; }
     static Affine scaling(double x, double y) { return {x, 0, 0, y, 0, 0}; }
-    static Affine rotation(double radians) {
-        const double cosine = std::cos(radians);
-        const double sine = std::sin(radians);
-        return {cosine, sine, -sine, cosine, 0, 0};
+    // Turns (1, 0) into (cos a, sin a); exact at whole quarter turns.
+    static Affine rotation(double degrees) {
+        const CosSin turn(degrees);
+        return {turn.cos, turn.sin, -turn.sin, turn.cos, 0, 0};
     }
 };
 

@@ -25,8 +25,7 @@ std::vector<FittedStop> completeRamp(const std::list<CGradientColor>& colors) {
 }
 
 Affine turnAbout(Point centre, double degrees) {
-    const CosSin turn(degrees);
-    return Affine::translation(centre.x, centre.y) * Affine{turn.cos, turn.sin, -turn.sin, turn.cos, 0, 0} *
+    return Affine::translation(centre.x, centre.y) * Affine::rotation(degrees) *
            Affine::translation(-centre.x, -centre.y);
 }
 

@@ -8,6 +8,7 @@
 #include "easel/drawing/Path.h"
 #include "easel/drawing/Style.h"
 
+#include <compare>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -50,16 +51,14 @@ enum class FillPattern : std::uint8_t { None, SolidBlack, Other };
 // Which fill the source file states for the object: the one it was read with, or one given since.
 enum class FillOrigin : std::uint8_t { File, Edited };
 
-// Byte offsets in the drawing's source file of the element an object came from.
+// The element an object came from: byte offsets in the text of the drawing's source file.
 struct ElementSpan {
-    std::uint32_t tagBegin = 0;   // the '<' of the start tag
-    std::uint32_t tagEnd = 0;     // one past its '>'; equal to tagBegin for an object that is in no file
-    std::uint32_t elementEnd = 0; // one past the end tag's '>', or tagEnd
-    std::uint32_t instance =
-        0; // objects of one `use` element share its span and are numbered from 1; 0 otherwise
+    std::uint32_t tagBegin = 0; // the '<' of the start tag
+    std::uint32_t tagEnd = 0;   // one past its '>'; equal to tagBegin for an object that is in no file
+    std::uint32_t use = 0;      // number of the repetition it was made by; 0 for the element where it stands
 
     bool inFile() const { return tagEnd > tagBegin; }
-    friend bool operator==(const ElementSpan&, const ElementSpan&) = default;
+    friend auto operator<=>(const ElementSpan&, const ElementSpan&) = default;
 };
 
 struct Object {

@@ -21,7 +21,7 @@ struct UnitArc {
 UnitArc unitArc(Point from, Point to, const ArcShape& shape) {
     double rx = std::abs(shape.radiusX);
     double ry = std::abs(shape.radiusY);
-    const Affine turn = Affine::rotation(shape.degrees * std::numbers::pi / 180);
+    const Affine turn = Affine::rotation(shape.degrees);
     const Point half = turn.inverse().direction((from - to) * 0.5);
     const double stretch = (half.x / rx) * (half.x / rx) + (half.y / ry) * (half.y / ry);
     if (stretch > 1) {

@@ -1,0 +1,42 @@
+// What a file holds that is kept but not shown.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace easel::svg {
+
+enum class Unshown : std::uint8_t {
+    Text,
+    Image,
+    Foreign,
+    Script,
+    Animation,
+    Filter,
+    Mask,
+    Blending,
+    Pattern,
+    Marker,
+    FixedStroke,
+    ClipShape,
+    ExternalSheet,
+    External,
+};
+inline constexpr std::size_t kUnshownCount = 14;
+
+class Notes {
+  public:
+    void add(Unshown what) { seen_[static_cast<std::size_t>(what)] = true; }
+    // Notes what cannot be shown of an element that is neither a shape nor holds shapes.
+    void addElement(std::string_view svgName);
+    // One sentence for each kind of thing.
+    std::vector<std::string> sentences() const;
+
+  private:
+    std::array<bool, kUnshownCount> seen_{};
+};
+
+} // namespace easel::svg

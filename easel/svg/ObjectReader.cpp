@@ -1,0 +1,138 @@
+#include "easel/svg/ObjectReader.h"
+
+#include "easel/svg/GradientRecord.h"
+#include "easel/svg/RecordText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace easel::svg {
+
+using drawing::ColorPaint;
+using drawing::FillPattern;
+using drawing::ForeignGradient;
+using drawing::NoPaint;
+using drawing::Object;
+using drawing::Paint;
+using drawing::Style;
+
+namespace {
+
+constexpr std::size_t kRecentStyles = 16;
+
+// The record that is written beside the gradient, as long as it still tells the same as the gradient itself:
+// other programs change the one and leave the other.
+std::optional<CGradientData> writtenRecord(const GradientElement& element, const ForeignGradient& placed,
+                                           const drawing::Path& outline) {
+    auto record = parseRecord(element.record);
+    if (!record)
+        return std::nullopt;
+    const auto standard = standardGradient(*record, outline);
+    if (standard && !alike(*standard, placed))
+        return std::nullopt;
+    return record;
+}
+
+FillPattern patternOf(const Paint& fill) {
+    if (std::holds_alternative<NoPaint>(fill))
+        return FillPattern::None;
+    const auto* const color = std::get_if<ColorPaint>(&fill);
+    return color && *color == ColorPaint{} ? FillPattern::SolidBlack : FillPattern::Other;
+}
+
+} // namespace
+
+Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opacity, const Place& place) {
+    scene_.budget.spend(Budget::kObject + shape.outline.points().size());
+    Object object;
+    object.kind = shape.kind;
+    object.id = element.attribute("id").value();
+    object.fillRule = place.style.fillRule;
+    object.outline = std::make_shared<const drawing::Path>(placedPath(shape.outline, place.toDrawing));
+    object.transform = place.toDrawing;
+    const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
+    setFill(object, at, place.style);
+
+    Style style;
+    style.stroke.paint = paint(place.style.stroke, at, place.style);
+    style.opacity = opacity;
+    style.fillOpacity = place.style.fillOpacity;
+    style.first = place.style.first;
+    if (!std::holds_alternative<NoPaint>(style.stroke.paint)) {
+        requireInRange(place.style.strokeWidth);
+        requireInRange(place.style.miterLimit);
+        requireInRange(place.style.dashOffset);
+        style.stroke.opacity = place.style.strokeOpacity;
+        style.stroke.width = std::max(place.style.strokeWidth, 0.0);
+        style.stroke.join = place.style.join;
+        style.stroke.cap = place.style.cap;
+        style.stroke.miterLimit = place.style.miterLimit;
+        style.stroke.dashOffset = place.style.dashOffset;
+        if (place.style.dashes)
+            style.stroke.dashes = *place.style.dashes;
+    }
+    object.style = shared(std::move(style));
+    return object;
+}
+
+void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedStyle& style) {
+    object.fill = paint(style.fill, at, style);
+    object.fillPattern = patternOf(object.fill);
+    const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill);
+    if (!foreign || !carriesGradient(object.kind))
+        return;
+    const GradientElement& element = *scene_.servers.gradient(style.fill.serverId);
+    auto record = writtenRecord(element, **foreign, *object.outline);
+    if (!record)
+        record = recordFor(**foreign, *object.outline);
+    if (!record)
+        return;
+    object.gradient = drawing::ObjectGradient(new CGradient(*record));
+    object.fillPattern = FillPattern::SolidBlack;
+    object.fill = NoPaint();
+}
+
+Paint ObjectReader::plainPaint(PaintSpec::Kind kind, const PaintSpec& spec,
+                               const ComputedStyle& style) const {
+    if (kind == PaintSpec::Kind::Color)
+        return spec.color;
+    if (kind == PaintSpec::Kind::CurrentColor)
+        return style.color;
+    return NoPaint();
+}
+
+Paint ObjectReader::paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) {
+    if (spec.kind != PaintSpec::Kind::Server)
+        return plainPaint(spec.kind, spec, style);
+    const GradientElement* const gradient = scene_.servers.gradient(spec.serverId);
+    if (!gradient) {
+        if (spec.serverId.empty())
+            scene_.notes.add(Unshown::External);
+        else if (scene_.tree.svgName(scene_.tree.byId(spec.serverId)) == "pattern")
+            scene_.notes.add(Unshown::Pattern);
+        return plainPaint(spec.fallback, spec, style);
+    }
+    scene_.budget.spend(gradient->stops.size());
+    auto placed = placedGradient(*gradient, at);
+    if (auto* const foreign = std::get_if<ForeignGradient>(&placed))
+        return std::make_shared<const ForeignGradient>(std::move(*foreign));
+    if (const auto* const color = std::get_if<ColorPaint>(&placed))
+        return *color;
+    return NoPaint();
+}
+
+ObjectReader::StylePtr ObjectReader::shared(Style style) {
+    if (style == drawing::plainStyle())
+        return nullptr;
+    for (const StylePtr& known : recent_)
+        if (*known == style)
+            return known;
+    auto made = std::make_shared<const Style>(std::move(style));
+    if (recent_.size() < kRecentStyles)
+        recent_.push_back(made);
+    else
+        recent_[nextRecent_++ % kRecentStyles] = made;
+    return made;
+}
+
+} // namespace easel::svg

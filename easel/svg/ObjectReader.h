@@ -1,0 +1,33 @@
+// Makes objects of shape elements.
+#pragma once
+
+#include "easel/drawing/Object.h"
+#include "easel/svg/Scene.h"
+#include "easel/svg/Shapes.h"
+
+#include <memory>
+#include <vector>
+
+namespace easel::svg {
+
+class ObjectReader {
+  public:
+    explicit ObjectReader(const Scene& scene) : scene_(scene) {}
+
+    // The object without its group. `place` is inside the element: its style and units are the element's own.
+    drawing::Object read(pugi::xml_node element, const Shape& shape, double opacity, const Place& place);
+
+  private:
+    using StylePtr = std::shared_ptr<const drawing::Style>;
+
+    drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style);
+    drawing::Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) const;
+    void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
+    StylePtr shared(drawing::Style style);
+
+    const Scene& scene_;
+    std::vector<StylePtr> recent_; // styles of the last objects: neighbours mostly look alike
+    std::size_t nextRecent_ = 0;
+};
+
+} // namespace easel::svg

@@ -1,0 +1,137 @@
+#include "easel/svg/PaintServers.h"
+
+#include "easel/svg/Color.h"
+#include "easel/svg/ComputedStyle.h"
+#include "easel/svg/RecordText.h"
+#include "easel/svg/Scanner.h"
+#include "easel/svg/Transform.h"
+
+#include <algorithm>
+#include <string>
+
+namespace easel::svg {
+
+using drawing::ColorPaint;
+using drawing::ForeignStop;
+using drawing::Spread;
+
+namespace {
+
+constexpr std::size_t kLongestChain = 1000;
+
+bool isGradient(std::string_view name) {
+    return name == "linearGradient" || name == "radialGradient";
+}
+
+std::optional<Spread> parseSpread(std::string_view text) {
+    if (text == "reflect")
+        return Spread::Reflect;
+    if (text == "repeat")
+        return Spread::Repeat;
+    return Spread::Pad;
+}
+
+// The element and those it refers to, nearest first.
+class Chain {
+  public:
+    Chain(const XmlTree& tree, pugi::xml_node element) {
+        while (element && isGradient(tree.svgName(element))) {
+            if (std::find(elements_.begin(), elements_.end(), element) != elements_.end() ||
+                elements_.size() == kLongestChain)
+                throw ReadError{Fault::Circular, "the gradient \"" +
+                                                     std::string(element.attribute("id").value()) +
+                                                     "\" refers to itself by way of others"};
+            elements_.push_back(element);
+            element = tree.byId(localId(hrefOf(element)));
+        }
+    }
+
+    const std::vector<pugi::xml_node>& elements() const { return elements_; }
+
+    // The attribute of the nearest element that has it.
+    std::string_view attribute(const char* name) const {
+        for (const pugi::xml_node element : elements_)
+            if (const pugi::xml_attribute found = element.attribute(name))
+                return trimmed(found.value());
+        return {};
+    }
+    // The same among the elements of one kind: geometry is not taken over from the other one.
+    std::string_view geometry(const char* name) const {
+        for (const pugi::xml_node element : elements_)
+            if (std::string_view(element.name()) == elements_.front().name())
+                if (const pugi::xml_attribute found = element.attribute(name))
+                    return trimmed(found.value());
+        return {};
+    }
+
+  private:
+    std::vector<pugi::xml_node> elements_;
+};
+
+} // namespace
+
+const GradientElement* PaintServers::gradient(std::string_view id) {
+    auto [known, isNew] = known_.try_emplace(id);
+    if (isNew) {
+        const pugi::xml_node element = tree_.byId(id);
+        if (isGradient(tree_.svgName(element)))
+            known->second = read(element);
+    }
+    return known->second ? &*known->second : nullptr;
+}
+
+GradientElement PaintServers::read(pugi::xml_node element) {
+    const Chain chain(tree_, element);
+    GradientElement gradient;
+    gradient.kind = tree_.svgName(element) == "linearGradient" ? GradientElement::Kind::Linear
+                                                               : GradientElement::Kind::Radial;
+    if (chain.attribute("gradientUnits") == "userSpaceOnUse")
+        gradient.units = GradientUnits::UserSpaceOnUse;
+    gradient.transform = parseTransform(chain.attribute("gradientTransform")).value_or(drawing::Affine());
+    gradient.spread = parseSpread(chain.attribute("spreadMethod")).value_or(Spread::Pad);
+    for (const auto& [name, text] : {std::pair("x1", &gradient.x1),
+                                     {"y1", &gradient.y1},
+                                     {"x2", &gradient.x2},
+                                     {"y2", &gradient.y2},
+                                     {"cx", &gradient.cx},
+                                     {"cy", &gradient.cy},
+                                     {"r", &gradient.r},
+                                     {"fx", &gradient.fx},
+                                     {"fy", &gradient.fy},
+                                     {"fr", &gradient.fr}})
+        *text = chain.geometry(name);
+    gradient.record = element.attribute(kRecordAttribute).value();
+    for (const pugi::xml_node link : chain.elements()) {
+        gradient.stops = readStops(link);
+        if (!gradient.stops.empty())
+            break;
+    }
+    return gradient;
+}
+
+std::vector<ForeignStop> PaintServers::readStops(pugi::xml_node element) const {
+    std::vector<ForeignStop> stops;
+    double last = 0;
+    for (const pugi::xml_node child : element.children()) {
+        if (tree_.svgName(child) != "stop")
+            continue;
+        const StatedStyle style = cascade_.of(child);
+        last = std::max(last, parseOpacity(child.attribute("offset").value(), 0));
+        const std::string_view stated = style[Property::StopColor];
+        const bool current = equalIgnoringCase(stated, "currentcolor");
+        const ColorPaint color = current ? colorAt(child) : parseColor(stated).value_or(ColorPaint{});
+        stops.push_back({last, color.color, color.opacity * parseOpacity(style[Property::StopOpacity], 1)});
+    }
+    return stops;
+}
+
+ColorPaint PaintServers::colorAt(pugi::xml_node element) const {
+    for (; element.type() == pugi::node_element; element = element.parent()) {
+        const std::string stated(cascade_.of(element)[Property::Color]);
+        if (const auto color = parseColor(stated); color && !equalIgnoringCase(stated, "currentcolor"))
+            return *color;
+    }
+    return {};
+}
+
+} // namespace easel::svg

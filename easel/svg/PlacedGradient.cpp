@@ -1,0 +1,99 @@
+// Works out the geometry of a gradient element on one shape.
+#include "easel/svg/PaintServers.h"
+
+namespace easel::svg {
+
+using drawing::Affine;
+using drawing::Box;
+using drawing::ColorPaint;
+using drawing::ForeignGradient;
+using drawing::LinearGeometry;
+using drawing::NoPaint;
+using drawing::Point;
+using drawing::RadialGeometry;
+
+namespace {
+
+// Coordinates of the gradient's own space: fractions of the box, or lengths.
+class Coordinates {
+  public:
+    Coordinates(const GradientElement& gradient, const PaintPlace& place)
+        : fractions_(gradient.units == GradientUnits::ObjectBoundingBox), lengths_(place.lengths) {}
+
+    double read(std::string_view text, Axis axis, const char* otherwise) const {
+        if (const auto value = parse(text, axis))
+            return *value;
+        return parse(otherwise, axis).value_or(0);
+    }
+    std::optional<double> parse(std::string_view text, Axis axis) const {
+        if (text.empty())
+            return std::nullopt;
+        if (fractions_)
+            if (const auto value = parseFraction(text))
+                return value;
+        return parseLength(text, lengths_, axis);
+    }
+
+  private:
+    bool fractions_;
+    const LengthContext& lengths_;
+};
+
+LinearGeometry linear(const GradientElement& gradient, const Coordinates& at) {
+    return {{at.read(gradient.x1, Axis::Horizontal, "0%"), at.read(gradient.y1, Axis::Vertical, "0%")},
+            {at.read(gradient.x2, Axis::Horizontal, "100%"), at.read(gradient.y2, Axis::Vertical, "0%")}};
+}
+
+RadialGeometry radial(const GradientElement& gradient, const Coordinates& at) {
+    RadialGeometry geometry;
+    geometry.centre = {at.read(gradient.cx, Axis::Horizontal, "50%"),
+                       at.read(gradient.cy, Axis::Vertical, "50%")};
+    geometry.radius = at.read(gradient.r, Axis::Other, "50%");
+    geometry.focus = {at.parse(gradient.fx, Axis::Horizontal).value_or(geometry.centre.x),
+                      at.parse(gradient.fy, Axis::Vertical).value_or(geometry.centre.y)};
+    geometry.focusRadius = at.read(gradient.fr, Axis::Other, "0%");
+    return geometry;
+}
+
+ColorPaint colorOf(const drawing::ForeignStop& stop) {
+    return {stop.color, stop.opacity};
+}
+
+} // namespace
+
+std::variant<NoPaint, ColorPaint, ForeignGradient> placedGradient(const GradientElement& gradient,
+                                                                  const PaintPlace& place) {
+    if (gradient.stops.empty())
+        return NoPaint();
+    ForeignGradient result;
+    result.toDrawing = place.toDrawing;
+    if (gradient.units == GradientUnits::ObjectBoundingBox) {
+        // A box without area gives the gradient no space to be in.
+        if (!(place.box.width() > 0 && place.box.height() > 0))
+            return NoPaint();
+        result.toDrawing = place.toDrawing *
+                           Affine{place.box.width(), 0, 0, place.box.height(), place.box.left, place.box.top};
+    }
+    result.toDrawing = result.toDrawing * gradient.transform;
+    if (!result.toDrawing.invertible())
+        return NoPaint();
+    if (gradient.stops.size() == 1)
+        return colorOf(gradient.stops.front());
+    const Coordinates at(gradient, place);
+    if (gradient.kind == GradientElement::Kind::Linear) {
+        const LinearGeometry geometry = linear(gradient, at);
+        if (geometry.start == geometry.end)
+            return colorOf(gradient.stops.back());
+        result.geometry = geometry;
+    } else {
+        const RadialGeometry geometry = radial(gradient, at);
+        if (!(geometry.radius > 0))
+            return colorOf(gradient.stops.back());
+        result.geometry = geometry;
+    }
+    result.spread = gradient.spread;
+    result.stops = gradient.stops;
+    return result;
+}
+
+} // namespace easel::svg

@@ -1,0 +1,54 @@
+// The elements of an SVG file, with what is asked of them everywhere.
+#pragma once
+
+#include "easel/svg/ReadError.h"
+
+#include <pugixml.hpp>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace easel::svg {
+
+// Reading goes down the tree by recursion, so its depth is limited.
+inline constexpr int kDeepest = 500;
+
+class XmlTree {
+  public:
+    // The text is UTF-8. Throws ReadError if it is not XML, not SVG, or nested too deep.
+    explicit XmlTree(const std::string& text);
+    XmlTree(const XmlTree&) = delete;
+    XmlTree& operator=(const XmlTree&) = delete;
+
+    pugi::xml_node root() const { return root_; }
+    std::size_t elementCount() const { return elementCount_; }
+    // The name without its prefix if the element belongs to SVG, else an empty name.
+    std::string_view svgName(pugi::xml_node element) const;
+    // What stands before the names of SVG elements: nothing, or a prefix with its colon.
+    std::string_view prefix() const;
+    // The first element with this id, or none.
+    pugi::xml_node byId(std::string_view id) const;
+    // Where the '<' of the element's start tag is in the text.
+    std::size_t tagBegin(pugi::xml_node element) const;
+
+  private:
+    void index(const std::string& text);
+    void noteNamespaces(pugi::xml_node element);
+
+    pugi::xml_document document_;
+    pugi::xml_node root_;
+    std::size_t elementCount_ = 0;
+    std::unordered_map<std::string_view, pugi::xml_node> ids_;
+    std::unordered_set<std::string> svgPrefixes_;
+};
+
+// What `href` or `xlink:href` says; empty if neither is there.
+std::string_view hrefOf(pugi::xml_node element);
+
+// The id in "#id" or "url(#id)", perhaps quoted; empty if the reference is not to this file.
+std::string_view localId(std::string_view reference);
+
+} // namespace easel::svg
