@@ -49,6 +49,30 @@ print fit e
     EXPECT_EQ(played.answers[3], played.answers[1]);
 }
 
+TEST(Files, APathThatIsNeitherClosedNorFilledTakesNoGradient) {
+    const Player player;
+    writeContent(player.folder() / "paths.svg",
+                 R"(<svg xmlns="http://www.w3.org/2000/svg" width="300" height="90">)"
+                 R"(<path id="open" d="M 10 10 C 40 10 40 60 10 60" fill="none" stroke="black"/>)"
+                 R"(<path id="closed" d="M 110 10 C 140 10 140 60 110 60 Z" fill="none" stroke="black"/>)"
+                 R"(<path id="filled" d="M 210 10 C 240 10 240 60 210 60" fill="red"/></svg>)");
+    const Played played = player.playToEnd(R"(
+open paths.svg
+start
+click 20 30
+click 120 30
+click 220 30
+print object open
+print object closed
+print object filled
+print window
+)");
+    EXPECT_EQ(played["window"]["beeps"], 1);
+    EXPECT_EQ(played.answers[0]["gradient"], nullptr);
+    EXPECT_NE(played.answers[1]["gradient"], nullptr);
+    EXPECT_NE(played.answers[2]["gradient"], nullptr);
+}
+
 TEST(Files, SavingMakesADrawingClean) {
     const Player player;
     const Played played = player.playToEnd(R"(
