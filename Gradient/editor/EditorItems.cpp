@@ -15,6 +15,7 @@ OpaqueMenuRef* GetDialogMenu(DialogRef dialog, short item) {
     ControlRef control = nullptr;
     GetDialogItemAsControl(dialog, item, &control);
     OpaqueMenuRef* menu = nullptr;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): what is read is the reference itself.
     GetControlData(control, 0, kControlPopupButtonMenuHandleTag, sizeof menu, &menu, nullptr);
     return menu;
 }

@@ -1,0 +1,98 @@
+// The color of a gradient at a position.
+#include "Gradient/model/ColorInterpolation.h"
+#include "tests/unit/gradient/Records.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace {
+
+RGBColor ColorAt(CGradientData const& gradient, double position) {
+    return CalcColorGradient(gradient, position).ColorRGB();
+}
+
+std::uint16_t Floored(std::uint16_t from, std::uint16_t to, int numerator, int denominator) {
+    // Whole-number arithmetic, independent of the code under test; never negative, so that division floors.
+    return static_cast<std::uint16_t>((from * (denominator - numerator) + to * numerator) / denominator);
+}
+
+} // namespace
+
+TEST(ColorInterpolation, TruncatesEachChannelAndKeepsThePositionWhole) {
+    CGradientData const gradient = RecordWith({{0.0, kBlack}, {1.0, kWhite}});
+    EXPECT_EQ(ColorAt(gradient, 0.5), (RGBColor{32767, 32767, 32767}));
+    EXPECT_EQ(ColorAt(gradient, 0.25), (RGBColor{16383, 16383, 16383}));
+    EXPECT_EQ(ColorAt(gradient, 1.0), kWhite);
+    EXPECT_EQ(CalcColorGradient(gradient, 0.3).Percent(), 0.3);
+}
+
+TEST(ColorInterpolation, TruncatesAFallingChannelDownwardsToo) {
+    CGradientData const gradient = RecordWith({{0.0, kRed}, {1.0, kBlue}});
+    EXPECT_EQ(ColorAt(gradient, 0.5), (RGBColor{32767, 0, 32767}));
+}
+
+TEST(ColorInterpolation, DoesNotExtrapolateBeyondTheOuterStops) {
+    CGradientData const gradient = RecordWith({{0.2, kRed}, {0.8, kBlue}});
+    EXPECT_EQ(ColorAt(gradient, 0.1), kRed);
+    EXPECT_EQ(ColorAt(gradient, 0.9), kBlue);
+    EXPECT_EQ(ColorAt(gradient, -3.0), kRed);
+    EXPECT_EQ(ColorAt(gradient, 7.0), kBlue);
+}
+
+TEST(ColorInterpolation, TakesTheLaterOfTwoStopsAtThePosition) {
+    CGradientData const gradient = RecordWith({{0.0, kBlack}, {0.5, kGreen}, {0.5, kRed}, {1.0, kWhite}});
+    EXPECT_EQ(ColorAt(gradient, 0.5), kRed);
+}
+
+TEST(ColorInterpolation, LeadsUpToTheEarlierOfTwoStopsAtOnePosition) {
+    CGradientData const gradient = RecordWith({{0.0, kBlack}, {0.5, kGreen}, {0.5, kRed}, {1.0, kWhite}});
+    EXPECT_EQ(ColorAt(gradient, 0.25), (RGBColor{0, 32767, 0}));
+    EXPECT_EQ(ColorAt(gradient, 0.75), (RGBColor{65535, 32767, 32767}));
+}
+
+TEST(ColorInterpolation, OneStopGivesItsColorEverywhere) {
+    CGradientData const gradient = RecordWith({{0.4, kGreen}});
+    for (double const position : {0.0, 0.4, 1.0}) {
+        EXPECT_EQ(ColorAt(gradient, position), kGreen);
+    }
+}
+
+TEST(ColorInterpolation, LeavesTheRecordAsItWas) {
+    CGradientData const gradient = RecordWith({{0.0, kRed}, {0.4, kGreen}, {1.0, kBlue}});
+    std::vector<Stop> const before = StopsOf(gradient.ColorList());
+    CalcColorGradient(gradient, 0.7);
+    EXPECT_EQ(StopsOf(gradient.ColorList()), before);
+}
+
+TEST(ColorInterpolation, MatchesWholeNumberArithmeticOnDyadicPositions) {
+    std::mt19937 random(20240607);
+    std::uniform_int_distribution<int> channel(0, 65535);
+    std::uniform_int_distribution<int> part(0, 64);
+    auto const color = [&] {
+        auto const next = [&] { return static_cast<std::uint16_t>(channel(random)); };
+        return RGBColor{next(), next(), next()};
+    };
+    for (int round = 0; round < 2000; ++round) {
+        RGBColor const from = color();
+        RGBColor const to = color();
+        int const n = part(random);
+        // Sixty-fourths are exact in floating point, so both ways must agree to the last bit.
+        RGBColor const expected{Floored(from.red, to.red, n, 64), Floored(from.green, to.green, n, 64),
+                                Floored(from.blue, to.blue, n, 64)};
+        EXPECT_EQ(ColorAt(RecordWith({{0.0, from}, {1.0, to}}), n / 64.0), expected) << n << "/64";
+    }
+}
+
+TEST(ColorInterpolation, SurvivesPositionsThatAreNotNumbers) {
+    double const nan = std::nan("");
+    double const infinity = std::numeric_limits<double>::infinity();
+    CGradientData const odd = RecordWith({{nan, kRed}, {0.5, kGreen}, {infinity, kBlue}, {nan, kWhite}});
+    for (double const position : {nan, infinity, -infinity, 0.5, 1e308}) {
+        CalcColorGradient(odd, position);
+    }
+    // A stop whose position is not a number is never the one below or above.
+    EXPECT_EQ(ColorAt(RecordWith({{0.0, kRed}, {nan, kWhite}, {1.0, kRed}}), 0.5), kRed);
+}

@@ -1,0 +1,224 @@
+// The counted pointer that shares equal gradients.
+#include "host/SharedResource.h"
+#include "tests/unit/gradient/FailingMemory.h"
+#include "tests/unit/gradient/Records.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <random>
+#include <set>
+
+namespace {
+
+/// A resource that counts how many of it are alive.
+class Probe : public CHashBase {
+  public:
+    explicit Probe(std::uint32_t id) : id_(id) { ++alive; }
+    ~Probe() override { --alive; }
+    [[nodiscard]] std::uint32_t HashID() const override { return id_; }
+
+    static inline int alive = 0;
+
+  private:
+    std::uint32_t id_;
+};
+
+using ProbePtr = SharedResourcePtr<Probe>;
+
+class SharedResource : public testing::Test {
+  protected:
+    /// The table lives as long as the program, so every test takes ids that no other has used.
+    std::uint32_t id_ = nextId_++;
+    int aliveBefore_ = Probe::alive;
+
+  private:
+    static inline std::uint32_t nextId_ = 1000;
+};
+
+} // namespace
+
+TEST_F(SharedResource, EqualGradientsBecomeOneWithACountOfThree) {
+    CGradientData data = RecordWith({{0.0, kRed}, {1.0, kBlue}});
+    data.SetAngle(17.0F);
+    SharedResourcePtr<CGradient> const first(new CGradient(data));
+    SharedResourcePtr<CGradient> const second(new CGradient(data));
+    EXPECT_NE(static_cast<CGradient const*>(first), nullptr);
+    EXPECT_EQ(static_cast<CGradient const*>(first), static_cast<CGradient const*>(second));
+    EXPECT_EQ(first.UseCount(), 3u);
+}
+
+TEST_F(SharedResource, DifferentGradientsStayTwo) {
+    SharedResourcePtr<CGradient> const first(new CGradient(RecordWith({{0.0, kRed}, {0.3, kBlue}})));
+    SharedResourcePtr<CGradient> const second(new CGradient(RecordWith({{0.0, kRed}, {0.3, kGreen}})));
+    EXPECT_NE(static_cast<CGradient const*>(first), static_cast<CGradient const*>(second));
+}
+
+TEST_F(SharedResource, TheSecondOfTwoEqualResourcesIsDestroyedAtOnce) {
+    ProbePtr const first(new Probe(id_));
+    ProbePtr const second(new Probe(id_));
+    EXPECT_EQ(Probe::alive, aliveBefore_ + 1);
+}
+
+TEST_F(SharedResource, TheHashAloneDecidesWhatIsEqual) {
+    auto* const kept = new Probe(id_);
+    ProbePtr const first(kept);
+    ProbePtr const second(new Probe(id_));
+    EXPECT_EQ(static_cast<Probe const*>(second), kept);
+}
+
+TEST_F(SharedResource, StaysInTheTableWhenTheLastPointerGoes) {
+    {
+        ProbePtr const first(new Probe(id_));
+        ProbePtr const second(first);
+        EXPECT_EQ(first.UseCount(), 3u);
+    }
+    EXPECT_EQ(Probe::alive, aliveBefore_ + 1);
+    EXPECT_EQ(ProbePtr::GetTypeMap().at(id_).UseCount(), 1u);
+}
+
+TEST_F(SharedResource, NullGivesAnEmptyPointerWithoutACounter) {
+    long const before = FailingMemory::LiveBlocks();
+    {
+        ProbePtr const empty(nullptr);
+        ProbePtr const copy(empty);
+        EXPECT_EQ(static_cast<Probe const*>(copy), nullptr);
+        EXPECT_EQ(copy.operator->(), nullptr);
+        EXPECT_EQ(copy.UseCount(), 0u);
+        EXPECT_EQ(FailingMemory::LiveBlocks(), before);
+    }
+    EXPECT_EQ(FailingMemory::LiveBlocks(), before);
+}
+
+TEST_F(SharedResource, AssigningTheSameResourceChangesNoCount) {
+    ProbePtr first(new Probe(id_));
+    ProbePtr second(first);
+    ProbePtr const& same = first;
+    first = same;
+    EXPECT_EQ(first.UseCount(), 3u);
+    second = first;
+    EXPECT_EQ(first.UseCount(), 3u);
+}
+
+TEST_F(SharedResource, AssigningAnEmptyPointerLeavesTheResourceToTheTable) {
+    ProbePtr pointer(new Probe(id_));
+    pointer = ProbePtr();
+    EXPECT_EQ(static_cast<Probe const*>(pointer), nullptr);
+    EXPECT_EQ(Probe::alive, aliveBefore_ + 1);
+    EXPECT_EQ(ProbePtr::GetTypeMap().at(id_).UseCount(), 1u);
+}
+
+TEST_F(SharedResource, WithoutMemoryForTheCounterTheResourceIsDestroyedAndTheFailurePassedOn) {
+    auto* const probe = new Probe(id_);
+    {
+        FailingMemory const failing(0);
+        EXPECT_THROW(ProbePtr{probe}, std::bad_alloc);
+    }
+    EXPECT_EQ(Probe::alive, aliveBefore_);
+    EXPECT_FALSE(ProbePtr::GetTypeMap().contains(id_));
+}
+
+TEST_F(SharedResource, WithoutMemoryForTheTableEntryNothingLeaks) {
+    long const before = FailingMemory::LiveBlocks();
+    auto* const probe = new Probe(id_);
+    {
+        FailingMemory const failing(1);
+        EXPECT_THROW(ProbePtr{probe}, std::bad_alloc);
+    }
+    EXPECT_EQ(Probe::alive, aliveBefore_);
+    EXPECT_FALSE(ProbePtr::GetTypeMap().contains(id_));
+    EXPECT_EQ(FailingMemory::LiveBlocks(), before);
+}
+
+TEST_F(SharedResource, CountsStayRightOverManyRandomOperations) {
+    constexpr int kOperations = 100000;
+    constexpr std::uint32_t kFirstId = 1u << 20;
+    constexpr std::uint32_t kKinds = 40;
+    std::mt19937 random(5);
+    std::array<ProbePtr, 64> slots;
+    std::array<std::uint32_t, 64> holds{}; // the id in each slot, 0 for an empty one
+    std::set<std::uint32_t> everWrapped;
+    auto const pick = [&](std::size_t count) {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+    };
+
+    for (int i = 0; i < kOperations; ++i) {
+        std::size_t const to = pick(slots.size());
+        std::size_t const from = pick(slots.size());
+        switch (pick(4)) {
+        case 0:
+            holds[to] = kFirstId + static_cast<std::uint32_t>(pick(kKinds));
+            everWrapped.insert(holds[to]);
+            slots[to] = ProbePtr(new Probe(holds[to]));
+            break;
+        case 1:
+            slots[to] = slots[from];
+            holds[to] = holds[from];
+            break;
+        case 2:
+            slots[to] = ProbePtr();
+            holds[to] = 0;
+            break;
+        default: {
+            ProbePtr const copy(slots[from]);
+            ProbePtr const second(copy);
+            slots[to] = second;
+            holds[to] = holds[from];
+            break;
+        }
+        }
+        auto const users = static_cast<std::uint32_t>(std::count(holds.begin(), holds.end(), holds[to]));
+        ASSERT_EQ(slots[to].UseCount(), holds[to] == 0 ? 0 : users + 1) << "after operation " << i;
+    }
+    slots.fill(ProbePtr());
+    EXPECT_EQ(Probe::alive, aliveBefore_ + static_cast<int>(everWrapped.size()));
+}
+
+TEST_F(SharedResource, RecordsAndGradientsLeakNothingOverManyRandomOperations) {
+    constexpr int kOperations = 100000;
+    std::mt19937 random(6);
+    auto const pick = [&](std::size_t count) {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+    };
+    // Every gradient that the test wraps is in the table before, so that what is alive afterwards can be
+    // compared.
+    std::vector<CGradientData> records;
+    for (int i = 0; i < 16; ++i) {
+        CGradientData data;
+        data.SetAngle(static_cast<float>(i) + 0.125F);
+        data.ColorList().resize(static_cast<std::size_t>(i) + 1, CGradientColor(kRed, 0.5));
+        records.push_back(data);
+        SharedResourcePtr<CGradient>{new CGradient(data)};
+    }
+    long const before = FailingMemory::LiveBlocks();
+    {
+        std::vector<CGradientData> values(8, records.front());
+        std::vector<SharedResourcePtr<CGradient>> pointers(8);
+        for (int i = 0; i < kOperations; ++i) {
+            CGradientData& value = values[pick(values.size())];
+            SharedResourcePtr<CGradient>& pointer = pointers[pick(pointers.size())];
+            switch (pick(5)) {
+            case 0:
+                value = records[pick(records.size())];
+                break;
+            case 1:
+                pointer = SharedResourcePtr<CGradient>(new CGradient(value));
+                break;
+            case 2:
+                if (pointer != nullptr) {
+                    value = pointer->GetGradientData();
+                }
+                break;
+            case 3:
+                pointer = pointers[pick(pointers.size())];
+                break;
+            default:
+                pointer = SharedResourcePtr<CGradient>();
+                break;
+            }
+        }
+    }
+    EXPECT_EQ(FailingMemory::LiveBlocks(), before);
+}
