@@ -1,5 +1,6 @@
 // The command line of Easel.
 #include "easel/commands/PlayCommand.h"
+#include "easel/commands/RenderCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -8,6 +9,12 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "easel " EASEL_VERSION);
     int exitCode = 0;
     easel::commands::addPlayCommand(app, exitCode);
-    CLI11_PARSE(app, argc, argv);
+    easel::commands::addRenderCommand(app, exitCode);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        constexpr int kMisused = 2;
+        return app.exit(error) == 0 ? 0 : kMisused;
+    }
     return exitCode;
 }

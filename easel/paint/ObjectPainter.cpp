@@ -3,6 +3,7 @@
 #include "easel/paint/ObjectPainter.h"
 
 #include "easel/paint/ClipMask.h"
+#include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
 #include "easel/paint/ObjectInk.h"
 #include "easel/paint/Stroker.h"
@@ -18,26 +19,6 @@ namespace {
 constexpr double kStrokeTolerance = 0.02; // pixels
 // Layers in layers beyond this depth are painted straight on, so that hostile files cannot use up the memory.
 constexpr std::uint32_t kDeepestLayer = 100;
-
-using ObjectSpan = std::span<const ObjectPtr>;
-
-// The group of the object's chain that lies directly in `parent`.
-const drawing::Group* childOf(const drawing::Group* parent, const Object& object) {
-    const std::uint32_t depth = parent ? parent->depth : 0;
-    const drawing::Group* group = object.group.get();
-    while (group && group->depth > depth + 1)
-        group = group->parent.get();
-    return group && group->depth == depth + 1 ? group : nullptr;
-}
-
-// How many of the first objects belong to the same group in `parent` as the first of all.
-std::size_t runLength(const drawing::Group* parent, ObjectSpan objects) {
-    const drawing::Group* const group = childOf(parent, *objects.front());
-    std::size_t count = 1;
-    while (count < objects.size() && childOf(parent, *objects[count]) == group)
-        ++count;
-    return count;
-}
 
 PixelBox pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelBox& limit) {
     drawing::Box box;
@@ -59,17 +40,10 @@ void ObjectPainter::paint(ObjectSpan objects, const SurfaceView& surface, const 
 
 void ObjectPainter::paintWithin(const drawing::Group* parent, ObjectSpan objects, const SurfaceView& surface,
                                 const Affine& toSurface) {
-    while (!objects.empty()) {
-        const drawing::Group* const group = childOf(parent, *objects.front());
-        if (!group) {
-            paintObject(*objects.front(), surface, toSurface);
-            objects = objects.subspan(1);
-            continue;
-        }
-        const std::size_t count = runLength(parent, objects);
-        paintGroup(*group, objects.first(count), surface, toSurface);
-        objects = objects.subspan(count);
-    }
+    forEachRun(
+        parent, objects,
+        [&](const drawing::Group& group, ObjectSpan run) { paintGroup(group, run, surface, toSurface); },
+        [&](const Object& object) { paintObject(object, surface, toSurface); });
 }
 
 void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, const SurfaceView& surface,

@@ -1,0 +1,68 @@
+// The command line of `easel render`.
+#include "easel/commands/RenderCommand.h"
+
+#include "easel/paint/ExportDrawing.h"
+#include "easel/svg/Document.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+
+namespace easel::commands {
+
+namespace {
+
+constexpr int kFailed = 2;
+
+struct RenderRequest {
+    std::string drawing;
+    std::string picture;
+    paint::SizeRequest size;
+};
+
+int fail(const std::string& message) {
+    std::cerr << "easel: " << message << "\n";
+    return kFailed;
+}
+
+int render(const RenderRequest& request) {
+    const auto read = svg::readFile(request.drawing);
+    if (const auto* failure = std::get_if<svg::Failure>(&read))
+        return fail(failure->message);
+    const auto& drawing = std::get<drawing::Drawing>(read);
+    for (const std::string& note : drawing.notes())
+        std::cerr << "easel: " << request.drawing << ": " << note << "\n";
+    if (const toolbox::FileOutcome error = paint::exportDrawing(drawing, request.picture, request.size))
+        return fail(error->message());
+    return 0;
+}
+
+} // namespace
+
+void addRenderCommand(CLI::App& app, int& exitCode) {
+    CLI::App* command =
+        app.add_subcommand("render", "Write a drawing as a PNG, PDF or SVG picture, without a display");
+    const auto request = std::make_shared<RenderRequest>();
+    command->add_option("IN", request->drawing, "The drawing, an SVG file")->required();
+    command
+        ->add_option(
+            "OUT", request->picture,
+            "The picture; its ending, .png, .pdf or .svg, chooses the format. A PNG has a transparent "
+            "background; PDF and SVG keep outlines and gradients as such. A file of that name is replaced")
+        ->required();
+    CLI::Option* const width = command->add_option(
+        "--width", request->size.width,
+        "Make the picture so many pixels wide, its height following (in a PDF, 96 to the inch)");
+    command
+        ->add_option("--scale", request->size.scale,
+                     "Make the picture so many times the drawing's size (default 1: a pixel for each unit)")
+        ->excludes(width);
+    command->footer("Examples:\n"
+                    "  easel render flower.svg flower.png --width 1920\n"
+                    "  easel render flower.svg flower.pdf\n"
+                    "Exit status: 0, or 2 with a message that names the file and the reason.");
+    command->callback([request, &exitCode] { exitCode = render(*request); });
+}
+
+} // namespace easel::commands

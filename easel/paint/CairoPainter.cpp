@@ -1,0 +1,275 @@
+// Drawings as calls of Cairo.
+#include "easel/paint/CairoPainter.h"
+
+#include "easel/paint/GradientRange.h"
+#include "easel/paint/GroupRuns.h"
+#include "easel/paint/ObjectInk.h"
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace easel::paint {
+
+using drawing::Object;
+using drawing::Point;
+
+namespace {
+
+// Cairo computes in fixed point and wraps around beyond some eight million units.
+constexpr double kFarthest = 4e6;
+
+cairo_matrix_t matrixOf(const drawing::Affine& map) {
+    return {map.a, map.b, map.c, map.d, map.e, map.f};
+}
+
+double level(std::uint16_t channel) {
+    return channel / 65535.0;
+}
+
+double opacityOf(double value) {
+    return value > 0 ? std::min(value, 1.0) : 0;
+}
+
+// Restores the context's state at the end of a block.
+class Saved {
+  public:
+    explicit Saved(cairo_t* cairo) : cairo_(cairo) { cairo_save(cairo); }
+    Saved(const Saved&) = delete;
+    Saved& operator=(const Saved&) = delete;
+    ~Saved() { cairo_restore(cairo_); }
+
+  private:
+    cairo_t* cairo_;
+};
+
+using Pattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy)>;
+
+Pattern patternOf(const drawing::LinearGeometry& line) {
+    return {cairo_pattern_create_linear(line.start.x, line.start.y, line.end.x, line.end.y),
+            &cairo_pattern_destroy};
+}
+Pattern patternOf(const drawing::RadialGeometry& circles) {
+    return {cairo_pattern_create_radial(circles.focus.x, circles.focus.y, circles.focusRadius,
+                                        circles.centre.x, circles.centre.y, circles.radius),
+            &cairo_pattern_destroy};
+}
+
+cairo_extend_t extendOf(drawing::Spread spread) {
+    switch (spread) {
+    case drawing::Spread::Reflect:
+        return CAIRO_EXTEND_REFLECT;
+    case drawing::Spread::Repeat:
+        return CAIRO_EXTEND_REPEAT;
+    case drawing::Spread::Pad:
+        break;
+    }
+    return CAIRO_EXTEND_PAD;
+}
+
+// Feeds a path to Cairo without the points that are not finite.
+class PathWriter {
+  public:
+    explicit PathWriter(cairo_t* cairo) : cairo_(cairo) {}
+
+    void add(const drawing::Path& path) {
+        auto next = path.points().begin();
+        for (const drawing::Verb verb : path.verbs()) {
+            switch (verb) {
+            case drawing::Verb::Move:
+                point(*next++, cairo_move_to);
+                break;
+            case drawing::Verb::Line:
+                point(*next++, cairo_line_to);
+                break;
+            case drawing::Verb::Cubic:
+                curve(next[0], next[1], next[2]);
+                next += 3;
+                break;
+            case drawing::Verb::Close:
+                cairo_close_path(cairo_);
+                break;
+            }
+        }
+    }
+
+  private:
+    static Point within(Point p) {
+        return {std::clamp(p.x, -kFarthest, kFarthest), std::clamp(p.y, -kFarthest, kFarthest)};
+    }
+    void point(Point p, void (*use)(cairo_t*, double, double)) {
+        if (isFinite(p))
+            use(cairo_, within(p).x, within(p).y);
+    }
+    void curve(Point control1, Point control2, Point end) {
+        if (!isFinite(control1) || !isFinite(control2) || !isFinite(end))
+            return point(end, cairo_line_to);
+        const Point a = within(control1);
+        const Point b = within(control2);
+        const Point c = within(end);
+        cairo_curve_to(cairo_, a.x, a.y, b.x, b.y, c.x, c.y);
+    }
+
+    cairo_t* cairo_;
+};
+
+cairo_fill_rule_t ruleOf(drawing::FillRule rule) {
+    return rule == drawing::FillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING;
+}
+
+cairo_line_join_t joinOf(drawing::LineJoin join) {
+    return join == drawing::LineJoin::Round   ? CAIRO_LINE_JOIN_ROUND
+           : join == drawing::LineJoin::Bevel ? CAIRO_LINE_JOIN_BEVEL
+                                              : CAIRO_LINE_JOIN_MITER;
+}
+
+cairo_line_cap_t capOf(drawing::LineCap cap) {
+    return cap == drawing::LineCap::Round    ? CAIRO_LINE_CAP_ROUND
+           : cap == drawing::LineCap::Square ? CAIRO_LINE_CAP_SQUARE
+                                             : CAIRO_LINE_CAP_BUTT;
+}
+
+} // namespace
+
+void CairoPainter::paint(const drawing::Drawing& drawing) {
+    std::vector<drawing::ObjectPtr> objects;
+    objects.reserve(drawing.size());
+    drawing.forEach([&](const drawing::ObjectPtr& object) { objects.push_back(object); });
+    paintWithin(nullptr, objects);
+}
+
+void CairoPainter::paintWithin(const drawing::Group* parent, ObjectSpan objects) {
+    forEachRun(
+        parent, objects, [&](const drawing::Group& group, ObjectSpan run) { paintGroup(group, run); },
+        [&](const Object& object) { paintObject(object); });
+}
+
+void CairoPainter::paintGroup(const drawing::Group& group, ObjectSpan objects) {
+    const double opacity = opacityOf(group.opacity);
+    clipped(group.clip.get(), [&] {
+        if (opacity >= 1)
+            return paintWithin(&group, objects);
+        cairo_push_group(cairo_);
+        paintWithin(&group, objects);
+        cairo_pop_group_to_source(cairo_);
+        cairo_paint_with_alpha(cairo_, opacity);
+    });
+}
+
+template <class Content> void CairoPainter::clipped(const drawing::ClipPath* clip, Content paint) {
+    const Saved saved(cairo_);
+    if (!clip || narrow(*clip))
+        return paint();
+    cairo_push_group(cairo_);
+    paint();
+    const Pattern content(cairo_pop_group(cairo_), &cairo_pattern_destroy);
+    cairo_push_group_with_content(cairo_, CAIRO_CONTENT_ALPHA);
+    paintMask(*clip);
+    const Pattern mask(cairo_pop_group(cairo_), &cairo_pattern_destroy);
+    cairo_set_source(cairo_, content.get());
+    cairo_mask(cairo_, mask.get());
+}
+
+bool CairoPainter::narrow(const drawing::ClipPath& clip) {
+    if (clip.shapes.size() != 1 || clip.clip || clip.shapes.front().clip)
+        return false;
+    addPath(clip.shapes.front().outline);
+    cairo_set_fill_rule(cairo_, ruleOf(clip.shapes.front().rule));
+    cairo_clip(cairo_);
+    return true;
+}
+
+void CairoPainter::paintMask(const drawing::ClipPath& clip) {
+    clipped(clip.clip.get(), [&] {
+        for (const drawing::ClipShape& shape : clip.shapes)
+            clipped(shape.clip.get(), [&] {
+                addPath(shape.outline);
+                cairo_set_fill_rule(cairo_, ruleOf(shape.rule));
+                cairo_set_source_rgb(cairo_, 0, 0, 0);
+                cairo_fill(cairo_);
+            });
+    });
+}
+
+void CairoPainter::paintObject(const Object& object) {
+    const drawing::Style& style = drawing::styleOf(object);
+    const double opacity = opacityOf(style.opacity);
+    if (opacity == 0)
+        return;
+    const bool together =
+        opacity < 1 && object.fillPattern != drawing::FillPattern::None && drawing::strokes(style);
+    if (together)
+        cairo_push_group(cairo_);
+    const double own = together ? 1 : opacity;
+    if (style.first == drawing::PaintStep::Stroke)
+        paintStroke(object, own);
+    paintFill(object, own);
+    if (style.first == drawing::PaintStep::Fill)
+        paintStroke(object, own);
+    if (together) {
+        cairo_pop_group_to_source(cairo_);
+        cairo_paint_with_alpha(cairo_, opacity);
+    }
+}
+
+void CairoPainter::paintFill(const Object& object, double opacity) {
+    const HeldInk ink = HeldInk::ofFill(object);
+    if (!ink.visible())
+        return;
+    setInk(ink.ink(), opacity * opacityOf(drawing::styleOf(object).fillOpacity));
+    addPath(*object.outline);
+    cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
+    cairo_fill(cairo_);
+}
+
+void CairoPainter::paintStroke(const Object& object, double opacity) {
+    const HeldInk ink = HeldInk::ofStroke(object);
+    const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
+    if (!ink.visible() || !object.transform.invertible() || !std::isfinite(stroke.width))
+        return;
+    const Saved saved(cairo_);
+    setInk(ink.ink(), opacity * opacityOf(stroke.opacity));
+    addPath(*object.outline);
+    // The path is already fixed in the page's space; what is changed now is the shape of the pen.
+    const cairo_matrix_t own = matrixOf(object.transform);
+    cairo_transform(cairo_, &own);
+    cairo_set_line_width(cairo_, stroke.width);
+    cairo_set_line_join(cairo_, joinOf(stroke.join));
+    cairo_set_line_cap(cairo_, capOf(stroke.cap));
+    cairo_set_miter_limit(cairo_, stroke.miterLimit);
+    cairo_set_dash(cairo_, stroke.dashes.data(), static_cast<int>(stroke.dashes.size()), stroke.dashOffset);
+    cairo_stroke(cairo_);
+}
+
+void CairoPainter::setInk(const Ink& ink, double opacity) {
+    if (const auto* gradient = std::get_if<const Gradient*>(&ink)) {
+        const std::optional<RampStop> only = onlyColor(**gradient);
+        if (!only)
+            return setGradient(withinUnitRange(**gradient), opacity);
+        return setInk(drawing::ColorPaint{only->color, only->opacity}, opacity);
+    }
+    const auto& paint = std::get<drawing::ColorPaint>(ink);
+    cairo_set_source_rgba(cairo_, level(paint.color.red), level(paint.color.green), level(paint.color.blue),
+                          opacityOf(paint.opacity) * opacity);
+}
+
+void CairoPainter::setGradient(const Gradient& gradient, double opacity) {
+    const Pattern pattern =
+        std::visit([](const auto& geometry) { return patternOf(geometry); }, gradient.geometry);
+    for (const RampStop& stop : gradient.ramp.stops())
+        cairo_pattern_add_color_stop_rgba(pattern.get(), stop.position, level(stop.color.red),
+                                          level(stop.color.green), level(stop.color.blue),
+                                          opacityOf(stop.opacity) * opacity);
+    const cairo_matrix_t toGradient = matrixOf(gradient.toDrawing.inverse());
+    cairo_pattern_set_matrix(pattern.get(), &toGradient);
+    cairo_pattern_set_extend(pattern.get(), extendOf(gradient.spread));
+    cairo_set_source(cairo_, pattern.get());
+}
+
+void CairoPainter::addPath(const drawing::Path& path) {
+    cairo_new_path(cairo_);
+    PathWriter(cairo_).add(path);
+}
+
+} // namespace easel::paint

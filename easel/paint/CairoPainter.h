@@ -1,0 +1,39 @@
+// Paints drawings through Cairo, for the formats that it writes.
+#pragma once
+
+#include "easel/drawing/Drawing.h"
+#include "easel/paint/Painter.h"
+
+#include <span>
+
+using cairo_t = struct _cairo;
+
+namespace easel::paint {
+
+class CairoPainter {
+  public:
+    // User space of the context is that of the drawing. The context must outlive the painter.
+    explicit CairoPainter(cairo_t* cairo) : cairo_(cairo) {}
+
+    void paint(const drawing::Drawing& drawing);
+
+  private:
+    void paintWithin(const drawing::Group* parent, std::span<const drawing::ObjectPtr> objects);
+    void paintGroup(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
+    void paintObject(const drawing::Object& object);
+    void paintFill(const drawing::Object& object, double opacity);
+    void paintStroke(const drawing::Object& object, double opacity);
+    // Paints something through the clip path.
+    template <class Content> void clipped(const drawing::ClipPath* clip, Content paint);
+    // Narrows the context's clip; false, having done nothing, if only a mask can say it.
+    bool narrow(const drawing::ClipPath& clip);
+    void paintMask(const drawing::ClipPath& clip);
+
+    void setInk(const Ink& ink, double opacity);
+    void setGradient(const Gradient& gradient, double opacity);
+    void addPath(const drawing::Path& path);
+
+    cairo_t* cairo_;
+};
+
+} // namespace easel::paint

@@ -1,0 +1,19 @@
+// Pictures of drawings in files of other formats.
+#pragma once
+
+#include "easel/drawing/Drawing.h"
+#include "easel/paint/PictureSize.h"
+#include "easel/toolbox/FileError.h"
+
+#include <filesystem>
+
+namespace easel::paint {
+
+// Writes the drawing as PNG (with a transparent background), PDF or SVG, by the ending of the file's name. A
+// file that is there is replaced whole or, after an error, not at all. The error names the file and the
+// reason, which may be an ending that is none of these, a size that cannot be, or a lack of memory.
+[[nodiscard]] toolbox::FileOutcome exportDrawing(const drawing::Drawing& drawing,
+                                                 const std::filesystem::path& file,
+                                                 const SizeRequest& size = {});
+
+} // namespace easel::paint

@@ -1,0 +1,43 @@
+// How large a picture of a drawing is to be.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace easel::paint {
+
+// At most one of them; none is scale 1, a pixel for each drawing unit.
+struct SizeRequest {
+    std::optional<double> width; // pixels; the height follows
+    std::optional<double> scale;
+};
+
+struct PictureSize {
+    double scale = 1;
+    int width = 0; // pixels; parts of a pixel at the right and at the bottom count as whole ones
+    int height = 0;
+
+    std::uint64_t bytes() const {
+        return std::uint64_t{4} * static_cast<unsigned>(width) * static_cast<unsigned>(height);
+    }
+};
+
+// No side of a picture is longer.
+constexpr int kLongestSide = 1'000'000;
+
+// A message without the file's name if the size asked for is none that a picture can have.
+std::variant<PictureSize, std::string> pictureSize(double drawingWidth, double drawingHeight,
+                                                   const SizeRequest& request);
+
+// The scale asked for, of a picture without pixels; a message if it is none.
+std::variant<double, std::string> scaleOf(double drawingWidth, const SizeRequest& request);
+
+// Bytes of memory that programs may still take; nothing where the system does not say.
+std::optional<std::uint64_t> availableMemory();
+
+// The reason why there is no memory for the picture, if there is none; `available` in bytes.
+std::optional<std::string> memoryProblem(const PictureSize& size, std::optional<std::uint64_t> available);
+
+} // namespace easel::paint

@@ -1,0 +1,213 @@
+// Writes SVG: the objects in their groups, and before them the gradients and clip paths they name.
+#include "easel/paint/SvgText.h"
+
+#include "easel/paint/GradientRange.h"
+#include "easel/paint/GroupRuns.h"
+#include "easel/paint/ObjectInk.h"
+#include "easel/paint/SvgFragments.h"
+
+#include <cmath>
+#include <map>
+
+namespace easel::paint {
+
+using drawing::Affine;
+using drawing::Object;
+
+namespace {
+
+std::string geometryText(const drawing::LinearGeometry& line) {
+    return attribute("x1", line.start.x) + attribute("y1", line.start.y) + attribute("x2", line.end.x) +
+           attribute("y2", line.end.y);
+}
+
+std::string geometryText(const drawing::RadialGeometry& circles) {
+    return attribute("cx", circles.centre.x) + attribute("cy", circles.centre.y) +
+           attribute("r", circles.radius) + attribute("fx", circles.focus.x) +
+           attribute("fy", circles.focus.y) + attributeUnless(0, "fr", circles.focusRadius);
+}
+
+std::string spreadText(drawing::Spread spread) {
+    switch (spread) {
+    case drawing::Spread::Reflect:
+        return attribute("spreadMethod", "reflect");
+    case drawing::Spread::Repeat:
+        return attribute("spreadMethod", "repeat");
+    case drawing::Spread::Pad:
+        break;
+    }
+    return {};
+}
+
+double opacityOf(double value) {
+    return value > 0 ? std::min(value, 1.0) : 0;
+}
+
+std::string_view joinText(drawing::LineJoin join) {
+    return join == drawing::LineJoin::Round ? "round" : join == drawing::LineJoin::Bevel ? "bevel" : "";
+}
+
+std::string_view capText(drawing::LineCap cap) {
+    return cap == drawing::LineCap::Round ? "round" : cap == drawing::LineCap::Square ? "square" : "";
+}
+
+std::string dashText(const std::vector<double>& dashes) {
+    std::string text;
+    for (const double dash : dashes)
+        text.append(text.empty() ? "" : " ").append(numberText(dash));
+    return text;
+}
+
+class SvgWriter {
+  public:
+    explicit SvgWriter(const drawing::Drawing& drawing) {
+        drawing.forEach([&](const drawing::ObjectPtr& object) { objects_.push_back(object); });
+        // Names of our own must not be those of objects.
+        while (nameTaken())
+            prefix_ += '-';
+        writeWithin(nullptr, objects_);
+    }
+
+    std::string document(double width, double height, double scale) const {
+        return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + attribute("width", width * scale) +
+               attribute("height", height * scale) +
+               attribute("viewBox", "0 0 " + numberText(width) + " " + numberText(height)) + ">\n" +
+               (definitions_.empty() ? "" : "<defs>\n" + definitions_ + "</defs>\n") + body_ + "</svg>\n";
+    }
+
+  private:
+    bool nameTaken() const {
+        for (const drawing::ObjectPtr& object : objects_)
+            if (object->id.starts_with(prefix_))
+                return true;
+        return false;
+    }
+    std::string newName(std::string_view kind) {
+        return prefix_ + std::string(kind) + std::to_string(++named_);
+    }
+
+    void writeWithin(const drawing::Group* parent, ObjectSpan objects) {
+        forEachRun(
+            parent, objects, [&](const drawing::Group& group, ObjectSpan run) { writeGroup(group, run); },
+            [&](const Object& object) { writeObject(object); });
+    }
+    void writeGroup(const drawing::Group& group, ObjectSpan objects) {
+        body_ += "<g" + attributeUnless(1, "opacity", opacityOf(group.opacity)) +
+                 clipAttribute(group.clip.get()) + ">\n";
+        writeWithin(&group, objects);
+        body_ += "</g>\n";
+    }
+
+    void writeObject(const Object& object) {
+        const drawing::Style& style = drawing::styleOf(object);
+        const bool stroked = drawing::strokes(style) && object.transform.invertible();
+        // Where it shows, the pen keeps the shape that the object's own units give it.
+        const Affine own = stroked ? object.transform : Affine{};
+        const Affine toOwn = own.inverse();
+        body_ += "<path" + attribute("id", object.id);
+        if (own != Affine{})
+            body_ += attribute("transform", matrixText(own));
+        body_ +=
+            attribute("d", pathText(own == Affine{} ? *object.outline : object.outline->transformed(toOwn)));
+        body_ += fillText(object, toOwn);
+        if (object.fillRule == drawing::FillRule::EvenOdd)
+            body_ += attribute("fill-rule", "evenodd");
+        if (stroked)
+            body_ += strokeText(object, toOwn);
+        if (style.first == drawing::PaintStep::Stroke)
+            body_ += attribute("paint-order", "stroke");
+        body_ += attributeUnless(1, "opacity", opacityOf(style.opacity)) + "/>\n";
+    }
+    std::string fillText(const Object& object, const Affine& toOwn) {
+        const HeldInk ink = HeldInk::ofFill(object);
+        if (!ink.visible())
+            return attribute("fill", "none");
+        return inkText("fill", ink.ink(), drawing::styleOf(object).fillOpacity, toOwn);
+    }
+    std::string strokeText(const Object& object, const Affine& toOwn) {
+        const HeldInk ink = HeldInk::ofStroke(object);
+        if (!ink.visible())
+            return {};
+        const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
+        return inkText("stroke", ink.ink(), stroke.opacity, toOwn) +
+               attributeUnless(1, "stroke-width", stroke.width) +
+               attribute("stroke-linejoin", joinText(stroke.join)) +
+               attribute("stroke-linecap", capText(stroke.cap)) +
+               attributeUnless(4, "stroke-miterlimit", stroke.miterLimit) +
+               attribute("stroke-dasharray", dashText(stroke.dashes)) +
+               attributeUnless(0, "stroke-dashoffset", stroke.dashOffset);
+    }
+
+    std::string inkText(const std::string& property, const Ink& ink, double opacity, const Affine& toOwn) {
+        if (const auto* gradient = std::get_if<const Gradient*>(&ink)) {
+            const std::optional<RampStop> only = onlyColor(**gradient);
+            if (only)
+                return inkText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
+            return attribute(property, "url(#" + gradientName(withinUnitRange(**gradient), toOwn) + ")") +
+                   attributeUnless(1, property + "-opacity", opacityOf(opacity));
+        }
+        const auto& paint = std::get<drawing::ColorPaint>(ink);
+        return attribute(property, colorText(paint.color)) +
+               attributeUnless(1, property + "-opacity", opacityOf(paint.opacity) * opacityOf(opacity));
+    }
+    // Gradients that come out alike are written once.
+    std::string gradientName(const Gradient& gradient, const Affine& toOwn) {
+        const std::string element = std::holds_alternative<drawing::LinearGeometry>(gradient.geometry)
+                                        ? "linearGradient"
+                                        : "radialGradient";
+        const Affine map = toOwn * gradient.toDrawing;
+        std::string text =
+            attribute("gradientUnits", "userSpaceOnUse") +
+            std::visit([](const auto& geometry) { return geometryText(geometry); }, gradient.geometry) +
+            spreadText(gradient.spread);
+        if (map != Affine{})
+            text += attribute("gradientTransform", matrixText(map));
+        text += ">";
+        for (const RampStop& stop : gradient.ramp.stops())
+            text += "<stop" + attribute("offset", stop.position) +
+                    attribute("stop-color", colorText(stop.color)) +
+                    attributeUnless(1, "stop-opacity", opacityOf(stop.opacity)) + "/>";
+        text += "</" + element + ">\n";
+        std::string& name = gradientNames_[text];
+        if (name.empty()) {
+            name = newName("gradient");
+            definitions_ += "<" + element + attribute("id", name) + text;
+        }
+        return name;
+    }
+
+    std::string clipAttribute(const drawing::ClipPath* clip) {
+        return clip ? attribute("clip-path", "url(#" + clipName(*clip) + ")") : std::string();
+    }
+    std::string clipName(const drawing::ClipPath& clip) {
+        if (const auto known = clipNames_.find(&clip); known != clipNames_.end())
+            return known->second;
+        // Inner ones first: while their text is being made, ours must not be begun.
+        std::string text = clipAttribute(clip.clip.get()) + ">\n";
+        for (const drawing::ClipShape& shape : clip.shapes) {
+            text += "<path" + attribute("d", pathText(shape.outline)) + clipAttribute(shape.clip.get());
+            if (shape.rule == drawing::FillRule::EvenOdd)
+                text += attribute("clip-rule", "evenodd");
+            text += "/>\n";
+        }
+        const std::string name = newName("clip");
+        definitions_ += "<clipPath" + attribute("id", name) + text + "</clipPath>\n";
+        return clipNames_[&clip] = name;
+    }
+
+    std::vector<drawing::ObjectPtr> objects_;
+    std::string prefix_ = "easel-";
+    int named_ = 0;
+    std::map<std::string, std::string> gradientNames_;
+    std::map<const drawing::ClipPath*, std::string> clipNames_;
+    std::string definitions_;
+    std::string body_;
+};
+
+} // namespace
+
+std::string encodeSvg(const drawing::Drawing& drawing, double scale) {
+    return SvgWriter(drawing).document(drawing.width(), drawing.height(), scale);
+}
+
+} // namespace easel::paint

@@ -1,0 +1,15 @@
+// Drawings as plain SVG files, written from the objects alone.
+#pragma once
+
+#include "easel/drawing/Drawing.h"
+
+#include <string>
+
+namespace easel::paint {
+
+// A whole SVG document, UTF-8, whose picture is the drawing's: outlines, strokes, groups and clip paths,
+// gradients as gradients fitted to their shapes. Its size is that of the drawing times `scale`. What the
+// drawing's own file holds besides is not in it.
+std::string encodeSvg(const drawing::Drawing& drawing, double scale);
+
+} // namespace easel::paint
