@@ -40,7 +40,9 @@ StoragePlaces StoragePlaces::within(const fs::path& folder) {
 
 HostFiles::HostFiles(StoragePlaces places, FailureReport report)
     : places_(std::move(places)), report_(std::move(report)), catalog_(places_.preferences),
-      trash_(places_.trash) {}
+      trash_(places_.trash) {
+    recoverFolder(places_.preferences);
+}
 
 HostFiles::SecondaryFolder HostFiles::findSecondaryFolder(std::string_view name, FolderCreation creation) {
     settle();

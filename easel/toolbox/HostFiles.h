@@ -47,6 +47,7 @@ class HostFiles {
     /// told.
     using FailureReport = std::function<void(const FileError&)>;
 
+    /// Clears away what a crash of an earlier run left in the preferences folder.
     HostFiles(StoragePlaces places, FailureReport report);
     ~HostFiles() { settle(); }
     HostFiles(const HostFiles&) = delete;
