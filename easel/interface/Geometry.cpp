@@ -57,9 +57,9 @@ void KillFPoly(CFPolygonRef polygon) {
 void Restrict(TPoint<double> anchor, TPoint<double>& point) {
     journal("Restrict");
     TPoint<double> const offset = point - anchor;
-    double const angle = TLine<double>(anchor, point).Angle();
-    if (!std::isfinite(angle))
+    if (!std::isfinite(offset.h) || !std::isfinite(offset.v))
         return;
+    double const angle = TLine<double>(anchor, point).Angle();
     // The nearest point of the allowed line, so that the constrained point stays at the mouse's side.
     TPoint<double> const direction = unitVector(std::round(angle / kAllowedStep) * kAllowedStep);
     double const distance = offset.h * direction.h + offset.v * direction.v;

@@ -11,6 +11,7 @@ namespace easel::svg {
 using drawing::ColorPaint;
 using drawing::FillPattern;
 using drawing::ForeignGradient;
+using drawing::Kind;
 using drawing::NoPaint;
 using drawing::Object;
 using drawing::Paint;
@@ -52,6 +53,9 @@ Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opa
     object.transform = place.toDrawing;
     const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
     setFill(object, at, place.style);
+    // A path that is neither closed nor filled is a line; only closed shapes take a gradient.
+    if (object.kind == Kind::Path && object.fillPattern == FillPattern::None && !object.outline->closed())
+        object.kind = Kind::Polyline;
 
     Style style;
     style.stroke.paint = paint(place.style.stroke, at, place.style);

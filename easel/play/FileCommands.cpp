@@ -1,0 +1,45 @@
+// Commands about drawings in files: opening and saving them.
+#include "easel/play/Command.h"
+#include "easel/play/PlayError.h"
+#include "easel/play/Session.h"
+#include "easel/svg/Document.h"
+#include "easel/toolbox/AtomicFile.h"
+
+namespace easel::play {
+
+namespace {
+
+std::filesystem::path fileIn(Session& session, Arguments& arguments) {
+    const std::filesystem::path file = session.resolve(arguments.text("FILE"));
+    arguments.done();
+    return file;
+}
+
+void open(Session& session, Arguments& arguments) {
+    const std::filesystem::path file = fileIn(session, arguments);
+    // What a save of this drawing left when the program was killed goes now.
+    toolbox::removeLeftovers(file.parent_path());
+    auto result = svg::readFile(file);
+    if (const auto* failure = std::get_if<svg::Failure>(&result))
+        throw PlayError(failure->message);
+    session.show(std::get<drawing::Drawing>(std::move(result)));
+}
+
+void save(Session& session, Arguments& arguments) {
+    const std::filesystem::path file = fileIn(session, arguments);
+    if (const auto failure = svg::saveFile(session.frontWindow().drawing(), file))
+        throw PlayError(failure->message);
+}
+
+constexpr Command kCommands[] = {
+    {"open", When::idle, open},
+    {"save", When::idle, save},
+};
+
+} // namespace
+
+std::span<const Command> fileCommands() {
+    return kCommands;
+}
+
+} // namespace easel::play

@@ -1,0 +1,83 @@
+// Names that templates can and cannot have.
+#include "tests/scenario/Templates.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace tests;
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+namespace fs = std::filesystem;
+
+namespace {
+
+// Every file below the folder, so that nothing anywhere else goes unnoticed.
+std::vector<std::string> filesBelow(const fs::path& folder) {
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (entry.is_regular_file())
+            files.push_back(entry.path().lexically_relative(folder).string());
+    return files;
+}
+
+struct OddName {
+    const char* typed;
+    const char* onDisk;
+};
+
+class OddTemplateName : public testing::TestWithParam<OddName> {};
+
+TEST_P(OddTemplateName, IsSavedListedLoadedReplacedAndDeletedInItsFolder) {
+    const Player player;
+    const std::string typed = GetParam().typed;
+    const std::string disk = GetParam().onDisk;
+    const auto saved =
+        player.playToEnd(inEditor(saveAs(typed) + "print dialog\nprint templates\nchoose 9 5\n"));
+    EXPECT_THAT(offered(saved["dialog"]), ElementsAre(typed + ".GRD"));
+    EXPECT_THAT(namesIn(saved["templates"]), ElementsAre(typed + ".GRD"));
+    EXPECT_THAT(filesBelow(player.preferences()),
+                UnorderedElementsAre("Gradient Templates/._" + disk, "Gradient Templates/" + disk));
+    player.playToEnd(inEditor("click item 4 " + onRamp(100) + "\n" + saveAs(typed) + "answer yes\n"));
+    EXPECT_EQ(stopsStoredIn(templateFolder(player), disk), 3U);
+    const auto deleted = player.playToEnd(inEditor(deleteRows("1") + "print templates\n"));
+    EXPECT_EQ(deleted["templates"], json::array());
+    EXPECT_TRUE(filesBelow(player.preferences()).empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Names, OddTemplateName,
+    testing::Values(OddName{"..", "...GRD"}, OddName{".", "..GRD"}, OddName{".hidden", ".hidden.GRD"},
+                    OddName{"a/b", "a:b.GRD"}, OddName{"/", ":.GRD"}, OddName{"../x", "..:x.GRD"},
+                    OddName{"con", "con.GRD"}, OddName{"-rf *", "-rf *.GRD"}, OddName{"a;b(c", "a;b(c.GRD"},
+                    OddName{"Caf\u00E9 \u2020", "Caf\u00E9 \u2020.GRD"},
+                    OddName{"\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122"
+                            "\u2122\u2122\u2122\u2122\u2122\u2122\u2122",
+                            "\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122"
+                            "\u2122\u2122\u2122\u2122\u2122\u2122\u2122.GRD"},
+                    OddName{"WWWWWWWWWWWWWWWWWWWW", "WWWWWWWWWWWWWWWWWWWW.GRD"}));
+
+TEST(TemplateNames, AnEmptyNameSavesNothing) {
+    const Player player;
+    player.playToEnd(inEditor("choose 9 1\nhit 1\n"));
+    EXPECT_TRUE(filesBelow(player.preferences()).empty());
+}
+
+TEST(TemplateNames, ACharacterThatTheEncodingLacksIsNotAcceptedAndNothingIsWritten) {
+    const Player player;
+    const auto played = player.playToEnd(
+        inEditor("choose 9 1\ntype \"a\u65E5b\"\nprint dialog\nprint window\nhit 1\nprint templates\n"));
+    EXPECT_EQ(itemOf(played.all("dialog")[0], 4)["text"], "ab");
+    EXPECT_EQ(played["window"]["beeps"], 1);
+    EXPECT_THAT(namesIn(played["templates"]), ElementsAre("ab.GRD"));
+}
+
+TEST(TemplateNames, AFileWhoseNameTheHostCannotHoldIsLeftAlone) {
+    const Player player;
+    writeContent(templateFolder(player) / "\u65E5\u672C.GRD", "kept");
+    const auto played = player.playToEnd(inEditor("print templates\n"));
+    EXPECT_EQ(played["templates"], json::array());
+    EXPECT_EQ(contentOf(templateFolder(player) / "\u65E5\u672C.GRD"), "kept");
+}
+
+} // namespace
