@@ -76,6 +76,7 @@ Surface librsvgs(const std::filesystem::path& file, const Drawing& drawing) {
         const std::unique_ptr<RsvgHandle, decltype(&g_object_unref)> handle(
             rsvg_handle_new_from_file(file.c_str(), nullptr), &g_object_unref);
         ASSERT_TRUE(handle);
+        rsvg_handle_set_dpi(handle.get(), 96);
         const RsvgRectangle page{0, 0, drawing.width() * kScale, drawing.height() * kScale};
         ASSERT_TRUE(rsvg_handle_render_document(handle.get(), cairo, &page, nullptr));
     });
