@@ -1,0 +1,45 @@
+// The plug-in's own code in a real host, in this process: resources, an empty folder of preferences and a
+// user.
+#pragma once
+
+#include "easel/interface/Host.h"
+#include "easel/interface/PluginResourceFile.h"
+#include "easel/interface/Storage.h"
+#include "host/Gradient.h"
+#include "tests/support/IdleUser.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace tests {
+
+class EditorStage {
+  public:
+    explicit EditorStage(easel::host::User& user) {
+        easel::host::useStorage(easel::toolbox::StoragePlaces::within(folder_.path()));
+        easel::host::theHost().user = &user;
+        const std::filesystem::path resources = folder_ / "Gradient";
+        std::filesystem::copy(std::filesystem::path(SOURCE_DIR) / "Gradient" / "resources", resources);
+        const auto error = easel::host::openPluginResources(resources);
+        EXPECT_FALSE(error) << error->message();
+    }
+    EditorStage(const EditorStage&) = delete;
+    EditorStage& operator=(const EditorStage&) = delete;
+    ~EditorStage() {
+        easel::host::closePluginResources();
+        easel::host::theHost().user = nullptr;
+    }
+
+    const std::filesystem::path& folder() const { return folder_.path(); }
+
+  private:
+    TemporaryFolder folder_;
+};
+
+inline CGradientData gradientOf(std::initializer_list<CGradientColor> stops) {
+    CGradientData gradient;
+    gradient.ColorList().assign(stops);
+    return gradient;
+}
+
+} // namespace tests

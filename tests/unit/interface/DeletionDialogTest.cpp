@@ -1,0 +1,164 @@
+// The base of dialogs that delete: what it asks for, in which order it deletes, and that it destroys itself.
+#include "easel/interface/DeletionList.h"
+#include "easel/interface/Host.h"
+#include "easel/interface/User.h"
+#include "host/Dialogs.h"
+#include "tests/support/IdleUser.h"
+
+#include <gmock/gmock.h>
+
+#include <functional>
+
+namespace tests {
+namespace {
+
+using easel::host::DeletionCommand;
+using easel::host::DeletionList;
+
+struct Record {
+    std::vector<std::string> things = {};
+    std::vector<std::string> deleted = {};
+    std::vector<std::string> commands = {};
+    int asked = 0;
+    bool destroyed = false;
+};
+
+CStr255 const kTitle("Things");
+
+class ThingsDialog : public DeleteDialog {
+  public:
+    explicit ThingsDialog(Record& record, bool multiple = true)
+        : DeleteDialog(kTitle.CreateCopy(), multiple), record_(record) {}
+    ~ThingsDialog() override { record_.destroyed = true; }
+
+  protected:
+    long GetListItemCount() override { return static_cast<long>(record_.things.size()); }
+    CFStringRef GetListItemDescription(long index) override {
+        ++record_.asked;
+        return CStr255(record_.things.at(static_cast<std::size_t>(index))).CreateCopy();
+    }
+    void DeleteListItem(long index) override {
+        record_.deleted.push_back(record_.things.at(static_cast<std::size_t>(index)));
+        record_.things.erase(record_.things.begin() + index);
+    }
+    std::int32_t DoCommand(HICommandExtended command) override {
+        record_.commands.push_back(command.commandID == kOKCommand ? "ok" : "cancel");
+        return CCarbonDialogBase::DoCommand(command);
+    }
+
+  private:
+    Record& record_;
+};
+
+class ListUser : public IdleUser {
+  public:
+    using Act = std::function<void(DeletionList&)>;
+    explicit ListUser(Act act) : act_(std::move(act)) { easel::host::theHost().user = this; }
+    ~ListUser() override { easel::host::theHost().user = nullptr; }
+    ListUser(const ListUser&) = delete;
+    ListUser& operator=(const ListUser&) = delete;
+    void runDeletion(DeletionList& list) override { act_(list); }
+
+  private:
+    Act act_;
+};
+
+bool runDialog(Record& record, const ListUser::Act& act) {
+    const ListUser user(act);
+    return (new ThingsDialog(record))->Run();
+}
+
+TEST(DeletionDialog, DeletesTheSelectedRowsFromTheLastToTheFirstAndCloses) {
+    Record record{.things = {"a", "b", "c", "d", "e"}};
+    EXPECT_TRUE(runDialog(record, [](DeletionList& list) {
+        EXPECT_EQ(list.title(), "Things");
+        EXPECT_THAT(list.rows(), testing::ElementsAre("a", "b", "c", "d", "e"));
+        list.select({3, 0, 4});
+        list.command(DeletionCommand::Ok);
+        EXPECT_FALSE(list.isOpen());
+    }));
+    EXPECT_THAT(record.deleted, testing::ElementsAre("e", "d", "a"));
+    EXPECT_THAT(record.things, testing::ElementsAre("b", "c"));
+}
+
+TEST(DeletionDialog, CancelDeletesNothing) {
+    Record record{.things = {"a", "b"}};
+    EXPECT_FALSE(runDialog(record, [](DeletionList& list) {
+        list.select({0});
+        list.command(DeletionCommand::Cancel);
+        EXPECT_FALSE(list.isOpen());
+    }));
+    EXPECT_THAT(record.commands, testing::ElementsAre("cancel"));
+    EXPECT_TRUE(record.deleted.empty());
+}
+
+TEST(DeletionDialog, OkWithoutASelectionIsNotEvenACommand) {
+    Record record{.things = {"a"}};
+    runDialog(record, [](DeletionList& list) {
+        list.command(DeletionCommand::Ok);
+        EXPECT_TRUE(list.isOpen());
+    });
+    EXPECT_TRUE(record.commands.empty());
+}
+
+TEST(DeletionDialog, NeverAsksForItemsWhenThereAreNone) {
+    Record record;
+    runDialog(record, [](DeletionList& list) {
+        EXPECT_TRUE(list.rows().empty());
+        list.select({0});
+        list.command(DeletionCommand::Ok);
+    });
+    EXPECT_EQ(record.asked, 0);
+    Record emptied{.things = {"a"}};
+    runDialog(emptied, [&](DeletionList& list) {
+        list.select({0});
+        emptied.things.clear();
+        list.command(DeletionCommand::Ok);
+    });
+    EXPECT_EQ(emptied.asked, 1) << "only to show it, before it was gone";
+    EXPECT_TRUE(emptied.deleted.empty());
+}
+
+TEST(DeletionDialog, DeletesWhatWasSelectedAlsoWhenTheListChangedMeanwhile) {
+    Record record{.things = {"a", "b", "c"}};
+    runDialog(record, [&](DeletionList& list) {
+        list.select({1, 2});
+        record.things = {"new", "c", "b", "a"};
+        list.command(DeletionCommand::Ok);
+    });
+    EXPECT_THAT(record.deleted, testing::UnorderedElementsAre("b", "c"));
+    EXPECT_THAT(record.things, testing::ElementsAre("new", "a"));
+}
+
+TEST(DeletionDialog, IsDestroyedByTheTimeRunReturns) {
+    Record record{.things = {"a"}};
+    runDialog(record, [&](DeletionList&) { EXPECT_FALSE(record.destroyed); });
+    EXPECT_TRUE(record.destroyed);
+}
+
+TEST(DeletionDialog, IsDestroyedAlsoWhenRunThrows) {
+    Record record{.things = {"a"}};
+    struct Stopped {};
+    EXPECT_THROW(runDialog(record, [](DeletionList&) { throw Stopped(); }), Stopped);
+    EXPECT_TRUE(record.destroyed);
+}
+
+TEST(DeletionDialog, OneRowAtATimeWhereSeveralAreNotAllowed) {
+    Record record{.things = {"a", "b"}};
+    const ListUser user([](DeletionList& list) {
+        list.select({1, 0});
+        EXPECT_THAT(list.selection(), testing::ElementsAre(0));
+    });
+    (new ThingsDialog(record, false))->Run();
+}
+
+TEST(DeletionList, LeavesOutRowsThatAreNotThereAndRepeatedOnes) {
+    DeletionList list("", {"a", "b", "c"}, easel::host::SelectionMode::Several, [](DeletionCommand) {});
+    list.select({2, -1, 0, 3, 2});
+    EXPECT_THAT(list.selection(), testing::ElementsAre(0, 2));
+    list.select({});
+    EXPECT_FALSE(list.canConfirm());
+}
+
+} // namespace
+} // namespace tests
