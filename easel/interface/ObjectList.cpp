@@ -76,6 +76,7 @@ void DeleteUObj(long index, CTessObjList const& list) {
         own->erase(static_cast<std::size_t>(index));
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes lists by value.
 void InsertObj(TessObject const& object, long index, CTessObjList list) {
     journal("InsertObj", index);
     drawing::Drawing* own = drawingOf(list);
@@ -85,6 +86,7 @@ void InsertObj(TessObject const& object, long index, CTessObjList list) {
     own->insert(place, object.State()->object);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes lists by value.
 void SelObject(long index, CTessObjList list) {
     journal("SelObject", index);
     if (drawing::Drawing* own = drawingWith(list, index))

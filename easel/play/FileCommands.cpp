@@ -1,4 +1,5 @@
-// Commands about drawings in files: opening and saving them.
+// Commands about drawings in files: opening, saving and exporting them.
+#include "easel/paint/ExportDrawing.h"
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
@@ -31,9 +32,16 @@ void save(Session& session, Arguments& arguments) {
         throw PlayError(failure->message);
 }
 
+void exportPicture(Session& session, Arguments& arguments) {
+    const std::filesystem::path file = fileIn(session, arguments);
+    if (const toolbox::FileOutcome error = paint::exportDrawing(session.frontWindow().drawing(), file))
+        throw PlayError(error->message());
+}
+
 constexpr Command kCommands[] = {
     {"open", When::idle, open},
     {"save", When::idle, save},
+    {"export", When::idle, exportPicture},
 };
 
 } // namespace

@@ -28,7 +28,7 @@ using Question =
 class OpenQuestions {
   public:
     void open(Question question) { all_.push_back(question); }
-    void close(Question question) { std::erase(all_, question); }
+    void close(Question question) noexcept { std::erase(all_, question); }
 
     // The dialog in front of the other dialogs, also while something else is open in front of it; or null.
     host::Dialog* frontDialog() const;

@@ -1,5 +1,6 @@
 // Opening, changing, undoing and saving drawings.
 #include "tests/scenario/Player.h"
+#include "tests/support/Picture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -112,6 +113,26 @@ TEST(Files, ThatCannotBeSavedAreErrorsThatNameTheFile) {
     const Played played = player.play("new 9 9\nadd rect r 1 1 2 2\nsave no/such/folder/r.svg\n");
     EXPECT_EQ(played.exitCode, 2);
     EXPECT_THAT(played.messages, testing::HasSubstr("r.svg"));
+}
+
+TEST(Files, ExportsInTheFormatThatTheEndingNames) {
+    const Player player;
+    player.playToEnd("new 40 30\nadd rect r 5 5 20 20\ngradient r 1 0 0 0 1 1 0:65535,0,0 1:65535,0,0\n"
+                     "export r.png\nexport r.pdf\nexport r.svg\n");
+    const tests::Picture picture(player.folder() / "r.png");
+    EXPECT_EQ(picture.width(), 40);
+    EXPECT_EQ(picture.height(), 30);
+    EXPECT_EQ(picture.at(10, 10), 0xff0000u);
+    EXPECT_THAT(contentOf(player.folder() / "r.pdf"), testing::StartsWith("%PDF-"));
+    EXPECT_THAT(contentOf(player.folder() / "r.svg"), testing::HasSubstr("<svg"));
+}
+
+TEST(Files, OfAnEndingThatIsNoPictureAreNotExported) {
+    const Player player;
+    const Played played = player.play("new 40 30\nexport r.gif\n");
+    EXPECT_EQ(played.exitCode, 2);
+    EXPECT_THAT(played.messages, testing::HasSubstr("r.gif"));
+    EXPECT_FALSE(std::filesystem::exists(player.folder() / "r.gif"));
 }
 
 // A click or a drag at random places, as lines of a scenario.
