@@ -1,12 +1,16 @@
 // The command line of Easel.
 #include "easel/commands/PlayCommand.h"
 #include "easel/commands/RenderCommand.h"
+#include "easel/commands/WindowCommand.h"
 
 #include <CLI/CLI.hpp>
 
 int main(int argc, char** argv) {
     CLI::App app{"Easel, a drawing application with a gradient tool"};
     app.set_version_flag("--version", "easel " EASEL_VERSION);
+    easel::window::StartUp startUp;
+    startUp.version = EASEL_VERSION;
+    easel::commands::addWindowOptions(app, startUp);
     int exitCode = 0;
     easel::commands::addPlayCommand(app, exitCode);
     easel::commands::addRenderCommand(app, exitCode);
@@ -16,5 +20,6 @@ int main(int argc, char** argv) {
         constexpr int kMisused = 2;
         return app.exit(error) == 0 ? 0 : kMisused;
     }
-    return exitCode;
+    const bool hadCommand = !app.get_subcommands().empty();
+    return hadCommand ? exitCode : easel::commands::runWindow(startUp, argc, argv);
 }

@@ -1,0 +1,53 @@
+// Finds the window's library beside the program and hands over to it.
+#include "easel/commands/WindowCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdlib>
+#include <dlfcn.h>
+#include <iostream>
+#include <string>
+
+namespace easel::commands {
+namespace {
+
+bool isSet(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value != nullptr && *value != '\0';
+}
+
+bool hasDisplay() {
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
+}
+
+} // namespace
+
+void addWindowOptions(CLI::App& app, window::StartUp& startUp) {
+    app.add_option("FILE", startUp.files, "Drawings (SVG) to open, each in a window of its own");
+    app.add_option("--plugin", startUp.plugin,
+                   "The plug-in module to load instead of the one beside the program");
+    app.add_option("--prefs", startUp.preferences, "The folder for defaults, templates and settings");
+}
+
+int runWindow(const window::StartUp& startUp, int argc, char** argv) {
+    if (!hasDisplay()) {
+        std::cerr << "easel: there is no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is "
+                     "set).\n"
+                     "The commands play, render and templates work without one; see easel --help.\n";
+        return 2;
+    }
+    // The program's run path names the folders that may hold the library.
+    void* library = dlopen("libeaselwindow.so", RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) {
+        std::cerr << "easel: this build has no window: " << dlerror() << "\n";
+        return 2;
+    }
+    void* symbol = dlsym(library, window::kRunWindowSymbol);
+    if (symbol == nullptr) {
+        std::cerr << "easel: the window's library is damaged: " << dlerror() << "\n";
+        return 2;
+    }
+    return reinterpret_cast<window::RunWindowFunction>(symbol)(startUp, argc, argv);
+}
+
+} // namespace easel::commands

@@ -1,0 +1,193 @@
+// View, scrolling and zooming of the canvas.
+#include "easel/window/Canvas.h"
+
+#include "easel/window/DesktopUser.h"
+#include "easel/window/PathConversion.h"
+
+#include <QScrollBar>
+#include <QVariantAnimation>
+
+#include <algorithm>
+#include <cmath>
+
+namespace easel::window {
+namespace {
+
+constexpr double kSmallestZoom = 0.02;
+constexpr double kLargestZoom = 64;
+// The ground that stays in sight around the page, in pixels.
+constexpr double kMargin = 28;
+// How fast dragging past the edge scrolls: pixels a frame for each pixel beyond.
+constexpr double kScrollShare = 0.35;
+constexpr double kLongestScroll = 60;
+constexpr double kEdge = 2;
+
+double pastEdge(double at, double size) {
+    if (at < kEdge)
+        return at - kEdge;
+    return at > size - kEdge ? at - (size - kEdge) : 0;
+}
+
+int scrollStep(double past) {
+    const double step = std::clamp(std::abs(past) * kScrollShare, 4.0, kLongestScroll);
+    return past == 0 ? 0 : static_cast<int>(std::copysign(step, past));
+}
+
+} // namespace
+
+Canvas::Canvas(host::DrawingWindow& window, DesktopUser& user, QWidget* parent)
+    : QAbstractScrollArea(parent), window_(window), user_(user) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Drawing"));
+    viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setAcceptDrops(true);
+    viewport()->setAcceptDrops(true);
+    user_.addCanvas(*this);
+}
+
+Canvas::~Canvas() {
+    user_.removeCanvas(*this);
+}
+
+void Canvas::setTool(CanvasTool* tool) {
+    tool_ = tool;
+    refreshCursor();
+}
+
+QPointF Canvas::origin() const {
+    const drawing::Drawing& drawing = window_.drawing();
+    const double ratio = devicePixelRatioF();
+    const auto along = [&](double pageSize, int viewSize, const QScrollBar& bar) {
+        const double shown = pageSize * zoom_;
+        const bool fits = shown + 2 * kMargin <= viewSize;
+        const double pixels = fits ? -(viewSize - shown) / 2 : bar.value() - kMargin;
+        // On whole pixels of the screen, so that scrolling moves the picture and does not change it.
+        return std::round(pixels * ratio) / ratio / zoom_;
+    };
+    return {along(drawing.width(), viewport()->width(), *horizontalScrollBar()),
+            along(drawing.height(), viewport()->height(), *verticalScrollBar())};
+}
+
+void Canvas::updateScrollBars() {
+    const auto adjust = [this](QScrollBar& bar, double pageSize, int viewSize) {
+        const double content = pageSize * zoom_ + 2 * kMargin;
+        bar.setRange(0, std::max(0, static_cast<int>(std::ceil(content)) - viewSize));
+        bar.setPageStep(viewSize);
+        bar.setSingleStep(std::max(1, viewSize / 12));
+    };
+    adjust(*horizontalScrollBar(), window_.drawing().width(), viewport()->width());
+    adjust(*verticalScrollBar(), window_.drawing().height(), viewport()->height());
+    updateView();
+}
+
+void Canvas::updateView() {
+    host::View view;
+    view.zoom = zoom_;
+    view.deviceScale = devicePixelRatioF();
+    view.origin = fromQt(origin());
+    view.width = viewport()->width();
+    view.height = viewport()->height();
+    window_.setView(view);
+    viewport()->update();
+}
+
+QRectF Canvas::page() const {
+    const drawing::Drawing& drawing = window_.drawing();
+    return inViewport({0, 0, drawing.width(), drawing.height()});
+}
+
+QRectF Canvas::inViewport(const drawing::Box& box) const {
+    if (box.empty())
+        return {};
+    const host::View& view = window_.view();
+    const drawing::Point from = view.toWindow({box.left, box.top});
+    const drawing::Point to = view.toWindow({box.right, box.bottom});
+    return {toQt(from), toQt(to)};
+}
+
+void Canvas::zoomAbout(QPointF place, double zoom) {
+    zoom = std::clamp(zoom, kSmallestZoom, kLargestZoom);
+    if (zoom == zoom_)
+        return;
+    const drawing::Point kept = toLocal(place);
+    zoom_ = zoom;
+    updateScrollBars();
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(kept.x * zoom_ + kMargin - place.x())));
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(kept.y * zoom_ + kMargin - place.y())));
+    updateView();
+    Q_EMIT zoomChanged(zoom_);
+}
+
+void Canvas::zoomAboutMiddle(double zoom) {
+    zoomAbout(QRectF(viewport()->rect()).center(), zoom);
+}
+
+void Canvas::fit() {
+    const drawing::Drawing& drawing = window_.drawing();
+    const double horizontal = (viewport()->width() - 2 * kMargin) / drawing.width();
+    const double vertical = (viewport()->height() - 2 * kMargin) / drawing.height();
+    zoomAboutMiddle(std::min(horizontal, vertical));
+}
+
+void Canvas::resizeEvent(QResizeEvent*) {
+    updateScrollBars();
+    if (everSized_ || !isVisible())
+        return;
+    // A drawing opens at its own size, or whole if that is too large for the window.
+    everSized_ = true;
+    if (page().width() + 2 * kMargin > viewport()->width() ||
+        page().height() + 2 * kMargin > viewport()->height())
+        fit();
+}
+
+void Canvas::scrollContentsBy(int, int) {
+    updateView();
+}
+
+drawing::Point Canvas::toLocal(QPointF position) const {
+    return window_.view().toDrawing(fromQt(position));
+}
+
+bool Canvas::wouldScroll(QPointF position) const {
+    const auto can = [](const QScrollBar& bar, double past) {
+        return (past < 0 && bar.value() > bar.minimum()) || (past > 0 && bar.value() < bar.maximum());
+    };
+    return can(*horizontalScrollBar(), pastEdge(position.x(), viewport()->width())) ||
+           can(*verticalScrollBar(), pastEdge(position.y(), viewport()->height()));
+}
+
+void Canvas::scrollTowards(QPointF position) {
+    const auto scroll = [](QScrollBar& bar, double past) { bar.setValue(bar.value() + scrollStep(past)); };
+    scroll(*horizontalScrollBar(), pastEdge(position.x(), viewport()->width()));
+    scroll(*verticalScrollBar(), pastEdge(position.y(), viewport()->height()));
+}
+
+void Canvas::presentNow() {
+    if (window_.hasMarks()) {
+        viewport()->repaint();
+        return;
+    }
+    const QRectF before = shownFeedback_;
+    viewport()->repaint(before.united(feedbackArea()).toAlignedRect());
+}
+
+void Canvas::showMarquee(std::optional<QRectF> marquee) {
+    marquee_ = marquee;
+    viewport()->update();
+}
+
+void Canvas::flash() {
+    auto* fade = new QVariantAnimation(this);
+    fade->setStartValue(1.0);
+    fade->setEndValue(0.0);
+    fade->setDuration(350);
+    connect(fade, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        flash_ = value.toDouble();
+        viewport()->update();
+    });
+    fade->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+} // namespace easel::window

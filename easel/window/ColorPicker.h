@@ -1,0 +1,43 @@
+// The desktop's color picker with the exact 16-bit channels beneath it.
+#pragma once
+
+#include <QColor>
+#include <QDialog>
+
+#include <array>
+#include <cstdint>
+
+class QColorDialog;
+class QSpinBox;
+
+namespace easel::window {
+
+struct ExactColor {
+    std::uint16_t red = 0;
+    std::uint16_t green = 0;
+    std::uint16_t blue = 0;
+
+    friend bool operator==(const ExactColor&, const ExactColor&) = default;
+};
+
+// Qt's color dialog knows 8 bits a channel. What it is given keeps all its bits as long as the user does not
+// choose another color in it, and the three fields take and show all 16.
+class ColorPicker : public QDialog {
+    Q_OBJECT
+
+  public:
+    ColorPicker(const QString& prompt, const ExactColor& start, QWidget* parent);
+
+    const ExactColor& color() const { return color_; }
+
+  private:
+    void pickedInDialog(const QColor& color);
+    void typedChannels();
+    void showChannels();
+
+    ExactColor color_;
+    QColorDialog* dialog_;
+    std::array<QSpinBox*, 3> channels_;
+};
+
+} // namespace easel::window

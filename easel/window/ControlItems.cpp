@@ -1,0 +1,132 @@
+// The native controls that need no drawing of ours.
+#include "easel/window/ControlItems.h"
+
+#include <QKeyEvent>
+#include <QListView>
+#include <QWheelEvent>
+
+namespace easel::window {
+namespace {
+
+// Buttons would take '&' for the mark of an accelerator.
+QString caption(const host::DialogItem& item) {
+    return QString::fromStdString(item.shownText()).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+constexpr int kEntriesInSight = 24;
+
+} // namespace
+
+ButtonItem::ButtonItem(host::Dialog& dialog, int item, QWidget* parent)
+    : QPushButton(parent), dialog_(dialog), item_(item) {
+    setAutoDefault(false);
+    setDefault(item == kDefaultItem);
+    connect(this, &QPushButton::clicked, this, [this] { dialog_.hit(item_); });
+    modelChanged(host::ItemChange::Text);
+}
+
+void ButtonItem::modelChanged(host::ItemChange) {
+    const host::DialogItem& item = *dialog_.item(item_);
+    setText(caption(item));
+    setEnabled(item.enabled);
+}
+
+LabelItem::LabelItem(host::Dialog& dialog, int item, QWidget* parent)
+    : QLabel(parent), dialog_(dialog), item_(item) {
+    setTextFormat(Qt::PlainText);
+    modelChanged(host::ItemChange::Text);
+}
+
+void LabelItem::modelChanged(host::ItemChange) {
+    const host::DialogItem& item = *dialog_.item(item_);
+    setText(QString::fromStdString(item.shownText()));
+    setEnabled(item.enabled);
+    setWordWrap(item.bounds.height() > 2 * fontMetrics().height());
+}
+
+RadioItem::RadioItem(host::Dialog& dialog, int item, QWidget* parent)
+    : QRadioButton(parent), dialog_(dialog), item_(item) {
+    setAutoExclusive(false);
+    connect(this, &QRadioButton::clicked, this, [this] { dialog_.hit(item_); });
+    modelChanged(host::ItemChange::Value);
+}
+
+void RadioItem::modelChanged(host::ItemChange) {
+    const host::DialogItem& item = *dialog_.item(item_);
+    setText(caption(item));
+    setChecked(item.value != 0);
+    setEnabled(item.enabled);
+}
+
+void MenuModel::reload() {
+    beginResetModel();
+    shownCount_ = menu_.count();
+    endResetModel();
+}
+
+int MenuModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : shownCount_;
+}
+
+QVariant MenuModel::data(const QModelIndex& index, int role) const {
+    const int number = index.row() + 1;
+    if (!menu_.has(number))
+        return {};
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
+        return QString::fromStdString(menu_.text(number));
+    // The word by which combo boxes know a separator.
+    if (role == Qt::AccessibleDescriptionRole && menu_.entry(number).separator)
+        return QStringLiteral("separator");
+    return {};
+}
+
+Qt::ItemFlags MenuModel::flags(const QModelIndex& index) const {
+    if (!menu_.selectable(index.row() + 1))
+        return Qt::NoItemFlags;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+}
+
+PopupItem::PopupItem(host::Dialog& dialog, int item, QWidget* parent)
+    : QComboBox(parent), dialog_(dialog), item_(item),
+      entries_(new MenuModel(*dialog.item(item)->menu, this)) {
+    auto* list = new QListView(this);
+    list->setUniformItemSizes(false);
+    list->setLayoutMode(QListView::Batched);
+    setView(list);
+    setModel(entries_);
+    setMaxVisibleItems(kEntriesInSight);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    connect(this, &QComboBox::activated, this, [this](int row) {
+        dialog_.chooseEntry(item_, row + 1);
+        modelChanged(host::ItemChange::Value);
+    });
+    modelChanged(host::ItemChange::Value);
+}
+
+void PopupItem::modelChanged(host::ItemChange change) {
+    if (change == host::ItemChange::Menu)
+        entries_->reload();
+    const host::DialogItem& item = *dialog_.item(item_);
+    setCurrentIndex(item.menu->has(item.value) ? item.value - 1 : -1);
+    setEnabled(item.enabled);
+}
+
+void PopupItem::keyPressEvent(QKeyEvent* event) {
+    const bool opens = event->key() == Qt::Key_Space || event->key() == Qt::Key_Up ||
+                       event->key() == Qt::Key_Down || event->key() == Qt::Key_F4;
+    const bool searches = !event->text().isEmpty() && event->text().at(0).isPrint();
+    if (opens || searches) {
+        showPopup();
+        if (searches && !opens)
+            view()->keyboardSearch(event->text());
+        return;
+    }
+    // Home, End and the page keys would choose at once; Return and Escape belong to the dialog.
+    event->ignore();
+}
+
+void PopupItem::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+} // namespace easel::window

@@ -1,0 +1,69 @@
+// The list, its hint and its two buttons.
+#include "easel/window/DeletionDialog.h"
+
+#include "easel/interface/DeletionList.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QStringListModel>
+#include <QVBoxLayout>
+
+namespace easel::window {
+
+DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
+    : QDialog(parent), list_(list), view_(new QListView) {
+    const QString title = QString::fromStdString(list.title());
+    setWindowTitle(title);
+    auto* heading = new QLabel(title);
+    QFont bold = heading->font();
+    bold.setBold(true);
+    heading->setFont(bold);
+    heading->setTextFormat(Qt::PlainText);
+    heading->setBuddy(view_);
+
+    QStringList rows;
+    for (const std::string& row : list.rows())
+        rows << QString::fromStdString(row);
+    auto* model = new QStringListModel(rows, this);
+    view_->setModel(model);
+    view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view_->setUniformItemSizes(true);
+    view_->setAlternatingRowColors(true);
+    view_->setAccessibleName(title);
+    connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &DeletionDialog::selectionChanged);
+
+    auto* hint = new QLabel(tr("Choose several with Shift or Ctrl. What is deleted goes to the trash."));
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    hint->setWordWrap(true);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    deleteButton_ = buttons->addButton(tr("Delete"), QDialogButtonBox::AcceptRole);
+    deleteButton_->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 20);
+    layout->setSpacing(12);
+    layout->addWidget(heading);
+    layout->addWidget(view_, 1);
+    layout->addWidget(hint);
+    layout->addWidget(buttons);
+    resize(360, 380);
+    view_->setFocus();
+    selectionChanged();
+}
+
+void DeletionDialog::selectionChanged() {
+    std::vector<int> rows;
+    for (const QModelIndex& index : view_->selectionModel()->selectedIndexes())
+        rows.push_back(index.row());
+    list_.select(std::move(rows));
+    deleteButton_->setEnabled(list_.canConfirm());
+}
+
+} // namespace easel::window

@@ -1,0 +1,30 @@
+// Shows a list from which any number of rows can be chosen for deletion.
+#pragma once
+
+#include <QDialog>
+
+class QListView;
+class QPushButton;
+
+namespace easel::host {
+class DeletionList;
+}
+
+namespace easel::window {
+
+// Accepted means that the rows selected in the list are to be deleted. The list has to outlive the dialog.
+class DeletionDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    DeletionDialog(host::DeletionList& list, QWidget* parent);
+
+  private:
+    void selectionChanged();
+
+    host::DeletionList& list_;
+    QListView* view_;
+    QPushButton* deleteButton_;
+};
+
+} // namespace easel::window

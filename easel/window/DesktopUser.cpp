@@ -1,0 +1,213 @@
+// Answers the host's questions with windows, dialogs and the mouse.
+#include "easel/window/DesktopUser.h"
+
+#include "easel/interface/Alert.h"
+#include "easel/interface/DeletionList.h"
+#include "easel/interface/Dialog.h"
+#include "easel/window/Canvas.h"
+#include "easel/window/ColorPicker.h"
+#include "easel/window/DeletionDialog.h"
+#include "easel/window/DialogWindow.h"
+#include "easel/window/Messages.h"
+#include "host/Drawing.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace easel::window {
+
+DesktopUser::DesktopUser(QObject* parent) : QObject(parent) {
+    qApp->installEventFilter(this);
+}
+
+DesktopUser::~DesktopUser() = default;
+
+void DesktopUser::addCanvas(Canvas& canvas) {
+    canvases_[&canvas.drawingWindow()] = &canvas;
+}
+
+void DesktopUser::removeCanvas(Canvas& canvas) {
+    pointer_.forget(canvas);
+    canvases_.erase(&canvas.drawingWindow());
+}
+
+Canvas* DesktopUser::canvasOf(const host::DrawingWindow& window) const {
+    const auto found = canvases_.find(&window);
+    return found == canvases_.end() ? nullptr : found->second;
+}
+
+// Sees every key and mouse event first, so that the modifier keys are those of the event being handled.
+bool DesktopUser::eventFilter(QObject* receiver, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        if (receiver->isWidgetType())
+            noteModifiers(static_cast<const QInputEvent&>(*event));
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+// The event that reports a modifier key itself still carries the state from before it.
+void DesktopUser::noteModifiers(const QInputEvent& event) {
+    Qt::KeyboardModifiers now = event.modifiers();
+    if (event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease) {
+        const bool down = event.type() == QEvent::KeyPress;
+        const int key = static_cast<const QKeyEvent&>(event).key();
+        if (key == Qt::Key_Shift)
+            now.setFlag(Qt::ShiftModifier, down);
+        else if (key == Qt::Key_Control)
+            now.setFlag(Qt::ControlModifier, down);
+        else if (key == Qt::Key_Alt)
+            now.setFlag(Qt::AltModifier, down);
+    }
+    if (now == modifiers_)
+        return;
+    const bool hadOption = optionIsDown();
+    modifiers_ = now;
+    pointer_.keysChanged();
+    if (optionIsDown() != hadOption)
+        Q_EMIT optionKeyChanged();
+}
+
+DesktopUser::Call::Call(DesktopUser& user) : user_(user) {
+    ++user_.calls_;
+}
+
+DesktopUser::Call::~Call() {
+    if (--user_.calls_ > 0)
+        return;
+    user_.pointer_.resume();
+    Q_EMIT user_.becameIdle();
+}
+
+void DesktopUser::cancelAll() {
+    if (busy())
+        pointer_.giveUp();
+}
+
+QWidget* DesktopUser::parentForDialogs() const {
+    return open_.empty() ? frontWindow_.data() : open_.back().data();
+}
+
+bool DesktopUser::runDialog(QDialog& dialog) {
+    const Call call(*this);
+    const InputGate::Scope scope(gate_, &dialog);
+    open_.emplace_back(&dialog);
+    bool finished = false;
+    const auto watching = connect(&dialog, &QDialog::finished, this, [&finished] { finished = true; });
+    dialog.show();
+    dialog.activateWindow();
+    pointer_.sleepUntil([&finished] { return finished; });
+    disconnect(watching);
+    const bool accepted = finished && dialog.result() == QDialog::Accepted;
+    dialog.hide();
+    open_.pop_back();
+    if (!open_.empty() && open_.back() != nullptr)
+        open_.back()->activateWindow();
+    return accepted;
+}
+
+bool DesktopUser::keyIsDown(std::uint16_t code) {
+    switch (code) {
+    case host::kShiftKey:
+        return (modifiers_ & Qt::ShiftModifier) != 0;
+    case host::kOptionKey:
+        return optionIsDown();
+    default:
+        return false;
+    }
+}
+
+void DesktopUser::present(host::DrawingWindow& window) {
+    if (Canvas* canvas = canvasOf(window))
+        canvas->presentNow();
+}
+
+void DesktopUser::repaint(host::DrawingWindow& window, const drawing::Box&) {
+    if (Canvas* canvas = canvasOf(window))
+        canvas->marked();
+}
+
+void DesktopUser::scrollTowardsMouse(host::DrawingWindow&) {
+    pointer_.scrollTowardsMouse();
+}
+
+void DesktopUser::setCursor(host::DrawingWindow& window, long id) {
+    if (Canvas* canvas = canvasOf(window))
+        canvas->showCursor(id);
+}
+
+// Dialogs show the arrow wherever their controls have no cursor of their own, which is what 0 asks for.
+void DesktopUser::setDialogCursor(long) {}
+
+void DesktopUser::beep() {
+    QApplication::beep();
+}
+
+void DesktopUser::tell(const std::string& message) {
+    QMessageBox* box = makeProblemMessage(QString::fromStdString(message), parentForDialogs());
+    runDialog(*box);
+    box->deleteLater();
+}
+
+void DesktopUser::dialogShown(host::Dialog& dialog) {
+    auto& window = dialogs_[&dialog];
+    window = std::make_unique<DialogWindow>(dialog, *this, parentForDialogs());
+    open_.emplace_back(window.get());
+    window->show();
+    window->activateWindow();
+}
+
+void DesktopUser::dialogClosed(host::Dialog& dialog) {
+    const auto found = dialogs_.find(&dialog);
+    if (found == dialogs_.end())
+        return;
+    std::erase(open_, found->second.get());
+    dialogs_.erase(found);
+    if (QWidget* next = parentForDialogs())
+        next->activateWindow();
+}
+
+std::int16_t DesktopUser::nextHit(host::Dialog& dialog) {
+    const auto found = dialogs_.find(&dialog);
+    if (found == dialogs_.end())
+        return 0;
+    const InputGate::Scope scope(gate_, found->second.get());
+    pointer_.sleepUntil([&dialog] { return dialog.hasHit(); });
+    return pointer_.givenUp() ? std::int16_t{0} : static_cast<std::int16_t>(dialog.takeHit().value_or(0));
+}
+
+host::Answer DesktopUser::confirm(const host::Alert& alert) {
+    const Question question = makeQuestion(alert, parentForDialogs());
+    runDialog(*question.box);
+    return question.yes() ? host::Answer::yes : host::Answer::no;
+}
+
+std::optional<RGBColor> DesktopUser::pickColor(const std::string& prompt, const RGBColor& start) {
+    ColorPicker picker(QString::fromStdString(prompt), {start.red, start.green, start.blue},
+                       parentForDialogs());
+    if (!runDialog(picker))
+        return std::nullopt;
+    const ExactColor color = picker.color();
+    return RGBColor{color.red, color.green, color.blue};
+}
+
+void DesktopUser::runDeletion(host::DeletionList& list) {
+    DeletionDialog dialog(list, parentForDialogs());
+    while (list.isOpen() && !pointer_.givenUp())
+        list.command(runDialog(dialog) ? host::DeletionCommand::Ok : host::DeletionCommand::Cancel);
+    if (list.isOpen())
+        list.close();
+}
+
+} // namespace easel::window

@@ -1,0 +1,106 @@
+// The person at the desktop, as the host sees it.
+#pragma once
+
+#include "easel/interface/User.h"
+#include "easel/window/InputGate.h"
+#include "easel/window/PointerTracker.h"
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+
+class QDialog;
+class QInputEvent;
+
+namespace easel::window {
+
+class Canvas;
+class DialogWindow;
+
+class DesktopUser : public QObject, public host::User {
+    Q_OBJECT
+
+  public:
+    explicit DesktopUser(QObject* parent = nullptr);
+    ~DesktopUser() override;
+
+    PointerTracker& pointer() { return pointer_; }
+    InputGate& gate() { return gate_; }
+
+    void addCanvas(Canvas& canvas);
+    void removeCanvas(Canvas& canvas);
+    // The window over which dialogs open when no other dialog is open.
+    void setFrontWindow(QWidget* window) { frontWindow_ = window; }
+
+    bool optionIsDown() const { return (modifiers_ & (Qt::AltModifier | Qt::ControlModifier)) != 0; }
+
+    // Lives while the plug-in runs a callback. Calls may nest only through the dialogs that the plug-in
+    // opens.
+    class Call {
+      public:
+        explicit Call(DesktopUser& user);
+        ~Call();
+        Call(const Call&) = delete;
+        Call& operator=(const Call&) = delete;
+
+      private:
+        DesktopUser& user_;
+    };
+    bool busy() const { return calls_ > 0; }
+    // Ends whatever the plug-in waits for, as if the user had cancelled it; `becameIdle` follows if it was
+    // busy.
+    void cancelAll();
+    bool cancelled() const { return pointer_.givenUp(); }
+
+    // Shows a dialog over the front one, hears no other window meanwhile, and returns whether it was
+    // accepted.
+    bool runDialog(QDialog& dialog);
+    // What a new dialog belongs to: the front dialog, else the front window.
+    QWidget* parentForDialogs() const;
+
+    // --- host::User
+    host::MouseState mouse() override { return pointer_.mouse(); }
+    host::MouseState waitWhileDown() override { return pointer_.waitWhileDown(); }
+    host::MouseState waitForMove(drawing::Point from) override { return pointer_.waitForMove(from); }
+    bool dragBegins(drawing::Point from, double distance) override {
+        return pointer_.dragBegins(from, distance);
+    }
+    bool keyIsDown(std::uint16_t code) override;
+    void present(host::DrawingWindow& window) override;
+    void repaint(host::DrawingWindow& window, const drawing::Box& area) override;
+    void scrollTowardsMouse(host::DrawingWindow& window) override;
+    void setCursor(host::DrawingWindow& window, long id) override;
+    void setDialogCursor(long id) override;
+    void beep() override;
+    void tell(const std::string& message) override;
+    void dialogShown(host::Dialog& dialog) override;
+    void dialogClosed(host::Dialog& dialog) override;
+    std::int16_t nextHit(host::Dialog& dialog) override;
+    host::Answer confirm(const host::Alert& alert) override;
+    std::optional<RGBColor> pickColor(const std::string& prompt, const RGBColor& start) override;
+    void runDeletion(host::DeletionList& list) override;
+
+  Q_SIGNALS:
+    void becameIdle();
+    // Option went down or up, which may ask for another cursor.
+    void optionKeyChanged();
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  private:
+    void noteModifiers(const QInputEvent& event);
+    Canvas* canvasOf(const host::DrawingWindow& window) const;
+
+    PointerTracker pointer_;
+    InputGate gate_;
+    std::map<const host::DrawingWindow*, Canvas*> canvases_;
+    std::map<const host::Dialog*, std::unique_ptr<DialogWindow>> dialogs_;
+    std::vector<QPointer<QWidget>> open_; // dialogs on the screen, the front one last
+    QPointer<QWidget> frontWindow_;
+    Qt::KeyboardModifiers modifiers_;
+    int calls_ = 0;
+};
+
+} // namespace easel::window

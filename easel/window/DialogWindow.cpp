@@ -1,0 +1,145 @@
+// Builds the controls of a dialog and keeps them in step with its model.
+#include "easel/window/DialogWindow.h"
+
+#include "easel/window/ControlItems.h"
+#include "easel/window/DesktopUser.h"
+#include "easel/window/DialogContent.h"
+#include "easel/window/EditItem.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace easel::window {
+namespace {
+
+std::uint32_t rgb(const QColor& color) {
+    return color.rgb() & 0xffffffU;
+}
+
+QColor mixed(const QColor& a, const QColor& b, double share) {
+    const auto channel = [share](int from, int to) { return static_cast<int>(from + (to - from) * share); };
+    return {channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue())};
+}
+
+host::DialogTheme themeOf(const QPalette& palette) {
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    return {rgb(ground), rgb(mixed(ground, text, 0.18)), rgb(mixed(ground, QColor(Qt::black), 0.24))};
+}
+
+ItemWidget* makeItemWidget(host::Dialog& dialog, const host::DialogItem& item, DesktopUser& user,
+                           DialogContent& content) {
+    switch (item.kind) {
+    case host::ItemKind::Button:
+        return new ButtonItem(dialog, item.number, &content);
+    case host::ItemKind::StaticText:
+        return new LabelItem(dialog, item.number, &content);
+    case host::ItemKind::EditText:
+        return new EditItem(dialog, item.number, user, &content);
+    case host::ItemKind::UserDrawn:
+        return new UserItem(dialog, item.number, content);
+    case host::ItemKind::Popup:
+        return new PopupItem(dialog, item.number, &content);
+    case host::ItemKind::Radio:
+        return new RadioItem(dialog, item.number, &content);
+    }
+    return nullptr;
+}
+
+// A separator is drawn like a user item but there is nothing to do with it.
+bool isSeparator(const host::DialogItem& item) {
+    return item.kind == host::ItemKind::UserDrawn && !item.enabled;
+}
+
+} // namespace
+
+DialogWindow::DialogWindow(host::Dialog& dialog, DesktopUser& user, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), dialog_(dialog),
+      user_(user), content_(new DialogContent(dialog, user, this)) {
+    setWindowTitle(QString::fromStdString(dialog.title()));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(content_);
+    for (const host::DialogItem& item : dialog.items())
+        addItem(item);
+    dialog_.setObserver(this);
+    matchScreen();
+    focusChanged();
+}
+
+DialogWindow::~DialogWindow() {
+    dialog_.setObserver(nullptr);
+}
+
+void DialogWindow::addItem(const host::DialogItem& item) {
+    ItemWidget* made = makeItemWidget(dialog_, item, user_, *content_);
+    items_[item.number] = made;
+    QWidget* widget = made->widget();
+    widget->setGeometry(item.bounds.left, item.bounds.top, item.bounds.width(), item.bounds.height());
+    widget->setToolTip(QString::fromStdString(item.tooltip));
+    if (!item.accessibleName.empty())
+        widget->setAccessibleName(QString::fromStdString(item.accessibleName));
+    if (isSeparator(item)) {
+        widget->setFocusPolicy(Qt::NoFocus);
+        widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+}
+
+void DialogWindow::itemChanged(int item, host::ItemChange change) {
+    const auto found = items_.find(item);
+    if (found != items_.end() && change != host::ItemChange::Invalid)
+        found->second->modelChanged(change);
+}
+
+void DialogWindow::focusChanged() {
+    const auto found = items_.find(dialog_.focus());
+    if (found == items_.end() || found->second->widget()->hasFocus())
+        return;
+    found->second->widget()->setFocus();
+    found->second->modelChanged(host::ItemChange::Selection);
+}
+
+void DialogWindow::pixelsDrawn(const paint::PixelRect& area) {
+    content_->update(QRect(area.left, area.top, area.width(), area.height()).adjusted(-1, -1, 1, 1));
+}
+
+// Escape, and the window's own close button, are a hit of the Cancel item.
+void DialogWindow::reject() {
+    dialog_.hit(kCancelItem);
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        dialog_.hit(kDefaultItem);
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void DialogWindow::matchScreen() {
+    dialog_.setScreen({devicePixelRatioF(), themeOf(palette())});
+    dialog_.drawInvalidItems();
+    content_->update();
+}
+
+bool DialogWindow::event(QEvent* event) {
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::ScreenChangeInternal)
+        matchScreen();
+    return handled;
+}
+
+void DialogWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        matchScreen();
+}
+
+void DialogWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    matchScreen();
+}
+
+} // namespace easel::window

@@ -1,0 +1,48 @@
+// A real dialog of the desktop, built from the host's model of one.
+#pragma once
+
+#include "easel/interface/Dialog.h"
+
+#include <QDialog>
+
+#include <map>
+
+namespace easel::window {
+
+class DesktopUser;
+class DialogContent;
+class ItemWidget;
+
+// Shows the model and keeps showing it: native controls over the dialog's own image. What the user does goes
+// to the model, which turns it into hits.
+class DialogWindow : public QDialog, private host::DialogObserver {
+    Q_OBJECT
+
+  public:
+    DialogWindow(host::Dialog& dialog, DesktopUser& user, QWidget* parent);
+    ~DialogWindow() override;
+
+    void reject() override;
+
+  protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void itemChanged(int item, host::ItemChange change) override;
+    void focusChanged() override;
+    void shownChanged() override {}
+    void pixelsDrawn(const paint::PixelRect& area) override;
+
+    void addItem(const host::DialogItem& item);
+    void matchScreen();
+
+    host::Dialog& dialog_;
+    DesktopUser& user_;
+    DialogContent* content_;
+    std::map<int, ItemWidget*> items_;
+};
+
+} // namespace easel::window

@@ -1,0 +1,25 @@
+// Small refinements on top of the desktop's own widget style: flat tool buttons, quiet bars, keyboard focus
+// that shows.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace easel::window {
+
+class EaselStyle : public QProxyStyle {
+    Q_OBJECT
+
+  public:
+    // Whether the desktop names a style; without one Qt falls back to its plain Fusion style.
+    static bool desktopHasStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override;
+};
+
+} // namespace easel::window

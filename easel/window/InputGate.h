@@ -1,0 +1,41 @@
+// Decides who hears the keyboard and the mouse while the plug-in waits for an answer.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+namespace easel::window {
+
+// Dialogs could be made modal by the window system, but that would also keep the user from closing a window
+// or quitting while one is open. So they are not, and this filter turns away everything but the closing.
+class InputGate : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit InputGate(QObject* parent = nullptr);
+
+    // While it lives, only this widget and what it contains or opens hears the user.
+    class Scope {
+      public:
+        Scope(InputGate& gate, QWidget* only);
+        ~Scope();
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+
+      private:
+        InputGate& gate_;
+    };
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  private:
+    bool admits(const QWidget& widget) const;
+
+    std::vector<QPointer<QWidget>> only_;
+};
+
+} // namespace easel::window

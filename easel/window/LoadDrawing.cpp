@@ -1,0 +1,43 @@
+// Drives a progress dialog from the reader's reports.
+#include "easel/window/LoadDrawing.h"
+
+#include "easel/window/DesktopUser.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QProgressDialog>
+
+namespace easel::window {
+namespace {
+
+constexpr int kSteps = 1000;
+// Handling events between two reports costs time of its own.
+constexpr qint64 kFrame = 33;
+
+} // namespace
+
+svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* over) {
+    const DesktopUser::Call call(user);
+    QProgressDialog dialog(QObject::tr("Opening %1 \u2026").arg(QFileInfo(file).fileName()),
+                           QObject::tr("Cancel"), 0, kSteps, over);
+    dialog.setWindowTitle(QObject::tr("Easel"));
+    dialog.setMinimumDuration(500);
+    dialog.setValue(0);
+    const InputGate::Scope scope(user.gate(), &dialog);
+    QElapsedTimer sinceShown;
+    sinceShown.start();
+    svg::ReadOptions options;
+    options.progress = [&](double done) {
+        if (sinceShown.elapsed() >= kFrame) {
+            dialog.setValue(static_cast<int>(done * (kSteps - 1)));
+            QCoreApplication::processEvents();
+            sinceShown.restart();
+        }
+        return !dialog.wasCanceled() && !user.cancelled();
+    };
+    return svg::readFile(QFile::encodeName(file).toStdString(), options);
+}
+
+} // namespace easel::window

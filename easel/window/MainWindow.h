@@ -1,0 +1,122 @@
+// The window of one drawing: menus, tools, canvas and status line.
+#pragma once
+
+#include "easel/interface/DrawingWindow.h"
+
+#include <QMainWindow>
+#include <QString>
+
+#include <vector>
+
+class QAction;
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QToolBar;
+class QToolButton;
+
+namespace easel::window {
+
+class Canvas;
+class NoticeBar;
+class Workspace;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    // An empty file name stands for a drawing that was never saved.
+    MainWindow(Workspace& workspace, drawing::Drawing drawing, const QString& file);
+    ~MainWindow() override;
+
+    const QString& file() const { return file_; }
+    // Whether nothing was ever done to it and it came from no file.
+    bool isPristine() const;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    enum class Saved { Yes, No };
+
+    // MainWindowMenus.cpp
+    void buildActions();
+    void buildFileMenu();
+    void buildEditMenu();
+    void buildViewMenu();
+    void buildHelpMenu();
+    void buildToolBar();
+    void buildToolPalette();
+    void fillRecentMenu();
+    QAction* makeAction(const QString& text, const QString& tip, const QKeySequence& keys,
+                        void (MainWindow::*slot)());
+
+    // MainWindowFiles.cpp
+    void newDrawing();
+    void open();
+    void openRecent(const QString& file);
+    Saved save();
+    Saved saveAs();
+    Saved saveTo(const QString& file);
+    void saveNow() { save(); }
+    void saveAsNow() { saveAs(); }
+    void exportPng() { exportAs(QStringLiteral("png")); }
+    void exportPdf() { exportAs(QStringLiteral("pdf")); }
+    void exportSvg() { exportAs(QStringLiteral("svg")); }
+    void exportAs(const QString& suffix);
+    void print();
+    Saved settleChanges();
+    QString chosenFile(const QString& title, const QString& suffix, const QString& filter);
+
+    // MainWindow.cpp
+    void undo();
+    void redo();
+    void deleteSelected();
+    void selectAllObjects();
+    void openOptions();
+    void zoomIn();
+    void zoomOut();
+    void zoomActual();
+    void zoomFit();
+    void snapChanged();
+    void chooseAppearance(QAction* chosen);
+    void showShortcuts();
+    void showAbout();
+    void quit();
+    void buildStatusBar();
+    void drawingChanged();
+    void toolChanged();
+    void showZoom(double zoom);
+    void nothingToPaint();
+    QString name() const;
+
+    Workspace& workspace_;
+    host::DrawingWindow drawingWindow_;
+    QString file_;
+    Canvas* canvas_;
+    NoticeBar* notice_;
+    bool closeWhenIdle_ = false;
+
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    QAction* delete_ = nullptr;
+    QAction* options_ = nullptr;
+    QAction* save_ = nullptr;
+    QAction* open_ = nullptr;
+    QAction* new_ = nullptr;
+    QAction* zoomIn_ = nullptr;
+    QAction* zoomOut_ = nullptr;
+    QAction* zoomActual_ = nullptr;
+    QAction* zoomFit_ = nullptr;
+    QAction* snapGrid_ = nullptr;
+    QAction* snapObject_ = nullptr;
+    QMenu* recentMenu_ = nullptr;
+    QActionGroup* toolActions_ = nullptr;
+    QLabel* pointer_ = nullptr;
+    QLabel* message_ = nullptr;
+    QToolButton* zoomButton_ = nullptr;
+};
+
+} // namespace easel::window

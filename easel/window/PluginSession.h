@@ -1,0 +1,38 @@
+// The plug-in from its loading to its unloading.
+#pragma once
+
+#include "easel/interface/PluginModule.h"
+
+#include <QString>
+
+#include <filesystem>
+#include <optional>
+
+namespace easel::window {
+
+class Workspace;
+
+// Loads the plug-in, sends it the start-up message and hands its tools to the workspace; at the end sends the
+// shut-down message and unloads it. Without a usable plug-in there are no tools of its, and a problem to
+// tell.
+class PluginSession {
+  public:
+    // Empty paths stand for the usual places.
+    PluginSession(const std::filesystem::path& module, const std::filesystem::path& preferences,
+                  Workspace& workspace);
+    ~PluginSession();
+    PluginSession(const PluginSession&) = delete;
+    PluginSession& operator=(const PluginSession&) = delete;
+
+    // Why there is no plug-in, naming the file; empty if there is one.
+    const QString& problem() const { return problem_; }
+
+  private:
+    void load(const std::filesystem::path& module);
+
+    Workspace& workspace_;
+    std::optional<host::PluginModule> module_;
+    QString problem_;
+};
+
+} // namespace easel::window

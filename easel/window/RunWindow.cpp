@@ -1,0 +1,77 @@
+// Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
+#include "easel/window/RunWindow.h"
+
+#include "easel/window/DesktopUser.h"
+#include "easel/window/EaselStyle.h"
+#include "easel/window/PluginSession.h"
+#include "easel/window/TerminationSignals.h"
+#include "easel/window/Theme.h"
+#include "easel/window/Workspace.h"
+
+#include "easel/interface/Host.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QSettings>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace easel::window {
+namespace {
+
+// Qt ends the program when it cannot reach the display; it is to say so plainly and leave no core behind.
+void reportMessages(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr,
+                     "easel: no window can be opened: %s\n"
+                     "The commands play, render and templates work without a display; see easel --help.\n",
+                     qUtf8Printable(text.section(QLatin1Char('\n'), 0, 0)));
+        std::_Exit(2);
+    }
+    if (type == QtCriticalMsg)
+        std::fprintf(stderr, "easel: %s\n", qUtf8Printable(text));
+}
+
+void openFirstWindows(Workspace& workspace, const StartUp& startUp, const PluginSession& plugin) {
+    for (const std::filesystem::path& file : startUp.files)
+        workspace.openFile(QFile::decodeName(file.c_str()), nullptr);
+    if (workspace.windows().empty())
+        workspace.newDrawing();
+    if (!plugin.problem().isEmpty())
+        workspace.tell(plugin.problem());
+}
+
+} // namespace
+} // namespace easel::window
+
+int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv) {
+    using namespace easel::window;
+    qInstallMessageHandler(reportMessages);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("kestrad"));
+    QCoreApplication::setApplicationName(QStringLiteral("easel"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Easel"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("easel"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    if (!startUp.preferences.empty())
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           QFile::decodeName(startUp.preferences.c_str()));
+    applyAppearance(storedAppearance());
+    QApplication::setStyle(new EaselStyle);
+
+    DesktopUser user;
+    easel::host::theHost().user = &user;
+    int result = 0;
+    {
+        Workspace workspace(startUp.version, user);
+        PluginSession plugin(startUp.plugin, startUp.preferences, workspace);
+        const TerminationSignals signals([&workspace] { workspace.quit(); });
+        QTimer::singleShot(0, &workspace, [&] { openFirstWindows(workspace, startUp, plugin); });
+        result = QApplication::exec();
+    }
+    easel::host::theHost().user = nullptr;
+    return result;
+}
