@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
     for (const auto& [note, files] : counts.notes)
         std::cout << files << " files: " << note << '\n';
-    std::cout << counts.files << " files, " << counts.objects << " objects, " << counts.refused << " refused, "
-              << counts.changed << " changed by saving, " << took.count() << " s\n";
+    std::cout << counts.files << " files, " << counts.objects << " objects, " << counts.refused
+              << " refused, " << counts.changed << " changed by saving, " << took.count() << " s\n";
     return counts.refused == 0 && counts.changed == 0 ? 0 : 1;
 }

@@ -1,0 +1,108 @@
+// Outlines: bounds, polygons, and which points are inside or near.
+#include "easel/drawing/Path.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <numbers>
+
+namespace {
+
+using namespace easel::drawing;
+
+double polygonArea(const std::vector<Point>& points) {
+    double twice = 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Point a = points[i];
+        const Point b = points[(i + 1) % points.size()];
+        twice += a.x * b.y - b.x * a.y;
+    }
+    return std::abs(twice / 2);
+}
+
+TEST(Path, BoundsOfACurveAreThoseOfTheCurveNotOfItsControls) {
+    Path path;
+    path.moveTo({0, 0});
+    path.cubicTo({0, 100}, {100, 100}, {100, 0});
+    // The curve's height is three quarters of the controls'.
+    EXPECT_EQ(path.bounds(), (Box{0, 0, 100, 75}));
+}
+
+TEST(Path, BoundsLeaveOutPointsThatAreNotFinite) {
+    Path path;
+    path.moveTo({1, 2});
+    path.lineTo({std::numeric_limits<double>::infinity(), 5});
+    path.lineTo({3, std::numeric_limits<double>::quiet_NaN()});
+    path.lineTo({4, 6});
+    EXPECT_EQ(path.bounds(), (Box{1, 2, 4, 6}));
+}
+
+TEST(Path, ASegmentAfterACloseStartsWhereTheSubpathBegan) {
+    Path path;
+    path.moveTo({1, 2});
+    path.lineTo({5, 2});
+    path.close();
+    path.lineTo({1, 9});
+    const std::vector<Contour> contours = flatten(path, 0.1);
+    ASSERT_EQ(contours.size(), 2U);
+    EXPECT_EQ(contours[1].points.front(), (Point{1, 2}));
+    EXPECT_FALSE(contours[1].closed);
+    EXPECT_FALSE(path.closed());
+}
+
+TEST(Path, FlattenedEllipseHasItsAreaAndStaysWithinTolerance) {
+    const std::vector<Contour> contours = flatten(ellipsePath({50, 40}, 30, 20), 0.01);
+    ASSERT_EQ(contours.size(), 1U);
+    EXPECT_TRUE(contours[0].closed);
+    EXPECT_NEAR(polygonArea(contours[0].points), std::numbers::pi * 30 * 20, 2);
+    for (const Point p : contours[0].points)
+        EXPECT_NEAR(std::hypot((p.x - 50) / 30, (p.y - 40) / 20), 1, 3e-4);
+}
+
+TEST(Path, FinerToleranceGivesMoreLinesAndCoarserFewer) {
+    const Path ellipse = ellipsePath({0, 0}, 100, 100);
+    EXPECT_GT(flatten(ellipse, 0.001)[0].points.size(), 2 * flatten(ellipse, 0.1)[0].points.size());
+}
+
+TEST(Path, AHoleIsOutsideByEvenOddAndByOpposedDirections) {
+    Path same = rectanglePath({0, 0, 10, 10});
+    same.moveTo({3, 3});
+    same.lineTo({7, 3});
+    same.lineTo({7, 7});
+    same.lineTo({3, 7});
+    same.close();
+    EXPECT_TRUE(contains(same, FillRule::NonZero, {5, 5}));
+    EXPECT_FALSE(contains(same, FillRule::EvenOdd, {5, 5}));
+    EXPECT_TRUE(contains(same, FillRule::EvenOdd, {1, 5}));
+
+    Path opposed = rectanglePath({0, 0, 10, 10});
+    opposed.moveTo({3, 3});
+    opposed.lineTo({3, 7});
+    opposed.lineTo({7, 7});
+    opposed.lineTo({7, 3});
+    opposed.close();
+    EXPECT_FALSE(contains(opposed, FillRule::NonZero, {5, 5}));
+}
+
+TEST(Path, PointsNearACurveAreJudgedByTheCurve) {
+    const Path circle = ellipsePath({0, 0}, 10, 10);
+    EXPECT_TRUE(contains(circle, FillRule::NonZero, {7.05, 7.05}));
+    EXPECT_FALSE(contains(circle, FillRule::NonZero, {7.1, 7.1}));
+    EXPECT_TRUE(outlineWithin(circle, {0, 12.9}, 3));
+    EXPECT_FALSE(outlineWithin(circle, {0, 13.1}, 3));
+    EXPECT_FALSE(outlineWithin(circle, {0, 0}, 9));
+}
+
+TEST(Path, AnOpenSubpathIsFilledAsIfClosedButItsOutlineStaysOpen) {
+    const Path open = polylinePath({{0, 0}, {10, 0}, {10, 10}});
+    EXPECT_TRUE(contains(open, FillRule::NonZero, {8, 4}));
+    EXPECT_FALSE(outlineWithin(open, {5, 5}, 1));
+}
+
+TEST(Path, ARoundedRectangleIsNeverRounderThanItsSides) {
+    const Path path = roundedRectanglePath({0, 0, 10, 4}, 100, 100);
+    EXPECT_EQ(path.bounds(), (Box{0, 0, 10, 4}));
+    EXPECT_FALSE(contains(path, FillRule::NonZero, {0.5, 0.3}));
+}
+
+} // namespace
