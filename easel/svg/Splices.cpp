@@ -1,12 +1,15 @@
 #include "easel/svg/Splices.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace easel::svg {
 
 void Splices::sort() {
-    std::stable_sort(splices_.begin(), splices_.end(),
-                     [](const Splice& a, const Splice& b) { return a.begin < b.begin; });
+    // What is inserted at a place goes before what is removed from there on.
+    std::stable_sort(splices_.begin(), splices_.end(), [](const Splice& a, const Splice& b) {
+        return std::tie(a.begin, a.end) < std::tie(b.begin, b.end);
+    });
 }
 
 std::string Splices::applied(const std::string& text, std::size_t begin, std::size_t end) {

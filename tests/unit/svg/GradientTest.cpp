@@ -52,7 +52,8 @@ double redAt(const std::vector<ForeignStop>& stops, double t) {
     for (std::size_t i = 1; i < stops.size(); ++i)
         if (t < stops[i].offset) {
             const double u = (t - stops[i - 1].offset) / (stops[i].offset - stops[i - 1].offset);
-            return stops[i - 1].color.red + u * (static_cast<double>(stops[i].color.red) - stops[i - 1].color.red);
+            return stops[i - 1].color.red +
+                   u * (static_cast<double>(stops[i].color.red) - stops[i - 1].color.red);
         }
     return stops.back().color.red;
 }

@@ -127,6 +127,18 @@ TEST(SvgWriter, ADeletedObjectsElementGoesWithItsLine) {
     EXPECT_EQ(toBytes(drawing), expected);
 }
 
+TEST(SvgWriter, TheFirstElementCanGoWhileOurBlockComesInItsPlace) {
+    const std::string before =
+        "<svg xmlns=\"http://www.w3.org/2000/svg\">\n  <rect id='a' width='9' height='9'/>\n"
+        "  <rect id='b' width='9' height='9'/>\n</svg>\n";
+    Drawing drawing = readOk(before);
+    giveGradient(drawing, 1, oddRecord());
+    drawing.erase(0);
+    const Drawing again = readOk(toBytes(drawing));
+    ASSERT_EQ(again.size(), 1U);
+    EXPECT_TRUE(recordOf(again));
+}
+
 TEST(SvgWriter, GradientsThatNothingUsesAnyMoreLeaveOurBlock) {
     Drawing drawing = readOk(kUntidy);
     giveGradient(drawing, 0, oddRecord());
