@@ -5,19 +5,21 @@
 
 namespace easel::paint {
 
-FlatShader::FlatShader(const SurfaceView& surface, const RampColor& color, double opacity)
-    : surface_(surface), color_{color.blue, color.green, color.red, color.opacity * opacity},
-      pixel_(opaquePixel(color_)) {}
+FlatShader::FlatShader(const SurfaceView& surface, const RampSegments& color, double opacity)
+    : surface_(surface), color_(color.all().front()), opacity_(opacity), pixel_(opaquePixel(color_.color)) {}
 
 void FlatShader::row(int y, std::span<const CoverageRun> runs) {
     std::uint32_t* pixels = surface_.row(y);
+    BlendQueue queue(pixels);
     for (const CoverageRun& run : runs) {
-        if (run.coverage == kFullCoverage && color_[3] == 1)
+        if (hidingOf(color_, run, opacity_) == Hiding::Full) {
             std::fill(pixels + run.begin, pixels + run.end, pixel_);
-        else
-            blendPixels(pixels + run.begin, run.end - run.begin, color_, {},
-                        run.coverage / double{kFullCoverage});
+            continue;
+        }
+        for (int x = run.begin; x < run.end; ++x)
+            queue.add(color_, x, color_.anchor, shareOf(run, opacity_));
     }
+    queue.flush(color_);
 }
 
 } // namespace easel::paint

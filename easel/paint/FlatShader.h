@@ -8,12 +8,14 @@ namespace easel::paint {
 
 class FlatShader : public RowSink {
   public:
-    FlatShader(const SurfaceView& surface, const RampColor& color, double opacity);
+    // `color` has one segment and must outlive the shader.
+    FlatShader(const SurfaceView& surface, const RampSegments& color, double opacity);
     void row(int y, std::span<const CoverageRun> runs) override;
 
   private:
     SurfaceView surface_;
-    Channels color_;
+    const RampSegment& color_;
+    double opacity_;
     std::uint32_t pixel_; // where it hides what is below
 };
 

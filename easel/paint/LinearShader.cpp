@@ -10,9 +10,6 @@ namespace easel::paint {
 namespace {
 
 constexpr int kEndless = std::numeric_limits<int>::max();
-// Levels that one unit of a LinearStart's color stands for.
-constexpr double kStartScale = 1 << 24;
-
 } // namespace
 
 // The segments in the order in which a row meets them, which is backwards where the parameter falls to the
@@ -20,8 +17,8 @@ constexpr double kStartScale = 1 << 24;
 class LinearShader::Track {
   public:
     Track(const LinearShader& shader, int y)
-        : shader_(shader), segments_(shader.segments_.all()), perPixel_(shader.perPixel_), y_(y + 0.5),
-          first_(shader.map_.at({0.5, y_})) {}
+        : shader_(shader), segments_(shader.segments_.all()), perPixel_(shader.perPixel_),
+          pixelsPerUnit_(1 / perPixel_), y_(y + 0.5), first_(shader.map_.at({0.5, y_})) {}
 
     double parameter(int x) const { return first_ + perPixel_ * x; }
     std::size_t index() const { return index_; }
@@ -44,10 +41,12 @@ class LinearShader::Track {
     }
     // The first pixel on the far side of a segment's start.
     int pixelBeyond(const RampSegment& segment) const {
-        const double crossing = (segment.start - first_) / perPixel_;
-        const double pixel = perPixel_ > 0 ? std::ceil(crossing) : std::floor(crossing) + 1;
         const PixelBox& clip = shader_.surface_.clip();
-        const int near = static_cast<int>(std::clamp<double>(pixel, clip.left, clip.right));
+        const double crossing =
+            std::clamp<double>((segment.start - first_) * pixelsPerUnit_, clip.left - 1, clip.right);
+        // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
+        const int whole = static_cast<int>(crossing);
+        const int near = whole + (crossing > whole ? 1 : 0);
         if (!segment.sharp)
             return near;
         if (beyond(segment, near - 1))
@@ -61,6 +60,7 @@ class LinearShader::Track {
     const LinearShader& shader_;
     std::span<const RampSegment> segments_;
     double perPixel_;
+    double pixelsPerUnit_;
     double y_;
     double first_; // parameter at the centre of the row's pixel 0
     std::size_t index_ = 0;
@@ -68,67 +68,27 @@ class LinearShader::Track {
 };
 
 LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, const RampSegments& segments,
-                           double opacity, std::vector<LinearSteps>& steps)
+                           double opacity, std::vector<LinearPiece>& pieces)
     : surface_(surface), map_(map), segments_(segments), opacity_(opacity),
-      perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared), steps_(steps) {
-    steps_.clear();
+      perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared), pieces_(pieces) {
+    pieces_.clear();
     for (const RampSegment& segment : segments_.all())
-        steps_.push_back(stepsOf(segment));
+        pieces_.emplace_back(segment, perPixel_);
 }
 
 void LinearShader::row(int y, std::span<const CoverageRun> runs) {
     std::uint32_t* pixels = surface_.row(y);
+    BlendQueue queue(pixels);
     Track track(*this, y);
-    walkSegments(runs, track, [&](int begin, int end, const CoverageRun& run) {
-        const RampSegment& segment = segments_.all()[track.index()];
-        const double parameter = track.parameter(begin);
-        if (hidingOf(segment, run, opacity_) == Hiding::Full)
-            return paintOpaque(pixels + begin, end - begin, run.end - begin, track.index(), parameter);
-        Channels step;
-        for (std::size_t i = 0; i < step.size(); ++i)
-            step[i] = segment.slope[i] * perPixel_;
-        blendPixels(pixels + begin, end - begin, segment.at(parameter), step,
-                    opacity_ * run.coverage / kFullCoverage);
-    });
-}
-
-void LinearShader::paintOpaque(std::uint32_t* pixels, int count, int room, std::size_t index,
-                               double parameter) const {
-    const RampSegment& segment = segments_.all()[index];
-    const Channels color = segment.at(parameter);
-    if (segment.flat() || perPixel_ == 0) {
-        std::fill_n(pixels, count, opaquePixel(color));
-        return;
-    }
-    LinearStart start;
-    for (std::size_t i = 0; i < start.color.size(); ++i) {
-        // Half a level rounds the pixel, the other half unit what the block's shift by 16 cuts off.
-        const double level = color[i] + 0.5 + 0.5 / 256;
-        start.color[i] = static_cast<std::uint32_t>(nearest(level * kStartScale));
-        start.blockStep[i] = static_cast<std::uint32_t>(nearest(slopeOf(segment, i) * kBlock * kStartScale));
-    }
-    fillLinear(pixels, count, room, start, steps_[index]);
-}
-
-// Per pixel. Where a segment is so steep that it ends within a pixel, only its first color is ever used.
-double LinearShader::slopeOf(const RampSegment& segment, std::size_t channel) const {
-    return std::clamp(segment.slope[channel] * perPixel_, -256.0, 256.0);
-}
-
-LinearSteps LinearShader::stepsOf(const RampSegment& segment) const {
-    LinearSteps steps;
-    const auto unit = [&](std::size_t channel) {
-        return static_cast<std::uint32_t>(nearest(slopeOf(segment, channel) * kStartScale));
+    const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
+    const auto paint = [&](int begin, int end, const CoverageRun& run) {
+        if (hidingOf(present(), run, opacity_) == Hiding::Full)
+            return pieces_[track.index()].paint(pixels + begin, end - begin, run.end - begin,
+                                                track.parameter(begin));
+        for (int x = begin; x < end; ++x)
+            queue.add(present(), x, track.parameter(x), shareOf(run, opacity_));
     };
-    const std::uint32_t blue = unit(0);
-    const std::uint32_t green = unit(1);
-    const std::uint32_t red = unit(2);
-    constexpr std::uint32_t kHalf = 1U << 15;
-    for (std::uint32_t i = 0; i < kBlock; ++i) {
-        steps.blueRed[i] = (i * blue + kHalf) >> 16 | ((i * red + kHalf) & 0xFFFF0000);
-        steps.green[i] = (i * green + kHalf) >> 16;
-    }
-    return steps;
+    walkSegments(runs, track, paint, [&] { queue.flush(present()); });
 }
 
 } // namespace easel::paint

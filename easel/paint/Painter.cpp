@@ -56,7 +56,8 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
                          const Ink& ink, double opacity, const Use& use) {
     opacity = sanitised(opacity);
     if (const auto* color = std::get_if<drawing::ColorPaint>(&ink)) {
-        FlatShader shader(surface, colorOf(*color), opacity);
+        segments_.layOut(colorOf(*color));
+        FlatShader shader(surface, segments_, opacity);
         return use(shader);
     }
     const Gradient& gradient = *std::get<const Gradient*>(ink);
@@ -67,11 +68,12 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
                RampSegments::Outcome::Ready;
     };
     if (std::holds_alternative<FlatMap>(map)) {
-        FlatShader shader(surface, paint::colorOf(gradient.ramp.stops().back()), opacity);
+        segments_.layOut(paint::colorOf(gradient.ramp.stops().back()));
+        FlatShader shader(surface, segments_, opacity);
         return use(shader);
     }
     if (const auto* line = std::get_if<LinearMap>(&map); line && laidOut(*line)) {
-        LinearShader shader(surface, *line, segments_, opacity, steps_);
+        LinearShader shader(surface, *line, segments_, opacity, pieces_);
         return use(shader);
     }
     if (const auto* circles = std::get_if<RadialMap>(&map);

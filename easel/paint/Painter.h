@@ -4,7 +4,7 @@
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 #include "easel/paint/Gradient.h"
-#include "easel/paint/PixelKernels.h"
+#include "easel/paint/LinearPiece.h"
 #include "easel/paint/RampSegments.h"
 #include "easel/paint/Rasteriser.h"
 #include "easel/paint/Surface.h"
@@ -43,7 +43,7 @@ class Painter {
 
     Rasteriser rasteriser_;
     RampSegments segments_;
-    std::vector<LinearSteps> steps_;
+    std::vector<LinearPiece> pieces_;
 };
 
 } // namespace easel::paint

@@ -20,8 +20,8 @@ void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& star
 void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
     plain::fillRadial(out, count, room, run);
 }
-void BlendLinear(std::uint32_t* out, int count, const BlendRun& run) {
-    plain::blendLinear(out, count, run);
+void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {
+    plain::blendPoints(row, color, points);
 }
 
 #else
@@ -46,9 +46,9 @@ void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& star
     const hn::Repartition<std::uint16_t, decltype(d)> d16;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto highBytes = hn::Set(d, 0xFF00FF00);
-    std::uint32_t blue = start.color[0];
-    std::uint32_t green = start.color[1];
-    std::uint32_t red = start.color[2];
+    std::uint32_t blue = start[0];
+    std::uint32_t green = start[1];
+    std::uint32_t red = start[2];
     for (int block = 0; block < count; block += kBlock) {
         const auto blueRed = hn::BitCast(d16, hn::Set(d, (red & 0xFFFF0000) | (blue >> 16)));
         const auto greenAlpha = hn::BitCast(d16, hn::Set(d, kOpaque | (green >> 16)));
@@ -59,15 +59,14 @@ void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& star
                 hn::Or(hn::BitCast(d, hn::ShiftRight<8>(even)), hn::And(hn::BitCast(d, odd), highBytes));
             StorePixels(d, pixels, out, block + i, room);
         }
-        blue += start.blockStep[0];
-        green += start.blockStep[1];
-        red += start.blockStep[2];
+        blue += steps.block[0];
+        green += steps.block[1];
+        red += steps.block[2];
     }
 }
 
 void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
     const hn::ScalableTag<float> df;
-
     const hn::RebindToUnsigned<decltype(df)> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto offset = hn::Set(df, run.offset);
@@ -75,6 +74,9 @@ void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
     const auto lean = hn::Set(df, run.lean);
     const auto reference = hn::Set(df, run.reference);
     const auto stride = hn::Set(df, static_cast<float>(lanes));
+    // Added to a level, it leaves the nearest whole number in the lowest bits, and above them bits that the
+    // shifts below push out or the alpha hides.
+    const auto toBits = hn::Set(df, 8388608.0F); // 2 to the 23
     auto index = hn::Iota(df, 0);
     for (int at = 0; at < count; at += lanes) {
         const auto u = hn::Add(offset, index);
@@ -82,7 +84,7 @@ void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
         const auto way = hn::Sub(hn::Add(root, hn::Mul(lean, u)), reference);
         const auto channel = [&](std::size_t i) HWY_ATTR {
             const auto level = hn::Add(hn::Set(df, run.color[i]), hn::Mul(hn::Set(df, run.slope[i]), way));
-            return hn::BitCast(d, hn::NearestInt(level));
+            return hn::BitCast(d, hn::Add(level, toBits));
         };
         const auto greenRed = hn::Or(hn::ShiftLeft<8>(channel(1)), hn::ShiftLeft<16>(channel(2)));
         const auto pixels = hn::Or(hn::Or(channel(0), hn::Set(d, kOpaque)), greenRed);
@@ -92,21 +94,20 @@ void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
 }
 
 // One pixel is one vector of four floats.
-void BlendLinear(std::uint32_t* out, int count, const BlendRun& run) {
+void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {
     const hn::FixedTag<float, 4> df;
     const hn::FixedTag<std::int32_t, 4> di;
     const hn::FixedTag<std::uint8_t, 4> d8;
     const hn::FixedTag<std::uint32_t, 1> dPixel;
-    const auto first = hn::Load(df, run.color.data());
-    const auto step = hn::Load(df, run.step.data());
-    for (int i = 0; i < count; ++i) {
-        const auto index = static_cast<float>(i);
-        const auto color = hn::Add(first, hn::Mul(step, hn::Set(df, index)));
-        const auto weight = hn::Set(df, run.weight + run.weightStep * index);
-        const auto bytes = hn::BitCast(d8, hn::Set(dPixel, out[i]));
+    const auto first = hn::Load(df, color.color.data());
+    const auto slope = hn::Load(df, color.slope.data());
+    for (const BlendPoint& point : points) {
+        const auto level = hn::Add(first, hn::Mul(slope, hn::Set(df, point.way)));
+        const auto weight = hn::Set(df, (color.opacity + color.opacitySlope * point.way) * point.share);
+        const auto bytes = hn::BitCast(d8, hn::Set(dPixel, row[point.x]));
         const auto below = hn::ConvertTo(df, hn::PromoteTo(di, bytes));
-        const auto mixed = hn::Add(below, hn::Mul(hn::Sub(color, below), weight));
-        out[i] = hn::GetLane(hn::BitCast(dPixel, hn::DemoteTo(d8, hn::NearestInt(mixed))));
+        const auto mixed = hn::Add(below, hn::Mul(hn::Sub(level, below), weight));
+        row[point.x] = hn::GetLane(hn::BitCast(dPixel, hn::DemoteTo(d8, hn::NearestInt(mixed))));
     }
 }
 
@@ -120,7 +121,7 @@ namespace easel::paint {
 
 HWY_EXPORT(FillLinear);
 HWY_EXPORT(FillRadial);
-HWY_EXPORT(BlendLinear);
+HWY_EXPORT(BlendPoints);
 
 void fillLinear(std::uint32_t* pixels, int count, int room, const LinearStart& start,
                 const LinearSteps& steps) {
@@ -131,8 +132,8 @@ void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run
     HWY_DYNAMIC_DISPATCH(FillRadial)(pixels, count, room, run);
 }
 
-void blendLinear(std::uint32_t* pixels, int count, const BlendRun& run) {
-    HWY_DYNAMIC_DISPATCH(BlendLinear)(pixels, count, run);
+void blendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {
+    HWY_DYNAMIC_DISPATCH(BlendPoints)(row, color, points);
 }
 
 } // namespace easel::paint

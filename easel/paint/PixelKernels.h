@@ -4,25 +4,26 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 namespace easel::paint {
 
 // Pixels that LinearSteps reaches over.
 constexpr int kBlock = 16;
 
-// By how much the colors of a block's pixels differ from its first one's, in 256ths of a level modulo 65536:
-// blue in the low half and red in the high half of `blueRed`, green in the low half of `green`.
+// A color that changes evenly from pixel to pixel.
 struct LinearSteps {
+    // By how much the colors of a block's pixels differ from its first one's, in 256ths of a level modulo
+    // 65536: blue in the low half and red in the high half of `blueRed`, green in the low half of `green`.
     alignas(64) std::array<std::uint32_t, kBlock> blueRed;
     alignas(64) std::array<std::uint32_t, kBlock> green;
+    // By how much a block's first pixel differs from that of the block before it: blue, green and red in
+    // levels times 2 to the 24, modulo 2 to the 32.
+    std::array<std::uint32_t, 3> block;
 };
 
-// Blue, green and red of a first pixel and their change over a block, modulo 2 to the 32: levels times 2 to
-// the 24, with half a level added for rounding.
-struct LinearStart {
-    std::array<std::uint32_t, 3> color;
-    std::array<std::uint32_t, 3> blockStep;
-};
+// A first pixel's blue, green and red: levels times 2 to the 24, with what rounding needs added.
+using LinearStart = std::array<std::uint32_t, 3>;
 
 // Writes `count` opaque pixels. Up to `room` pixels (at least `count`) may be written over; what is in those
 // beyond `count` is then undefined.
@@ -43,15 +44,23 @@ struct RadialRun {
 // As fillLinear.
 void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run);
 
-// Pixel k gets the color color + k step (blue, green, red, 255 for alpha; in levels) laid over it with the
-// weight weight + k weightStep, from 0 to 1.
-struct BlendRun {
+// The color of a segment: channels blue, green, red and 255 for alpha in levels, opacity from 0 to 1; all
+// change with the way along the segment.
+struct BlendColor {
     alignas(16) std::array<float, 4> color;
-    alignas(16) std::array<float, 4> step;
-    float weight;
-    float weightStep;
+    alignas(16) std::array<float, 4> slope;
+    float opacity;
+    float opacitySlope;
 };
 
-void blendLinear(std::uint32_t* pixels, int count, const BlendRun& run);
+// A pixel that does not hide what is below it: `share`, from 0 to 1, is multiplied by the color's opacity.
+struct BlendPoint {
+    int x;
+    float way;
+    float share;
+};
+
+// Lays the color over pixels of a row.
+void blendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points);
 
 } // namespace easel::paint

@@ -12,13 +12,13 @@ namespace easel::paint::plain {
 
 // The nearest whole number, ties to even, for levels; the addition rounds as every SIMD unit does.
 inline std::uint32_t nearestLevel(float level) {
-    constexpr float kShift = 12582912.0F; // 1.5 times 2 to the 23
+    constexpr float kShift = 8388608.0F; // 2 to the 23
     return std::bit_cast<std::uint32_t>(level + kShift) & 0xFF;
 }
 
 inline void fillLinear(std::uint32_t* pixels, int count, int, const LinearStart& start,
                        const LinearSteps& steps) {
-    auto color = start.color;
+    LinearStart color = start;
     for (int block = 0; block < count; block += kBlock) {
         for (int i = 0; i < kBlock && block + i < count; ++i) {
             const auto at = static_cast<std::size_t>(i);
@@ -28,7 +28,7 @@ inline void fillLinear(std::uint32_t* pixels, int count, int, const LinearStart&
             pixels[block + i] = 0xFF000000 | (red << 8 & 0xFF0000) | (green & 0xFF00) | (blue >> 8 & 0xFF);
         }
         for (std::size_t i = 0; i < color.size(); ++i)
-            color[i] += start.blockStep[i];
+            color[i] += steps.block[i];
     }
 }
 
@@ -41,18 +41,17 @@ inline void fillRadial(std::uint32_t* pixels, int count, int, const RadialRun& r
     }
 }
 
-inline void blendLinear(std::uint32_t* pixels, int count, const BlendRun& run) {
-    for (int i = 0; i < count; ++i) {
-        const auto index = static_cast<float>(i);
-        const float weight = run.weight + run.weightStep * index;
+inline void blendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {
+    for (const BlendPoint& point : points) {
+        const float weight = (color.opacity + color.opacitySlope * point.way) * point.share;
         std::uint32_t pixel = 0;
         for (std::size_t c = 0; c < 4; ++c) {
             const auto shift = 8 * static_cast<unsigned>(c);
-            const auto below = static_cast<float>(pixels[i] >> shift & 0xFF);
-            const float color = run.color[c] + run.step[c] * index;
-            pixel |= nearestLevel(below + (color - below) * weight) << shift;
+            const auto below = static_cast<float>(row[point.x] >> shift & 0xFF);
+            const float level = color.color[c] + color.slope[c] * point.way;
+            pixel |= nearestLevel(below + (level - below) * weight) << shift;
         }
-        pixels[i] = pixel;
+        row[point.x] = pixel;
     }
 }
 

@@ -107,9 +107,11 @@ bool RadialShader::handles(const RadialMap& map) {
 void RadialShader::row(int y, std::span<const CoverageRun> runs) {
     std::uint32_t* pixels = surface_.row(y);
     const RadialRow row(map_, y);
+    BlendQueue queue(pixels);
     Track track(*this, row, y);
-    walkSegments(runs, track, [&](int begin, int end, const CoverageRun& run) {
-        const RampSegment& segment = segments_.all()[track.index()];
+    const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
+    const auto paint = [&](int begin, int end, const CoverageRun& run) {
+        const RampSegment& segment = present();
         if (hidingOf(segment, run, opacity_) == Hiding::Full) {
             if (segment.flat()) {
                 std::fill(pixels + begin, pixels + end, opaquePixel(segment.color));
@@ -118,10 +120,10 @@ void RadialShader::row(int y, std::span<const CoverageRun> runs) {
             if (singlePrecisionDoes(row, segment, begin, end))
                 return fillRadial(pixels + begin, end - begin, run.end - begin, runOf(row, segment, begin));
         }
-        const double share = opacity_ * run.coverage / kFullCoverage;
         for (int x = begin; x < end; ++x)
-            blendPixels(pixels + x, 1, segment.at(track.parameter(x)), {}, share);
-    });
+            queue.add(segment, x, track.parameter(x), shareOf(run, opacity_));
+    };
+    walkSegments(runs, track, paint, [&] { queue.flush(present()); });
 }
 
 } // namespace easel::paint

@@ -18,6 +18,14 @@ constexpr double kSharpReach = 1e-5;
 // In levels; smaller than any rounding can show.
 constexpr double kVisibleJump = 1e-6;
 
+BlendColor blendColorOf(const Channels& color, const Channels& slope) {
+    const auto narrow = [](double value) { return static_cast<float>(value); };
+    return {{narrow(color[0]), narrow(color[1]), narrow(color[2]), 255},
+            {narrow(slope[0]), narrow(slope[1]), narrow(slope[2]), 0},
+            narrow(color[3]),
+            narrow(slope[3])};
+}
+
 Channels channelsOf(const RampColor& color) {
     return {color.blue, color.green, color.red, color.opacity};
 }
@@ -25,7 +33,7 @@ Channels channelsOf(const RampColor& color) {
 } // namespace
 
 Channels RampSegment::at(double parameter) const {
-    const double way = std::clamp(parameter - anchor, 0.0, reach);
+    const double way = wayTo(parameter);
     Channels result;
     for (std::size_t i = 0; i < result.size(); ++i)
         result[i] = color[i] + slope[i] * way;
@@ -105,7 +113,7 @@ void RampSegments::addBackward(const RampStop& low, const RampStop& high, double
 }
 
 void RampSegments::add(double start, const RampColor& color) {
-    append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false});
+    append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false, {}});
 }
 
 void RampSegments::add(double start, double anchor, double reach, const RampColor& from,
@@ -114,7 +122,7 @@ void RampSegments::add(double start, double anchor, double reach, const RampColo
     const Channels high = channelsOf(to);
     if (low == high)
         return add(start, from);
-    RampSegment segment{start, anchor, reach, low, {}, reach < kSharpReach};
+    RampSegment segment{start, anchor, reach, low, {}, reach < kSharpReach, {}};
     for (std::size_t i = 0; i < low.size(); ++i)
         segment.slope[i] = (high[i] - low[i]) / reach;
     append(segment);
@@ -129,6 +137,7 @@ void RampSegments::append(RampSegment segment) {
         for (std::size_t i = 0; i < left.size(); ++i)
             segment.sharp |= std::abs(left[i] - right[i]) > kVisibleJump;
     }
+    segment.blend = blendColorOf(segment.color, segment.slope);
     segments_.push_back(segment);
 }
 

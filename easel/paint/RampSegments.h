@@ -3,8 +3,10 @@
 #pragma once
 
 #include "easel/drawing/Paint.h"
+#include "easel/paint/PixelKernels.h"
 #include "easel/paint/Ramp.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <vector>
@@ -23,7 +25,10 @@ struct RampSegment {
     Channels slope; // per unit of the parameter
     // The color jumps at the start, or changes so fast that it must begin at the right pixel.
     bool sharp;
+    BlendColor blend; // the same color in single precision
 
+    // How far along the segment a parameter is.
+    double wayTo(double parameter) const { return std::clamp(parameter - anchor, 0.0, reach); }
     Channels at(double parameter) const;
     bool flat() const { return reach == 0; }
     bool opaque() const { return color[3] == 1 && slope[3] == 0; }

@@ -13,19 +13,25 @@ namespace easel::paint {
 
 // Track tells which segment a row is in: `enter(x)` finds the segment of a first pixel, `end()` is the first
 // pixel after the present segment, and `next()` goes on to the segment that begins there, which may be empty.
-// `paint(begin, end, run)` paints pixels of one run in the present segment.
-template <class Track, class Paint>
-void walkSegments(std::span<const CoverageRun> runs, Track& track, const Paint& paint) {
+// `paint(begin, end, run)` paints pixels of one run in the present segment, and `leave()` is called at its
+// end.
+template <class Track, class Paint, class Leave>
+void walkSegments(std::span<const CoverageRun> runs, Track& track, const Paint& paint, const Leave& leave) {
     track.enter(runs.front().begin);
     for (const CoverageRun& run : runs) {
         for (int x = run.begin; x < run.end;) {
-            while (track.end() <= x)
-                track.next();
+            if (track.end() <= x) {
+                leave();
+                do
+                    track.next();
+                while (track.end() <= x);
+            }
             const int end = std::min(run.end, track.end());
             paint(x, end, run);
             x = end;
         }
     }
+    leave();
 }
 
 // Whether a segment hides what is below it wherever a shape covers the pixel fully.
@@ -35,9 +41,8 @@ inline Hiding hidingOf(const RampSegment& segment, const CoverageRun& run, doubl
     return run.coverage == kFullCoverage && opacity == 1 && segment.opaque() ? Hiding::Full : Hiding::Partial;
 }
 
-// The nearest whole number, for values far from the ends of the type.
-inline std::int64_t nearest(double value) {
-    return static_cast<std::int64_t>(value + (value < 0 ? -0.5 : 0.5));
+inline float shareOf(const CoverageRun& run, double opacity) {
+    return static_cast<float>(run.coverage * (opacity / kFullCoverage));
 }
 
 // Without opacity: the pixel is opaque.
@@ -46,16 +51,26 @@ inline std::uint32_t opaquePixel(const Channels& color) {
     return 0xFF000000 | level(2) << 16 | level(1) << 8 | level(0);
 }
 
-// Lays colors that change by `step` from pixel to pixel over what is there, each with its own opacity times
-// `share`.
-inline void blendPixels(std::uint32_t* pixels, int count, const Channels& color, const Channels& step,
-                        double share) {
-    const auto narrow = [](double value) { return static_cast<float>(value); };
-    blendLinear(pixels, count,
-                {{narrow(color[0]), narrow(color[1]), narrow(color[2]), 255},
-                 {narrow(step[0]), narrow(step[1]), narrow(step[2]), 0},
-                 narrow(color[3] * share),
-                 narrow(step[3] * share)});
-}
+// Collects the pixels of a segment that have to be blended, so that they are handed over many at a time.
+class BlendQueue {
+  public:
+    explicit BlendQueue(std::uint32_t* row) : row_(row) {}
+
+    void add(const RampSegment& segment, int x, double parameter, float share) {
+        if (count_ == points_.size())
+            flush(segment);
+        points_[count_++] = {x, static_cast<float>(segment.wayTo(parameter)), share};
+    }
+    void flush(const RampSegment& segment) {
+        if (count_ > 0)
+            blendPoints(row_, segment.blend, {points_.data(), count_});
+        count_ = 0;
+    }
+
+  private:
+    std::uint32_t* row_;
+    std::size_t count_ = 0;
+    std::array<BlendPoint, 64> points_;
+};
 
 } // namespace easel::paint
