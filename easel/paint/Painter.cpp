@@ -23,6 +23,18 @@ RampColor colorOf(const drawing::ColorPaint& paint) {
     return paint::colorOf(RampStop{0, paint.color, sanitised(paint.opacity)});
 }
 
+// A small shape is done before the processor notices which rows it needs; asking early hides most of the
+// wait.
+constexpr int kPrefetchedWidth = 128;
+constexpr int kPrefetchedHeight = 128;
+
+void prefetch(const SurfaceView& surface, const PixelBox& area) {
+    constexpr int kLine = 16; // pixels
+    for (int y = area.top; y < area.bottom; ++y)
+        for (int x = area.left; x < area.right + kLine; x += kLine)
+            __builtin_prefetch(surface.row(y) + std::min(x, area.right - 1), 1);
+}
+
 // The largest parameter at the pixels of an area, and the smallest, which for circles may lie between the
 // corners.
 struct ParameterRange {
@@ -88,9 +100,12 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
 void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Affine& toSurface,
                     const Ink& ink, double opacity) {
     const PixelBox area = rasteriser_.bounds();
-    if (!area.empty())
-        withShader(surface, area, toSurface, ink, opacity,
-                   [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
+    if (area.empty())
+        return;
+    if (area.width() <= kPrefetchedWidth && area.height() <= kPrefetchedHeight)
+        prefetch(surface, area);
+    withShader(surface, area, toSurface, ink, opacity,
+               [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
 }
 
 void Painter::fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,

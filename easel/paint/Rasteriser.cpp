@@ -105,8 +105,8 @@ void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
 }
 
 void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int winding) {
-    const auto top = static_cast<std::int64_t>(std::llrint(upper.y * kUnit));
-    const auto bottom = static_cast<std::int64_t>(std::llrint(lower.y * kUnit));
+    const auto top = static_cast<std::int64_t>(upper.y * kUnit + 0.5);
+    const auto bottom = static_cast<std::int64_t>(lower.y * kUnit + 0.5);
     if (top >= bottom)
         return;
     edges_.push_back(
@@ -203,7 +203,10 @@ void Rasteriser::collectRuns(drawing::FillRule rule) {
         begin = end;
     };
     const int width = clip_.width();
-    for (std::size_t word = 0; word < touched_.size(); ++word) {
+    // Changes may lie up to two columns right of the edges.
+    const auto firstWord = static_cast<std::size_t>(leftmost_) / 64;
+    const auto lastWord = (static_cast<std::size_t>(rightmost_) + 2) / 64;
+    for (std::size_t word = firstWord; word <= lastWord; ++word) {
         for (std::uint64_t bits = touched_[word]; bits != 0; bits &= bits - 1) {
             const auto column = static_cast<int>(word) * 64 + std::countr_zero(bits);
             const std::int64_t change = std::exchange(cells_[static_cast<std::size_t>(column)], 0);
