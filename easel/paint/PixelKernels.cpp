@@ -4,6 +4,8 @@
 
 #include "easel/paint/PlainKernels.h"
 
+#include <cstring>
+
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "easel/paint/PixelKernels.cpp"
 #include "hwy/foreach_target.h"
@@ -30,13 +32,17 @@ namespace hn = hwy::HWY_NAMESPACE;
 
 constexpr std::uint32_t kOpaque = 0xFF000000;
 
-// Writes a vector at index `at`, but nothing at or beyond index `room`.
+// Writes a vector at index `at`, but nothing at or beyond index `room`. Not with a masked store: what is read
+// next to one has to wait for it, and the edge pixels that follow are read.
 template <class D, class V> void StorePixels(D d, V pixels, std::uint32_t* out, int at, int room) {
     const int lanes = static_cast<int>(hn::Lanes(d));
     if (at + lanes <= room)
         hn::StoreU(pixels, d, out + at);
-    else if (at < room)
-        hn::BlendedStore(pixels, hn::FirstN(d, static_cast<std::size_t>(room - at)), d, out + at);
+    else if (at < room) {
+        HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / 4];
+        hn::Store(pixels, d, whole);
+        std::memcpy(out + at, whole, static_cast<std::size_t>(room - at) * 4);
+    }
 }
 
 // Two colors of 16 bits each lie in a 32-bit lane, and a pixel takes the high bytes of two such lanes: blue

@@ -22,6 +22,8 @@ RadialRow::RadialRow(const RadialMap& map, int y)
     const double b = b0 + b1 * lowest;
     const double root = b * b + depth * (dot(nearest, nearest) - map.radius * map.radius);
     height = std::max(root / curvature, 0.0);
+    rootOfHeight = std::sqrt(height);
+    inverseSquare_ = 1 / dot(step_, step_);
     scale = std::sqrt(curvature) / depth;
     lean = -b1 / std::sqrt(curvature);
     base = -b / depth;
@@ -39,10 +41,10 @@ PixelInterval RadialRow::below(double parameter) const {
     const double stepSquared = dot(step_, step_);
     const double cross = step_.x * from.y - step_.y * from.x;
     const double discriminant = stepSquared * radius * radius - cross * cross;
-    const double middle = -dot(step_, from) / stepSquared;
+    const double middle = -dot(step_, from) * inverseSquare_;
     if (!(radius > 0) || !(discriminant >= 0))
         return {middle, middle};
-    const double half = std::sqrt(discriminant) / stepSquared;
+    const double half = std::sqrt(discriminant) * inverseSquare_;
     return {std::floor(middle - half) + 1, std::ceil(middle + half)};
 }
 

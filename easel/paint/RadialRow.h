@@ -19,6 +19,7 @@ class RadialRow {
 
     double lowest;
     double height;
+    double rootOfHeight;
     double lean;
     double scale;
     double base;
@@ -32,6 +33,7 @@ class RadialRow {
     const RadialMap& map_;
     drawing::Point origin_; // pixel 0's centre from the start circle's, in gradient coordinates
     drawing::Point step_;   // from a pixel to its right neighbor
+    double inverseSquare_;  // of the step's length
 };
 
 } // namespace easel::paint

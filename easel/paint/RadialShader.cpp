@@ -31,12 +31,9 @@ RadialRun runOf(const RadialRow& row, const RampSegment& segment, int begin) {
 bool singlePrecisionDoes(const RadialRow& row, const RampSegment& segment, int begin, int end) {
     constexpr double kRelativeError = 4.0 / (1 << 24);
     constexpr double kAllowedLevels = 0.006;
-    const double steepest =
-        std::max({std::abs(segment.slope[0]), std::abs(segment.slope[1]), std::abs(segment.slope[2])}) *
-        row.scale;
     const double farthest = std::max(std::abs(begin - row.lowest), std::abs(end - row.lowest));
-    const double distance = std::sqrt(farthest * farthest + row.height) * (1 + std::abs(row.lean));
-    return steepest * distance * kRelativeError <= kAllowedLevels;
+    const double distance = (farthest + row.rootOfHeight) * (1 + std::abs(row.lean));
+    return segment.steepest * row.scale * distance * kRelativeError <= kAllowedLevels;
 }
 
 } // namespace

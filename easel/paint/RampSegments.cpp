@@ -113,7 +113,7 @@ void RampSegments::addBackward(const RampStop& low, const RampStop& high, double
 }
 
 void RampSegments::add(double start, const RampColor& color) {
-    append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false, {}});
+    append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false, {}, 0});
 }
 
 void RampSegments::add(double start, double anchor, double reach, const RampColor& from,
@@ -122,7 +122,7 @@ void RampSegments::add(double start, double anchor, double reach, const RampColo
     const Channels high = channelsOf(to);
     if (low == high)
         return add(start, from);
-    RampSegment segment{start, anchor, reach, low, {}, reach < kSharpReach, {}};
+    RampSegment segment{start, anchor, reach, low, {}, reach < kSharpReach, {}, 0};
     for (std::size_t i = 0; i < low.size(); ++i)
         segment.slope[i] = (high[i] - low[i]) / reach;
     append(segment);
@@ -138,6 +138,8 @@ void RampSegments::append(RampSegment segment) {
             segment.sharp |= std::abs(left[i] - right[i]) > kVisibleJump;
     }
     segment.blend = blendColorOf(segment.color, segment.slope);
+    for (std::size_t i = 0; i < 3; ++i)
+        segment.steepest = std::max(segment.steepest, std::abs(segment.slope[i]));
     segments_.push_back(segment);
 }
 

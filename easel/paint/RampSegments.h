@@ -26,6 +26,7 @@ struct RampSegment {
     // The color jumps at the start, or changes so fast that it must begin at the right pixel.
     bool sharp;
     BlendColor blend; // the same color in single precision
+    double steepest;  // the largest of the color channels' slopes, without sign
 
     // How far along the segment a parameter is.
     double wayTo(double parameter) const { return std::clamp(parameter - anchor, 0.0, reach); }

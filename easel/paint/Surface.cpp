@@ -1,14 +1,18 @@
 // Memory of a surface.
 #include "easel/paint/Surface.h"
 
+#include <cstdlib>
 #include <cstring>
 #include <new>
+
+#include <sys/mman.h>
 
 namespace easel::paint {
 
 namespace {
 
 constexpr std::ptrdiff_t kAlignment = 64;
+constexpr std::size_t kHugePage = std::size_t{2} << 20;
 
 std::ptrdiff_t strideFor(int width) {
     return (static_cast<std::ptrdiff_t>(width) * 4 + kAlignment - 1) / kAlignment * kAlignment;
@@ -19,8 +23,15 @@ std::ptrdiff_t strideFor(int width) {
 Surface::Surface(int width, int height)
     : width_(std::max(width, 0)), height_(std::max(height, 0)), stride_(strideFor(width_)) {
     const auto bytes = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(height_);
-    void* memory = ::operator new (bytes, std::align_val_t{kAlignment});
+    const std::size_t alignment = bytes < kHugePage ? std::size_t{kAlignment} : kHugePage;
+    void* memory = std::aligned_alloc(alignment, (bytes / alignment + 1) * alignment);
+    if (memory == nullptr)
+        throw std::bad_alloc();
     pixels_.reset(static_cast<std::uint32_t*>(memory));
+    // The rows of a shape lie on as many pages as it has rows; large pages spare most of the address
+    // look-ups. It does not matter if the system has none.
+    if (bytes >= kHugePage)
+        madvise(memory, bytes, MADV_HUGEPAGE);
     std::memset(memory, 0, bytes);
 }
 
@@ -30,7 +41,7 @@ void Surface::clear(std::uint32_t pixel) {
 }
 
 void Surface::Free::operator()(std::uint32_t* pixels) const {
-    ::operator delete (pixels, std::align_val_t{kAlignment});
+    std::free(pixels);
 }
 
 } // namespace easel::paint
