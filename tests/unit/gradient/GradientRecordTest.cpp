@@ -55,6 +55,7 @@ INSTANTIATE_TEST_SUITE_P(NoOneAndManyStops, CopiedRecord, testing::Values(0, 1, 
 
 TEST(GradientRecord, CopyAndAssignmentTakeEveryField) {
     CGradientData const source = UnusualRecord();
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
     CGradientData const copy(source);
     ExpectUnusual(copy);
     CGradientData assigned;

@@ -72,6 +72,7 @@ TEST_F(SharedResource, TheHashAloneDecidesWhatIsEqual) {
 TEST_F(SharedResource, StaysInTheTableWhenTheLastPointerGoes) {
     {
         ProbePtr const first(new Probe(id_));
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
         ProbePtr const second(first);
         EXPECT_EQ(first.UseCount(), 3u);
     }
@@ -83,6 +84,7 @@ TEST_F(SharedResource, NullGivesAnEmptyPointerWithoutACounter) {
     long const before = FailingMemory::LiveBlocks();
     {
         ProbePtr const empty(nullptr);
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
         ProbePtr const copy(empty);
         EXPECT_EQ(static_cast<Probe const*>(copy), nullptr);
         EXPECT_EQ(copy.operator->(), nullptr);
@@ -163,6 +165,7 @@ TEST_F(SharedResource, CountsStayRightOverManyRandomOperations) {
             break;
         default: {
             ProbePtr const copy(slots[from]);
+            // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
             ProbePtr const second(copy);
             slots[to] = second;
             holds[to] = holds[from];
