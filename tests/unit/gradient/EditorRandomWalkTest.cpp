@@ -190,7 +190,7 @@ class RandomUser : public IdleUser {
 
     void nameTemplate(Dialog& dialog) {
         if (below(3) != 0)
-            dialog.typeCharacter(static_cast<char32_t>(U'a' + below(5)));
+            dialog.typeCharacter(static_cast<char32_t>('a' + below(5)));
         else
             dialog.hit(below(3) == 0 ? kCancelItem : kOKItem);
     }
