@@ -27,11 +27,6 @@ View wholeDrawing(const drawing::Drawing& drawing) {
         .zoom = 1, .deviceScale = 1, .origin = {0, 0}, .width = drawing.width(), .height = drawing.height()};
 }
 
-drawing::Box seenThrough(const View& view) {
-    const drawing::Point end = view.toDrawing({view.width, view.height});
-    return {view.origin.x, view.origin.y, end.x, end.y};
-}
-
 // In pixels, each way: what fits the image formats that windows and files use.
 constexpr double kLargestImage = 32767;
 
@@ -65,7 +60,7 @@ DrawingWindow::DrawingWindow(drawing::Drawing drawing)
     : port_(std::make_unique<paint::Port>(paint::PixelRect{0, 0, 1, 1}, 1.0, kWhite & 0xffffff)),
       drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)) {
     registerPort(*port_);
-    mark(seenThrough(view_));
+    mark(view_.seen());
     drawing_.setChangeListener([this](const drawing::Box& area) {
         mark(area);
         if (User* user = theHost().user)
@@ -82,11 +77,11 @@ DrawingWindow::~DrawingWindow() {
 void DrawingWindow::setView(const View& view) {
     view_ = view;
     marks_.clear();
-    mark(seenThrough(view_));
+    mark(view_.seen());
 }
 
 void DrawingWindow::mark(const drawing::Box& area) {
-    const drawing::Box seen = area.intersection(seenThrough(view_));
+    const drawing::Box seen = area.intersection(view_.seen());
     if (seen.empty())
         return;
     marks_.push_back(seen);
@@ -103,7 +98,7 @@ void DrawingWindow::paintMarked() {
     const int height = imageLength(view_.height, view_.deviceScale);
     if (!image_ || image_->width() != width || image_->height() != height) {
         image_ = std::make_unique<paint::Surface>(width, height);
-        marks_.assign(1, seenThrough(view_));
+        marks_.assign(1, view_.seen());
     }
     for (const drawing::Box& mark : std::exchange(marks_, {})) {
         const paint::PixelBox box = pixelsOf(mark, view_.toImage(), *image_);

@@ -20,6 +20,11 @@ struct View {
     drawing::Point toWindow(drawing::Point inDrawing) const {
         return {(inDrawing.x - origin.x) * zoom, (inDrawing.y - origin.y) * zoom};
     }
+    // The part of the drawing that shows.
+    drawing::Box seen() const {
+        const drawing::Point end = toDrawing({width, height});
+        return {origin.x, origin.y, end.x, end.y};
+    }
     // Takes drawing coordinates to pixels of the window's image.
     drawing::Affine toImage() const {
         const double scale = zoom * deviceScale;

@@ -13,6 +13,16 @@ using easel::host::DrawingWindow;
 using easel::host::journal;
 using easel::host::theHost;
 
+namespace {
+
+// Waits for the mouse, and tells whether its button is held beyond the window's edge.
+bool mouseIsDragged(const DrawingWindow& outOf) {
+    const easel::host::MouseState mouse = theHost().user->waitWhileDown();
+    return mouse.down && !outOf.view().seen().contains(mouse.at);
+}
+
+} // namespace
+
 OpaqueGrafPtr* DWindow::GetMacPort() {
     journal("DWindow::GetMacPort");
     return reinterpret_cast<OpaqueGrafPtr*>(&state_->window->port());
@@ -41,7 +51,10 @@ void DWindow::SetIDCursor(long cursorId) {
 
 void DWindow::ScrollWDiag(bool wait) {
     journal("DWindow::ScrollWDiag", wait);
-    theHost().user->scrollTowardsMouse(*state_->window);
+    DrawingWindow& window = *state_->window;
+    do
+        theHost().user->scrollTowardsMouse(window);
+    while (wait && mouseIsDragged(window));
 }
 
 DWindow* ActiveDrawingWindow() {
