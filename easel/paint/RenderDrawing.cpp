@@ -25,27 +25,35 @@ Box drawnArea(const PixelBox& pixels, const Affine& toSurface) {
     return area;
 }
 
+// Calls paint(the surface narrowed to a band) for each band.
+template <class Paint> void forEachBand(const SurfaceView& surface, unsigned threads, Paint paint) {
+    const PixelBox& clip = surface.clip();
+    if (clip.empty())
+        return;
+    const int first = clip.top / kBandRows;
+    const int last = (clip.bottom - 1) / kBandRows;
+    const auto count = static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1;
+    forEachPiece(count, threads, [&](std::size_t piece) {
+        const int top = (first + static_cast<int>(piece)) * kBandRows;
+        paint(surface.clippedTo({clip.left, top, clip.right, top + kBandRows}));
+    });
+}
+
 } // namespace
 
 void renderObjects(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
                    const Affine& toSurface, unsigned threads) {
-    const PixelBox& clip = surface.clip();
-    if (clip.empty() || objects.empty() || !toSurface.invertible())
-        return;
-    const int first = clip.top / kBandRows;
-    const int last = (clip.bottom - 1) / kBandRows;
-    forEachPiece(static_cast<std::size_t>(last - first + 1), threads, [&](std::size_t piece) {
-        const int top = (first + static_cast<int>(piece)) * kBandRows;
-        ObjectPainter painter;
-        painter.paint(objects, surface.clippedTo({clip.left, top, clip.right, top + kBandRows}), toSurface);
-    });
+    if (toSurface.invertible())
+        forEachBand(surface, threads,
+                    [&](const SurfaceView& band) { ObjectPainter().paint(objects, band, toSurface); });
 }
 
 void renderDrawing(const drawing::Drawing& drawing, const SurfaceView& surface, const Affine& toSurface,
                    unsigned threads) {
-    if (surface.clip().empty() || !toSurface.invertible())
-        return;
-    renderObjects(drawing.objectsWithin(drawnArea(surface.clip(), toSurface)), surface, toSurface, threads);
+    if (toSurface.invertible())
+        forEachBand(surface, threads, [&](const SurfaceView& band) {
+            ObjectPainter().paint(drawing.objectsWithin(drawnArea(band.clip(), toSurface)), band, toSurface);
+        });
 }
 
 } // namespace easel::paint
