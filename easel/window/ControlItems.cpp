@@ -13,6 +13,18 @@ QString caption(const host::DialogItem& item) {
     return QString::fromStdString(item.shownText()).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+Qt::Alignment alignmentOf(const host::DialogItem& item) {
+    switch (item.alignment) {
+    case host::TextAlignment::Center:
+        return Qt::AlignHCenter;
+    case host::TextAlignment::Right:
+        return Qt::AlignRight;
+    case host::TextAlignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
 constexpr int kEntriesInSight = 24;
 
 } // namespace
@@ -34,6 +46,7 @@ void ButtonItem::modelChanged(host::ItemChange) {
 LabelItem::LabelItem(host::Dialog& dialog, int item, QWidget* parent)
     : QLabel(parent), dialog_(dialog), item_(item) {
     setTextFormat(Qt::PlainText);
+    setAlignment(alignmentOf(*dialog.item(item)) | Qt::AlignVCenter);
     modelChanged(host::ItemChange::Text);
 }
 
