@@ -1,6 +1,7 @@
 // The command line of Easel.
 #include "easel/commands/PlayCommand.h"
 #include "easel/commands/RenderCommand.h"
+#include "easel/commands/TemplatesCommand.h"
 #include "easel/commands/WindowCommand.h"
 
 #include <CLI/CLI.hpp>
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
     int exitCode = 0;
     easel::commands::addPlayCommand(app, exitCode);
     easel::commands::addRenderCommand(app, exitCode);
+    easel::commands::addTemplatesCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,0 +1,200 @@
+// The command line of `easel templates`.
+#include "easel/commands/TemplatesCommand.h"
+
+#include "easel/exchange/GradientFiles.h"
+#include "easel/exchange/SvgGradient.h"
+#include "easel/exchange/TemplateShelf.h"
+#include "easel/interface/PluginModule.h"
+#include "easel/interface/TemplateFolder.h"
+#include "easel/paint/ExportDrawing.h"
+#include "easel/svg/Color.h"
+#include "easel/svg/Number.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+
+namespace easel::commands {
+
+namespace {
+
+namespace fs = std::filesystem;
+using exchange::TemplateShelf;
+using toolbox::FileError;
+
+constexpr int kFailed = 2;
+
+struct TemplatesRequest {
+    std::string preferences;
+    std::string name;
+    std::string file;
+    std::string picture;
+    std::vector<std::string> files;
+};
+
+int fail(const FileError& error) {
+    std::cerr << "easel: " << error.message() << "\n";
+    return kFailed;
+}
+
+void say(const std::string& subject, const std::vector<std::string>& notes) {
+    for (const std::string& note : notes)
+        std::cerr << "easel: " << subject << ": " << note << "\n";
+}
+
+// Runs an action on the user's templates; its result is the exit code.
+template <class Action> int withShelf(const TemplatesRequest& request, Action action) {
+    auto places = toolbox::StoragePlaces::ofUser();
+    if (!request.preferences.empty())
+        places.preferences = fs::absolute(request.preferences);
+    const auto folder = host::templateFolder(host::PluginModule::defaultFile(), places);
+    if (const auto* error = std::get_if<FileError>(&folder))
+        return fail(*error);
+    return action(TemplateShelf(std::get<fs::path>(folder), places.trash));
+}
+
+int list(const TemplateShelf& shelf) {
+    for (const std::string& name : shelf.names())
+        std::cout << name << "\n";
+    return 0;
+}
+
+std::string pointText(const TPoint<double>& point) {
+    return svg::numberText(point.h) + " " + svg::numberText(point.v);
+}
+
+void print(const std::string& name, const CGradientData& gradient) {
+    std::cout << "name    " << exchange::withoutEnding(name) << "\n";
+    if (gradient.Type() == kLinearGradient)
+        std::cout << "kind    linear\nangle   " << svg::numberText(gradient.Angle()) << " degrees\n";
+    else
+        std::cout << "kind    radial\nstart   " << pointText(gradient.Start()) << "\nend     "
+                  << pointText(gradient.End()) << "\n";
+    for (const CGradientColor& stop : gradient.ColorList()) {
+        const RGBColor color = stop.ColorRGB();
+        std::cout << "stop    " << svg::numberText(stop.Percent() * 100) << " %  "
+                  << svg::colorText({color.red, color.green, color.blue}) << "\n";
+    }
+}
+
+int show(const TemplateShelf& shelf, const TemplatesRequest& request) {
+    const auto gradient = shelf.load(request.name);
+    if (const auto* error = std::get_if<FileError>(&gradient))
+        return fail(*error);
+    print(request.name, std::get<CGradientData>(gradient));
+    if (request.picture.empty())
+        return 0;
+    constexpr double kPictureSize = 256;
+    const auto drawing = exchange::squareWith(std::get<CGradientData>(gradient), kPictureSize);
+    if (const auto failure = paint::exportDrawing(drawing, request.picture, {}))
+        return fail(*failure);
+    return 0;
+}
+
+int exportTemplate(const TemplateShelf& shelf, const TemplatesRequest& request) {
+    const auto gradient = shelf.load(request.name);
+    if (const auto* error = std::get_if<FileError>(&gradient))
+        return fail(*error);
+    const auto notes =
+        exchange::exportFile(std::get<CGradientData>(gradient), exchange::withoutEnding(request.name),
+                             request.file, shelf.trash());
+    if (const auto* error = std::get_if<FileError>(&notes))
+        return fail(*error);
+    say(request.file, std::get<std::vector<std::string>>(notes));
+    return 0;
+}
+
+int importOne(const TemplateShelf& shelf, const std::string& file, const std::string& givenName) {
+    const auto read = exchange::importFile(file);
+    if (const auto* error = std::get_if<FileError>(&read))
+        return fail(*error);
+    const auto& imported = std::get<exchange::ImportedGradient>(read);
+    const std::string name = givenName.empty() ? fs::path(file).stem().string() : givenName;
+    const auto saved = shelf.save(name, imported.gradient);
+    if (const auto* error = std::get_if<FileError>(&saved))
+        return fail(*error);
+    std::cout << file << ": saved as " << exchange::withoutEnding(name)
+              << (std::get<TemplateShelf::Saved>(saved) == TemplateShelf::Saved::Replaced
+                      ? "; the template that had this name is in the trash\n"
+                      : "\n");
+    say(file, imported.notes);
+    return 0;
+}
+
+// What can be imported is, whatever becomes of the rest.
+int import(const TemplateShelf& shelf, const TemplatesRequest& request) {
+    if (!request.name.empty() && request.files.size() > 1)
+        return fail({request.name, "several files cannot have one name", {}});
+    int exitCode = 0;
+    for (const std::string& file : request.files)
+        exitCode = std::max(exitCode, importOne(shelf, file, request.name));
+    return exitCode;
+}
+
+int remove(const TemplateShelf& shelf, const TemplatesRequest& request) {
+    if (const auto failure = shelf.remove(request.name))
+        return fail(*failure);
+    return 0;
+}
+
+using Request = std::shared_ptr<TemplatesRequest>;
+
+CLI::App* addAction(CLI::App& command, const std::string& name, const std::string& help,
+                    const Request& request, int& exitCode,
+                    int (*action)(const TemplateShelf&, const TemplatesRequest&)) {
+    CLI::App* added = command.add_subcommand(name, help);
+    added->add_option(
+        "--prefs", request->preferences,
+        "The preferences folder (default: $XDG_CONFIG_HOME/kestrad, usually ~/.config/kestrad)");
+    added->callback([request, &exitCode, action] {
+        exitCode = withShelf(*request, [&](const TemplateShelf& shelf) { return action(shelf, *request); });
+    });
+    return added;
+}
+
+int listAction(const TemplateShelf& shelf, const TemplatesRequest&) {
+    return list(shelf);
+}
+
+} // namespace
+
+void addTemplatesCommand(CLI::App& app, int& exitCode) {
+    CLI::App* command =
+        app.add_subcommand("templates", "List, show, export, import and delete gradient templates");
+    command->require_subcommand(1);
+    const Request request = std::make_shared<TemplatesRequest>();
+
+    addAction(*command, "list", "Print the names of the templates, a line each", request, exitCode,
+              listAction);
+
+    CLI::App* shown =
+        addAction(*command, "show", "Print a template's kind, direction and stops", request, exitCode, show);
+    shown->add_option("NAME", request->name, "The template, with or without .GRD")->required();
+    shown->add_option("--picture", request->picture,
+                      "Write a picture of it too: a square in a .png, .pdf or .svg file");
+
+    const std::string formats = std::string("its ending chooses the format: ") + exchange::kFormatsInWords;
+    CLI::App* exported = addAction(*command, "export", "Write a template to a file for other programs",
+                                   request, exitCode, exportTemplate);
+    exported->add_option("NAME", request->name, "The template, with or without .GRD")->required();
+    exported->add_option("FILE", request->file, "The file; " + formats)->required();
+    exported->footer("What the format cannot hold is said in a line on standard error.");
+
+    CLI::App* imported =
+        addAction(*command, "import", "Make templates of gradients in files", request, exitCode, import);
+    imported->add_option("FILE", request->files, "The files; " + formats)->required();
+    imported->add_option("--name", request->name,
+                         "The template's name (default: the file's, without its ending)");
+    imported->footer(
+        "A template that is replaced goes to the trash. What a template cannot hold is said in a line on "
+        "standard error.");
+
+    CLI::App* removed =
+        addAction(*command, "delete", "Move a template to the trash", request, exitCode, remove);
+    removed->add_option("NAME", request->name, "The template, with or without .GRD")->required();
+
+    command->footer("Exit status: 0, or 2 with a message that names the file and the reason.");
+}
+
+} // namespace easel::commands

@@ -1,0 +1,25 @@
+// The color stops of a CSS gradient.
+#pragma once
+
+#include "host/Gradient.h"
+
+#include <list>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace easel::exchange {
+
+/// What is said once however often it occurs.
+using Notes = std::set<std::string>;
+
+/// Whether the part of a gradient's list is a color with or without positions.
+bool isColorStop(std::string_view part);
+
+/// The stops of those parts of the list, or nothing, with the reason in `flaw`.
+std::optional<std::list<CGradientColor>> stopsFrom(std::span<const std::string_view> parts, Notes& notes,
+                                                   std::string& flaw);
+
+} // namespace easel::exchange

@@ -1,0 +1,30 @@
+// Gradients in the formats of other programs: what came of reading or writing one.
+#pragma once
+
+#include "host/Gradient.h"
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace easel::exchange {
+
+struct ImportedGradient {
+    CGradientData gradient;
+    std::string name;               ///< what the source calls it, UTF-8; may be empty
+    std::vector<std::string> notes; ///< what the source has and a gradient cannot hold, a sentence each
+};
+
+/// Why there is no gradient to be had, in words for the user.
+struct NoGradient {
+    std::string reason;
+};
+
+using ImportOutcome = std::variant<ImportedGradient, NoGradient>;
+
+struct ExportedGradient {
+    std::string text;
+    std::vector<std::string> notes; ///< what the gradient has and the target cannot hold, a sentence each
+};
+
+} // namespace easel::exchange

@@ -1,0 +1,14 @@
+// GIMP's gradient files (.ggr).
+#pragma once
+
+#include "easel/exchange/Exchange.h"
+
+#include <string_view>
+
+namespace easel::exchange {
+
+ImportOutcome readGgr(std::string_view text);
+/// Such a file holds a ramp only, from 0 to 1.
+ExportedGradient writeGgr(const CGradientData& gradient, const std::string& name);
+
+} // namespace easel::exchange

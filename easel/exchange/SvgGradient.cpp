@@ -1,0 +1,105 @@
+// Gradients in SVG files, by way of drawings.
+#include "easel/exchange/SvgGradient.h"
+
+#include "easel/svg/Document.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace easel::exchange {
+namespace {
+
+using drawing::ForeignGradient;
+using drawing::Point;
+
+// Where a point lies within a box, as fractions of its sides.
+TPoint<double> fractionsOf(const drawing::Box& box, Point point) {
+    const auto part = [](double value, double low, double high) {
+        return high > low ? (value - low) / (high - low) : 0.5;
+    };
+    return {part(point.x, box.left, box.right), part(point.y, box.top, box.bottom)};
+}
+
+// The record nearest to a gradient that none can hold.
+ImportedGradient nearest(const ForeignGradient& foreign, const drawing::Object& object) {
+    ImportedGradient result;
+    auto& gradient = result.gradient;
+    if (const auto* const line = std::get_if<drawing::LinearGeometry>(&foreign.geometry)) {
+        const Point start = foreign.toDrawing(line->start);
+        const Point end = foreign.toDrawing(line->end);
+        gradient.SetType(kLinearGradient);
+        gradient.SetAngle(
+            static_cast<float>(std::atan2(end.y - start.y, end.x - start.x) * 180 / std::numbers::pi));
+        result.notes.emplace_back("where it starts and ends is left out: it covers the whole shape");
+    } else {
+        const auto& circles = std::get<drawing::RadialGeometry>(foreign.geometry);
+        gradient.SetType(kRadialGradient);
+        gradient.SetStart(fractionsOf(object.bounds, foreign.toDrawing(circles.focus)));
+        gradient.SetEnd(fractionsOf(object.bounds, foreign.toDrawing(circles.centre)));
+        result.notes.emplace_back("its radii are left out: the circle reaches the farthest corner");
+    }
+    if (foreign.spread != drawing::Spread::Pad)
+        result.notes.emplace_back("its repetition is left out");
+    bool faint = false;
+    gradient.ColorList().clear();
+    for (const auto& stop : foreign.stops) {
+        faint |= stop.opacity < 1;
+        gradient.ColorList().emplace_back(RGBColor{stop.color.red, stop.color.green, stop.color.blue},
+                                          stop.offset);
+    }
+    if (faint)
+        result.notes.emplace_back("its opacity is left out: every color is opaque");
+    return result;
+}
+
+std::optional<ImportedGradient> gradientOf(const drawing::Object& object) {
+    if (const CGradient* const own = drawing::gradientIn(object.gradient))
+        return ImportedGradient{own->GetGradientData(), object.id, {}};
+    if (const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill)) {
+        auto result = nearest(**foreign, object);
+        result.name = object.id;
+        return result;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+ImportOutcome readSvg(const std::filesystem::path& file) {
+    auto read = svg::readFile(file);
+    if (const auto* const failure = std::get_if<svg::Failure>(&read)) {
+        // The caller names the file.
+        const auto prefix = file.string() + ": ";
+        const auto& message = failure->message;
+        return NoGradient{message.starts_with(prefix) ? message.substr(prefix.size()) : message};
+    }
+    const auto& drawing = std::get<drawing::Drawing>(read);
+    for (std::size_t i = 0; i < drawing.size(); ++i)
+        if (auto found = gradientOf(*drawing.object(i)))
+            return std::move(*found);
+    return NoGradient{"no shape in it has a gradient"};
+}
+
+drawing::Drawing squareWith(const CGradientData& gradient, double size) {
+    auto outline = std::make_shared<drawing::Path>();
+    outline->moveTo({0, 0});
+    for (const Point corner : {Point{size, 0}, Point{size, size}, Point{0, size}})
+        outline->lineTo(corner);
+    outline->close();
+    drawing::Object square;
+    square.kind = drawing::Kind::Rect;
+    square.id = "gradient";
+    square.outline = std::move(outline);
+    square.setFillPattern(drawing::FillPattern::SolidBlack);
+    square.setGradient(drawing::ObjectGradient(std::make_unique<CGradient>(gradient).release()));
+    auto result = drawing::Drawing::create(size, size);
+    result.insert(0, drawing::sealed(std::move(square)));
+    return result;
+}
+
+ExportedGradient writeSvg(const CGradientData& gradient) {
+    constexpr double kSize = 256;
+    return {svg::toBytes(squareWith(gradient, kSize)), {}};
+}
+
+} // namespace easel::exchange

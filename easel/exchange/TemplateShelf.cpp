@@ -1,0 +1,82 @@
+// Listing, loading, saving and removing templates by name.
+#include "easel/exchange/TemplateShelf.h"
+
+#include "easel/exchange/TemplateFile.h"
+#include "easel/toolbox/HostNames.h"
+#include "easel/toolbox/MacRoman.h"
+#include "easel/toolbox/PairCommit.h"
+
+namespace fs = std::filesystem;
+
+namespace easel::exchange {
+namespace {
+
+using toolbox::FileError;
+using toolbox::FilePair;
+using toolbox::OrFileError;
+
+constexpr const char* kEnding = ".GRD";
+
+} // namespace
+
+std::string withoutEnding(const std::string& name) {
+    const std::string_view ending = kEnding;
+    return name.size() > ending.size() && name.ends_with(ending) ? name.substr(0, name.size() - ending.size())
+                                                                 : name;
+}
+
+std::vector<std::string> TemplateShelf::names() const {
+    std::vector<std::string> names;
+    for (const auto& file : toolbox::listFolder(folder_))
+        if (file.info.type == kTemplateType)
+            names.push_back(withoutEnding(toolbox::fromMacRoman(file.hostName)));
+    return names;
+}
+
+OrFileError<CGradientData> TemplateShelf::load(const std::string& name) const {
+    const auto file = find(name);
+    if (const auto* const error = std::get_if<FileError>(&file))
+        return *error;
+    return readTemplate(std::get<FilePair>(file));
+}
+
+OrFileError<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
+                                                      const CGradientData& gradient) const {
+    const auto encoded = toolbox::toMacRoman(withoutEnding(name) + kEnding);
+    if (encoded.outcome != toolbox::EncodingOutcome::Converted)
+        return FileError{name, "the host's encoding has no character " + encoded.culprit, {}};
+    const auto disk = toolbox::nameOnDisk(encoded.text);
+    if (!disk || withoutEnding(name).empty())
+        return FileError{name, "it cannot be the name of a template: at most 59 characters, and no ':'", {}};
+    const auto header = templateHeader(gradient);
+    if (!header)
+        return FileError{name, "a gradient without colors cannot be kept", {}};
+    std::error_code error;
+    fs::create_directories(folder_, error);
+    if (error)
+        return FileError{folder_, error.message(), error};
+    toolbox::recoverFolder(folder_);
+    const FilePair file{folder_, *disk};
+    const auto saved = toolbox::exists(file) ? Saved::Replaced : Saved::New;
+    if (const auto failure = toolbox::writePair(file, *header, trash_))
+        return *failure;
+    return saved;
+}
+
+toolbox::FileOutcome TemplateShelf::remove(const std::string& name) const {
+    const auto file = find(name);
+    if (const auto* const error = std::get_if<FileError>(&file))
+        return *error;
+    return toolbox::trashPair(std::get<FilePair>(file), trash_);
+}
+
+OrFileError<FilePair> TemplateShelf::find(const std::string& name) const {
+    for (const auto& wanted : {name, withoutEnding(name) + kEnding})
+        for (const auto& file : toolbox::listFolder(folder_))
+            if (file.info.type == kTemplateType && toolbox::fromMacRoman(file.hostName) == wanted)
+                return file.file;
+    return FileError{name, "there is no template of that name in " + folder_.string(),
+                     std::make_error_code(std::errc::no_such_file_or_directory)};
+}
+
+} // namespace easel::exchange
