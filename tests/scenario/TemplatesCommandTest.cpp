@@ -21,10 +21,14 @@ class TemplatesCommand : public testing::Test {
   protected:
     // The arguments are plain words, or quoted for the shell.
     Ran run(const std::string& arguments) const {
-        const auto file = [&](const char* name) { return "'" + (player_.folder() / name).string() + "'"; };
-        const std::string command = "cd " + file("") + " && XDG_DATA_HOME=" + file("data") +
-                                    " '" EASEL_PROGRAM "' templates " + arguments + " --prefs preferences >" +
-                                    file(".out") + " 2>" + file(".err");
+        const auto file = [&](const char* name) {
+            std::string quoted(1, '\'');
+            return quoted.append((player_.folder() / name).string()).append("'");
+        };
+        std::string command = "cd ";
+        command.append(file("")).append(" && XDG_DATA_HOME=").append(file("data"));
+        command.append(" '" EASEL_PROGRAM "' templates ").append(arguments).append(" --prefs preferences");
+        command.append(" >").append(file(".out")).append(" 2>").append(file(".err"));
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(player_.folder() / ".out"),
                 contentOf(player_.folder() / ".err")};
