@@ -74,7 +74,7 @@ void Drawing::erase(std::size_t index) {
     history_.record({Edit::What::Erase, slot, index, std::move(object)});
 }
 
-void Drawing::amend(std::size_t index, ObjectPtr object) {
+void Drawing::amend(std::size_t index, const ObjectPtr& object) {
     const Slot slot = list_.slotAt(index);
     const ObjectPtr before = list_.replace(slot, object);
     places_.erase(before->paintBounds(), slot);

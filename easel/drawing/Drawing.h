@@ -63,7 +63,7 @@ class Drawing {
     void erase(std::size_t index);
     // Puts another object in the place of one without a word in the undo history; the selection stays. Index
     // < size().
-    void amend(std::size_t index, ObjectPtr object);
+    void amend(std::size_t index, const ObjectPtr& object);
 
     // Undo. A prepared undo without a change is no step.
     void prepareUndo(long kind) { history_.prepare(kind, selectedSlots()); }
