@@ -6,7 +6,16 @@
 
 #include <CLI/CLI.hpp>
 
-int main(int argc, char** argv) {
+#include <cstdio>
+#include <exception>
+#include <new>
+
+namespace {
+
+// Misuse, or a failure that no command could put into better words.
+constexpr int kFailed = 2;
+
+int run(int argc, char** argv) {
     CLI::App app{"Easel, a drawing application with a gradient tool"};
     app.set_version_flag("--version", "easel " EASEL_VERSION);
     easel::window::StartUp startUp;
@@ -19,9 +28,21 @@ int main(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        constexpr int kMisused = 2;
-        return app.exit(error) == 0 ? 0 : kMisused;
+        return app.exit(error) == 0 ? 0 : kFailed;
     }
     const bool hadCommand = !app.get_subcommands().empty();
     return hadCommand ? exitCode : easel::commands::runWindow(startUp, argc, argv);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("easel: not enough memory\n", stderr);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "easel: %s\n", error.what());
+    }
+    return kFailed;
 }
