@@ -6,7 +6,7 @@
 namespace easel::drawing {
 
 namespace {
-constexpr std::size_t kLargestBlock = 512;
+constexpr std::size_t kLargestBlock = 256;
 } // namespace
 
 bool DisplayList::holds(Slot slot) const {
@@ -14,10 +14,10 @@ bool DisplayList::holds(Slot slot) const {
 }
 
 DisplayList::Place DisplayList::placeOf(std::size_t index) const {
-    std::size_t block = 0;
-    while (block + 1 < blocks_.size() && index >= blocks_[block].slots.size())
-        index -= blocks_[block++].slots.size();
-    return {block, index};
+    const auto after = std::upper_bound(blocks_.begin() + 1, blocks_.end(), index,
+                                        [](std::size_t i, const Block& block) { return i < block.begin; });
+    const auto block = after - 1;
+    return {static_cast<std::size_t>(block - blocks_.begin()), index - block->begin};
 }
 
 Slot DisplayList::slotAt(std::size_t index) const {
@@ -26,12 +26,9 @@ Slot DisplayList::slotAt(std::size_t index) const {
 }
 
 std::size_t DisplayList::indexOf(Slot slot) const {
-    const std::size_t block = entries_[slot].block;
-    std::size_t index = 0;
-    for (std::size_t i = 0; i < block; ++i)
-        index += blocks_[i].slots.size();
-    const std::vector<Slot>& slots = blocks_[block].slots;
-    return index + static_cast<std::size_t>(std::find(slots.begin(), slots.end(), slot) - slots.begin());
+    const Block& block = blocks_[entries_[slot].block];
+    const auto found = std::find(block.slots.begin(), block.slots.end(), slot);
+    return block.begin + static_cast<std::size_t>(found - block.slots.begin());
 }
 
 Slot DisplayList::newSlot() {
@@ -42,7 +39,6 @@ Slot DisplayList::newSlot() {
 void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
     if (blocks_.empty())
         blocks_.emplace_back();
-    // An index just past a full block's end may also go to the start of the next; either is right.
     const Place place = placeOf(index);
     std::vector<Slot>& slots = blocks_[place.block].slots;
     slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(place.position), slot);
@@ -50,6 +46,7 @@ void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
     ++size_;
     if (slots.size() > kLargestBlock)
         split(place.block);
+    recount(place.block);
 }
 
 ObjectPtr DisplayList::erase(Slot slot) {
@@ -63,6 +60,7 @@ ObjectPtr DisplayList::erase(Slot slot) {
         blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(block));
         renumber(block);
     }
+    recount(block);
     return std::exchange(entry.object, nullptr);
 }
 
@@ -80,6 +78,7 @@ void DisplayList::append(std::vector<ObjectPtr> objects) {
         entries_[slot] = {std::move(object), static_cast<std::uint32_t>(blocks_.size() - 1)};
     }
     size_ += objects.size();
+    recount(0);
 }
 
 void DisplayList::split(std::size_t block) {
@@ -96,6 +95,15 @@ void DisplayList::renumber(std::size_t firstBlock) {
     for (std::size_t i = firstBlock; i < blocks_.size(); ++i)
         for (const Slot slot : blocks_[i].slots)
             entries_[slot].block = static_cast<std::uint32_t>(i);
+}
+
+void DisplayList::recount(std::size_t firstBlock) {
+    std::size_t begin =
+        firstBlock == 0 ? 0 : blocks_[firstBlock - 1].begin + blocks_[firstBlock - 1].slots.size();
+    for (std::size_t i = firstBlock; i < blocks_.size(); ++i) {
+        blocks_[i].begin = begin;
+        begin += blocks_[i].slots.size();
+    }
 }
 
 } // namespace easel::drawing

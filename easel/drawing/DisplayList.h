@@ -47,6 +47,7 @@ class DisplayList {
     static constexpr std::uint32_t kNoBlock = UINT32_MAX;
 
     struct Block {
+        std::size_t begin = 0; // the index of its first entry
         std::vector<Slot> slots;
     };
     struct Entry {
@@ -60,7 +61,9 @@ class DisplayList {
 
     Place placeOf(std::size_t index) const;
     void split(std::size_t block);
+    // Entries from this block on have new blocks, or only new indices.
     void renumber(std::size_t firstBlock);
+    void recount(std::size_t firstBlock);
 
     std::vector<Block> blocks_;
     std::vector<Entry> entries_; // by slot

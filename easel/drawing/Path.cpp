@@ -2,9 +2,19 @@
 
 #include "easel/drawing/Segments.h"
 
-#include <array>
+#include <cstddef>
 
 namespace easel::drawing {
+
+namespace {
+
+std::ptrdiff_t pointCount(Verb verb) {
+    if (verb == Verb::Cubic)
+        return 3;
+    return verb == Verb::Close ? 0 : 1;
+}
+
+} // namespace
 
 void Path::moveTo(Point p) {
     // Of several moves in a row only the last counts.
@@ -14,12 +24,23 @@ void Path::moveTo(Point p) {
         verbs_.push_back(Verb::Move);
         points_.push_back(p);
     }
-    start_ = p;
 }
 
 void Path::beginSegment() {
-    if (verbs_.empty() || verbs_.back() == Verb::Close)
-        moveTo(start_);
+    if (verbs_.empty())
+        moveTo({});
+    else if (verbs_.back() == Verb::Close)
+        moveTo(subpathStart());
+}
+
+Point Path::subpathStart() const {
+    const Point* start = points_.data() + points_.size();
+    for (std::size_t i = verbs_.size(); i-- > 0;) {
+        start -= pointCount(verbs_[i]);
+        if (verbs_[i] == Verb::Move)
+            break;
+    }
+    return *start;
 }
 
 void Path::lineTo(Point p) {
@@ -112,7 +133,6 @@ Path Path::transformed(const Affine& map) const {
     Path result = *this;
     for (Point& p : result.points_)
         p = map(p);
-    result.start_ = map(start_);
     return result;
 }
 

@@ -39,10 +39,10 @@ class Path {
 
   private:
     void beginSegment();
+    Point subpathStart() const;
 
     std::vector<Verb> verbs_;
     std::vector<Point> points_;
-    Point start_;
 };
 
 // One subpath as a polygon. `closed` tells whether the outline returns to its first point; a fill closes it
