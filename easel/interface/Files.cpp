@@ -8,25 +8,12 @@
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 using namespace easel;
 using host::journal;
 using host::theStorage;
 using toolbox::fromMacRoman;
-
-namespace {
-
-// Room for one record more at the end of a listing.
-bool append(FSSpec** list, const FSSpec& spec) {
-    const Handle block = reinterpret_cast<Handle>(list);
-    const long size = GetHandleSize(block);
-    if (!SetHandleSize(block, size + static_cast<long>(sizeof(FSSpec))))
-        return false;
-    std::memcpy(*block + size, &spec, sizeof(FSSpec));
-    return true;
-}
-
-} // namespace
 
 namespace easel::host {
 
@@ -58,10 +45,15 @@ FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create) {
 
 void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** list) {
     journal("EnumerShell", vRefNum, dirID, fileType);
+    std::vector<FSSpec> found;
     for (const auto& file : theStorage().files().list(vRefNum, dirID))
-        if (file.info.type == fileType &&
-            !append(list, host::hostSpecFrom({vRefNum, static_cast<std::int32_t>(dirID), file.hostName})))
-            return;
+        if (file.info.type == fileType)
+            found.push_back(host::hostSpecFrom({vRefNum, static_cast<std::int32_t>(dirID), file.hostName}));
+    const Handle block = reinterpret_cast<Handle>(list);
+    const long size = GetHandleSize(block);
+    const auto more = found.size() * sizeof(FSSpec);
+    if (!found.empty() && SetHandleSize(block, size + static_cast<long>(more)))
+        std::memcpy(*block + size, found.data(), more);
 }
 
 OSErr FSMakeFSSpec(short vRefNum, long dirID, CStr255 const& name, FSSpec* out) {

@@ -67,10 +67,11 @@ FileResult HostFiles::resolve(std::int16_t volume, std::int64_t folder, std::str
     return catalog_.resolve(volume, folder, name, out);
 }
 
-std::vector<ListedFile> HostFiles::list(std::int16_t volume, std::int64_t folder) {
+const std::vector<ListedFile>& HostFiles::list(std::int16_t volume, std::int64_t folder) {
+    static const std::vector<ListedFile> kNothing;
     settle();
     const auto path = catalog_.folderPath(volume, folder);
-    return path ? listFolder(*path) : std::vector<ListedFile>();
+    return path ? listings_.list(*path) : kNothing;
 }
 
 FileResult HostFiles::remove(const FileSpec& spec) {
@@ -121,6 +122,7 @@ FileOutcome HostFiles::write(const OpenedFile& opened) {
     // The folder may have been removed while the program ran.
     std::error_code ignored;
     fs::create_directories(opened.file.folder, ignored);
+    listings_.forget();
     return writePair(opened.file, opened.header, trash_);
 }
 
@@ -128,6 +130,7 @@ void HostFiles::settle() {
     const auto waiting = std::exchange(waiting_, std::nullopt);
     if (!waiting)
         return;
+    listings_.forget();
     const auto failure = waiting->creation ? writePair(waiting->file, newHeader(*waiting->creation), trash_)
                                            : trashPair(waiting->file, trash_);
     if (failure)

@@ -8,7 +8,7 @@
 #pragma once
 
 #include "easel/toolbox/FolderCatalog.h"
-#include "easel/toolbox/FolderListing.h"
+#include "easel/toolbox/ListingCache.h"
 #include "easel/toolbox/Trash.h"
 
 #include <functional>
@@ -62,7 +62,8 @@ class HostFiles {
     SecondaryFolder findSecondaryFolder(std::string_view name, FolderCreation creation);
 
     FileResult resolve(std::int16_t volume, std::int64_t folder, std::string_view name, FileSpec& out);
-    std::vector<ListedFile> list(std::int16_t volume, std::int64_t folder);
+    /// Valid until the next operation.
+    const std::vector<ListedFile>& list(std::int16_t volume, std::int64_t folder);
     FileResult remove(const FileSpec& spec);
     FileResult create(const FileSpec& spec, const FinderInfo& info);
     OrFileError<OpenedFile> open(const FileSpec& spec, Access access);
@@ -88,6 +89,7 @@ class HostFiles {
     FolderCatalog catalog_;
     Trash trash_;
     std::optional<Waiting> waiting_;
+    ListingCache listings_;
 };
 
 } // namespace easel::toolbox

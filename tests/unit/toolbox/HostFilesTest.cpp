@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <thread>
 
 using namespace easel::toolbox;
 using testing::ElementsAre;
@@ -210,6 +211,26 @@ TEST_F(HostFilesTest, WhatACrashLeftIsClearedWhenTheFolderIsFoundNextTime) {
     writeContent(folder() / ".easel-save-0123456789abcdef~", "half");
     files_.findSecondaryFolder("Templates", FolderCreation::Never);
     EXPECT_EQ(tests::entriesIn(folder()), 0U);
+}
+
+TEST_F(HostFilesTest, AListingShowsEveryChangeAtOnce) {
+    for (int i = 0; i < 20; ++i) {
+        const std::string name(1, static_cast<char>('a' + i));
+        dropFile(folder(), name, "x");
+        EXPECT_EQ(listed().size(), 1U);
+        EXPECT_EQ(listed().size(), 1U);
+        files_.remove(specOf(name));
+        EXPECT_TRUE(listed().empty());
+    }
+}
+
+TEST_F(HostFilesTest, AListingOfAQuietFolderShowsTheNextChange) {
+    dropFile(folder(), "a", "x");
+    std::this_thread::sleep_for(std::chrono::milliseconds(80));
+    EXPECT_EQ(listed().size(), 1U);
+    EXPECT_EQ(listed().size(), 1U);
+    dropFile(folder(), "b", "x");
+    EXPECT_EQ(listed().size(), 2U);
 }
 
 } // namespace
