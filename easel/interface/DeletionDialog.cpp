@@ -122,8 +122,9 @@ void DeleteDialog::DoOKAction() {
     if (state.list == nullptr)
         return;
     const std::vector<int>& selection = state.list->selection();
-    // From the last to the first, since a deletion moves those behind it.
-    for (auto row = selection.rbegin(); row != selection.rend(); ++row)
-        if (const std::optional<long> index = state.find(*row))
+    // A deletion moves those behind it.
+    const std::vector<int> lastFirst(selection.rbegin(), selection.rend());
+    for (const int row : lastFirst)
+        if (const std::optional<long> index = state.find(row))
             DeleteListItem(*index);
 }

@@ -25,6 +25,8 @@ constexpr short kItemNotFound = -5618;
 constexpr short kDataNotFound = -30589;
 constexpr short kBufferTooSmall = -30585;
 
+constexpr long kReferenceSize = sizeof(void*);
+
 const DialogItem* itemOf(DialogRef ref, short number) {
     Dialog* dialog = openDialogs().find(ref);
     return dialog != nullptr ? dialog->item(number) : nullptr;
@@ -135,10 +137,10 @@ short GetControlData(ControlRef control, short part, OSType tag, long size, void
         return kDataNotFound;
     auto* const menu = reinterpret_cast<OpaqueMenuRef*>(item->menu.get());
     if (actualSize != nullptr)
-        *actualSize = sizeof menu;
+        *actualSize = kReferenceSize;
     // Half a reference would be worse than none.
-    if (size < static_cast<long>(sizeof menu))
+    if (size < kReferenceSize)
         return kBufferTooSmall;
-    std::memcpy(data, &menu, sizeof menu);
+    std::memcpy(data, &menu, kReferenceSize);
     return kNoErr;
 }

@@ -28,6 +28,8 @@ using Question =
 class OpenQuestions {
   public:
     void open(Question question) { all_.push_back(question); }
+    // Only pointers are copied, which cannot fail.
+    // NOLINTNEXTLINE(bugprone-exception-escape)
     void close(Question question) noexcept { std::erase(all_, question); }
 
     // The dialog in front of the other dialogs, also while something else is open in front of it; or null.
@@ -47,6 +49,7 @@ class QuestionScope {
     }
     QuestionScope(const QuestionScope&) = delete;
     QuestionScope& operator=(const QuestionScope&) = delete;
+    // NOLINTNEXTLINE(bugprone-exception-escape)
     ~QuestionScope() { open_.close(question_); }
 
   private:
