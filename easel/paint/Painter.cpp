@@ -23,16 +23,19 @@ RampColor colorOf(const drawing::ColorPaint& paint) {
     return paint::colorOf(RampStop{0, paint.color, sanitised(paint.opacity)});
 }
 
-// A small shape is done before the processor notices which rows it needs; asking early hides most of the
-// wait.
-constexpr int kPrefetchedWidth = 128;
-constexpr int kPrefetchedHeight = 128;
+// A small shape is done before the processor notices which rows it needs; asking for all of them at once hides most
+// of the wait. It takes real reads: prefetches are dropped where the address of a page is not at hand.
+constexpr int kSmallWidth = 128;
+constexpr int kSmallHeight = 128;
 
-void prefetch(const SurfaceView& surface, const PixelBox& area) {
+void fetch(const SurfaceView& surface, const PixelBox& area) {
     constexpr int kLine = 16; // pixels
-    for (int y = area.top; y < area.bottom; ++y)
-        for (int x = area.left; x < area.right + kLine; x += kLine)
-            __builtin_prefetch(surface.row(y) + std::min(x, area.right - 1), 1);
+    for (int y = area.top; y < area.bottom; ++y) {
+        const volatile std::uint32_t* row = surface.row(y);
+        for (int x = area.left; x < area.right; x += kLine)
+            static_cast<void>(row[x]);
+        static_cast<void>(row[area.right - 1]);
+    }
 }
 
 // The largest parameter at the pixels of an area, and the smallest, which for circles may lie between the
@@ -102,8 +105,8 @@ void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Af
     const PixelBox area = rasteriser_.bounds();
     if (area.empty())
         return;
-    if (area.width() <= kPrefetchedWidth && area.height() <= kPrefetchedHeight)
-        prefetch(surface, area);
+    if (area.width() <= kSmallWidth && area.height() <= kSmallHeight)
+        fetch(surface, area);
     withShader(surface, area, toSurface, ink, opacity,
                [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
 }

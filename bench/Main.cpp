@@ -1,0 +1,23 @@
+// The benchmark program: `easelbench pixels|drawings JSON-FILE`, `easelbench counted WORKLOAD`.
+#include "bench/Benches.h"
+
+#include <cstdio>
+
+int main(int count, char** arguments) {
+    const std::string command = count > 1 ? arguments[1] : "";
+    const std::string operand = count > 2 ? arguments[2] : "";
+    if (command == "counted")
+        return bench::runCounted(operand) ? 0 : 2;
+    bench::Report report;
+    if (command == "pixels") {
+        bench::runPixels(report);
+    } else if (command == "drawings") {
+        bench::runLargeDrawings(report);
+    } else {
+        std::fprintf(stderr, "usage: easelbench pixels|drawings JSON-FILE, or easelbench counted WORKLOAD\n");
+        return 2;
+    }
+    if (!operand.empty())
+        report.save(operand);
+    return report.allMet() ? 0 : 1;
+}
