@@ -1,5 +1,5 @@
 // Geometry of the measured fills.
-#include "bench/PixelWork.h"
+#include "benchmarks/PixelWork.h"
 
 #include <cmath>
 #include <numbers>

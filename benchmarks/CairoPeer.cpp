@@ -1,5 +1,5 @@
 // Calls of Cairo.
-#include "bench/CairoPeer.h"
+#include "benchmarks/CairoPeer.h"
 
 namespace bench {
 

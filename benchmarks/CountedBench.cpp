@@ -1,6 +1,6 @@
 // `easelbench counted WORKLOAD`: little fixed works for counting instructions under callgrind.
-#include "bench/Benches.h"
-#include "bench/PixelWork.h"
+#include "benchmarks/Benches.h"
+#include "benchmarks/PixelWork.h"
 #include "easel/paint/Painter.h"
 
 #include <hwy/targets.h>

@@ -1,10 +1,10 @@
 // `easelbench pixels`: gradient fills against Cairo's, and how exact they are.
-#include "bench/Benches.h"
+#include "benchmarks/Benches.h"
 
-#include "bench/CairoPeer.h"
-#include "bench/PixelAccuracy.h"
-#include "bench/PixelWork.h"
-#include "bench/Timing.h"
+#include "benchmarks/CairoPeer.h"
+#include "benchmarks/PixelAccuracy.h"
+#include "benchmarks/PixelWork.h"
+#include "benchmarks/Timing.h"
 #include "easel/paint/Painter.h"
 
 namespace bench {

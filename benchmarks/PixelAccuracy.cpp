@@ -1,7 +1,7 @@
 // The plain evaluation and what is compared with it.
-#include "bench/PixelAccuracy.h"
+#include "benchmarks/PixelAccuracy.h"
 
-#include "bench/PixelWork.h"
+#include "benchmarks/PixelWork.h"
 #include "easel/paint/Painter.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // Printing and saving of figures.
-#include "bench/Report.h"
+#include "benchmarks/Report.h"
 
 #include <cstdio>
 #include <fstream>

@@ -1,7 +1,7 @@
 // The benchmarks that the program knows.
 #pragma once
 
-#include "bench/Report.h"
+#include "benchmarks/Report.h"
 
 namespace bench {
 

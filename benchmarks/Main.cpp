@@ -1,5 +1,5 @@
 // The benchmark program: `easelbench pixels|drawings JSON-FILE`, `easelbench counted WORKLOAD`.
-#include "bench/Benches.h"
+#include "benchmarks/Benches.h"
 
 #include <cstdio>
 

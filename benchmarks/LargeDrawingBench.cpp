@@ -1,6 +1,6 @@
 // `easelbench drawings`: what growing drawings cost.
-#include "bench/Benches.h"
-#include "bench/Timing.h"
+#include "benchmarks/Benches.h"
+#include "benchmarks/Timing.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/svg/Document.h"
 
@@ -8,6 +8,7 @@
 
 #include <map>
 #include <sstream>
+#include <stdexcept>
 
 namespace bench {
 
@@ -65,14 +66,19 @@ Times timesOf(drawing::Drawing& drawing, paint::Surface& surface) {
         const std::size_t index = static_cast<std::size_t>(i) * 17 % drawing.size();
         changes.push_back(secondsOf([&] {
             drawing.prepareUndo(1);
-            drawing.amend(index, recolored(*drawing.object(index), i));
+            const drawing::ObjectPtr object = recolored(*drawing.object(index), i);
+            drawing.erase(index);
+            drawing.insert(index, object);
             drawing.closeUndo();
             repaint();
         }));
+        bool undone = false;
         undos.push_back(secondsOf([&] {
-            drawing.undo();
+            undone = drawing.undo();
             repaint();
         }));
+        if (!undone)
+            throw std::logic_error("there was nothing to undo");
     }
     drawing.setChangeListener({});
     return {median(changes), median(undos)};
