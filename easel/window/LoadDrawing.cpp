@@ -1,6 +1,7 @@
 // Drives a progress dialog from the reader's reports.
 #include "easel/window/LoadDrawing.h"
 
+#include "easel/toolbox/AtomicFile.h"
 #include "easel/window/DesktopUser.h"
 
 #include <QCoreApplication>
@@ -37,7 +38,10 @@ svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* ove
         }
         return !dialog.wasCanceled() && !user.cancelled();
     };
-    return svg::readFile(QFile::encodeName(file).toStdString(), options);
+    const std::filesystem::path path = QFile::encodeName(file).toStdString();
+    // What a save of this drawing left when the program was killed goes now.
+    toolbox::removeLeftovers(path.parent_path());
+    return svg::readFile(path, options);
 }
 
 } // namespace easel::window
