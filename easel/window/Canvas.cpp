@@ -56,30 +56,39 @@ void Canvas::setTool(CanvasTool* tool) {
     refreshCursor();
 }
 
+// The scroll bars' values are the pixels of the zoomed page that lie in the middle of the view, so that
+// whatever is under the pointer can stay there while the zoom changes.
 QPointF Canvas::origin() const {
-    const drawing::Drawing& drawing = window_.drawing();
     const double ratio = devicePixelRatioF();
-    const auto along = [&](double pageSize, int viewSize, const QScrollBar& bar) {
-        const double shown = pageSize * zoom_;
-        const bool fits = shown + 2 * kMargin <= viewSize;
-        const double pixels = fits ? -(viewSize - shown) / 2 : bar.value() - kMargin;
+    const auto along = [&](int viewSize, const QScrollBar& bar) {
+        const double pixels = bar.value() - viewSize / 2.0;
         // On whole pixels of the screen, so that scrolling moves the picture and does not change it.
         return std::round(pixels * ratio) / ratio / zoom_;
     };
-    return {along(drawing.width(), viewport()->width(), *horizontalScrollBar()),
-            along(drawing.height(), viewport()->height(), *verticalScrollBar())};
+    return {along(viewport()->width(), *horizontalScrollBar()),
+            along(viewport()->height(), *verticalScrollBar())};
 }
 
 void Canvas::updateScrollBars() {
+    const drawing::Drawing& drawing = window_.drawing();
     const auto adjust = [this](QScrollBar& bar, double pageSize, int viewSize) {
-        const double content = pageSize * zoom_ + 2 * kMargin;
-        bar.setRange(0, std::max(0, static_cast<int>(std::ceil(content)) - viewSize));
+        bar.setRange(0, static_cast<int>(std::ceil(pageSize * zoom_)));
         bar.setPageStep(viewSize);
         bar.setSingleStep(std::max(1, viewSize / 12));
     };
-    adjust(*horizontalScrollBar(), window_.drawing().width(), viewport()->width());
-    adjust(*verticalScrollBar(), window_.drawing().height(), viewport()->height());
+    adjust(*horizontalScrollBar(), drawing.width(), viewport()->width());
+    adjust(*verticalScrollBar(), drawing.height(), viewport()->height());
+    const bool fits = drawing.width() * zoom_ + 2 * kMargin <= width() &&
+                      drawing.height() * zoom_ + 2 * kMargin <= height();
+    const auto policy = fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded;
+    setHorizontalScrollBarPolicy(policy);
+    setVerticalScrollBarPolicy(policy);
     updateView();
+}
+
+void Canvas::showMiddle() {
+    horizontalScrollBar()->setValue(horizontalScrollBar()->maximum() / 2);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum() / 2);
 }
 
 void Canvas::updateView() {
@@ -114,8 +123,9 @@ void Canvas::zoomAbout(QPointF place, double zoom) {
     const drawing::Point kept = toLocal(place);
     zoom_ = zoom;
     updateScrollBars();
-    horizontalScrollBar()->setValue(static_cast<int>(std::lround(kept.x * zoom_ + kMargin - place.x())));
-    verticalScrollBar()->setValue(static_cast<int>(std::lround(kept.y * zoom_ + kMargin - place.y())));
+    const QPointF fromMiddle = place - QRectF(viewport()->rect()).center();
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(kept.x * zoom_ - fromMiddle.x())));
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(kept.y * zoom_ - fromMiddle.y())));
     updateView();
     Q_EMIT zoomChanged(zoom_);
 }
@@ -126,9 +136,10 @@ void Canvas::zoomAboutMiddle(double zoom) {
 
 void Canvas::fit() {
     const drawing::Drawing& drawing = window_.drawing();
-    const double horizontal = (viewport()->width() - 2 * kMargin) / drawing.width();
-    const double vertical = (viewport()->height() - 2 * kMargin) / drawing.height();
+    const double horizontal = (width() - 2 * kMargin) / drawing.width();
+    const double vertical = (height() - 2 * kMargin) / drawing.height();
     zoomAboutMiddle(std::min(horizontal, vertical));
+    showMiddle();
 }
 
 void Canvas::resizeEvent(QResizeEvent*) {
@@ -137,9 +148,9 @@ void Canvas::resizeEvent(QResizeEvent*) {
         return;
     // A drawing opens at its own size, or whole if that is too large for the window.
     everSized_ = true;
-    if (page().width() + 2 * kMargin > viewport()->width() ||
-        page().height() + 2 * kMargin > viewport()->height())
+    if (page().width() + 2 * kMargin > width() || page().height() + 2 * kMargin > height())
         fit();
+    showMiddle();
 }
 
 void Canvas::scrollContentsBy(int, int) {

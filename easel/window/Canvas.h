@@ -86,6 +86,7 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void startPan(QPointF from);
     void endPan();
     void updateScrollBars();
+    void showMiddle();
     void updateView();
     QPointF origin() const;
     QRectF page() const;

@@ -31,6 +31,7 @@ constexpr int kEntriesInSight = 24;
 
 ButtonItem::ButtonItem(host::Dialog& dialog, int item, QWidget* parent)
     : QPushButton(parent), dialog_(dialog), item_(item) {
+    setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
     setDefault(item == kDefaultItem);
     connect(this, &QPushButton::clicked, this, [this] { dialog_.hit(item_); });
@@ -59,6 +60,7 @@ void LabelItem::modelChanged(host::ItemChange) {
 
 RadioItem::RadioItem(host::Dialog& dialog, int item, QWidget* parent)
     : QRadioButton(parent), dialog_(dialog), item_(item) {
+    setFocusPolicy(Qt::TabFocus);
     setAutoExclusive(false);
     connect(this, &QRadioButton::clicked, this, [this] { dialog_.hit(item_); });
     modelChanged(host::ItemChange::Value);
@@ -102,6 +104,7 @@ Qt::ItemFlags MenuModel::flags(const QModelIndex& index) const {
 PopupItem::PopupItem(host::Dialog& dialog, int item, QWidget* parent)
     : QComboBox(parent), dialog_(dialog), item_(item),
       entries_(new MenuModel(*dialog.item(item)->menu, this)) {
+    setFocusPolicy(Qt::TabFocus);
     auto* list = new QListView(this);
     list->setUniformItemSizes(false);
     list->setLayoutMode(QListView::Batched);

@@ -28,7 +28,9 @@ DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
         rows << QString::fromStdString(row);
     auto* model = new QStringListModel(rows, this);
     view_->setModel(model);
-    view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    const bool several = list.mode() == host::SelectionMode::Several;
+    view_->setSelectionMode(several ? QAbstractItemView::ExtendedSelection
+                                    : QAbstractItemView::SingleSelection);
     view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view_->setUniformItemSizes(true);
     view_->setAlternatingRowColors(true);
@@ -42,7 +44,8 @@ DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     deleteButton_ = buttons->addButton(tr("Delete"), QDialogButtonBox::AcceptRole);
-    deleteButton_->setDefault(true);
+    // While nothing is selected Delete is disabled, and Return must not turn to Cancel instead.
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -64,6 +67,7 @@ void DeletionDialog::selectionChanged() {
         rows.push_back(index.row());
     list_.select(std::move(rows));
     deleteButton_->setEnabled(list_.canConfirm());
+    deleteButton_->setDefault(list_.canConfirm());
 }
 
 } // namespace easel::window

@@ -6,6 +6,7 @@
 #include "easel/window/DialogContent.h"
 #include "easel/window/EditItem.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -65,11 +66,14 @@ DialogWindow::DialogWindow(host::Dialog& dialog, DesktopUser& user, QWidget* par
     for (const host::DialogItem& item : dialog.items())
         addItem(item);
     dialog_.setObserver(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
     matchScreen();
     focusChanged();
 }
 
 DialogWindow::~DialogWindow() {
+    // Controls that go away hand the focus on; nobody is to follow it any more.
+    disconnect(qApp, nullptr, this, nullptr);
     dialog_.setObserver(nullptr);
 }
 
@@ -99,6 +103,13 @@ void DialogWindow::focusChanged() {
         return;
     found->second->widget()->setFocus();
     found->second->modelChanged(host::ItemChange::Selection);
+}
+
+// The Tab key or a click moved the focus on the desktop's side.
+void DialogWindow::followFocus(const QWidget* now) {
+    for (const auto& [number, item] : items_)
+        if (item->widget() == now && dialog_.focus() != number)
+            dialog_.setFocus(number);
 }
 
 void DialogWindow::pixelsDrawn(const paint::PixelRect& area) {

@@ -37,6 +37,7 @@ class DialogWindow : public QDialog, private host::DialogObserver {
     void pixelsDrawn(const paint::PixelRect& area) override;
 
     void addItem(const host::DialogItem& item);
+    void followFocus(const QWidget* now);
     void matchScreen();
 
     host::Dialog& dialog_;

@@ -107,6 +107,11 @@ int EaselStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                           QStyleHintReturn* data) const {
     if (hint == SH_ToolTip_WakeUpDelay)
         return 500;
+    // A list scrolls and takes thousands of entries and any text; a menu does neither.
+    if (hint == SH_ComboBox_Popup)
+        return 0;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 

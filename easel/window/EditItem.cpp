@@ -3,7 +3,6 @@
 
 #include "easel/window/DesktopUser.h"
 
-#include <QFocusEvent>
 #include <QScopedValueRollback>
 #include <QToolTip>
 
@@ -71,14 +70,6 @@ void EditItem::selectionMoved() {
     const int to = hasSelectedText() ? static_cast<int>(selectionEnd()) : cursorPosition();
     const QScopedValueRollback following(following_, true);
     dialog_.selectText(item_, {from, to});
-}
-
-void EditItem::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    const bool byKeyboard =
-        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byKeyboard)
-        dialog_.setFocus(item_);
 }
 
 } // namespace easel::window

@@ -19,9 +19,6 @@ class EditItem : public QLineEdit, public ItemWidget {
     QWidget* widget() override { return this; }
     void modelChanged(host::ItemChange change) override;
 
-  protected:
-    void focusInEvent(QFocusEvent* event) override;
-
   private:
     void edited(const QString& text);
     void refuse(const QString& attempted);

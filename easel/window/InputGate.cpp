@@ -42,6 +42,9 @@ InputGate::Scope::~Scope() {
 }
 
 bool InputGate::admits(const QWidget& widget) const {
+    // Only what is admitted can open a menu or a list of completions, and not all of them name a parent.
+    if (widget.window()->windowType() == Qt::Popup)
+        return true;
     for (const QWidget* at = &widget; at != nullptr; at = at->parentWidget())
         if (at == only_.back())
             return true;

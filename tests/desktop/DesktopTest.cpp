@@ -1,0 +1,179 @@
+// Sets up the screen once and fresh folders for each test.
+#include "tests/desktop/DesktopTest.h"
+
+#include <csignal>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+namespace desktop {
+
+namespace fs = std::filesystem;
+
+std::unique_ptr<Screen> DesktopTest::screen_;
+
+void DesktopTest::SetUpTestSuite() {
+    fs::create_directories(TEST_OUTPUT_DIR);
+    if (screen_ == nullptr)
+        screen_ = std::make_unique<Screen>(TEST_OUTPUT_DIR);
+}
+
+void DesktopTest::SetUp() {
+    std::string pattern = (fs::temp_directory_path() / "easel-desktop-XXXXXX").string();
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    folder_ = pattern;
+    for (const char* name : {"config", "data", "home"})
+        fs::create_directories(folder_ / name);
+    writeDrawing();
+}
+
+void DesktopTest::TearDown() {
+    if (HasFailure()) {
+        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+        const std::string base = std::string(TEST_OUTPUT_DIR) + "/" + test->name();
+        screen().savePicture(base + ".ppm");
+        std::error_code error;
+        fs::copy_file(folder_ / "easel.log", base + ".log", fs::copy_options::overwrite_existing, error);
+    }
+    for (const char* modifier : {"Control_L", "Shift_L"})
+        screen().keyUp(modifier);
+    screen().release();
+    program_.reset();
+    fs::remove_all(folder_);
+}
+
+void DesktopTest::writeDrawing() const {
+    std::ofstream(drawing()) << R"svg(<svg xmlns="http://www.w3.org/2000/svg" width="600" height="400">
+  <defs>
+    <linearGradient id="l"><stop offset="0" stop-color="#203080"/><stop offset="1" stop-color="#f0d060"/></linearGradient>
+    <radialGradient id="r" gradientUnits="userSpaceOnUse" cx="420" cy="290" r="138.924440"><stop offset="0" stop-color="#ffffff"/><stop offset="1" stop-color="#a02040"/></radialGradient>
+  </defs>
+  <rect id="plain" x="60" y="40" width="200" height="140" fill="#12c84a"/>
+  <circle id="marker" cx="540" cy="60" r="30" fill="#c832fa"/>
+  <rect id="grad" x="60" y="220" width="200" height="140" fill="url(#l)"/>
+  <ellipse id="round" cx="420" cy="290" rx="120" ry="70" fill="url(#r)"/>
+</svg>
+)svg";
+}
+
+std::string DesktopTest::contents(const fs::path& file) const {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
+}
+
+void DesktopTest::start(const std::vector<std::string>& arguments,
+                        const std::map<std::string, std::string>& environment) {
+    std::vector<std::string> command{EASEL_PROGRAM};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    std::map<std::string, std::string> variables{{"DISPLAY", screen().name()},
+                                                 {"WAYLAND_DISPLAY", ""},
+                                                 {"QT_QPA_PLATFORM", "xcb"},
+                                                 {"QT_SCALE_FACTOR", ""},
+                                                 {"QT_QPA_PLATFORMTHEME", ""},
+                                                 {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
+                                                 {"LC_ALL", "C.UTF-8"},
+                                                 {"HOME", folder_ / "home"},
+                                                 {"XDG_CONFIG_HOME", configuration()},
+                                                 {"XDG_DATA_HOME", folder_ / "data"}};
+    for (const auto& [name, value] : environment)
+        variables[name] = value;
+    program_ = std::make_unique<Process>(command, variables, folder_ / "easel.log");
+}
+
+void DesktopTest::startWithDrawing() {
+    start({drawing().string()});
+    plainArea_ = waitForColor(kPlain);
+    waitForColor(kMarker);
+}
+
+int DesktopTest::quit() {
+    screen().key("ctrl+q");
+    return program_->wait(10s).value_or(-1);
+}
+
+bool DesktopTest::eventually(const std::function<bool()>& condition, std::chrono::milliseconds atMost) {
+    const auto end = std::chrono::steady_clock::now() + atMost;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(25ms);
+    }
+    return true;
+}
+
+bool DesktopTest::hasWindow(const std::string& title) const {
+    return screen().window([&](const Window& window) { return window.title.starts_with(title); }).has_value();
+}
+
+Window DesktopTest::waitForWindow(const std::string& title) {
+    std::optional<Window> found;
+    Area before;
+    // A new window is moved once more by the window manager.
+    const bool there = eventually([&] {
+        found = screen().window([&](const Window& window) { return window.title.starts_with(title); });
+        if (!found)
+            return false;
+        const bool still = before.left == found->content.left && before.top == found->content.top;
+        before = found->content;
+        return still;
+    });
+    if (!there)
+        throw std::runtime_error("there is no window " + title);
+    return *found;
+}
+
+bool DesktopTest::vanishes(const std::string& title) {
+    return eventually([&] { return !hasWindow(title); });
+}
+
+Area DesktopTest::waitForColor(std::uint32_t color) {
+    std::optional<Area> area;
+    if (!eventually([&] { return (area = screen().picture().find(color)).has_value(); }))
+        throw std::runtime_error("a color does not show");
+    return *area;
+}
+
+bool DesktopTest::colorVanishes(std::uint32_t color) {
+    return eventually([&] { return !screen().picture().find(color); });
+}
+
+Spot DesktopTest::onScreen(double h, double v) {
+    // The rectangle of known color begins at (60, 40) and is 200 wide.
+    const double scale = plainArea_->width() / 200.0;
+    return {static_cast<int>(plainArea_->left + (h - 60) * scale),
+            static_cast<int>(plainArea_->top + (v - 40) * scale)};
+}
+
+Window DesktopTest::openEditor(double h, double v) {
+    screen().moveTo(onScreen(h, v));
+    screen().keyDown("Control_L");
+    screen().click(onScreen(h, v));
+    screen().keyUp("Control_L");
+    return waitForWindow("Gradient");
+}
+
+void DesktopTest::closeEditorWith(const std::string& key) {
+    screen().key(key);
+    EXPECT_TRUE(vanishes("Gradient"));
+}
+
+Spot DesktopTest::onRamp(const Window& editor, double fraction) {
+    const Area& ramp = EditorItems::ramp;
+    return in(editor, {ramp.left + static_cast<int>(ramp.width() * fraction), ramp.middle().y});
+}
+
+std::string DesktopTest::positionField() {
+    screen().key("ctrl+c");
+    std::this_thread::sleep_for(100ms);
+    return screen().clipboard();
+}
+
+std::string DesktopTest::saved() {
+    const std::string before = contents(drawing());
+    screen().key("ctrl+s");
+    eventually([&] { return contents(drawing()) != before; }, 3s);
+    return contents(drawing());
+}
+
+} // namespace desktop

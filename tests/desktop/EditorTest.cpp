@@ -1,0 +1,254 @@
+// The gradient editor as a dialog of the desktop, worked with mouse and keyboard.
+#include "tests/desktop/DesktopTest.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <csignal>
+#include <thread>
+
+namespace desktop {
+namespace {
+
+using testing::HasSubstr;
+
+std::size_t stopsIn(const std::string& svg) {
+    std::size_t count = 0;
+    for (std::size_t at = svg.find("<stop"); at != std::string::npos; at = svg.find("<stop", at + 1))
+        ++count;
+    return count;
+}
+
+class EditorTest : public DesktopTest {
+  protected:
+    // The middle of the ramp, where the test's gradient has no stop.
+    void addStopInTheMiddle(const Window& editor) { screen().click(onRamp(editor, 0.5)); }
+    bool positionBecomes(const std::string& text) {
+        return eventually([&] { return positionField() == text; }, 5s);
+    }
+};
+
+TEST_F(EditorTest, OptionClickAddDragTypeAndOkChangeTheShapeAndOneUndoBringsItBack) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    const Window editor = openEditor(160, 290);
+    addStopInTheMiddle(editor);
+    EXPECT_TRUE(positionBecomes("50.00"));
+    screen().drag({onRamp(editor, 0.5), onRamp(editor, 0.75)});
+    EXPECT_TRUE(positionBecomes("75.00"));
+    screen().type("25");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Gradient"));
+    const std::string after = saved();
+    EXPECT_EQ(stopsIn(after), stopsIn(before) + 3) << "a new gradient of three stops";
+    EXPECT_THAT(after, HasSubstr("0.25"));
+    screen().key("ctrl+z");
+    EXPECT_EQ(saved(), before) << "one undo";
+}
+
+TEST_F(EditorTest, AStopPulledOffTheRampComesBackWithTheMouse) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    const Spot place = onRamp(editor, 0.6);
+    const auto rampBecomes = [&](std::uint32_t color) {
+        return eventually([&] { return screen().picture().at(place) == color; }, 5s);
+    };
+    const std::uint32_t without = screen().picture().at(place);
+    addStopInTheMiddle(editor);
+    EXPECT_TRUE(positionBecomes("50.00"));
+    screen().moveTo(onRamp(editor, 0.5));
+    screen().press();
+    screen().glideTo(place);
+    EXPECT_TRUE(eventually([&] { return screen().picture().at(place) != without; }))
+        << "the stop has come here";
+    const std::uint32_t with = screen().picture().at(place);
+    screen().glideTo(place + Spot{0, 60});
+    EXPECT_TRUE(rampBecomes(without)) << "the stop is off";
+    screen().glideTo(place);
+    EXPECT_TRUE(rampBecomes(with)) << "the stop is back";
+    screen().release();
+    EXPECT_TRUE(positionBecomes("60.00"));
+    closeEditorWith("Escape");
+    EXPECT_EQ(quit(), 0);
+}
+
+TEST_F(EditorTest, CancelChangesNothing) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    const Window editor = openEditor(160, 290);
+    addStopInTheMiddle(editor);
+    EXPECT_TRUE(positionBecomes("50.00"));
+    screen().click(in(editor, EditorItems::radial));
+    screen().click(in(editor, EditorItems::cancel));
+    EXPECT_TRUE(vanishes("Gradient"));
+    EXPECT_EQ(quit(), 0) << "nothing unsaved";
+    EXPECT_EQ(contents(drawing()), before);
+}
+
+TEST_F(EditorTest, TheKindIsSwitchedAndTheCentreMovedInThePreview) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    screen().click(in(editor, EditorItems::radial));
+    const Area& preview = EditorItems::preview;
+    screen().drag({in(editor, preview.middle()), in(editor, {preview.left + 100, preview.top + 44})});
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Gradient"));
+    EXPECT_THAT(saved(), HasSubstr("<radialGradient"));
+    // The centre is at a quarter of the width and of the height: there the shape has the first stop's color.
+    const Picture shown = screen().picture();
+    EXPECT_LT(shown.at(onScreen(110, 255)) >> 16, 0x40U);
+    EXPECT_GT(shown.at(onScreen(255, 355)) >> 16, 0xa0U);
+}
+
+TEST_F(EditorTest, ALineDraggedInThePreviewTurnsTheGradientAndLeavesNoTraceThere) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    const Area& preview = EditorItems::preview;
+    const Spot middle = in(editor, preview.middle());
+    screen().drag({middle + Spot{0, -60}, middle + Spot{0, 60}});
+    EXPECT_TRUE(eventually([&] {
+        const Picture shown = screen().picture();
+        const std::uint32_t top = shown.at(in(editor, {preview.middle().x, preview.top + 4}));
+        const std::uint32_t bottom = shown.at(in(editor, {preview.middle().x, preview.bottom - 5}));
+        return (top >> 16) < 0x40 && (bottom >> 16) > 0xd0;
+    }));
+    const Picture shown = screen().picture();
+    for (int v = preview.top + 2; v < preview.bottom - 2; ++v)
+        ASSERT_EQ(shown.at(in(editor, {preview.middle().x, v})), shown.at(in(editor, {preview.left + 20, v})))
+            << v;
+    closeEditorWith("Escape");
+}
+
+TEST_F(EditorTest, AColorIsPickedAtSixteenBits) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    screen().click(in(editor, EditorItems::swatch));
+    const Window picker = waitForWindow("Color of the gradient stop");
+    // The exact fields are the last ones before the buttons.
+    for (int back = 0; back < 3; ++back)
+        screen().key("shift+Tab");
+    (void)picker;
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Color of the gradient stop"));
+    closeEditorWith("Return");
+    EXPECT_TRUE(hasWindow("drawing.svg"));
+}
+
+TEST_F(EditorTest, TheToolsOptionsOpenByKeyAndByDoubleClick) {
+    startWithDrawing();
+    screen().key("ctrl+g");
+    waitForWindow("Gradient");
+    closeEditorWith("Escape");
+    const Window window = drawingWindow();
+    // The second tool of the palette at the left edge.
+    screen().doubleClick({window.content.left + 40, window.content.top + 115});
+    waitForWindow("Gradient");
+    closeEditorWith("Escape");
+}
+
+TEST_F(EditorTest, ClosingTheDrawingsWindowEndsTheEditorAsCancel) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    const Window editor = openEditor(160, 290);
+    addStopInTheMiddle(editor);
+    EXPECT_TRUE(positionBecomes("50.00"));
+    screen().close(drawingWindow());
+    EXPECT_EQ(program().wait(10s), 0);
+    EXPECT_EQ(contents(drawing()), before);
+}
+
+TEST_F(EditorTest, QuittingInMidDragEndsTheEditorAsCancel) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    const Window editor = openEditor(160, 290);
+    screen().moveTo(onRamp(editor, 0.5));
+    screen().press();
+    screen().glideTo(onRamp(editor, 0.7));
+    program().signal(SIGTERM);
+    EXPECT_EQ(program().wait(10s), 0);
+    screen().release();
+    EXPECT_EQ(contents(drawing()), before);
+}
+
+TEST_F(EditorTest, TheButtonHeldStillCostsNoProcessorTime) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    screen().moveTo(onRamp(editor, 0.5));
+    screen().press();
+    screen().glideTo(onRamp(editor, 0.7));
+    std::this_thread::sleep_for(300ms);
+    const auto before = program().processorTime();
+    std::this_thread::sleep_for(1s);
+    EXPECT_LE((program().processorTime() - before).count(), 80) << "milliseconds in a second";
+    screen().release();
+    closeEditorWith("Escape");
+}
+
+TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash) {
+    namespace fs = std::filesystem;
+    const fs::path templates = configuration() / "kestrad" / "Gradient Templates";
+    startWithDrawing();
+    Window editor = openEditor(160, 290);
+    addStopInTheMiddle(editor);
+    EXPECT_TRUE(positionBecomes("50.00"));
+    screen().click(in(editor, EditorItems::templates));
+    std::this_thread::sleep_for(300ms);
+    screen().type("Sav");
+    screen().key("Return");
+    waitForWindow("Save Template");
+    screen().type("Dawn & Dusk");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Save Template"));
+    EXPECT_TRUE(eventually([&] { return fs::exists(templates / "Dawn & Dusk.GRD"); }));
+    closeEditorWith("Escape");
+    ASSERT_EQ(quit(), 0);
+
+    startWithDrawing();
+    editor = openEditor(160, 290);
+    screen().click(in(editor, EditorItems::templates));
+    std::this_thread::sleep_for(300ms);
+    screen().type("Dawn");
+    screen().key("Return");
+    std::this_thread::sleep_for(200ms);
+    screen().click(onRamp(editor, 0.5));
+    EXPECT_TRUE(positionBecomes("50.00")) << "the stop of the template";
+    screen().click(in(editor, EditorItems::templates));
+    std::this_thread::sleep_for(300ms);
+    screen().type("Del");
+    screen().key("Return");
+    const Window list = waitForWindow("Delete Templates");
+    screen().click({list.content.left + 80, list.content.top + 54}); // the first row
+    screen().key("Return");
+    waitForWindow("Easel"); // the question
+    screen().key("Return");
+    EXPECT_TRUE(eventually([&] { return !fs::exists(templates / "Dawn & Dusk.GRD"); }));
+    EXPECT_TRUE(
+        eventually([&] { return fs::exists(folder() / "data" / "Trash" / "files" / "Dawn & Dusk.GRD"); }));
+    EXPECT_TRUE(vanishes("Delete Templates"));
+    closeEditorWith("Escape");
+    EXPECT_EQ(quit(), 0);
+}
+
+TEST_F(EditorTest, ACharacterThatNamesCannotHoldIsRefusedWithABeep) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    screen().click(in(editor, EditorItems::templates));
+    std::this_thread::sleep_for(300ms);
+    screen().type("Sav");
+    screen().key("Return");
+    waitForWindow("Save Template");
+    screen().type("ab");
+    const int bells = screen().bells();
+    screen().typeCharacter(U'\u4e2d');
+    EXPECT_TRUE(eventually([&] { return screen().bells() > bells; }));
+    screen().key("ctrl+a");
+    screen().key("ctrl+c");
+    std::this_thread::sleep_for(100ms);
+    EXPECT_EQ(screen().clipboard(), "ab");
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Save Template"));
+    closeEditorWith("Escape");
+}
+
+} // namespace
+} // namespace desktop
