@@ -226,7 +226,8 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
         eventually([&] { return fs::exists(folder() / "data" / "Trash" / "files" / "Dawn & Dusk.GRD"); }));
     EXPECT_TRUE(vanishes("Delete Templates"));
     closeEditorWith("Escape");
-    EXPECT_EQ(quit(), 0);
+    program().signal(SIGTERM);
+    EXPECT_EQ(program().wait(10s), 0);
 }
 
 TEST_F(EditorTest, ACharacterThatNamesCannotHoldIsRefusedWithABeep) {
