@@ -12,7 +12,9 @@ namespace easel::host {
 namespace {
 
 paint::Port portFor(int width, int height, const DialogScreen& screen) {
-    return {{0, 0, height, width}, screen.scale, screen.theme.background};
+    paint::Port port({0, 0, height, width}, screen.scale, screen.theme.background);
+    port.state().background = screen.theme.erased;
+    return port;
 }
 
 } // namespace
@@ -116,7 +118,7 @@ void Dialog::setScreen(const DialogScreen& screen) {
     screen_ = screen;
     paint::Port fresh = portFor(width_, height_, screen);
     fresh.state() = port_->state();
-    fresh.state().background = screen.theme.background;
+    fresh.state().background = screen.theme.erased;
     fresh.addDamage(fresh.bounds());
     // The place in memory stays, since it may be the current port.
     *port_ = std::move(fresh);

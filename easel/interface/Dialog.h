@@ -32,6 +32,8 @@ struct DialogTheme {
     std::uint32_t background = 0xf2f2f2;
     std::uint32_t separator = 0xc8c8c8;
     std::uint32_t shadow = 0xb0b0b0;
+    // What erasing leaves. Plug-ins draw black marks on it, so it is light on dark desktops too.
+    std::uint32_t erased = 0xf2f2f2;
 
     friend bool operator==(const DialogTheme&, const DialogTheme&) = default;
 };

@@ -23,8 +23,9 @@ RampColor colorOf(const drawing::ColorPaint& paint) {
     return paint::colorOf(RampStop{0, paint.color, sanitised(paint.opacity)});
 }
 
-// A small shape is done before the processor notices which rows it needs; asking for all of them at once hides most
-// of the wait. It takes real reads: prefetches are dropped where the address of a page is not at hand.
+// A small shape is done before the processor notices which rows it needs; asking for all of them at once
+// hides most of the wait. It takes real reads: prefetches are dropped where the address of a page is not at
+// hand.
 constexpr int kSmallWidth = 128;
 constexpr int kSmallHeight = 128;
 

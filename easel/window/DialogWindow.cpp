@@ -23,10 +23,16 @@ QColor mixed(const QColor& a, const QColor& b, double share) {
     return {channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue())};
 }
 
+// How far the ground of black marks moves from a dark desktop's ground towards its text.
+constexpr double kMarkGround = 0.55;
+
 host::DialogTheme themeOf(const QPalette& palette) {
     const QColor ground = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::WindowText);
-    return {rgb(ground), rgb(mixed(ground, text, 0.18)), rgb(mixed(ground, QColor(Qt::black), 0.24))};
+    const bool dark = ground.lightness() < text.lightness();
+    const QColor erased = dark ? mixed(ground, text, kMarkGround) : ground;
+    return {rgb(ground), rgb(mixed(ground, text, 0.18)), rgb(mixed(ground, QColor(Qt::black), 0.24)),
+            rgb(erased)};
 }
 
 ItemWidget* makeItemWidget(host::Dialog& dialog, const host::DialogItem& item, DesktopUser& user,

@@ -2,6 +2,8 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <limits>
 #include <random>
 #include <utility>
@@ -87,7 +89,7 @@ TEST(MemoryBlocks, HundredThousandRandomOperationsLeaveEveryBlockIntact) {
         } else {
             const auto i = random() % expected.size();
             auto& [block, bytes] = expected[i];
-            ASSERT_EQ(std::memcmp(*block, bytes.data(), bytes.size()), 0);
+            ASSERT_TRUE(std::equal(bytes.begin(), bytes.end(), *block));
             if (random() % 3 == 0) {
                 blocks.dispose(block);
                 expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(i));
