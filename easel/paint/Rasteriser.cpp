@@ -105,8 +105,11 @@ void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
 }
 
 void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int winding) {
+    // Heights lie within the surface, so they are never negative, and cutting off costs less than rounding.
+    // NOLINTBEGIN(bugprone-incorrect-roundings)
     const auto top = static_cast<std::int64_t>(upper.y * kUnit + 0.5);
     const auto bottom = static_cast<std::int64_t>(lower.y * kUnit + 0.5);
+    // NOLINTEND(bugprone-incorrect-roundings)
     if (top >= bottom)
         return;
     edges_.push_back(
