@@ -11,7 +11,7 @@ namespace easel::play {
 namespace {
 
 std::filesystem::path fileIn(Session& session, Arguments& arguments) {
-    const std::filesystem::path file = session.resolve(arguments.text("FILE"));
+    std::filesystem::path file = session.resolve(arguments.text("FILE"));
     arguments.done();
     return file;
 }
