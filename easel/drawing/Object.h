@@ -58,6 +58,8 @@ struct ElementSpan {
     std::uint32_t use = 0;      // number of the repetition it was made by; 0 for the element where it stands
 
     bool inFile() const { return tagEnd > tagBegin; }
+    // The check takes the comparison with 0 behind a defaulted operator for one with a pointer.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const ElementSpan&, const ElementSpan&) = default;
 };
 

@@ -96,7 +96,7 @@ std::vector<Declaration> parseDeclarations(std::string_view text) {
     return result;
 }
 
-void StyleSheet::add(std::string text) {
+void StyleSheet::add(const std::string& text) {
     texts_.push_back(std::make_unique<const std::string>(withoutComments(text)));
     std::string_view rest = trimmed(*texts_.back());
     while (!rest.empty()) {

@@ -28,7 +28,7 @@ class StyleSheet {
   public:
     // Adds the rules of a sheet, which are stronger than equal ones added before. Rules with selectors of
     // other kinds and at-rules are passed over.
-    void add(std::string text);
+    void add(const std::string& text);
 
     bool empty() const { return rules_.empty(); }
     // Declarations of all rules that match, weakest first.

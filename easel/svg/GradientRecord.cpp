@@ -60,6 +60,7 @@ double snapped(double position) {
 template <class Place>
 void setStops(CGradientData& record, const std::vector<ForeignStop>& stops, Place place) {
     std::vector<FittedStop> ramp;
+    ramp.reserve(stops.size());
     for (const ForeignStop& stop : stops)
         ramp.push_back({snapped(place(stop.offset)), stop.color});
     // Beyond its ends the ramp is flat, as the record's is.

@@ -4,12 +4,10 @@
 namespace easel::svg {
 
 using drawing::Affine;
-using drawing::Box;
 using drawing::ColorPaint;
 using drawing::ForeignGradient;
 using drawing::LinearGeometry;
 using drawing::NoPaint;
-using drawing::Point;
 using drawing::RadialGeometry;
 
 namespace {

@@ -14,7 +14,6 @@ namespace easel::svg {
 using drawing::Drawing;
 using drawing::ElementSpan;
 using drawing::FillOrigin;
-using drawing::Object;
 using drawing::ObjectPtr;
 
 namespace {

@@ -8,7 +8,6 @@
 
 namespace easel::svg {
 
-using drawing::Box;
 using drawing::Kind;
 using drawing::Path;
 using drawing::Point;

@@ -62,8 +62,8 @@ TreeReader::TreeReader(const Scene& scene, Source& source, std::function<bool(do
 void TreeReader::tick() {
     if (++visited_ % kTick != 0 || !progress_)
         return;
-    const double part =
-        static_cast<double>(visited_) / static_cast<double>(scene_.tree.elementCount() + visited_ / 2);
+    const auto visited = static_cast<double>(visited_);
+    const double part = visited / (static_cast<double>(scene_.tree.elementCount()) + visited / 2);
     if (!progress_(std::min(part, 1.0)))
         throw ReadError{Fault::Cancelled, "opening it was cancelled"};
 }

@@ -43,7 +43,7 @@ void DialogContent::release(QPointF position) {
 void DialogContent::paintEvent(QPaintEvent* event) {
     const paint::Port& port = dialog_.port();
     QImage image(reinterpret_cast<const uchar*>(port.pixels()), port.imageWidth(), port.imageHeight(),
-                 port.imageWidth() * 4, QImage::Format_RGB32);
+                 qsizetype{4} * port.imageWidth(), QImage::Format_RGB32);
     image.setDevicePixelRatio(port.scale());
     QPainter painter(this);
     painter.setClipRegion(event->region());
@@ -54,7 +54,7 @@ void DialogContent::paintEvent(QPaintEvent* event) {
 UserItem::UserItem(host::Dialog& dialog, int item, DialogContent& content)
     : QWidget(&content), item_(item), content_(content) {
     const paint::PixelRect& bounds = dialog.item(item)->bounds;
-    mark_ = QPointF(bounds.width() / 2, bounds.height() / 2);
+    mark_ = QPoint(bounds.width() / 2, bounds.height() / 2);
     setAttribute(Qt::WA_NoSystemBackground);
     // A click leaves the keyboard where it is, as in any dialog with a field to type in.
     setFocusPolicy(Qt::TabFocus);

@@ -30,7 +30,7 @@ TerminationSignals::TerminationSignals(std::function<void()> quit) {
     });
     struct sigaction action {};
     action.sa_handler = noteSignal;
-    action.sa_flags = SA_RESETHAND;
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
     for (const int signal : kSignals)
         sigaction(signal, &action, nullptr);
 }
