@@ -9,15 +9,6 @@ namespace easel::paint {
 
 namespace {
 
-std::string hexByte(int value) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    return {kDigits[static_cast<std::size_t>(value / 16)], kDigits[static_cast<std::size_t>(value % 16)]};
-}
-
-std::string percentText(std::uint16_t channel) {
-    return numberText(channel / 655.35) + "%";
-}
-
 void append(std::string& text, char verb, std::initializer_list<drawing::Point> points) {
     text += verb;
     const char* between = "";
@@ -36,18 +27,6 @@ std::string numberText(double number) {
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::general, 9);
     return {digits.data(), end.ptr};
-}
-
-std::string colorText(const drawing::Rgb16& color) {
-    const bool eightBits = color.red % 257 == 0 && color.green % 257 == 0 && color.blue % 257 == 0;
-    if (eightBits)
-        return std::string("#")
-            .append(hexByte(color.red / 257))
-            .append(hexByte(color.green / 257))
-            .append(hexByte(color.blue / 257));
-    std::string text = "rgb(";
-    text.append(percentText(color.red)).append(",").append(percentText(color.green)).append(",");
-    return text.append(percentText(color.blue)).append(")");
 }
 
 std::string pathText(const drawing::Path& path) {

@@ -1,7 +1,6 @@
-// The small parts of an SVG document: numbers, colors, path data, attributes.
+// The small parts of an SVG document: numbers, path data, attributes.
 #pragma once
 
-#include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 
 #include <string>
@@ -11,8 +10,6 @@ namespace easel::paint {
 
 // Nine significant digits, without needless zeros; what is not finite becomes 0.
 std::string numberText(double number);
-// "#rrggbb", or rgb() with fractions of a percent where eight bits cannot say the color.
-std::string colorText(const drawing::Rgb16& color);
 // The "d" of a path element. Points that are not finite are left out.
 std::string pathText(const drawing::Path& path);
 std::string matrixText(const drawing::Affine& map);

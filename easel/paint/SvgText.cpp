@@ -5,6 +5,7 @@
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectInk.h"
 #include "easel/paint/SvgFragments.h"
+#include "easel/svg/Color.h"
 
 #include <cmath>
 #include <map>
@@ -147,7 +148,7 @@ class SvgWriter {
                    attributeUnless(1, property + "-opacity", opacityOf(opacity));
         }
         const auto& paint = std::get<drawing::ColorPaint>(ink);
-        return attribute(property, colorText(paint.color)) +
+        return attribute(property, svg::colorText(paint.color)) +
                attributeUnless(1, property + "-opacity", opacityOf(paint.opacity) * opacityOf(opacity));
     }
     // Gradients that come out alike are written once.
@@ -165,7 +166,7 @@ class SvgWriter {
         text += ">";
         for (const RampStop& stop : gradient.ramp.stops())
             text += "<stop" + attribute("offset", stop.position) +
-                    attribute("stop-color", colorText(stop.color)) +
+                    attribute("stop-color", svg::colorText(stop.color)) +
                     attributeUnless(1, "stop-opacity", opacityOf(stop.opacity)) + "/>";
         text += "</" + element + ">\n";
         std::string& name = gradientNames_[text];
