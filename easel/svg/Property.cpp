@@ -116,7 +116,7 @@ void Cascade::addSheet(pugi::xml_node styleElement) {
         text += part.value();
     sheetsStateFill_ = sheetsStateFill_ || text.find("fill") != std::string::npos;
     sheetsImport_ = sheetsImport_ || text.find("@import") != std::string::npos;
-    sheet_.add(std::move(text));
+    sheet_.add(text);
 }
 
 StatedStyle Cascade::of(pugi::xml_node element) const {
