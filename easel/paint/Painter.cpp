@@ -94,7 +94,7 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
     }
     if (const auto* circles = std::get_if<RadialMap>(&map);
         circles && RadialShader::handles(*circles) && laidOut(*circles)) {
-        RadialShader shader(surface, *circles, segments_, opacity);
+        RadialShader shader(surface, *circles, segments_, opacity, radialPieces_);
         return use(shader);
     }
     PointShader shader(surface, gradient, map, opacity);

@@ -5,6 +5,7 @@
 #include "easel/drawing/Path.h"
 #include "easel/paint/Gradient.h"
 #include "easel/paint/LinearPiece.h"
+#include "easel/paint/RadialPiece.h"
 #include "easel/paint/RampSegments.h"
 #include "easel/paint/Rasteriser.h"
 #include "easel/paint/Surface.h"
@@ -44,6 +45,7 @@ class Painter {
     Rasteriser rasteriser_;
     RampSegments segments_;
     std::vector<LinearPiece> pieces_;
+    std::vector<RadialPiece> radialPieces_;
 };
 
 } // namespace easel::paint

@@ -19,8 +19,12 @@ namespace easel::paint::HWY_NAMESPACE {
 void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& start, const LinearSteps& steps) {
     plain::fillLinear(out, count, room, start, steps);
 }
-void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
-    plain::fillRadial(out, count, room, run);
+void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, const RadialColors& colors) {
+    plain::fillRadial<float>(out, count, room, run, colors);
+}
+void FillRadialFar(std::uint32_t* out, int count, int room, const RadialRun& run,
+                   const RadialColors& colors) {
+    plain::fillRadial<double>(out, count, room, run, colors);
 }
 void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {
     plain::blendPoints(row, color, points);
@@ -71,33 +75,76 @@ void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& star
     }
 }
 
-void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run) {
-    const hn::ScalableTag<float> df;
-    const hn::RebindToUnsigned<decltype(df)> d;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    const auto offset = hn::Set(df, run.offset);
-    const auto height = hn::Set(df, run.height);
-    const auto lean = hn::Set(df, run.lean);
-    const auto reference = hn::Set(df, run.reference);
-    const auto stride = hn::Set(df, static_cast<float>(lanes));
-    // Added to a level, it leaves the nearest whole number in the lowest bits, and above them bits that the
-    // shifts below push out or the alpha hides.
-    const auto toBits = hn::Set(df, 8388608.0F); // 2 to the 23
-    auto index = hn::Iota(df, 0);
-    for (int at = 0; at < count; at += lanes) {
-        const auto u = hn::Add(offset, index);
-        const auto root = hn::Sqrt(hn::Add(hn::Mul(u, u), height));
-        const auto way = hn::Sub(hn::Add(root, hn::Mul(lean, u)), reference);
-        const auto channel = [&](std::size_t i) HWY_ATTR {
-            const auto level = hn::Add(hn::Set(df, run.color[i]), hn::Mul(hn::Set(df, run.slope[i]), way));
-            return hn::BitCast(d, hn::Add(level, toBits));
-        };
-        const auto greenRed = hn::Or(hn::ShiftLeft<8>(channel(1)), hn::ShiftLeft<16>(channel(2)));
-        const auto pixels = hn::Or(hn::Or(channel(0), hn::Set(d, kOpaque)), greenRed);
-        StorePixels(d, pixels, out, at, room);
-        index = hn::Add(index, stride);
+// Colors lie in lanes as in FillLinear. `waysFrom(at)` gives the whole numbers nearest to the ways of the
+// pixels from `at` on in the low halves of their lanes; the calls come in order.
+template <class D, class Ways>
+void FillAlongWays(D d, std::uint32_t* out, int count, int room, const RadialColors& colors,
+                   const Ways& waysFrom) {
+    const hn::Repartition<std::int16_t, D> d16;
+    const auto highBytes = hn::Set(d, 0xFF00FF00);
+    const auto blueRed = hn::BitCast(d16, hn::Set(d, colors.blueRed));
+    const auto greenAlpha = hn::BitCast(d16, hn::Set(d, colors.greenAlpha));
+    const auto blueRedSlope = hn::BitCast(d16, hn::Set(d, colors.blueRedSlope));
+    const auto greenSlope = hn::BitCast(d16, hn::Set(d, colors.greenSlope));
+    for (int at = 0; at < count; at += static_cast<int>(hn::Lanes(d))) {
+        const auto way = waysFrom(at);
+        const auto both = hn::OddEven(hn::BitCast(d16, hn::ShiftLeft<16>(way)), hn::BitCast(d16, way));
+        const auto even = hn::BitCast(d, hn::Add(blueRed, hn::MulFixedPoint15(blueRedSlope, both)));
+        const auto odd = hn::BitCast(d, hn::Add(greenAlpha, hn::MulFixedPoint15(greenSlope, both)));
+        const auto evenBytes = hn::ShiftRight<8>(hn::And(even, highBytes));
+        StorePixels(d, hn::Or(evenBytes, hn::And(odd, highBytes)), out, at, room);
     }
 }
+
+// The function from pixels' steps along a run to their ways. `toBits` added to a way leaves the nearest whole
+// number in the lowest bits.
+template <class D> auto WaysOf(D d, const RadialRun& run, hn::TFromD<D> toBits) {
+    const auto all = [d](double value) HWY_ATTR { return hn::Set(d, static_cast<hn::TFromD<D>>(value)); };
+    return [=, offset = all(run.offset), height = all(run.height), lean = all(run.lean),
+            reference = all(run.reference), shift = hn::Set(d, toBits)](hn::VFromD<D> along) HWY_ATTR {
+        const auto u = hn::Add(offset, along);
+        const auto root = hn::Sqrt(hn::Add(hn::Mul(u, u), height));
+        const auto way = hn::Add(hn::Add(root, hn::Mul(lean, u)), reference);
+        return hn::BitCast(hn::RebindToUnsigned<D>(), hn::Add(way, shift));
+    };
+}
+
+void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, const RadialColors& colors) {
+    const hn::ScalableTag<float> df;
+    const hn::RebindToUnsigned<decltype(df)> d;
+    const auto step = static_cast<float>(run.step);
+    const auto stride = hn::Set(df, step * static_cast<float>(hn::Lanes(df)));
+    const auto waysOf = WaysOf(df, run, 12582912.0F); // 3 times 2 to the 22
+    auto along = hn::Mul(hn::Set(df, step), hn::Iota(df, 0));
+    FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
+        const auto ways = waysOf(along);
+        along = hn::Add(along, stride);
+        return ways;
+    });
+}
+
+#if HWY_HAVE_FLOAT64
+void FillRadialFar(std::uint32_t* out, int count, int room, const RadialRun& run,
+                   const RadialColors& colors) {
+    const hn::ScalableTag<double> df;
+    const hn::Repartition<std::uint32_t, decltype(df)> d;
+    const auto stride = hn::Set(df, run.step * static_cast<double>(hn::Lanes(df)));
+    const auto waysOf = WaysOf(df, run, 6755399441055744.0); // 3 times 2 to the 51
+    auto along = hn::Mul(hn::Set(df, run.step), hn::Iota(df, 0));
+    FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
+        const auto low = waysOf(along);
+        along = hn::Add(along, stride);
+        const auto high = waysOf(along);
+        along = hn::Add(along, stride);
+        return hn::ConcatEven(d, hn::BitCast(d, high), hn::BitCast(d, low));
+    });
+}
+#else
+void FillRadialFar(std::uint32_t* out, int count, int room, const RadialRun& run,
+                   const RadialColors& colors) {
+    plain::fillRadial<double>(out, count, room, run, colors);
+}
+#endif
 
 // One pixel is one vector of four floats.
 void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {
@@ -127,6 +174,7 @@ namespace easel::paint {
 
 HWY_EXPORT(FillLinear);
 HWY_EXPORT(FillRadial);
+HWY_EXPORT(FillRadialFar);
 HWY_EXPORT(BlendPoints);
 
 void fillLinear(std::uint32_t* pixels, int count, int room, const LinearStart& start,
@@ -134,8 +182,14 @@ void fillLinear(std::uint32_t* pixels, int count, int room, const LinearStart& s
     HWY_DYNAMIC_DISPATCH(FillLinear)(pixels, count, room, start, steps);
 }
 
-void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run) {
-    HWY_DYNAMIC_DISPATCH(FillRadial)(pixels, count, room, run);
+void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run,
+                const RadialColors& colors) {
+    HWY_DYNAMIC_DISPATCH(FillRadial)(pixels, count, room, run, colors);
+}
+
+void fillRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run,
+                   const RadialColors& colors) {
+    HWY_DYNAMIC_DISPATCH(FillRadialFar)(pixels, count, room, run, colors);
 }
 
 void blendPoints(std::uint32_t* row, const BlendColor& color, std::span<const BlendPoint> points) {

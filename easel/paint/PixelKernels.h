@@ -30,19 +30,32 @@ using LinearStart = std::array<std::uint32_t, 3>;
 void fillLinear(std::uint32_t* pixels, int count, int room, const LinearStart& start,
                 const LinearSteps& steps);
 
-// Pixel k has the distance sqrt(u u + height) + lean u with u = offset + k, and the color
-// color + slope (distance - reference) for blue, green and red in levels.
+// Pixel k of a row is so far along a segment of a ramp: way = sqrt(u u + height) + lean u + reference with
+// u = offset + step k, in units of which whole ones suffice. From -32768 to 32767.
 struct RadialRun {
-    float offset;
-    float height;
-    float lean;
-    float reference;
-    std::array<float, 3> color;
-    std::array<float, 3> slope;
+    double offset;
+    double height;
+    double lean;
+    double reference;
+    double step;
 };
 
-// As fillLinear.
-void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run);
+// The colors along the way, in 256ths of a level: at 0, with the half level that rounding needs, and by how
+// much they change over 32768 units. Blue lies in the low half and red in the high half of `blueRed`, green
+// in the low half of `greenAlpha`.
+struct RadialColors {
+    std::uint32_t blueRed;
+    std::uint32_t greenAlpha;
+    std::uint32_t blueRedSlope; // both halves signed
+    std::uint32_t greenSlope;
+};
+
+// As fillLinear, in single precision.
+void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run, const RadialColors& colors);
+
+// The same in double precision.
+void fillRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run,
+                   const RadialColors& colors);
 
 // The color of a segment: channels blue, green, red and 255 for alpha in levels, opacity from 0 to 1; all
 // change with the way along the segment.

@@ -32,12 +32,23 @@ inline void fillLinear(std::uint32_t* pixels, int count, int, const LinearStart&
     }
 }
 
-inline void fillRadial(std::uint32_t* pixels, int count, int, const RadialRun& run) {
+// A half of `base` plus the same half of `slope` times way / 32768, rounded.
+inline std::uint32_t halfAlong(std::uint32_t base, std::uint32_t slope, int way) {
+    const int change = (static_cast<std::int16_t>(slope & 0xFFFF) * way + (1 << 14)) >> 15;
+    return (base + static_cast<std::uint32_t>(change)) & 0xFFFF;
+}
+
+template <class Real>
+void fillRadial(std::uint32_t* pixels, int count, int, const RadialRun& run, const RadialColors& colors) {
     for (int i = 0; i < count; ++i) {
-        const float u = run.offset + static_cast<float>(i);
-        const float way = std::sqrt(u * u + run.height) + run.lean * u - run.reference;
-        const auto channel = [&](std::size_t c) { return nearestLevel(run.color[c] + run.slope[c] * way); };
-        pixels[i] = 0xFF000000 | channel(2) << 16 | channel(1) << 8 | channel(0);
+        const Real u = static_cast<Real>(run.offset) + static_cast<Real>(run.step) * static_cast<Real>(i);
+        const Real root = std::sqrt(u * u + static_cast<Real>(run.height));
+        const Real exact = root + static_cast<Real>(run.lean) * u + static_cast<Real>(run.reference);
+        const int way = static_cast<int>(std::nearbyint(exact));
+        const std::uint32_t blue = halfAlong(colors.blueRed, colors.blueRedSlope, way);
+        const std::uint32_t green = halfAlong(colors.greenAlpha, colors.greenSlope, way);
+        const std::uint32_t red = halfAlong(colors.blueRed >> 16, colors.blueRedSlope >> 16, way);
+        pixels[i] = 0xFF000000 | (red << 8 & 0xFF0000) | (green & 0xFF00) | blue >> 8;
     }
 }
 

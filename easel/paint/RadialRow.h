@@ -1,39 +1,72 @@
-// One row of a two-circle gradient as formulas in the pixel's index.
+// Rows of a two-circle gradient as formulas in the pixel's index.
 #pragma once
 
 #include "easel/paint/ParameterMap.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace easel::paint {
 
-// Pixels begin (inclusive) to end (exclusive), before they are cut to whole pixels of a surface.
+// A stretch of a row, in pixels; empty unless begin is less than end.
 struct PixelInterval {
     double begin;
     double end;
 };
 
+// What the circle of one parameter has to do with all rows alike.
+struct RowCircle {
+    double radiusSquared; // in pixels; negative if there is no such circle
+    double shift;         // of its centre along the rows
+    double rise;          // of its centre across the rows
+};
+
+// What all rows of a gradient have in common.
+class RadialRows {
+  public:
+    // The start circle must lie inside the end circle.
+    explicit RadialRows(const RadialMap& map);
+
+    RowCircle circle(double parameter) const;
+    // Of the parameter, per pixel, far from the centre.
+    double scale() const { return scale_; }
+
+  private:
+    friend class RadialRow;
+
+    RadialMap map_;
+    drawing::Point step_; // from a pixel to its right neighbor
+    double stepSquared_;
+    double depth_;
+    double b1_;
+    double curvature_;
+    double scale_;
+    double lean_;
+};
+
 // With u = x - lowest for the pixel at index x: parameter = scale (sqrt(u u + height) + lean u) + base.
 class RadialRow {
   public:
-    // The start circle must lie inside the end circle.
-    RadialRow(const RadialMap& map, int y);
+    RadialRow(const RadialRows& rows, int y);
 
     double lowest;
     double height;
-    double rootOfHeight;
     double lean;
     double scale;
     double base;
 
-    // sqrt(u u + height) + lean u at a pixel.
-    double distance(double x) const;
-    // The pixels whose parameter is less than the given one; begin is not below end if there is none.
-    PixelInterval below(double parameter) const;
+    // The pixels inside a circle.
+    PixelInterval inside(const RowCircle& circle) const;
+    // At least as large as sqrt(u u + height) + |lean u| for the pixels from begin to end.
+    double farthest(int begin, int end) const {
+        const double away = std::max(std::abs(begin - lowest), std::abs(end - lowest));
+        return (away + rootOfHeight_) * (1 + std::abs(lean));
+    }
 
   private:
-    const RadialMap& map_;
-    drawing::Point origin_; // pixel 0's centre from the start circle's, in gradient coordinates
-    drawing::Point step_;   // from a pixel to its right neighbor
-    double inverseSquare_;  // of the step's length
+    double along_;  // where the start circle's centre is nearest to the row
+    double across_; // how far away it is
+    double rootOfHeight_;
 };
 
 } // namespace easel::paint

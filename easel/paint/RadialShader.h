@@ -4,6 +4,7 @@
 #pragma once
 
 #include "easel/paint/ParameterMap.h"
+#include "easel/paint/RadialPiece.h"
 #include "easel/paint/RampSegments.h"
 #include "easel/paint/Rasteriser.h"
 
@@ -14,10 +15,10 @@ class RadialShader : public RowSink {
     // Whether the shader knows the geometry; others need evaluation pixel by pixel.
     static bool handles(const RadialMap& map);
 
-    // `segments` covers the parameters of every pixel that will be painted and must outlive the shader.
+    // `segments` covers the parameters of every pixel that will be painted. `pieces` is scratch memory; both
+    // must outlive the shader.
     RadialShader(const SurfaceView& surface, const RadialMap& map, const RampSegments& segments,
-                 double opacity)
-        : surface_(surface), map_(map), segments_(segments), opacity_(opacity) {}
+                 double opacity, std::vector<RadialPiece>& pieces);
     void row(int y, std::span<const CoverageRun> runs) override;
 
   private:
@@ -25,8 +26,10 @@ class RadialShader : public RowSink {
 
     SurfaceView surface_;
     RadialMap map_;
+    RadialRows rows_;
     const RampSegments& segments_;
     double opacity_;
+    std::vector<RadialPiece>& pieces_;
 };
 
 } // namespace easel::paint
