@@ -1,6 +1,7 @@
 // Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
 #include "easel/window/RunWindow.h"
 
+#include "easel/window/Application.h"
 #include "easel/window/DesktopUser.h"
 #include "easel/window/EaselStyle.h"
 #include "easel/window/PluginSession.h"
@@ -10,7 +11,6 @@
 
 #include "easel/interface/Host.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QSettings>
 #include <QTimer>
@@ -50,7 +50,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     using namespace easel::window;
     qInstallMessageHandler(reportMessages);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(argc, argv);
+    const Application application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("kestrad"));
     QCoreApplication::setApplicationName(QStringLiteral("easel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Easel"));
