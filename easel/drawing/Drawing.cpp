@@ -162,6 +162,13 @@ std::vector<std::size_t> Drawing::selection() const {
     return indices;
 }
 
+std::vector<ObjectPtr> Drawing::someSelected(std::size_t atMost) const {
+    std::vector<ObjectPtr> objects;
+    for (auto slot = selection_.begin(); slot != selection_.end() && objects.size() < atMost; ++slot)
+        objects.push_back(list_.object(*slot));
+    return objects;
+}
+
 void Drawing::restoreSelection(const std::vector<Slot>& slots) {
     unselectAll();
     for (const Slot slot : slots)

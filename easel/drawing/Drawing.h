@@ -84,8 +84,11 @@ class Drawing {
     void select(std::size_t index);
     void unselect(std::size_t index);
     void unselectAll();
+    bool hasSelection() const { return !selection_.empty(); }
     // Indices, back to front.
     std::vector<std::size_t> selection() const;
+    // So many of the selected objects, in no particular order.
+    std::vector<ObjectPtr> someSelected(std::size_t atMost) const;
 
     // The listener is told each area (drawing units) that has to be painted anew.
     using ChangeListener = std::function<void(const Box& area)>;

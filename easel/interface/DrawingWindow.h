@@ -45,7 +45,8 @@ class DrawingWindow {
     // image never changes behind the back of a tracking loop. Changes of the drawing mark their areas
     // themselves and tell the user.
     void mark(const drawing::Box& area);
-    bool hasMarks() const { return !marks_.empty(); }
+    // The marked areas: few, even if many objects changed.
+    const std::vector<drawing::Box>& marks() const { return marks_; }
     // Paints what is marked. Throws std::length_error or std::bad_alloc if the view is too large for an
     // image.
     void paintMarked();

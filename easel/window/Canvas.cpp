@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace easel::window {
 namespace {
@@ -21,6 +22,8 @@ constexpr double kMargin = 28;
 constexpr double kScrollShare = 0.35;
 constexpr double kLongestScroll = 60;
 constexpr double kEdge = 2;
+// How far the outline of a selected object reaches beyond the object, in pixels.
+constexpr int kOutlineReach = 4;
 
 double pastEdge(double at, double size) {
     if (at < kEdge)
@@ -175,18 +178,37 @@ void Canvas::scrollTowards(QPointF position) {
     scroll(*verticalScrollBar(), pastEdge(position.y(), viewport()->height()));
 }
 
-void Canvas::presentNow() {
-    if (window_.hasMarks()) {
-        viewport()->repaint();
+// Many changes may come at once, and the regions of all of them together are found only once.
+void Canvas::marked() {
+    if (std::exchange(updateDue_, true))
         return;
-    }
-    const QRectF before = shownFeedback_;
-    viewport()->repaint(before.united(feedbackArea()).toAlignedRect());
+    const auto update = [this] {
+        updateDue_ = false;
+        viewport()->update(markedRegion());
+    };
+    QMetaObject::invokeMethod(this, update, Qt::QueuedConnection);
+}
+
+QRegion Canvas::markedRegion() const {
+    QRegion region;
+    for (const drawing::Box& mark : window_.marks())
+        region += inViewport(mark).toAlignedRect().adjusted(-kOutlineReach, -kOutlineReach, kOutlineReach,
+                                                            kOutlineReach);
+    return region & viewport()->rect();
+}
+
+void Canvas::presentNow() {
+    viewport()->repaint(markedRegion() + shownFeedback_ + feedbackArea());
 }
 
 void Canvas::showMarquee(std::optional<QRectF> marquee) {
+    const auto touch = [this](const std::optional<QRectF>& rect) {
+        if (rect)
+            viewport()->update(rect->toAlignedRect().adjusted(-1, -1, 1, 1));
+    };
+    touch(marquee_);
+    touch(marquee);
     marquee_ = marquee;
-    viewport()->update();
 }
 
 void Canvas::flash() {

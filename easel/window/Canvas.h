@@ -36,8 +36,9 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void zoomAboutMiddle(double zoom);
     void fit();
 
-    // Something of the drawing is marked for painting, or what is shown on top of it changed.
-    void marked() { viewport()->update(); }
+    // What of the drawing is marked for painting is repainted when there is time, and so is what is marked
+    // until then.
+    void marked();
     // The drawing, its selection or its history changed.
     void reportChange() { Q_EMIT changed(); }
     // Shows at once what the window's image and feedback now hold.
@@ -71,6 +72,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void mousePressEvent(QMouseEvent* event) override;
+    // The second click of two quick ones is as good as any.
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -91,7 +94,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     QPointF origin() const;
     QRectF page() const;
     QRectF inViewport(const drawing::Box& box) const;
-    QRectF feedbackArea() const;
+    QRegion markedRegion() const;
+    QRect feedbackArea() const;
     void pinch(const QNativeGestureEvent& event);
 
     host::DrawingWindow& window_;
@@ -103,8 +107,9 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     QPoint panStart_;
     bool spaceDown_ = false;
     std::optional<QRectF> marquee_;
-    QRectF shownFeedback_;
+    QRect shownFeedback_;
     double flash_ = 0;
+    bool updateDue_ = false;
 };
 
 } // namespace easel::window

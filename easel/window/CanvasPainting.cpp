@@ -15,6 +15,9 @@ namespace {
 // Outlines of more objects than this would hide the drawing, and take their time.
 constexpr std::size_t kMostOutlines = 2000;
 constexpr int kShadowSteps = 8;
+// Of lines on top of the drawing, and of those lines with what makes them visible; in pixels.
+constexpr double kLineWidth = 1.5;
+constexpr double kOutlineWidth = kLineWidth + 2;
 
 // A rectangle with its edges on whole pixels of the screen.
 QRectF onPixels(const QRectF& rect, double ratio) {
@@ -46,33 +49,35 @@ void drawPage(QPainter& painter, const QRectF& exposed, const QRectF& page, cons
 }
 
 // A line in the given color between two lines of the ground's color, seen on anything.
-void strokeVisibly(QPainter& painter, const QPainterPath& path, const QColor& color, double width) {
+void strokeVisibly(QPainter& painter, const QPainterPath& path, const QColor& color) {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(255, 255, 255, 190), width + 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor(255, 255, 255, 190), kOutlineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
-    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
 }
 
-void drawSelection(QPainter& painter, const host::DrawingWindow& window, const QColor& accent) {
-    const drawing::Drawing& drawing = window.drawing();
+void drawSelection(QPainter& painter, const host::DrawingWindow& window, const QRectF& exposed,
+                   const QColor& accent) {
     const host::View& view = window.view();
     const drawing::Affine toWindow{
         view.zoom, 0, 0, view.zoom, -view.origin.x * view.zoom, -view.origin.y * view.zoom};
-    const std::vector<std::size_t> selection = drawing.selection();
-    const std::size_t shown = std::min(selection.size(), kMostOutlines);
-    for (std::size_t i = 0; i < shown; ++i) {
-        const drawing::Path outline = drawing.object(selection[i])->outline->transformed(toWindow);
-        strokeVisibly(painter, toPainterPath(outline), accent, 1.5);
-    }
+    const double reach = kOutlineWidth / view.zoom;
+    drawing::Box area;
+    area.add(view.toDrawing(fromQt(exposed.topLeft())));
+    area.add(view.toDrawing(fromQt(exposed.bottomRight())));
+    for (const drawing::ObjectPtr& object : window.drawing().someSelected(kMostOutlines))
+        if (!area.intersection(object->bounds.grownBy(reach)).empty())
+            strokeVisibly(painter, toPainterPath(object->outline->transformed(toWindow)), accent);
 }
 
 void drawFeedback(QPainter& painter, const host::DrawingWindow& window) {
     for (const host::ConstructionLine& line : window.feedback()) {
         QPainterPath path(toQt(window.view().toWindow(line.from)));
         path.lineTo(toQt(window.view().toWindow(line.to)));
-        strokeVisibly(painter, path, Qt::black, 1.5);
-        painter.setPen(QPen(Qt::black, 1.5));
+        strokeVisibly(painter, path, Qt::black);
+        painter.setPen(QPen(Qt::black, kLineWidth));
         painter.setBrush(Qt::white);
         painter.drawEllipse(path.elementAt(0), 3.5, 3.5);
         painter.drawEllipse(path.currentPosition(), 3.5, 3.5);
@@ -85,18 +90,22 @@ void Canvas::paintEvent(QPaintEvent* event) {
     const double ratio = devicePixelRatioF();
     if (window_.view().deviceScale != ratio)
         updateView();
+    // The image gets all that is marked, of which the window may be asked to show only a part for now.
+    const QRegion later = markedRegion() - event->region();
     window_.paintMarked();
+    viewport()->update(later);
 
     QPainter painter(viewport());
     const QRectF exposed = QRectF(event->rect());
     const QRectF shownPage = onPixels(page(), ratio);
     if (!shownPage.contains(exposed))
         drawGround(painter, exposed, shownPage);
-    drawPage(painter, exposed, shownPage, window_.image(), ratio);
+    for (const QRect& part : event->region())
+        drawPage(painter, part, shownPage, window_.image(), ratio);
 
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor accent = palette().color(QPalette::Highlight);
-    drawSelection(painter, window_, accent);
+    drawSelection(painter, window_, exposed, accent);
     drawFeedback(painter, window_);
     shownFeedback_ = feedbackArea();
     if (marquee_) {
@@ -115,13 +124,15 @@ void Canvas::paintEvent(QPaintEvent* event) {
     }
 }
 
-QRectF Canvas::feedbackArea() const {
+QRect Canvas::feedbackArea() const {
+    if (window_.feedback().empty())
+        return {};
     drawing::Box box;
     for (const host::ConstructionLine& line : window_.feedback()) {
         box.add(line.from);
         box.add(line.to);
     }
-    return inViewport(box).adjusted(-6, -6, 6, 6);
+    return inViewport(box).toAlignedRect().adjusted(-6, -6, 6, 6);
 }
 
 } // namespace easel::window

@@ -89,7 +89,9 @@ bool MainWindow::isPristine() const {
 void MainWindow::buildStatusBar() {
     message_ = new QLabel;
     pointer_ = new QLabel;
-    pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000, 00000")));
+    // Of a fixed size, as the status bar is laid out anew for any other label that changes.
+    pointer_->setFixedSize(pointer_->fontMetrics().boundingRect(QStringLiteral("-00000, -00000")).size() +
+                           QSize(4, 4));
     pointer_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     pointer_->setToolTip(tr("Pointer, from the drawing's top-left corner"));
     connect(canvas_, &Canvas::pointerAt, this, [this](QPointF at) {
@@ -121,7 +123,7 @@ void MainWindow::drawingChanged() {
     const drawing::Drawing& drawing = drawingWindow_.drawing();
     undo_->setEnabled(drawing.undoLevels() > 0);
     redo_->setEnabled(drawing.redoLevels() > 0);
-    delete_->setEnabled(!drawing.selection().empty());
+    delete_->setEnabled(drawing.hasSelection());
     setWindowTitle(tr("%1[*] \u2014 Easel").arg(name()));
     setWindowModified(drawing.dirty());
     setWindowFilePath(file_);
@@ -196,7 +198,6 @@ void MainWindow::snapChanged() {
         return action.isChecked() ? host::Switch::on : host::Switch::off;
     };
     host::theHost().snap = {state(*snapGrid_), state(*snapObject_)};
-    canvas_->marked();
 }
 
 void MainWindow::chooseAppearance(QAction* chosen) {

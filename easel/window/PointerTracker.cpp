@@ -5,6 +5,8 @@
 #include <QDeadlineTimer>
 #include <QTimer>
 
+#include <utility>
+
 namespace easel::window {
 namespace {
 
@@ -19,6 +21,7 @@ void PointerTracker::pressed(PointerSurface& surface, QPointF position) {
     newPosition_.reset();
     releasePosition_.reset();
     lastAnswer_.reset();
+    unheeded_ = false;
     sinceScroll_.start();
 }
 
@@ -67,7 +70,8 @@ bool PointerTracker::nearEdge() const {
 }
 
 host::MouseState PointerTracker::waitWhileDown() {
-    if (!down_ || givenUp_)
+    // Whoever follows the mouse asks this between hearing of a move and showing it.
+    if (!down_ || givenUp_ || std::exchange(unheeded_, false))
         return mouse();
     if (!takeNews()) {
         sleep(kFrame);
@@ -80,6 +84,7 @@ host::MouseState PointerTracker::waitForMove(drawing::Point from) {
     takeNews();
     const auto answer = [this] {
         const host::MouseState state = mouse();
+        unheeded_ = state.at != lastAnswer_;
         lastAnswer_ = state.at;
         return state;
     };

@@ -57,6 +57,7 @@ class PointerTracker {
     std::optional<QPointF> newPosition_;
     std::optional<QPointF> releasePosition_;
     std::optional<drawing::Point> lastAnswer_;
+    bool unheeded_ = false; // the last answer was news, and what it led to is not on the screen yet
     QElapsedTimer sinceScroll_;
     bool keysChanged_ = false;
     bool givenUp_ = false;

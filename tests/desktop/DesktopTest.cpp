@@ -81,8 +81,8 @@ void DesktopTest::start(const std::vector<std::string>& arguments,
     program_ = std::make_unique<Process>(command, variables, folder_ / "easel.log");
 }
 
-void DesktopTest::startWithDrawing() {
-    start({drawing().string()});
+void DesktopTest::startWithDrawing(const std::map<std::string, std::string>& environment) {
+    start({drawing().string()}, environment);
     plainArea_ = waitForColor(kPlain);
     waitForColor(kMarker);
 }

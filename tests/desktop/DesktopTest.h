@@ -53,7 +53,7 @@ class DesktopTest : public testing::Test {
     // Starts the program and waits until its window is there and painted.
     void start(const std::vector<std::string>& arguments,
                const std::map<std::string, std::string>& environment = {});
-    void startWithDrawing();
+    void startWithDrawing(const std::map<std::string, std::string>& environment = {});
     Process& program() { return *program_; }
     // Ctrl-Q, and the exit code.
     int quit();

@@ -37,9 +37,9 @@ class DrawingWindowTest : public testing::Test {
 
 TEST_F(DrawingWindowTest, ShowsChangesOnlyOnceTheyArePainted) {
     window.paintMarked();
-    EXPECT_FALSE(window.hasMarks());
+    EXPECT_TRUE(window.marks().empty());
     window.drawing().insert(0, blackBox({10, 10, 20, 20}));
-    EXPECT_TRUE(window.hasMarks());
+    EXPECT_FALSE(window.marks().empty());
     EXPECT_EQ(pixel(15, 15), kWhite);
     window.paintMarked();
     EXPECT_EQ(pixel(15, 15), kBlack);
