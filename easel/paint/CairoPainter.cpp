@@ -132,7 +132,8 @@ cairo_line_cap_t capOf(drawing::LineCap cap) {
 
 } // namespace
 
-void CairoPainter::paint(const drawing::Drawing& drawing) {
+void CairoPainter::paint(const drawing::Drawing& drawing, const Progress& progress) {
+    painted_ = PieceCount(progress, drawing.size());
     std::vector<drawing::ObjectPtr> objects;
     objects.reserve(drawing.size());
     drawing.forEach([&](const drawing::ObjectPtr& object) { objects.push_back(object); });
@@ -193,6 +194,7 @@ void CairoPainter::paintMask(const drawing::ClipPath& clip) {
 }
 
 void CairoPainter::paintObject(const Object& object) {
+    painted_.next();
     const drawing::Style& style = drawing::styleOf(object);
     const double opacity = opacityOf(style.opacity);
     if (opacity == 0)

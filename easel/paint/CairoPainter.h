@@ -3,6 +3,7 @@
 
 #include "easel/drawing/Drawing.h"
 #include "easel/paint/Painter.h"
+#include "easel/paint/Progress.h"
 
 #include <span>
 
@@ -15,7 +16,8 @@ class CairoPainter {
     // User space of the context is that of the drawing. The context must outlive the painter.
     explicit CairoPainter(cairo_t* cairo) : cairo_(cairo) {}
 
-    void paint(const drawing::Drawing& drawing);
+    // Throws Cancelled.
+    void paint(const drawing::Drawing& drawing, const Progress& progress = {});
 
   private:
     void paintWithin(const drawing::Group* parent, std::span<const drawing::ObjectPtr> objects);
@@ -34,6 +36,7 @@ class CairoPainter {
     void addPath(const drawing::Path& path);
 
     cairo_t* cairo_;
+    PieceCount painted_;
 };
 
 } // namespace easel::paint

@@ -14,6 +14,13 @@ namespace easel::paint {
 
 namespace {
 
+// As a whole picture is painted in bands that begin at multiples of 256 rows, so are its parts. Each part
+// gives some bands to every thread.
+constexpr int kBandRows = 256;
+constexpr int kBandsAThread = 2;
+// Of the time that a picture takes, about this part goes by before its pixels are packed.
+constexpr double kPaintingShare = 0.6;
+
 using std::filesystem::path;
 using toolbox::FileError;
 using toolbox::FileOutcome;
@@ -28,7 +35,17 @@ FileOutcome problem(const path& file, const std::string& reason) {
     return FileError{file, reason, {}};
 }
 
-FileOutcome exportPng(const drawing::Drawing& drawing, const path& file, const SizeRequest& request) {
+void paintInParts(const drawing::Drawing& drawing, Surface& surface, double scale, const Progress& progress) {
+    const int rows = kBandRows * kBandsAThread * static_cast<int>(usefulThreads());
+    for (int top = 0; top < surface.height(); top += rows) {
+        progress.tell(static_cast<double>(top) / surface.height());
+        renderDrawing(drawing, surface.view().clippedTo({0, top, surface.width(), top + rows}),
+                      drawing::Affine::scaling(scale, scale));
+    }
+}
+
+FileOutcome exportPng(const drawing::Drawing& drawing, const path& file, const SizeRequest& request,
+                      const Progress& progress) {
     const auto result = pictureSize(drawing.width(), drawing.height(), request);
     if (const auto* reason = std::get_if<std::string>(&result))
         return problem(file, *reason);
@@ -36,31 +53,39 @@ FileOutcome exportPng(const drawing::Drawing& drawing, const path& file, const S
     if (const auto reason = memoryProblem(size, availableMemory()))
         return problem(file, *reason);
     Surface surface(size.width, size.height);
-    renderDrawing(drawing, surface.view(), drawing::Affine::scaling(size.scale, size.scale));
-    return writePng(file, rowsOf(surface));
+    paintInParts(drawing, surface, size.scale, progress.part(0, kPaintingShare));
+    return writePng(file, rowsOf(surface), progress.part(kPaintingShare, 1));
 }
 
 FileOutcome exportOutlines(const drawing::Drawing& drawing, const path& file, const SizeRequest& request,
-                           bool asPdf) {
+                           bool asPdf, const Progress& progress) {
     const auto scale = scaleOf(drawing.width(), request);
     if (const auto* reason = std::get_if<std::string>(&scale))
         return problem(file, *reason);
     if (asPdf)
-        return toolbox::replaceFile(file, encodePdf(drawing, std::get<double>(scale)));
-    return toolbox::replaceFile(file, encodeSvg(drawing, std::get<double>(scale)));
+        return toolbox::replaceFile(file,
+                                    encodePdf(drawing, pageOf(drawing, std::get<double>(scale)), progress));
+    return toolbox::replaceFile(file, encodeSvg(drawing, std::get<double>(scale), progress));
 }
 
 } // namespace
 
-FileOutcome exportDrawing(const drawing::Drawing& drawing, const path& file, const SizeRequest& size) {
+bool wasCancelled(const FileError& error) {
+    return error.code == std::errc::operation_canceled;
+}
+
+FileOutcome exportDrawing(const drawing::Drawing& drawing, const path& file, const SizeRequest& size,
+                          const Progress& progress) {
     const std::string ending = lowerCased(file.extension().string());
     try {
         if (ending == ".png")
-            return exportPng(drawing, file, size);
+            return exportPng(drawing, file, size, progress);
         if (ending == ".pdf" || ending == ".svg")
-            return exportOutlines(drawing, file, size, ending == ".pdf");
+            return exportOutlines(drawing, file, size, ending == ".pdf", progress);
     } catch (const std::bad_alloc&) {
         return problem(file, "there is not enough memory for the picture");
+    } catch (const Cancelled& cancelled) {
+        return FileError{file, cancelled.what(), std::make_error_code(std::errc::operation_canceled)};
     }
     return problem(file, "the name of a picture must end in .png, .pdf or .svg");
 }

@@ -3,6 +3,7 @@
 
 #include "easel/drawing/Drawing.h"
 #include "easel/paint/PictureSize.h"
+#include "easel/paint/Progress.h"
 #include "easel/toolbox/FileError.h"
 
 #include <filesystem>
@@ -11,9 +12,13 @@ namespace easel::paint {
 
 // Writes the drawing as PNG (with a transparent background), PDF or SVG, by the ending of the file's name. A
 // file that is there is replaced whole or, after an error, not at all. The error names the file and the
-// reason, which may be an ending that is none of these, a size that cannot be, or a lack of memory.
+// reason, which may be an ending that is none of these, a size that cannot be, or a lack of memory; where
+// `progress` cancelled, its code is std::errc::operation_canceled.
 [[nodiscard]] toolbox::FileOutcome exportDrawing(const drawing::Drawing& drawing,
                                                  const std::filesystem::path& file,
-                                                 const SizeRequest& size = {});
+                                                 const SizeRequest& size = {}, const Progress& progress = {});
+
+// Whether it is nobody's fault that there is no file.
+bool wasCancelled(const toolbox::FileError& error);
 
 } // namespace easel::paint

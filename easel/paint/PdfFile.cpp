@@ -13,39 +13,69 @@ namespace easel::paint {
 
 namespace {
 
-constexpr double kPointsPerUnit = 72.0 / 96.0;
+// Cairo keeps what is painted until the page is complete, and then writes.
+constexpr double kPaintingShare = 0.15;
+// With this many bytes for each object, the writing counts as half done.
+constexpr double kHalfOfAnObject = 30;
 
-cairo_status_t append(void* closure, const unsigned char* data, unsigned int size) {
-    try {
-        auto& out = *static_cast<toolbox::Bytes*>(closure);
-        out.insert(out.end(), data, data + size);
-        return CAIRO_STATUS_SUCCESS;
-    } catch (const std::bad_alloc&) {
-        return CAIRO_STATUS_NO_MEMORY;
+struct Output {
+    Progress progress;
+    double halfBytes = 1;
+    toolbox::Bytes bytes;
+    std::exception_ptr failure;
+
+    // Nears 1, however many bytes there will be.
+    double done() const {
+        const auto size = static_cast<double>(bytes.size());
+        return size / (size + halfBytes);
     }
+};
+
+// No exception may pass through Cairo.
+cairo_status_t append(void* closure, const unsigned char* data, unsigned int size) {
+    auto& out = *static_cast<Output*>(closure);
+    try {
+        out.bytes.insert(out.bytes.end(), data, data + size);
+        out.progress.tell(out.done());
+        return CAIRO_STATUS_SUCCESS;
+    } catch (...) {
+        out.failure = std::current_exception();
+        return CAIRO_STATUS_WRITE_ERROR;
+    }
+}
+
+void check(const Output& out, cairo_status_t status) {
+    if (out.failure)
+        std::rethrow_exception(out.failure);
+    if (status == CAIRO_STATUS_NO_MEMORY)
+        throw std::bad_alloc();
 }
 
 } // namespace
 
-toolbox::Bytes encodePdf(const drawing::Drawing& drawing, double scale) {
-    const double points = kPointsPerUnit * scale;
-    toolbox::Bytes out;
+PdfPage pageOf(const drawing::Drawing& drawing, double scale) {
+    const double points = kPointsAUnit * scale;
+    return {drawing.width() * points, drawing.height() * points, 0, 0, points};
+}
+
+toolbox::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress) {
+    Output out{
+        progress.part(kPaintingShare, 1), kHalfOfAnObject * static_cast<double>(drawing.size() + 1), {}, {}};
     const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface(
-        cairo_pdf_surface_create_for_stream(&append, &out, drawing.width() * points,
-                                            drawing.height() * points),
-        &cairo_surface_destroy);
+        cairo_pdf_surface_create_for_stream(&append, &out, page.width, page.height), &cairo_surface_destroy);
     {
         const std::unique_ptr<cairo_t, decltype(&cairo_destroy)> cairo(cairo_create(surface.get()),
                                                                        &cairo_destroy);
-        cairo_scale(cairo.get(), points, points);
-        CairoPainter(cairo.get()).paint(drawing);
-        if (cairo_status(cairo.get()) == CAIRO_STATUS_NO_MEMORY)
-            throw std::bad_alloc();
+        cairo_translate(cairo.get(), page.left, page.top);
+        cairo_scale(cairo.get(), page.pointsAUnit, page.pointsAUnit);
+        cairo_rectangle(cairo.get(), 0, 0, drawing.width(), drawing.height());
+        cairo_clip(cairo.get());
+        CairoPainter(cairo.get()).paint(drawing, progress.part(0, kPaintingShare));
+        check(out, cairo_status(cairo.get()));
     }
     cairo_surface_finish(surface.get());
-    if (cairo_surface_status(surface.get()) == CAIRO_STATUS_NO_MEMORY)
-        throw std::bad_alloc();
-    return out;
+    check(out, cairo_surface_status(surface.get()));
+    return std::move(out.bytes);
 }
 
 } // namespace easel::paint

@@ -2,12 +2,28 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/paint/Progress.h"
 #include "easel/toolbox/FileError.h"
 
 namespace easel::paint {
 
-// The bytes of a PDF file with one page, on which a drawing unit at scale 1 is a 96th of an inch. Throws
-// std::bad_alloc.
-toolbox::Bytes encodePdf(const drawing::Drawing& drawing, double scale);
+// A page and where on it the drawing is. All lengths are points, of which there are 72 to the inch.
+struct PdfPage {
+    double width = 0;
+    double height = 0;
+    double left = 0; // of the drawing, from the page's left edge
+    double top = 0;
+    double pointsAUnit = 1; // what a drawing unit is long
+};
+
+// A drawing unit at scale 1 is a 96th of an inch.
+inline constexpr double kPointsAUnit = 72.0 / 96.0;
+
+// A page that is as large as the drawing at that scale.
+PdfPage pageOf(const drawing::Drawing& drawing, double scale);
+
+// The bytes of a PDF file with one page. What lies outside the drawing's own area is not shown. Throws
+// std::bad_alloc and Cancelled.
+toolbox::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress = {});
 
 } // namespace easel::paint

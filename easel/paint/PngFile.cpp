@@ -9,6 +9,7 @@
 #include <libdeflate.h>
 
 #include <array>
+#include <atomic>
 #include <new>
 #include <stdexcept>
 
@@ -194,11 +195,13 @@ PixelRows rowsOf(const Surface& surface) {
     return {surface.row(0), surface.width(), surface.height(), surface.stride()};
 }
 
-std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads) {
+std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads, const Progress& progress) {
     const Layout layout = layoutOf(picture);
     std::vector<Band> bands(
         static_cast<std::size_t>((picture.height + layout.bandRows - 1) / layout.bandRows));
+    std::atomic<std::size_t> begun = 0;
     forEachPiece(bands.size(), threads, [&](std::size_t i) {
+        progress.tell(static_cast<double>(begun++) / static_cast<double>(bands.size()));
         const int top = static_cast<int>(i) * layout.bandRows;
         bands[i] = packBand(picture, layout, top, std::min(picture.height, top + layout.bandRows));
     });
@@ -223,8 +226,9 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads) 
     return out;
 }
 
-toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture) {
-    return toolbox::replaceFile(file, encodePng(picture));
+toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
+                              const Progress& progress) {
+    return toolbox::replaceFile(file, encodePng(picture, usefulThreads(), progress));
 }
 
 } // namespace easel::paint

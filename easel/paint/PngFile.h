@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/paint/Parallel.h"
+#include "easel/paint/Progress.h"
 #include "easel/paint/Surface.h"
 #include "easel/toolbox/FileError.h"
 
@@ -21,10 +22,13 @@ struct PixelRows {
 };
 PixelRows rowsOf(const Surface& surface);
 
-// The bytes of the PNG file, the same for any number of threads. Width and height are above 0.
-std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads = usefulThreads());
+// The bytes of the PNG file, the same for any number of threads. Width and height are above 0. Throws
+// Cancelled.
+std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads = usefulThreads(),
+                                    const Progress& progress = {});
 
-// Replaces the file whole or, after an error, not at all.
-[[nodiscard]] toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture);
+// Replaces the file whole or, after an error, not at all. Throws Cancelled.
+[[nodiscard]] toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
+                                            const Progress& progress = {});
 
 } // namespace easel::paint

@@ -61,7 +61,8 @@ std::string dashText(const std::vector<double>& dashes) {
 
 class SvgWriter {
   public:
-    explicit SvgWriter(const drawing::Drawing& drawing) {
+    SvgWriter(const drawing::Drawing& drawing, const Progress& progress)
+        : written_(progress, drawing.size()) {
         drawing.forEach([&](const drawing::ObjectPtr& object) { objects_.push_back(object); });
         // Names of our own must not be those of objects.
         while (nameTaken())
@@ -100,6 +101,7 @@ class SvgWriter {
     }
 
     void writeObject(const Object& object) {
+        written_.next();
         const drawing::Style& style = drawing::styleOf(object);
         const bool stroked = drawing::strokes(style) && object.transform.invertible();
         // Where it shows, the pen keeps the shape that the object's own units give it.
@@ -196,6 +198,7 @@ class SvgWriter {
         return clipNames_[&clip] = name;
     }
 
+    PieceCount written_;
     std::vector<drawing::ObjectPtr> objects_;
     std::string prefix_ = "easel-";
     int named_ = 0;
@@ -207,8 +210,8 @@ class SvgWriter {
 
 } // namespace
 
-std::string encodeSvg(const drawing::Drawing& drawing, double scale) {
-    return SvgWriter(drawing).document(drawing.width(), drawing.height(), scale);
+std::string encodeSvg(const drawing::Drawing& drawing, double scale, const Progress& progress) {
+    return SvgWriter(drawing, progress).document(drawing.width(), drawing.height(), scale);
 }
 
 } // namespace easel::paint

@@ -2,6 +2,7 @@
 #include "easel/window/LoadDrawing.h"
 
 #include "easel/toolbox/AtomicFile.h"
+#include "easel/window/BackgroundWork.h"
 #include "easel/window/DesktopUser.h"
 
 #include <QCoreApplication>
@@ -13,7 +14,6 @@
 namespace easel::window {
 namespace {
 
-constexpr int kSteps = 1000;
 // Handling events between two reports costs time of its own.
 constexpr qint64 kFrame = 33;
 
@@ -21,22 +21,19 @@ constexpr qint64 kFrame = 33;
 
 svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* over) {
     const DesktopUser::Call call(user);
-    QProgressDialog dialog(QObject::tr("Opening %1 \u2026").arg(QFileInfo(file).fileName()),
-                           QObject::tr("Cancel"), 0, kSteps, over);
-    dialog.setWindowTitle(QObject::tr("Easel"));
-    dialog.setMinimumDuration(500);
-    dialog.setValue(0);
-    const InputGate::Scope scope(user.gate(), &dialog);
+    const auto dialog =
+        makeProgressDialog(QObject::tr("Opening %1 \u2026").arg(QFileInfo(file).fileName()), over);
+    const InputGate::Scope scope(user.gate(), dialog.get());
     QElapsedTimer sinceShown;
     sinceShown.start();
     svg::ReadOptions options;
     options.progress = [&](double done) {
         if (sinceShown.elapsed() >= kFrame) {
-            dialog.setValue(static_cast<int>(done * (kSteps - 1)));
+            dialog->setValue(static_cast<int>(done * (kProgressSteps - 1)));
             QCoreApplication::processEvents();
             sinceShown.restart();
         }
-        return !dialog.wasCanceled() && !user.cancelled();
+        return !dialog->wasCanceled() && !user.cancelled();
     };
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     // What a save of this drawing left when the program was killed goes now.

@@ -66,9 +66,14 @@ class MainWindow : public QMainWindow {
     void exportPdf() { exportAs(QStringLiteral("pdf")); }
     void exportSvg() { exportAs(QStringLiteral("svg")); }
     void exportAs(const QString& suffix);
+    // Empty if the user would rather not.
+    QString fileForExport(const QString& suffix);
+    bool mayReplace(const QString& file);
     void print();
     Saved settleChanges();
-    QString chosenFile(const QString& title, const QString& suffix, const QString& filter);
+    // `name` is offered; empty if the user cancels.
+    QString chosenFile(const QString& title, const QString& name, const QString& filter);
+    QString baseName() const;
 
     // MainWindow.cpp
     void undo();

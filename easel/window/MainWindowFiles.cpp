@@ -1,6 +1,8 @@
 // Opening, saving, exporting and printing.
+#include "easel/interface/Alert.h"
 #include "easel/paint/ExportDrawing.h"
 #include "easel/svg/Document.h"
+#include "easel/window/BackgroundWork.h"
 #include "easel/window/MainWindow.h"
 #include "easel/window/Messages.h"
 #include "easel/window/PrintDrawing.h"
@@ -22,6 +24,11 @@ QString svgFilter() {
     return QObject::tr("SVG drawings (*.svg);;All files (*)");
 }
 
+bool isPictureName(const QString& file) {
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    return suffix == QLatin1String("png") || suffix == QLatin1String("pdf") || suffix == QLatin1String("svg");
+}
+
 } // namespace
 
 void MainWindow::newDrawing() {
@@ -37,12 +44,15 @@ void MainWindow::open() {
         workspace_.openFile(file, this);
 }
 
-QString MainWindow::chosenFile(const QString& title, const QString& suffix, const QString& filter) {
+QString MainWindow::baseName() const {
+    return file_.isEmpty() ? tr("Untitled") : QFileInfo(file_).completeBaseName();
+}
+
+QString MainWindow::chosenFile(const QString& title, const QString& name, const QString& filter) {
     QFileDialog dialog(this, title, QFileInfo(file_).path(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(suffix);
-    const QString base = file_.isEmpty() ? tr("Untitled") : QFileInfo(file_).completeBaseName();
-    dialog.selectFile(base + QLatin1Char('.') + suffix);
+    dialog.setDefaultSuffix(QFileInfo(name).suffix());
+    dialog.selectFile(name);
     return workspace_.user().runDialog(dialog) ? dialog.selectedFiles().value(0) : QString();
 }
 
@@ -51,7 +61,7 @@ MainWindow::Saved MainWindow::save() {
 }
 
 MainWindow::Saved MainWindow::saveAs() {
-    const QString file = chosenFile(tr("Save As"), QStringLiteral("svg"), svgFilter());
+    const QString file = chosenFile(tr("Save As"), baseName() + QStringLiteral(".svg"), svgFilter());
     return file.isEmpty() ? Saved::No : saveTo(file);
 }
 
@@ -69,26 +79,64 @@ MainWindow::Saved MainWindow::saveTo(const QString& file) {
     return Saved::Yes;
 }
 
+QString MainWindow::fileForExport(const QString& suffix) {
+    const QString ending = QLatin1Char('.') + suffix;
+    // An export holds less than the drawing's own file, so it is not to take its place.
+    const QString copy = ending == QLatin1String(".svg") ? tr(" exported") : QString();
+    QString file = chosenFile(tr("Export as %1").arg(suffix.toUpper()), baseName() + copy + ending,
+                              tr("%1 files (*.%2)").arg(suffix.toUpper(), suffix));
+    if (file.isEmpty())
+        return {};
+    if (!isPictureName(file)) {
+        file += ending;
+        if (QFileInfo::exists(file) && !mayReplace(file))
+            return {};
+    }
+    if (!file_.isEmpty() && QFileInfo(file) == QFileInfo(file_)) {
+        workspace_.tell(
+            tr("%1: this is the drawing itself. Export it under another name, or save it.").arg(file));
+        return {};
+    }
+    return file;
+}
+
+bool MainWindow::mayReplace(const QString& file) {
+    host::Alert alert;
+    alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
+    alert.yesButton = tr("Replace").toStdString();
+    alert.noButton = tr("Cancel").toStdString();
+    const Question question = makeQuestion(alert, this);
+    workspace_.user().runDialog(*question.box);
+    return question.yes();
+}
+
 void MainWindow::exportAs(const QString& suffix) {
-    const QString file =
-        chosenFile(tr("Export"), suffix, tr("%1 files (*.%2)").arg(suffix.toUpper(), suffix));
+    const QString file = fileForExport(suffix);
     if (file.isEmpty())
         return;
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
-    if (const auto error = paint::exportDrawing(drawingWindow_.drawing(), path))
+    toolbox::FileOutcome error;
+    workBeside(workspace_.user(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
+               [&](const paint::Progress& progress) {
+                   error = paint::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
+               });
+    if (error && !paint::wasCancelled(*error))
         workspace_.user().tell(error->message());
-    else
+    else if (!error)
         statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
 }
 
 void MainWindow::print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(name());
+    turnPage(drawingWindow_.drawing(), printer);
     QPrintDialog dialog(&printer, this);
+    // There is one page.
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     if (!workspace_.user().runDialog(dialog))
         return;
-    if (const QString problem = printDrawing(drawingWindow_.drawing(), printer); !problem.isEmpty())
-        workspace_.tell(problem);
+    if (printDrawing(drawingWindow_.drawing(), printer, workspace_.user(), this) == Printed::Yes)
+        statusBar()->showMessage(tr("Printed %1").arg(name()), kMessageTime);
 }
 
 // Asks what is to become of unsaved changes; No if the user would rather go on.

@@ -22,9 +22,10 @@ QMessageBox* makeProblemMessage(const QString& message, QWidget* parent) {
 Question makeQuestion(const host::Alert& alert, QWidget* parent) {
     auto box = std::make_unique<QMessageBox>(parent);
     box->setIcon(QMessageBox::Question);
-    box->setWindowTitle(QObject::tr("Easel"));
+    box->setWindowTitle(alert.title.empty() ? QObject::tr("Easel") : QString::fromStdString(alert.title));
     box->setTextFormat(Qt::PlainText);
     box->setText(QString::fromStdString(alert.text));
+    box->setInformativeText(QString::fromStdString(alert.detail));
     const auto caption = [](const std::string& text) {
         return QString::fromStdString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
     };

@@ -3,6 +3,7 @@
 
 class QPrinter;
 class QString;
+class QWidget;
 
 namespace easel::drawing {
 class Drawing;
@@ -10,8 +11,16 @@ class Drawing;
 
 namespace easel::window {
 
-// One page with the drawing as large as the page lets it be, but not larger than it is. Empty, or the reason
-// why not.
-QString printDrawing(const drawing::Drawing& drawing, QPrinter& printer);
+class DesktopUser;
+
+// Turns the printer's page the way the drawing lies.
+void turnPage(const drawing::Drawing& drawing, QPrinter& printer);
+
+enum class Printed { Yes, No, Cancelled };
+
+// One page with the drawing in its middle, as large as the page lets it be but not larger than it is. A page
+// that is a PDF file holds outlines and gradients, any other a picture. What takes long shows its progress
+// over that window and can be cancelled; the user is told what goes wrong.
+Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, DesktopUser& user, QWidget* over);
 
 } // namespace easel::window

@@ -1,6 +1,7 @@
 // Sets up the screen once and fresh folders for each test.
 #include "tests/desktop/DesktopTest.h"
 
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <sstream>
@@ -106,6 +107,13 @@ bool DesktopTest::hasWindow(const std::string& title) const {
     return screen().window([&](const Window& window) { return window.title.starts_with(title); }).has_value();
 }
 
+std::size_t DesktopTest::windowsWith(const std::string& title) const {
+    const std::vector<Window> windows = screen().windows();
+    return static_cast<std::size_t>(std::count_if(windows.begin(), windows.end(), [&](const Window& window) {
+        return window.title.starts_with(title);
+    }));
+}
+
 Window DesktopTest::waitForWindow(const std::string& title) {
     std::optional<Window> found;
     Area before;
@@ -167,6 +175,29 @@ std::string DesktopTest::positionField() {
     screen().key("ctrl+c");
     std::this_thread::sleep_for(100ms);
     return screen().clipboard();
+}
+
+void DesktopTest::chooseInMenu(const std::vector<std::string>& keys) {
+    for (const std::string& key : keys)
+        screen().key(key);
+}
+
+void DesktopTest::answerFileDialog(const std::string& title, const fs::path& file) {
+    waitForWindow(title);
+    screen().key("ctrl+a");
+    screen().type(file.string());
+    screen().key("Return");
+}
+
+std::string DesktopTest::messageOf(const Window& box) {
+    screen().click({(box.content.left + box.content.right) / 2 + 20, box.content.top + 24});
+    screen().key("ctrl+a");
+    std::string text;
+    eventually([&] {
+        screen().key("ctrl+c");
+        return !(text = screen().clipboard()).empty();
+    });
+    return text;
 }
 
 std::string DesktopTest::saved() {

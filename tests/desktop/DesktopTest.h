@@ -63,6 +63,7 @@ class DesktopTest : public testing::Test {
     // Waits for a window whose title begins so. Fails the test if there is none.
     Window waitForWindow(const std::string& title);
     bool hasWindow(const std::string& title) const;
+    std::size_t windowsWith(const std::string& title) const;
     bool vanishes(const std::string& title);
     // The window of the drawing, whatever is unsaved in it.
     Window drawingWindow() { return waitForWindow("drawing.svg"); }
@@ -83,6 +84,13 @@ class DesktopTest : public testing::Test {
     static Spot onRamp(const Window& editor, double fraction);
     // What the position field holds, through the clipboard.
     std::string positionField();
+
+    // Presses one key after the other: the menu's, and those of the entries.
+    void chooseInMenu(const std::vector<std::string>& keys);
+    // Waits for a file dialog and answers it with a path.
+    void answerFileDialog(const std::string& title, const std::filesystem::path& file);
+    // What a message box says, through the clipboard.
+    std::string messageOf(const Window& box);
 
     // Saves with Ctrl-S and gives the file's contents once it has changed.
     std::string saved();

@@ -219,7 +219,14 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
     const Window list = waitForWindow("Delete Templates");
     screen().click({list.content.left + 80, list.content.top + 54}); // the first row
     screen().key("Return");
-    waitForWindow("Easel"); // the question
+    // The question has the title of the list, which it follows.
+    EXPECT_TRUE(eventually([&] {
+        return screen()
+            .window([&](const Window& window) {
+                return window.title.starts_with("Delete Templates") && window.id != list.id;
+            })
+            .has_value();
+    }));
     screen().key("Return");
     EXPECT_TRUE(eventually([&] { return !fs::exists(templates / "Dawn & Dusk.GRD"); }));
     EXPECT_TRUE(

@@ -4,33 +4,20 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
-#include <thread>
 
 namespace desktop {
 namespace {
 
 using testing::HasSubstr;
 
-// The message of the front dialog, which can be selected and copied.
-class FilesTest : public DesktopTest {
-  protected:
-    std::string messageOf(const Window& box) {
-        screen().click({(box.content.left + box.content.right) / 2 + 20, box.content.top + 24});
-        screen().key("ctrl+a");
-        screen().key("ctrl+c");
-        std::this_thread::sleep_for(150ms);
-        return screen().clipboard();
-    }
-};
+class FilesTest : public DesktopTest {};
 
 TEST_F(FilesTest, ADrawingIsOpenedThroughTheFileMenu) {
     const std::filesystem::path other = folder() / "other.svg";
     std::filesystem::copy_file(drawing(), other);
     startWithDrawing();
     screen().key("ctrl+o");
-    waitForWindow("Open");
-    screen().type(other.string());
-    screen().key("Return");
+    answerFileDialog("Open", other);
     waitForWindow("other.svg");
     EXPECT_EQ(quit(), 0) << "all windows close";
 }

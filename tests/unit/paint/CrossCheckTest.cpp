@@ -102,7 +102,7 @@ TEST_P(CrossCheck, ExportedAsSvgItLooksTheSame) {
 
 TEST_P(CrossCheck, ExportedAsPdfItHoldsNoPicture) {
     const Drawing drawing = opened(easel::svg::readFile(fileOf(GetParam())));
-    const auto bytes = easel::paint::encodePdf(drawing, 1);
+    const auto bytes = easel::paint::encodePdf(drawing, easel::paint::pageOf(drawing, 1));
     const std::string text(bytes.begin(), bytes.end());
     EXPECT_EQ(text.substr(0, 5), "%PDF-");
     EXPECT_EQ(text.find("/Subtype /Image"), std::string::npos);

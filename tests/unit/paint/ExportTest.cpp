@@ -6,10 +6,15 @@
 
 #include "host/Gradient.h"
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
+#include <libdeflate.h>
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -131,14 +136,71 @@ TEST(SvgText, IdsWithLettersThatXmlReservesComeThrough) {
 TEST(PdfFile, GradientsAreShadingsAndTheSameTwoKinds) {
     CGradientData radial;
     radial.SetType(kRadialGradient);
-    const auto bytes = encodePdf(
-        drawingOf({withGradient("a", {0, 0, 90, 90}, {}), withGradient("b", {100, 0, 190, 90}, radial)}), 1);
+    const auto drawing =
+        drawingOf({withGradient("a", {0, 0, 90, 90}, {}), withGradient("b", {100, 0, 190, 90}, radial)});
+    const auto bytes = encodePdf(drawing, pageOf(drawing, 1));
     const std::string text(bytes.begin(), bytes.end());
     EXPECT_NE(text.find("/ShadingType 2"), std::string::npos);
     EXPECT_NE(text.find("/ShadingType 3"), std::string::npos);
     EXPECT_EQ(text.find("/Subtype /Image"), std::string::npos);
     // 300 by 200 units at 96 to the inch, in points.
     EXPECT_NE(text.find("0 0 225 150"), std::string::npos);
+}
+
+// What is painted on the page, as PDF writes it; it is the first stream of the file.
+std::string pageContent(const easel::toolbox::Bytes& pdf) {
+    constexpr std::string_view kBegin = "stream\n";
+    const auto begin = std::search(pdf.begin(), pdf.end(), kBegin.begin(), kBegin.end()) + kBegin.size();
+    const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> decompressor(
+        libdeflate_alloc_decompressor(), &libdeflate_free_decompressor);
+    std::string content(100'000, '\0');
+    std::size_t read = 0;
+    std::size_t size = 0;
+    EXPECT_EQ(libdeflate_zlib_decompress_ex(decompressor.get(), &*begin,
+                                            static_cast<std::size_t>(pdf.end() - begin), content.data(),
+                                            content.size(), &read, &size),
+              LIBDEFLATE_SUCCESS);
+    content.resize(size);
+    return content;
+}
+
+TEST(PdfFile, OnALargerPageTheDrawingIsInItsPlaceAndNothingBesideIt) {
+    const auto drawing =
+        drawingOf({withGradient("a", {10, 20, 90, 90}, {}), withGradient("b", {250, 0, 350, 10}, {})});
+    const auto pdf = encodePdf(drawing, {600, 800, 100, 50, 0.5});
+    EXPECT_NE(std::string(pdf.begin(), pdf.end()).find("0 0 600 800"), std::string::npos);
+    const std::string content = pageContent(pdf);
+    EXPECT_NE(content.find("105 60 40 35 re W n"), std::string::npos) << content;
+    // The second shape ends where the drawing does.
+    EXPECT_NE(content.find("225 50 25 5 re W n"), std::string::npos) << content;
+}
+
+TEST(ExportDrawing, CancelledAtAnyReportItLeavesTheFileThatWasThere) {
+    const tests::TemporaryFolder folder;
+    std::vector<ObjectPtr> objects;
+    for (int i = 0; i < 1000; ++i)
+        objects.push_back(withGradient("", {i * 0.1, 0, i * 0.1 + 9, 90}, {}));
+    const auto drawing = drawingOf(objects);
+    for (const char* name : {"a.png", "a.pdf", "a.svg"}) {
+        const std::filesystem::path file = folder / name;
+        int reports = 0;
+        double last = 0;
+        ASSERT_FALSE(exportDrawing(drawing, file, {}, Progress([&](double done) {
+                                       EXPECT_GE(done, last) << name;
+                                       last = done;
+                                       return ++reports > 0;
+                                   })));
+        EXPECT_LE(last, 1) << name;
+        ASSERT_GE(reports, 2) << name;
+        tests::writeContent(file, "before");
+        for (int wanted = 0; wanted < std::min(reports, 5); ++wanted) {
+            int left = wanted;
+            const auto error = exportDrawing(drawing, file, {}, Progress([&](double) { return left-- > 0; }));
+            ASSERT_TRUE(error) << name << " after " << wanted;
+            EXPECT_TRUE(wasCancelled(*error)) << error->message();
+            EXPECT_EQ(tests::contentOf(file), "before") << name << " after " << wanted;
+        }
+    }
 }
 
 TEST(GradientRange, StopsOutsideTheRangeMoveTheEnds) {
@@ -181,7 +243,7 @@ TEST(Export, NumbersThatAreNoneStillGiveAFile) {
     const auto drawing = drawingOf(
         {withGradient("a", {kNan, 0, 90, kInfinity}, record), withGradient("b", {0, 0, 9, 9}, record)});
     parsed(encodeSvg(drawing, 1));
-    const auto pdf = encodePdf(drawing, 1);
+    const auto pdf = encodePdf(drawing, pageOf(drawing, 1));
     EXPECT_NE(std::string(pdf.begin(), pdf.end()).find("%%EOF"), std::string::npos);
 }
 

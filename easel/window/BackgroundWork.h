@@ -1,0 +1,29 @@
+// Long work beside a window that stays alive.
+#pragma once
+
+#include "easel/paint/Progress.h"
+
+#include <functional>
+#include <memory>
+
+class QProgressDialog;
+class QString;
+class QWidget;
+
+namespace easel::window {
+
+class DesktopUser;
+
+// A window that shows how far something is and lets the user cancel it. It appears only when the work takes
+// longer than half a second. Its value goes from 0 to kProgressSteps; the last step is never shown, for it
+// would close the window.
+inline constexpr int kProgressSteps = 1000;
+std::unique_ptr<QProgressDialog> makeProgressDialog(const QString& text, QWidget* over);
+
+// Runs the work on a thread of its own and returns when it is done, or throws what it threw. Meanwhile the
+// user hears of its progress and can cancel it, and can do nothing else; so the work may read what only the
+// user changes.
+void workBeside(DesktopUser& user, const QString& text, QWidget* over,
+                const std::function<void(const paint::Progress& progress)>& work);
+
+} // namespace easel::window

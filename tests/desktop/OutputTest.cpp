@@ -1,0 +1,144 @@
+// Exporting and printing from the menu.
+#include "tests/desktop/DesktopTest.h"
+
+#include <gmock/gmock.h>
+#include <pugixml.hpp>
+
+#include <fstream>
+
+namespace desktop {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace fs = std::filesystem;
+
+class OutputTest : public DesktopTest {
+  protected:
+    fs::path in(const char* name) const { return folder() / name; }
+    void exportAs(const std::string& key, const std::string& title, const fs::path& file) {
+        chooseInMenu({"alt+f", "e", key});
+        answerFileDialog("Export as " + title, file);
+    }
+    // Files are moved into place whole, so what is there is complete.
+    std::string written(const fs::path& file) const {
+        EXPECT_TRUE(eventually([&] { return fs::exists(file); })) << file;
+        return contents(file);
+    }
+};
+
+TEST_F(OutputTest, ADrawingIsExportedInThreeFormatsWithTheirEndings) {
+    startWithDrawing();
+    exportAs("p", "PNG", in("picture"));
+    const std::string png = written(in("picture.png"));
+    ASSERT_GT(png.size(), 24U);
+    EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1a\n");
+    // Width and height in the header: 600 by 400.
+    EXPECT_EQ(png.substr(16, 8), std::string("\0\0\x02\x58\0\0\x01\x90", 8));
+
+    exportAs("d", "PDF", in("page"));
+    const std::string pdf = written(in("page.pdf"));
+    EXPECT_THAT(pdf, StartsWith("%PDF-"));
+    EXPECT_THAT(pdf, HasSubstr("%%EOF"));
+    EXPECT_THAT(pdf, HasSubstr("/ShadingType 3"));
+
+    exportAs("s", "SVG", in("copy"));
+    pugi::xml_document svg;
+    EXPECT_TRUE(svg.load_string(written(in("copy.svg")).c_str()));
+    EXPECT_TRUE(svg.select_node("//linearGradient"));
+    EXPECT_EQ(quit(), 0) << "an export changes nothing in the drawing";
+}
+
+TEST_F(OutputTest, AnEndingThatIsNoneIsFollowedByTheFormatsOwnAndReplacingIsAsked) {
+    std::ofstream(in("version1.2.png")) << "before";
+    startWithDrawing();
+    exportAs("p", "PNG", in("version1.2"));
+    waitForWindow("Easel");
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_EQ(contents(in("version1.2.png")), "before");
+    exportAs("p", "PNG", in("version1.2"));
+    waitForWindow("Easel");
+    screen().key("Return");
+    EXPECT_TRUE(eventually([&] { return contents(in("version1.2.png")).starts_with("\x89PNG"); }));
+    EXPECT_FALSE(fs::exists(in("version1.2")));
+}
+
+TEST_F(OutputTest, AnExportDoesNotTakeThePlaceOfTheDrawingsOwnFile) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    exportAs("s", "SVG", drawing());
+    // The file dialog's own question.
+    EXPECT_TRUE(eventually([&] { return windowsWith("Export as SVG") == 2; }));
+    screen().key("alt+y");
+    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("drawing.svg: this is the drawing itself"));
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_EQ(contents(drawing()), before);
+}
+
+TEST_F(OutputTest, AnExportThatFailsNamesFileAndReason) {
+    startWithDrawing();
+    exportAs("d", "PDF", "/proc/page.pdf");
+    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("/proc/page.pdf: "));
+}
+
+TEST_F(OutputTest, ALongExportShowsItsProgressAndIsCancelledWithoutATrace) {
+    // Read in no time, but it takes long to write as a page.
+    {
+        std::ofstream svg(drawing());
+        svg << R"(<svg xmlns="http://www.w3.org/2000/svg" width="600" height="400"><defs><linearGradient id="l">)"
+            << R"(<stop stop-color="#203080"/><stop offset="1" stop-color="#f0d060"/></linearGradient></defs>)";
+        for (int i = 0; i < 50'000; ++i)
+            svg << "<path fill='url(#l)' d='M" << i % 600 << ' ' << i / 600 << "h9v9z'/>";
+        svg << "</svg>";
+    }
+    start({drawing().string()});
+    drawingWindow();
+    const auto files = [&] { return std::distance(fs::directory_iterator(folder()), {}); };
+    const auto before = files();
+    exportAs("d", "PDF", in("long.pdf"));
+    const Window progress = waitForWindow("Easel");
+    const auto bar = [&] {
+        const Picture shown = screen().picture();
+        std::vector<std::uint32_t> pixels;
+        for (int x = progress.content.left; x < progress.content.right; ++x)
+            pixels.push_back(shown.at({x, progress.content.middle().y}));
+        return pixels;
+    };
+    const auto first = bar();
+    EXPECT_TRUE(eventually([&] { return bar() != first; })) << "it moves";
+    EXPECT_TRUE(hasWindow("Easel")) << "this test needs a longer export";
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_EQ(quit(), 0);
+    EXPECT_EQ(files(), before);
+}
+
+TEST_F(OutputTest, PrintingToAFileGivesAPageThatLiesAsTheDrawingDoesAndHoldsGradients) {
+    startWithDrawing();
+    screen().key("ctrl+p");
+    waitForWindow("Print");
+    screen().key("alt+f"); // the name of the file
+    screen().key("ctrl+a");
+    screen().type(in("printed.pdf").string());
+    screen().key("Return");
+    const std::string pdf = written(in("printed.pdf"));
+    const std::size_t box = pdf.find("/MediaBox [");
+    ASSERT_NE(box, std::string::npos);
+    std::istringstream numbers(pdf.substr(box + 11, 80));
+    double left = -1;
+    double bottom = -1;
+    double width = 0;
+    double height = 0;
+    numbers >> left >> bottom >> width >> height;
+    EXPECT_GT(width, height) << "the drawing is wider than high";
+    EXPECT_GT(height, 300) << "a sheet of paper, larger than the drawing";
+    EXPECT_THAT(pdf, HasSubstr("/ShadingType 2"));
+    EXPECT_THAT(pdf, Not(HasSubstr("/Subtype /Image")));
+}
+
+} // namespace
+} // namespace desktop
