@@ -61,6 +61,16 @@ DrawingWindow::DrawingWindow(drawing::Drawing drawing)
       drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)) {
     registerPort(*port_);
     mark(view_.seen());
+    listen();
+}
+
+DrawingWindow::~DrawingWindow() {
+    forgetPort(*port_);
+    if (theHost().activeWindow == this)
+        theHost().activeWindow = nullptr;
+}
+
+void DrawingWindow::listen() {
     drawing_.setChangeListener([this](const drawing::Box& area) {
         mark(area);
         if (User* user = theHost().user)
@@ -68,10 +78,11 @@ DrawingWindow::DrawingWindow(drawing::Drawing drawing)
     });
 }
 
-DrawingWindow::~DrawingWindow() {
-    forgetPort(*port_);
-    if (theHost().activeWindow == this)
-        theHost().activeWindow = nullptr;
+void DrawingWindow::setDrawing(drawing::Drawing drawing) {
+    drawing_ = std::move(drawing);
+    listen();
+    feedback_.clear();
+    setView(view_);
 }
 
 void DrawingWindow::setView(const View& view) {

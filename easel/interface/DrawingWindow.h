@@ -35,6 +35,8 @@ class DrawingWindow {
 
     drawing::Drawing& drawing() { return drawing_; }
     const drawing::Drawing& drawing() const { return drawing_; }
+    // Another drawing takes the place of the one shown, of which nothing stays; the view does.
+    void setDrawing(drawing::Drawing drawing);
 
     // Setting the view marks everything for repainting.
     const View& view() const { return view_; }
@@ -68,6 +70,8 @@ class DrawingWindow {
     void setCursor(long id) { cursor_ = id; }
 
   private:
+    void listen();
+
     HostWindow handle_{this};
     DWindow ref_{handle_};
     std::unique_ptr<paint::Port> port_;

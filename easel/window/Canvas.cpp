@@ -149,8 +149,13 @@ void Canvas::resizeEvent(QResizeEvent*) {
     updateScrollBars();
     if (everSized_ || !isVisible())
         return;
-    // A drawing opens at its own size, or whole if that is too large for the window.
     everSized_ = true;
+    showAnew();
+}
+
+void Canvas::showAnew() {
+    zoomAboutMiddle(1);
+    updateScrollBars();
     if (page().width() + 2 * kMargin > width() || page().height() + 2 * kMargin > height())
         fit();
     showMiddle();

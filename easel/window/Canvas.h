@@ -35,6 +35,9 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void zoomAbout(QPointF place, double zoom);
     void zoomAboutMiddle(double zoom);
     void fit();
+    // A drawing opens at its own size, or whole if that is too large for the window. To be called when the
+    // window has been given another drawing.
+    void showAnew();
 
     // What of the drawing is marked for painting is repainted when there is time, and so is what is marked
     // until then.

@@ -28,6 +28,8 @@ QRectF onPixels(const QRectF& rect, double ratio) {
 void drawGround(QPainter& painter, const QRectF& exposed, const QRectF& page) {
     const CanvasColors colors = canvasColors();
     painter.fillRect(exposed, colors.surround);
+    if (page.isEmpty())
+        return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -97,7 +99,8 @@ void Canvas::paintEvent(QPaintEvent* event) {
 
     QPainter painter(viewport());
     const QRectF exposed = QRectF(event->rect());
-    const QRectF shownPage = onPixels(page(), ratio);
+    // A disabled canvas waits for its drawing and shows the ground alone.
+    const QRectF shownPage = isEnabled() ? onPixels(page(), ratio) : QRectF();
     if (!shownPage.contains(exposed))
         drawGround(painter, exposed, shownPage);
     for (const QRect& part : event->region())

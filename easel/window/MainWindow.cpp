@@ -36,6 +36,10 @@ QString joined(const std::vector<std::string>& notes) {
     return lines.join(QLatin1Char('\n'));
 }
 
+QString titleOf(const QString& drawing) {
+    return QObject::tr("%1[*] \u2014 Easel").arg(drawing);
+}
+
 } // namespace
 
 MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QString& file)
@@ -86,6 +90,27 @@ bool MainWindow::isPristine() const {
     return file_.isEmpty() && !drawing.dirty() && drawing.undoLevels() == 0 && drawing.redoLevels() == 0;
 }
 
+void MainWindow::setDrawing(drawing::Drawing drawing, const QString& file) {
+    drawingWindow_.setDrawing(std::move(drawing));
+    file_ = file;
+    notice_->tell(joined(drawingWindow_.drawing().notes()));
+    // The canvas has to have its place beside the notice before it fits the drawing in.
+    centralWidget()->layout()->activate();
+    drawingChanged();
+    canvas_->showAnew();
+}
+
+MainWindow::Awaiting::Awaiting(MainWindow& window, const QString& file) : window_(window) {
+    window_.canvas_->setEnabled(false);
+    window_.setWindowTitle(titleOf(QFileInfo(file).fileName()));
+}
+
+MainWindow::Awaiting::~Awaiting() {
+    window_.canvas_->setEnabled(true);
+    window_.canvas_->setFocus();
+    window_.drawingChanged();
+}
+
 void MainWindow::buildStatusBar() {
     message_ = new QLabel;
     pointer_ = new QLabel;
@@ -124,7 +149,7 @@ void MainWindow::drawingChanged() {
     undo_->setEnabled(drawing.undoLevels() > 0);
     redo_->setEnabled(drawing.redoLevels() > 0);
     delete_->setEnabled(drawing.hasSelection());
-    setWindowTitle(tr("%1[*] \u2014 Easel").arg(name()));
+    setWindowTitle(titleOf(name()));
     setWindowModified(drawing.dirty());
     setWindowFilePath(file_);
     canvas_->marked();

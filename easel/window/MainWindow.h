@@ -30,8 +30,23 @@ class MainWindow : public QMainWindow {
     ~MainWindow() override;
 
     const QString& file() const { return file_; }
-    // Whether nothing was ever done to it and it came from no file.
+    // Whether nothing was ever done to it and it came from no file, so that it is only a place to open
+    // something in.
     bool isPristine() const;
+    // Another drawing takes the place of the one shown.
+    void setDrawing(drawing::Drawing drawing, const QString& file);
+
+    // Lives while a drawing for this window is being read: the window has the file's name and shows no page.
+    class Awaiting {
+      public:
+        Awaiting(MainWindow& window, const QString& file);
+        ~Awaiting();
+        Awaiting(const Awaiting&) = delete;
+        Awaiting& operator=(const Awaiting&) = delete;
+
+      private:
+        MainWindow& window_;
+    };
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -4,6 +4,7 @@
 #include "easel/window/Application.h"
 #include "easel/window/DesktopUser.h"
 #include "easel/window/EaselStyle.h"
+#include "easel/window/MainWindow.h"
 #include "easel/window/PluginSession.h"
 #include "easel/window/TerminationSignals.h"
 #include "easel/window/Theme.h"
@@ -12,6 +13,7 @@
 #include "easel/interface/Host.h"
 
 #include <QFile>
+#include <QPointer>
 #include <QSettings>
 #include <QTimer>
 
@@ -35,10 +37,10 @@ void reportMessages(QtMsgType type, const QMessageLogContext&, const QString& te
 }
 
 void openFirstWindows(Workspace& workspace, const StartUp& startUp, const PluginSession& plugin) {
+    // The first window is there before its drawing is read, and shows itself if that takes a while.
+    const QPointer<MainWindow> first = &workspace.newDrawing();
     for (const std::filesystem::path& file : startUp.files)
-        workspace.openFile(QFile::decodeName(file.c_str()), nullptr);
-    if (workspace.windows().empty())
-        workspace.newDrawing();
+        workspace.openFile(QFile::decodeName(file.c_str()), first);
     if (!plugin.problem().isEmpty())
         workspace.tell(plugin.problem());
 }

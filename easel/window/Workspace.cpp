@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <optional>
 
 namespace easel::window {
 namespace {
@@ -55,8 +56,8 @@ void Workspace::activateTool(std::size_t index) {
     Q_EMIT activeToolChanged();
 }
 
-void Workspace::newDrawing() {
-    show(drawing::Drawing::create(kNewWidth, kNewHeight), {});
+MainWindow& Workspace::newDrawing() {
+    return show(drawing::Drawing::create(kNewWidth, kNewHeight), {});
 }
 
 MainWindow* Workspace::windowShowing(const QString& file) const {
@@ -74,21 +75,25 @@ bool Workspace::openFile(const QString& file, QWidget* over) {
         window->activateWindow();
         return true;
     }
+    auto* place = qobject_cast<MainWindow*>(over);
+    if (place != nullptr && !place->isPristine())
+        place = nullptr;
+    std::optional<MainWindow::Awaiting> awaiting;
+    if (place != nullptr)
+        awaiting.emplace(*place, file);
     svg::ReadResult result = loadDrawing(file, user_, over);
     if (const auto* failure = std::get_if<svg::Failure>(&result)) {
         if (failure->fault != svg::Fault::Cancelled)
             user_.tell(failure->message);
         return false;
     }
-    // An untouched empty drawing was only a place to open something from.
-    auto* former = qobject_cast<MainWindow*>(over);
-    MainWindow& window =
-        show(std::get<drawing::Drawing>(std::move(result)), QFileInfo(file).absoluteFilePath());
-    if (former != nullptr && former->isPristine()) {
-        window.setGeometry(former->geometry());
-        former->close();
-    }
-    recentFiles_.add(window.file());
+    auto& drawing = std::get<drawing::Drawing>(result);
+    const QString path = QFileInfo(file).absoluteFilePath();
+    if (place != nullptr)
+        place->setDrawing(std::move(drawing), path);
+    else
+        show(std::move(drawing), path);
+    recentFiles_.add(path);
     return true;
 }
 
@@ -100,6 +105,7 @@ MainWindow& Workspace::show(drawing::Drawing drawing, const QString& file) {
         window->move(last->pos() + kCascade);
     window->show();
     window->activateWindow();
+    user_.setFrontWindow(window);
     return *window;
 }
 

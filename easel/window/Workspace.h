@@ -49,9 +49,9 @@ class Workspace : public QObject {
     const PaletteTool& activeTool() const { return tools_[active_]; }
     void activateTool(std::size_t index);
 
-    void newDrawing();
-    // Opens the file in a window of its own, or brings the window that shows it to the front. Tells the user
-    // why it cannot; false then.
+    MainWindow& newDrawing();
+    // Opens the file in a window of its own, or in the window `over` if that holds nothing yet, or brings the
+    // window that shows it to the front. Tells the user why it cannot; false then.
     bool openFile(const QString& file, QWidget* over);
     const std::vector<QPointer<MainWindow>>& windows() const { return windows_; }
     void windowClosed(MainWindow& window);

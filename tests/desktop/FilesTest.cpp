@@ -34,6 +34,24 @@ TEST_F(FilesTest, AFileThatIsNoDrawingIsNamedWithTheReasonAndNothingElseChanges)
     EXPECT_EQ(contents(bad), "this is no drawing");
 }
 
+TEST_F(FilesTest, ADrawingThatTakesLongToReadIsWaitedForInItsOwnWindowAndCanBeCancelled) {
+    {
+        std::ofstream file(folder() / "long.svg");
+        file << "<svg xmlns='http://www.w3.org/2000/svg' width='600' height='400'>\n";
+        for (int i = 0; i < 400000; ++i)
+            file << "<circle cx='300' cy='200' r='" << i % 100 << "' fill='#12c84a'/>\n";
+        file << "</svg>\n";
+    }
+    start({(folder() / "long.svg").string()});
+    const Window drawing = waitForWindow("long.svg");
+    const Window progress = waitForWindow("Easel");
+    EXPECT_FALSE(screen().picture().find(kPlain)) << "the window is there before its drawing";
+    screen().close(progress);
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_EQ(waitForWindow("Untitled").id, drawing.id) << "an empty drawing stays";
+    EXPECT_EQ(quit(), 0);
+}
+
 TEST_F(FilesTest, WithoutAUsablePluginTheProgramSaysWhyAndRuns) {
     const std::filesystem::path module = folder() / "NoPlugin.so";
     std::ofstream(module) << "not a module";
