@@ -1,7 +1,7 @@
 // Files that are no drawings, or mean harm: each gets an error that names it and says why.
 #include "tests/unit/svg/ReadHelp.h"
 
-#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 
@@ -12,10 +12,10 @@ using easel::svg::Fault;
 using easel::svg::readBytes;
 
 Failure failureOf(const std::string& text) {
-    const auto begin = std::chrono::steady_clock::now();
+    // The processor's time, since other programs may have it too.
+    const std::clock_t begin = std::clock();
     const auto result = readBytes(text, "bad.svg");
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    EXPECT_LT(took.count(), 20);
+    EXPECT_LT(std::clock() - begin, 20 * CLOCKS_PER_SEC);
     const auto* const failure = std::get_if<Failure>(&result);
     if (!failure) {
         ADD_FAILURE() << "was read: " << text.substr(0, 200);
