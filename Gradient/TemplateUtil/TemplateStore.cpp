@@ -36,7 +36,7 @@ OSErr ResolveTemplate(CStr255 const& fileName, FSSpec& spec) {
 }
 
 std::string LeafName(FSSpec const& spec) {
-    return CStr255::FromPascal(spec.name).Text();
+    return {reinterpret_cast<char const*>(spec.name + 1), spec.name[0]};
 }
 
 } // namespace
@@ -82,7 +82,9 @@ std::vector<std::string> GetTemplateList(unsigned long fileType) {
     OwnedBlock const block(NewHandle(0));
     auto* const list = reinterpret_cast<FSSpec**>(block.get());
     EnumerShell(gTemplateSpec.vRefNum, gTemplateSpec.parID, fileType, list);
-    for (long index = 0; index <= LastDAIndex(list); ++index) {
+    long const last = LastDAIndex(list);
+    names.reserve(static_cast<std::size_t>(last + 1));
+    for (long index = 0; index <= last; ++index) {
         FSSpec spec;
         std::memcpy(&spec, *block + static_cast<std::size_t>(index) * sizeof spec, sizeof spec);
         names.push_back(LeafName(spec));

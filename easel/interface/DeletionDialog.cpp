@@ -5,8 +5,10 @@
 #include "easel/interface/DeletionList.h"
 #include "easel/interface/Host.h"
 #include "easel/interface/Journal.h"
+#include "easel/interface/Storage.h"
 #include "easel/interface/User.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
@@ -40,24 +42,19 @@ struct CCarbonDialogBase::State {
     DeletionList* list = nullptr; // while the dialog runs
     bool confirmed = false;
 
-    std::vector<std::string> rows() const {
-        std::vector<std::string> all;
-        const long there = count();
-        for (long index = 0; index < there; ++index)
-            all.push_back(describe(index));
-        return all;
-    }
+    // Empty for what is not there any more: an item must not be asked for when there are none.
+    std::string textNow(long index) const { return index < count() ? describe(index) : std::string(); }
 
     // Where the thing that was listed in a row is now. What is listed can change behind the dialog's back,
-    // and then a row must not name another thing than the user selected.
+    // and then a row must not name another thing than the user selected. It is looked for near by first.
     std::optional<long> find(int row) const {
         const long there = count();
-        const std::string& text = list->rows()[static_cast<std::size_t>(row)];
-        if (row < there && describe(row) == text)
-            return row;
-        for (long index = 0; index < there; ++index)
-            if (describe(index) == text)
-                return index;
+        const std::string& text = list->text(row);
+        const auto isAt = [&](long index) { return index >= 0 && index < there && describe(index) == text; };
+        for (long away = 0; away <= std::max<long>(row, there); ++away)
+            for (const long index : {row - away, row + away})
+                if (isAt(index))
+                    return index;
         return std::nullopt;
     }
 };
@@ -74,11 +71,13 @@ bool CCarbonDialogBase::Run() {
         void operator()(CCarbonDialogBase* dialog) const { delete dialog; }
     };
     const std::unique_ptr<CCarbonDialogBase, Destroy> self(this);
-    DeletionList list(state_->title, state_->rows(), state_->mode, [this](DeletionCommand given) {
+    const auto carryOut = [this](DeletionCommand given) {
         const HICommandExtended command{0, given == DeletionCommand::Ok ? kOKCommand : kCancelCommand};
         if (CanProcessCommand(command))
             DoCommand(command);
-    });
+    };
+    const auto textOf = [this](long row) { return state_->textNow(row); };
+    DeletionList list(state_->title, state_->count(), textOf, state_->mode, carryOut);
     state_->list = &list;
     theHost().user->runDeletion(list);
     return state_->confirmed;
@@ -122,6 +121,7 @@ void DeleteDialog::DoOKAction() {
     if (state.list == nullptr)
         return;
     const std::vector<int>& selection = state.list->selection();
+    const easel::toolbox::HostFiles::ManyChanges many(easel::host::theStorage().files());
     // A deletion moves those behind it.
     const std::vector<int> lastFirst(selection.rbegin(), selection.rend());
     for (const int row : lastFirst)

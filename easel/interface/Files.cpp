@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <vector>
 
 using namespace easel;
 using host::journal;
@@ -45,15 +44,11 @@ FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create) {
 
 void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** list) {
     journal("EnumerShell", vRefNum, dirID, fileType);
-    std::vector<FSSpec> found;
-    for (const auto& file : theStorage().files().list(vRefNum, dirID))
-        if (file.info.type == fileType)
-            found.push_back(host::hostSpecFrom({vRefNum, static_cast<std::int32_t>(dirID), file.hostName}));
-    const Handle block = reinterpret_cast<Handle>(list);
-    const long size = GetHandleSize(block);
-    const auto more = found.size() * sizeof(FSSpec);
-    if (!found.empty() && SetHandleSize(block, size + static_cast<long>(more)))
-        std::memcpy(*block + size, found.data(), more);
+    const auto records = theStorage().enumeration().records(theStorage().files(), vRefNum, dirID,
+                                                            static_cast<OSType>(fileType));
+    toolbox::MemoryBlocks::shared().append(
+        reinterpret_cast<Handle>(list),
+        {reinterpret_cast<const char*>(records.data()), records.size_bytes()});
 }
 
 OSErr FSMakeFSSpec(short vRefNum, long dirID, CStr255 const& name, FSSpec* out) {

@@ -1,6 +1,7 @@
 // Where the host keeps things on disk: one set of files, resource files and defaults for the whole process.
 #pragma once
 
+#include "easel/interface/Enumeration.h"
 #include "easel/toolbox/DefaultsStore.h"
 #include "easel/toolbox/ResourceFiles.h"
 
@@ -11,6 +12,7 @@ class Storage {
     explicit Storage(const toolbox::StoragePlaces& places);
 
     toolbox::HostFiles& files() { return files_; }
+    Enumeration& enumeration() { return enumeration_; }
     toolbox::ResourceFiles& resourceFiles() { return resourceFiles_; }
     const toolbox::DefaultsStore& defaults() const { return defaults_; }
 
@@ -23,6 +25,7 @@ class Storage {
 
     Keeping keeping_ = Keeping::AsFarAsKnown;
     toolbox::HostFiles files_;
+    Enumeration enumeration_;
     toolbox::ResourceFiles resourceFiles_;
     toolbox::DefaultsStore defaults_;
 };

@@ -70,11 +70,14 @@ Json describe(const ColorQuestion* question) {
     return {{"id", "color"}, {"prompt", question->prompt}, {"color", {color.red, color.green, color.blue}}};
 }
 
-Json describe(const host::DeletionList* list) {
+Json describe(host::DeletionList* list) {
+    Json rows = Json::array();
+    for (int row = 0; row < list->count(); ++row)
+        rows.push_back(list->text(row));
     Json selected = Json::array();
     for (const int row : list->selection())
         selected.push_back(row + 1);
-    return {{"id", "delete"}, {"title", list->title()}, {"rows", list->rows()}, {"selected", selected}};
+    return {{"id", "delete"}, {"title", list->title()}, {"rows", std::move(rows)}, {"selected", selected}};
 }
 
 } // namespace
@@ -89,7 +92,7 @@ host::Dialog* OpenQuestions::frontDialog() const {
 Json OpenQuestions::describeFront() const {
     if (all_.empty())
         return nullptr;
-    return std::visit([](const auto* question) { return describe(question); }, all_.back());
+    return std::visit([](auto* question) { return describe(question); }, all_.back());
 }
 
 } // namespace easel::play

@@ -22,8 +22,7 @@ struct ColorQuestion {
     RGBColor color;
 };
 
-using Question =
-    std::variant<host::Dialog*, const host::Alert*, const ColorQuestion*, const host::DeletionList*>;
+using Question = std::variant<host::Dialog*, const host::Alert*, const ColorQuestion*, host::DeletionList*>;
 
 class OpenQuestions {
   public:

@@ -47,8 +47,7 @@ std::optional<RGBColor> colorIn(Arguments& arguments) {
 void selectRows(host::DeletionList& list, Arguments& arguments) {
     std::vector<int> rows;
     while (!arguments.empty())
-        rows.push_back(
-            static_cast<int>(arguments.integer("the row", 1, static_cast<long>(list.rows().size()))) - 1);
+        rows.push_back(static_cast<int>(arguments.integer("the row", 1, list.count())) - 1);
     if (list.mode() == host::SelectionMode::One && rows.size() > 1)
         throw PlayError("only one row can be selected");
     list.select(std::move(rows));

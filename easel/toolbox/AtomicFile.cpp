@@ -194,6 +194,13 @@ FileOutcome flushFolder(const fs::path& folder) {
     return {};
 }
 
+FileOutcome flushFileSystem(const fs::path& folder) {
+    const FileDescriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!open || ::syncfs(open.number()) != 0)
+        return lastSystemError(folder);
+    return {};
+}
+
 std::vector<fs::path> leftoversIn(const fs::path& folder) {
     std::vector<fs::path> found;
     std::error_code error;

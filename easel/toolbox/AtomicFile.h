@@ -22,6 +22,11 @@ bool isTemporaryName(std::string_view name);
 /// Makes sure that the names in the folder survive a loss of power.
 [[nodiscard]] FileOutcome flushFolder(const std::filesystem::path& folder);
 
+/// For one change among many: whoever makes them puts the flushing off and does it once at the end.
+enum class Flushing { AtOnce, Later };
+/// Makes sure that everything in the folder's file system survives a loss of power.
+[[nodiscard]] FileOutcome flushFileSystem(const std::filesystem::path& folder);
+
 /// A complete and flushed file that waits in a folder to be renamed, and vanishes if that never comes to
 /// pass. While it lives, it is locked, so that another program can tell it from what a crash left behind.
 class TemporaryFile {

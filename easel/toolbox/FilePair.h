@@ -4,15 +4,18 @@
 #include "easel/toolbox/AppleDouble.h"
 
 #include <filesystem>
+#include <string_view>
 
 namespace easel::toolbox {
+
+constexpr std::string_view kHeaderPrefix = "._";
 
 struct FilePair {
     std::filesystem::path folder;
     std::string name; ///< on disk
 
     std::filesystem::path data() const { return folder / name; }
-    std::filesystem::path header() const { return folder / ("._" + name); }
+    std::filesystem::path header() const { return folder / (std::string(kHeaderPrefix) + name); }
 
     bool operator==(const FilePair&) const = default;
 };

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <compare>
+#include <tuple>
 #include <unordered_set>
 
 namespace fs = std::filesystem;
@@ -16,15 +17,6 @@ char lowered(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// Names that differ in case only still have an order.
-bool before(const ListedFile& a, const ListedFile& b) {
-    const auto byLetter = std::lexicographical_compare_three_way(
-        a.hostName.begin(), a.hostName.end(), b.hostName.begin(), b.hostName.end(), [](char x, char y) {
-            return static_cast<unsigned char>(lowered(x)) <=> static_cast<unsigned char>(lowered(y));
-        });
-    return std::is_neq(byLetter) ? std::is_lt(byLetter) : a.hostName < b.hostName;
-}
-
 } // namespace
 
 std::vector<ListedFile> listFolder(const fs::path& folder) {
@@ -33,8 +25,8 @@ std::vector<ListedFile> listFolder(const fs::path& folder) {
     std::error_code error;
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
         auto name = at->path().filename().string();
-        if (name.starts_with("._"))
-            headers.insert(name.substr(2));
+        if (name.starts_with(kHeaderPrefix))
+            headers.insert(name.substr(kHeaderPrefix.size()));
         else if (auto hostName = nameInHost(name); hostName && at->is_regular_file(error))
             files.push_back({std::move(*hostName), {folder, std::move(name)}, {}});
         error.clear();
@@ -42,8 +34,26 @@ std::vector<ListedFile> listFolder(const fs::path& folder) {
     for (auto& file : files)
         if (headers.contains(file.file.name))
             file.info = readFinderInfo(file.file);
-    std::sort(files.begin(), files.end(), before);
+    std::sort(files.begin(), files.end(), isListedBefore);
     return files;
+}
+
+std::optional<ListedFile> listedFile(FilePair file) {
+    auto hostName = nameInHost(file.name);
+    if (!hostName || !exists(file))
+        return std::nullopt;
+    const auto info = readFinderInfo(file);
+    return ListedFile{std::move(*hostName), std::move(file), info};
+}
+
+bool isListedBefore(const ListedFile& a, const ListedFile& b) {
+    const auto byLetter = std::lexicographical_compare_three_way(
+        a.hostName.begin(), a.hostName.end(), b.hostName.begin(), b.hostName.end(), [](char x, char y) {
+            return static_cast<unsigned char>(lowered(x)) <=> static_cast<unsigned char>(lowered(y));
+        });
+    // Names that differ in case only have an order too, and so have two spellings of one name on disk.
+    return std::is_neq(byLetter) ? std::is_lt(byLetter)
+                                 : std::tie(a.hostName, a.file.name) < std::tie(b.hostName, b.file.name);
 }
 
 } // namespace easel::toolbox

@@ -16,4 +16,9 @@ struct ListedFile {
 /// files.
 std::vector<ListedFile> listFolder(const std::filesystem::path& folder);
 
+/// One file of such a listing; nothing where it would not be in it.
+std::optional<ListedFile> listedFile(FilePair file);
+/// The listing's order.
+bool isListedBefore(const ListedFile& a, const ListedFile& b);
+
 } // namespace easel::toolbox

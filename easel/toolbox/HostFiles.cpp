@@ -122,7 +122,6 @@ FileOutcome HostFiles::write(const OpenedFile& opened) {
     // The folder may have been removed while the program ran.
     std::error_code ignored;
     fs::create_directories(opened.file.folder, ignored);
-    listings_.forget();
     return writePair(opened.file, opened.header, trash_);
 }
 
@@ -130,11 +129,20 @@ void HostFiles::settle() {
     const auto waiting = std::exchange(waiting_, std::nullopt);
     if (!waiting)
         return;
-    listings_.forget();
     const auto failure = waiting->creation ? writePair(waiting->file, newHeader(*waiting->creation), trash_)
-                                           : trashPair(waiting->file, trash_);
+                                           : trashPair(waiting->file, trash_, flushing_);
     if (failure)
         report_(*failure);
+}
+
+void HostFiles::flushAll() {
+    settle();
+    flushing_ = Flushing::AtOnce;
+    std::error_code ignored;
+    for (const auto& folder : {places_.preferences, places_.trash})
+        if (fs::is_directory(folder, ignored))
+            if (const auto failure = flushFileSystem(folder))
+                report_(*failure);
 }
 
 } // namespace easel::toolbox

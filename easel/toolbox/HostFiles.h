@@ -64,6 +64,8 @@ class HostFiles {
     FileResult resolve(std::int16_t volume, std::int64_t folder, std::string_view name, FileSpec& out);
     /// Valid until the next operation.
     const std::vector<ListedFile>& list(std::int16_t volume, std::int64_t folder);
+    /// Another number whenever `list` gave something else than before.
+    std::uint64_t listingRevision() const { return listings_.revision(); }
     FileResult remove(const FileSpec& spec);
     FileResult create(const FileSpec& spec, const FinderInfo& info);
     OrFileError<OpenedFile> open(const FileSpec& spec, Access access);
@@ -71,6 +73,18 @@ class HostFiles {
     [[nodiscard]] FileOutcome write(const OpenedFile& file);
     /// Carries out what is waiting.
     void settle();
+
+    /// While one lives, changes are not flushed one by one; when it goes, all are.
+    class ManyChanges {
+      public:
+        explicit ManyChanges(HostFiles& files) : files_(files) { files_.flushing_ = Flushing::Later; }
+        ManyChanges(const ManyChanges&) = delete;
+        ManyChanges& operator=(const ManyChanges&) = delete;
+        ~ManyChanges() { files_.flushAll(); }
+
+      private:
+        HostFiles& files_;
+    };
 
     const StoragePlaces& places() const { return places_; }
 
@@ -82,6 +96,7 @@ class HostFiles {
         std::optional<FinderInfo> creation;
     };
 
+    void flushAll();
     bool waitsFor(const FilePair& file) const { return waiting_ && waiting_->file == file; }
 
     StoragePlaces places_;
@@ -90,6 +105,7 @@ class HostFiles {
     Trash trash_;
     std::optional<Waiting> waiting_;
     ListingCache listings_;
+    Flushing flushing_ = Flushing::AtOnce;
 };
 
 } // namespace easel::toolbox

@@ -2,6 +2,7 @@
 #include "easel/toolbox/HostNames.h"
 
 #include "easel/toolbox/AtomicFile.h"
+#include "easel/toolbox/FilePair.h"
 #include "easel/toolbox/MacRoman.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@ namespace easel::toolbox {
 namespace {
 
 constexpr std::size_t kLongestName = 63;
-constexpr std::string_view kHeaderPrefix = "._";
 
 bool isOrdinary(std::string_view diskName) {
     return !diskName.empty() && diskName != "." && diskName != ".." && !diskName.starts_with(kHeaderPrefix) &&

@@ -1,30 +1,35 @@
-// The listing of a folder, kept for a moment, for callers that ask for the whole to get at one file after
+// The listing of a folder, kept up to date, for callers that ask for the whole to get at one file after
 // another.
 #pragma once
 
 #include "easel/toolbox/FolderListing.h"
+#include "easel/toolbox/FolderWatch.h"
 
 #include <chrono>
-#include <ctime>
+#include <cstdint>
 
 namespace easel::toolbox {
 
 class ListingCache {
   public:
-    /// As `listFolder` gives it. Read anew when the folder has changed, when it may have changed without its
-    /// time of change showing it, and when the listing is a second old.
+    /// As `listFolder` would give it now. What the system tells of changes is looked at file by file. The
+    /// whole is read anew where it cannot tell, and when that was a second ago: of what other machines do to
+    /// a shared folder, and of files that links lead to, it tells nothing. Valid until the next call.
     const std::vector<ListedFile>& list(const std::filesystem::path& folder);
-    /// To be called when this program changes a folder.
-    void forget() { isKept_ = false; }
+    /// Another number whenever the listing is another one than before.
+    std::uint64_t revision() const { return revision_; }
 
   private:
     using Clock = std::chrono::steady_clock;
 
+    void readAnew(const std::filesystem::path& folder);
+    void lookAgain(std::string name);
+
     std::filesystem::path folder_;
     std::vector<ListedFile> files_;
-    std::timespec changed_{};
+    FolderWatch watch_;
+    std::uint64_t revision_ = 0;
     Clock::time_point read_;
-    bool isKept_ = false;
 };
 
 } // namespace easel::toolbox

@@ -64,6 +64,23 @@ BlockOutcome MemoryBlocks::resize(char** block, std::size_t size) {
     return BlockOutcome::Done;
 }
 
+BlockOutcome MemoryBlocks::append(char** block, std::span<const char> more) {
+    auto* const found = find(block);
+    if (!found)
+        return BlockOutcome::NotABlock;
+    if (found->place == Place::Locked && more.size() > found->bytes.capacity() - found->bytes.size())
+        return BlockOutcome::Locked;
+    try {
+        found->bytes.insert(found->bytes.end(), more.begin(), more.end());
+    } catch (const std::bad_alloc&) {
+        return BlockOutcome::NoMemory;
+    } catch (const std::length_error&) {
+        return BlockOutcome::NoMemory;
+    }
+    found->address = found->bytes.data();
+    return BlockOutcome::Done;
+}
+
 BlockOutcome MemoryBlocks::lock(char** block) {
     return setPlace(block, Place::Locked);
 }

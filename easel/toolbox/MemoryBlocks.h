@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -32,6 +33,9 @@ class MemoryBlocks {
     std::optional<std::size_t> size(char** block);
     /// Keeps the bytes up to the smaller size; new bytes are zero.
     BlockOutcome resize(char** block, std::size_t size);
+
+    /// Adds bytes at the end.
+    BlockOutcome append(char** block, std::span<const char> more);
 
     /// Locks do not nest: one unlock frees the block to move again.
     BlockOutcome lock(char** block);

@@ -6,7 +6,6 @@
 // there.
 #include "easel/toolbox/PairCommit.h"
 
-#include "easel/toolbox/AtomicFile.h"
 #include "easel/toolbox/FolderLock.h"
 
 #include <cerrno>
@@ -28,12 +27,12 @@ struct PairInTrash {
 };
 
 // Gives what is there of the pair names in the trash too. Until the place is kept, that can be undone.
-OrFileError<PairInTrash> copyToTrash(const FilePair& file, const Trash& trash) {
+OrFileError<PairInTrash> copyToTrash(const FilePair& file, const Trash& trash, Flushing flushing) {
     std::vector<fs::path> originals;
     for (const auto& path : {file.data(), file.header()})
         if (isThere(path))
             originals.push_back(path);
-    auto reserved = trash.reserve(originals);
+    auto reserved = trash.reserve(originals, flushing);
     if (const auto* const error = std::get_if<FileError>(&reserved))
         return *error;
     auto& place = std::get<TrashPlace>(reserved);
@@ -52,7 +51,7 @@ FileOutcome unlinkFile(const fs::path& file) {
 // The header's rename decides: with it the name stands for the new content.
 FileOutcome replaceInPlace(const FilePair& file, TemporaryFile header, TemporaryFile data,
                            const Trash& trash) {
-    auto copied = copyToTrash(file, trash);
+    auto copied = copyToTrash(file, trash, Flushing::AtOnce);
     if (const auto* const error = std::get_if<FileError>(&copied))
         return *error;
     if (auto failure = header.moveTo(file.header()))
@@ -83,7 +82,6 @@ FileOutcome createAnew(const FilePair& file, TemporaryFile header, TemporaryFile
 
 // Removes header files that a marker names and that have no data fork.
 void removeMarkedHeaders(const fs::path& folder, const fs::path& marker) {
-    constexpr std::string_view kPrefix = "._";
     struct stat marked {};
     if (::lstat(marker.c_str(), &marked) != 0 || marked.st_nlink < 2)
         return;
@@ -91,8 +89,8 @@ void removeMarkedHeaders(const fs::path& folder, const fs::path& marker) {
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
         const auto name = at->path().filename().string();
         struct stat status {};
-        if (name.starts_with(kPrefix) && ::lstat(at->path().c_str(), &status) == 0 &&
-            status.st_ino == marked.st_ino && !isThere(folder / name.substr(kPrefix.size())))
+        if (name.starts_with(kHeaderPrefix) && ::lstat(at->path().c_str(), &status) == 0 &&
+            status.st_ino == marked.st_ino && !isThere(folder / name.substr(kHeaderPrefix.size())))
             ::unlink(at->path().c_str());
     }
 }
@@ -118,12 +116,12 @@ FileOutcome writePair(const FilePair& file, const AppleDouble& header, const Tra
     return createAnew(file, std::move(temporaryHeader), std::move(temporaryData));
 }
 
-FileOutcome trashPair(const FilePair& file, const Trash& trash) {
+FileOutcome trashPair(const FilePair& file, const Trash& trash, Flushing flushing) {
     const FolderLock lock(file.folder);
     if (!isThere(file.data()))
         return FileError{file.data(), "no such file",
                          std::make_error_code(std::errc::no_such_file_or_directory)};
-    auto copied = copyToTrash(file, trash);
+    auto copied = copyToTrash(file, trash, flushing);
     if (const auto* const error = std::get_if<FileError>(&copied))
         return *error;
     auto marker = TemporaryFile::linkTo(file.header());
@@ -137,7 +135,7 @@ FileOutcome trashPair(const FilePair& file, const Trash& trash) {
                 marker->leaveBehind();
             return failure;
         }
-    return flushFolder(file.folder);
+    return flushing == Flushing::AtOnce ? flushFolder(file.folder) : FileOutcome();
 }
 
 void recoverFolder(const fs::path& folder) {

@@ -5,6 +5,7 @@
 // it, and perhaps a copy of the old file in the trash.
 #pragma once
 
+#include "easel/toolbox/AtomicFile.h"
 #include "easel/toolbox/FilePair.h"
 #include "easel/toolbox/Trash.h"
 
@@ -15,7 +16,8 @@ namespace easel::toolbox {
 [[nodiscard]] FileOutcome writePair(const FilePair& file, const AppleDouble& header, const Trash& trash);
 
 /// Moves the file to the trash.
-[[nodiscard]] FileOutcome trashPair(const FilePair& file, const Trash& trash);
+[[nodiscard]] FileOutcome trashPair(const FilePair& file, const Trash& trash,
+                                    Flushing flushing = Flushing::AtOnce);
 
 /// Clears away what changes that were cut off left in the folder.
 void recoverFolder(const std::filesystem::path& folder);

@@ -1,7 +1,6 @@
 // The desktop's trash: choosing it by device, naming what goes in, and noting where it came from.
 #include "easel/toolbox/Trash.h"
 
-#include "easel/toolbox/AtomicFile.h"
 #include "easel/toolbox/WholeFile.h"
 
 #include <array>
@@ -106,12 +105,13 @@ std::string numbered(const std::string& name, int number) {
 }
 
 // Makes the note, which is what claims a name in a trash that other programs use too.
-FileOutcome claim(const fs::path& note, const std::string& text) {
+FileOutcome claim(const fs::path& note, const std::string& text, Flushing flushing) {
     FileDescriptor open(::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!open)
         return lastSystemError(note);
     const auto done = ::write(open.number(), text.data(), text.size());
-    if (done == static_cast<ssize_t>(text.size()) && ::fsync(open.number()) == 0 && open.close())
+    const bool isFlushed = flushing == Flushing::Later || ::fsync(open.number()) == 0;
+    if (done == static_cast<ssize_t>(text.size()) && isFlushed && open.close())
         return {};
     auto error = lastSystemError(note);
     ::unlink(note.c_str());
@@ -127,13 +127,14 @@ TrashPlace::~TrashPlace() {
         ::unlink(note.c_str());
 }
 
-FileOutcome TrashPlace::add(const fs::path& trash, const std::string& name, const std::string& note) {
+FileOutcome TrashPlace::add(const fs::path& trash, const std::string& name, const std::string& note,
+                            Flushing flushing) {
     const auto file = trash / "files" / name;
     struct stat status {};
     if (::lstat(file.c_str(), &status) == 0)
         return FileError{file, "the name is taken", std::make_error_code(std::errc::file_exists)};
     const auto notePath = trash / "info" / (name + ".trashinfo");
-    if (auto failure = claim(notePath, note))
+    if (auto failure = claim(notePath, note, flushing))
         return failure;
     notes_.push_back(notePath);
     files_.push_back(file);
@@ -154,7 +155,7 @@ fs::path Trash::desktopHome() {
     return fs::path(home ? home : "/") / ".local" / "share" / "Trash";
 }
 
-OrFileError<TrashPlace> Trash::reserve(std::span<const fs::path> originals) const {
+OrFileError<TrashPlace> Trash::reserve(std::span<const fs::path> originals, Flushing flushing) const {
     std::error_code ignored;
     const auto trash = chooseTrash(home_, fs::absolute(originals.front(), ignored).parent_path());
     if (!makeFolders(trash.folder))
@@ -165,7 +166,7 @@ OrFileError<TrashPlace> Trash::reserve(std::span<const fs::path> originals) cons
         FileOutcome failure;
         for (const auto& original : originals) {
             const auto note = noteFor(fs::absolute(original, ignored), trash);
-            failure = place.add(trash.folder, numbered(original.filename().string(), number), note);
+            failure = place.add(trash.folder, numbered(original.filename().string(), number), note, flushing);
             if (failure)
                 break;
         }

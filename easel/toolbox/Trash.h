@@ -1,7 +1,7 @@
 // The desktop's trash, as the freedesktop.org trash specification (version 1.0) lays it out.
 #pragma once
 
-#include "easel/toolbox/FileError.h"
+#include "easel/toolbox/AtomicFile.h"
 
 #include <span>
 
@@ -24,7 +24,8 @@ class TrashPlace {
   private:
     friend class Trash;
     TrashPlace() = default;
-    FileOutcome add(const std::filesystem::path& trash, const std::string& name, const std::string& note);
+    FileOutcome add(const std::filesystem::path& trash, const std::string& name, const std::string& note,
+                    Flushing flushing);
 
     std::vector<std::filesystem::path> files_;
     std::vector<std::filesystem::path> notes_;
@@ -40,7 +41,8 @@ class Trash {
 
     /// Room for files that lie in one folder and stay together: all get the same number when a name is taken.
     /// A name that begins with "._" is numbered like the name behind it.
-    OrFileError<TrashPlace> reserve(std::span<const std::filesystem::path> originals) const;
+    OrFileError<TrashPlace> reserve(std::span<const std::filesystem::path> originals,
+                                    Flushing flushing = Flushing::AtOnce) const;
 
     /// Moves one file there.
     [[nodiscard]] FileOutcome move(const std::filesystem::path& file) const;

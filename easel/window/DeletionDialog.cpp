@@ -3,14 +3,30 @@
 
 #include "easel/interface/DeletionList.h"
 
+#include <QAbstractListModel>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
-#include <QStringListModel>
 #include <QVBoxLayout>
 
 namespace easel::window {
+namespace {
+
+// Of thousands of rows only those that come into sight are asked for their text.
+class RowsModel : public QAbstractListModel {
+  public:
+    RowsModel(host::DeletionList& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : list_.count(); }
+    QVariant data(const QModelIndex& index, int role) const override {
+        return role == Qt::DisplayRole ? QString::fromStdString(list_.text(index.row())) : QVariant();
+    }
+
+  private:
+    host::DeletionList& list_;
+};
+
+} // namespace
 
 DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
     : QDialog(parent), list_(list), view_(new QListView) {
@@ -23,11 +39,7 @@ DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
     heading->setTextFormat(Qt::PlainText);
     heading->setBuddy(view_);
 
-    QStringList rows;
-    for (const std::string& row : list.rows())
-        rows << QString::fromStdString(row);
-    auto* model = new QStringListModel(rows, this);
-    view_->setModel(model);
+    view_->setModel(new RowsModel(list, this));
     const bool several = list.mode() == host::SelectionMode::Several;
     view_->setSelectionMode(several ? QAbstractItemView::ExtendedSelection
                                     : QAbstractItemView::SingleSelection);

@@ -93,7 +93,7 @@ class RandomUser : public IdleUser {
     void runDeletion(easel::host::DeletionList& list) override {
         while (list.isOpen()) {
             std::vector<int> rows;
-            for (int row = 0; row < static_cast<int>(list.rows().size()); ++row)
+            for (int row = 0; row < list.count(); ++row)
                 if (below(2) == 0)
                     rows.push_back(row);
             list.select(rows);

@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <thread>
 
 using namespace easel::toolbox;
 using testing::ElementsAre;
@@ -222,15 +221,6 @@ TEST_F(HostFilesTest, AListingShowsEveryChangeAtOnce) {
         files_.remove(specOf(name));
         EXPECT_TRUE(listed().empty());
     }
-}
-
-TEST_F(HostFilesTest, AListingOfAQuietFolderShowsTheNextChange) {
-    dropFile(folder(), "a", "x");
-    std::this_thread::sleep_for(std::chrono::milliseconds(80));
-    EXPECT_EQ(listed().size(), 1U);
-    EXPECT_EQ(listed().size(), 1U);
-    dropFile(folder(), "b", "x");
-    EXPECT_EQ(listed().size(), 2U);
 }
 
 } // namespace

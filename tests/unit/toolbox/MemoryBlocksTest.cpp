@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <string>
 
 #include <algorithm>
 #include <limits>
@@ -42,12 +43,25 @@ TEST(MemoryBlocks, ResizingKeepsTheBytes) {
     EXPECT_EQ(std::memcmp(*block, "ab\0", 3), 0);
 }
 
+TEST(MemoryBlocks, AppendingKeepsTheBytesAndAddsOthers) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(0);
+    EXPECT_EQ(blocks.append(block, std::string("ab")), BlockOutcome::Done);
+    EXPECT_EQ(blocks.append(block, {}), BlockOutcome::Done);
+    EXPECT_EQ(blocks.append(block, std::string("cde")), BlockOutcome::Done);
+    EXPECT_EQ(blocks.size(block), 5U);
+    EXPECT_EQ(std::memcmp(*block, "abcde", 5), 0);
+    EXPECT_EQ(blocks.append(nullptr, {}), BlockOutcome::NotABlock);
+}
+
 TEST(MemoryBlocks, ALockedBlockStaysInPlace) {
     MemoryBlocks blocks;
     char** const block = blocks.create(64);
     blocks.lock(block);
     const char* const place = *block;
     EXPECT_EQ(blocks.resize(block, 1 << 20), BlockOutcome::Locked);
+    const std::string more(1 << 20, 'x');
+    EXPECT_EQ(blocks.append(block, more), BlockOutcome::Locked);
     EXPECT_EQ(blocks.size(block), 64U);
     EXPECT_EQ(blocks.resize(block, 10), BlockOutcome::Done);
     EXPECT_EQ(*block, place);

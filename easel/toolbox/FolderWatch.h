@@ -1,0 +1,36 @@
+// Tells what has changed in a folder since one last asked.
+#pragma once
+
+#include "easel/toolbox/FileDescriptor.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace easel::toolbox {
+
+class FolderWatch {
+  public:
+    /// Watches that folder from now on, and none that was watched before.
+    void start(const std::filesystem::path& folder);
+    /// The names of files that were made, written, renamed or removed there since the last call, in no order
+    /// and some perhaps repeatedly. Nothing where that is not known: the system cannot watch, too much has
+    /// happened, or the path leads to another folder now. Then the watch has to be started again.
+    std::optional<std::vector<std::string>> changes();
+
+  private:
+    struct Identity {
+        dev_t device;
+        ino_t number;
+        bool operator==(const Identity&) const = default;
+    };
+    static std::optional<Identity> identityOf(const std::filesystem::path& folder);
+
+    std::filesystem::path folder_;
+    std::optional<Identity> watched_;
+    FileDescriptor events_;
+};
+
+} // namespace easel::toolbox
