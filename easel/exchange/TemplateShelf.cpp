@@ -27,7 +27,7 @@ std::string withoutEnding(const std::string& name) {
 
 std::vector<std::string> TemplateShelf::names() const {
     std::vector<std::string> names;
-    for (const auto& file : toolbox::listFolder(folder_))
+    for (const auto& file : toolbox::listFolder(folder_).files)
         if (file.info.type == kTemplateType)
             names.push_back(withoutEnding(toolbox::fromMacRoman(file.hostName)));
     return names;
@@ -72,7 +72,7 @@ toolbox::FileOutcome TemplateShelf::remove(const std::string& name) const {
 
 OrFileError<FilePair> TemplateShelf::find(const std::string& name) const {
     for (const auto& wanted : {name, withoutEnding(name) + kEnding})
-        for (const auto& file : toolbox::listFolder(folder_))
+        for (const auto& file : toolbox::listFolder(folder_).files)
             if (file.info.type == kTemplateType && toolbox::fromMacRoman(file.hostName) == wanted)
                 return file.file;
     return FileError{name, "there is no template of that name in " + folder_.string(),

@@ -62,7 +62,7 @@ Json printTemplates(Session& session, Arguments&) {
         throw PlayError(error->message());
     files.settle();
     Json templates = Json::array();
-    for (const auto& file : toolbox::listFolder(std::get<std::filesystem::path>(folder)))
+    for (const auto& file : toolbox::listFolder(std::get<std::filesystem::path>(folder)).files)
         templates.push_back(fileOf(file));
     return {{"templates", std::move(templates)}};
 }

@@ -19,12 +19,14 @@ char lowered(char c) {
 
 } // namespace
 
-std::vector<ListedFile> listFolder(const fs::path& folder) {
-    std::vector<ListedFile> files;
+FolderListing listFolder(const fs::path& folder) {
+    FolderListing listing;
+    auto& files = listing.files;
     std::unordered_set<std::string> headers;
     std::error_code error;
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
         auto name = at->path().filename().string();
+        listing.hasLinks = listing.hasLinks || at->is_symlink(error);
         if (name.starts_with(kHeaderPrefix))
             headers.insert(name.substr(kHeaderPrefix.size()));
         else if (auto hostName = nameInHost(name); hostName && at->is_regular_file(error))
@@ -35,7 +37,7 @@ std::vector<ListedFile> listFolder(const fs::path& folder) {
         if (headers.contains(file.file.name))
             file.info = readFinderInfo(file.file);
     std::sort(files.begin(), files.end(), isListedBefore);
-    return files;
+    return listing;
 }
 
 std::optional<ListedFile> listedFile(FilePair file) {

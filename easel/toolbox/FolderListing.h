@@ -11,10 +11,15 @@ struct ListedFile {
     FinderInfo info;
 };
 
+struct FolderListing {
+    std::vector<ListedFile> files;
+    bool hasLinks = false; ///< whether what is elsewhere has a part in it
+};
+
 /// The files directly in the folder that the host can name, in the order of their names, upper and lower case
 /// alike. Of each file no more is read than tells its type; folders, links to nowhere and header files are no
 /// files.
-std::vector<ListedFile> listFolder(const std::filesystem::path& folder);
+FolderListing listFolder(const std::filesystem::path& folder);
 
 /// One file of such a listing; nothing where it would not be in it.
 std::optional<ListedFile> listedFile(FilePair file);

@@ -1,10 +1,13 @@
 // Watching a folder through the kernel's notices, which are there as soon as the change is.
 #include "easel/toolbox/FolderWatch.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
+#include <linux/magic.h>
 #include <sys/inotify.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 
 namespace easel::toolbox {
 namespace {
@@ -13,6 +16,17 @@ constexpr std::uint32_t kFileChanged =
     IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_MODIFY | IN_ATTRIB;
 constexpr std::uint32_t kFolderGone = IN_DELETE_SELF | IN_MOVE_SELF;
 constexpr std::uint32_t kNoticesLost = IN_Q_OVERFLOW | IN_IGNORED | IN_UNMOUNT;
+
+// The file systems known to be nobody else's; their numbers are those of statfs(2).
+constexpr std::array kLocal{std::int64_t{EXT4_SUPER_MAGIC},  std::int64_t{XFS_SUPER_MAGIC},
+                            std::int64_t{BTRFS_SUPER_MAGIC}, std::int64_t{F2FS_SUPER_MAGIC},
+                            std::int64_t{TMPFS_MAGIC},       std::int64_t{OVERLAYFS_SUPER_MAGIC}};
+
+bool isLocal(const std::filesystem::path& folder) {
+    struct statfs status {};
+    return ::statfs(folder.c_str(), &status) == 0 &&
+           std::find(kLocal.begin(), kLocal.end(), std::int64_t{status.f_type}) != kLocal.end();
+}
 
 } // namespace
 
@@ -30,6 +44,7 @@ void FolderWatch::start(const std::filesystem::path& folder) {
         ::inotify_add_watch(events_.number(), folder.c_str(), kFileChanged | kFolderGone | IN_ONLYDIR) < 0)
         events_.close();
     watched_ = identityOf(folder);
+    seesAll_ = isLocal(folder);
 }
 
 std::optional<std::vector<std::string>> FolderWatch::changes() {

@@ -20,6 +20,9 @@ class FolderWatch {
     /// happened, or the path leads to another folder now. Then the watch has to be started again.
     std::optional<std::vector<std::string>> changes();
 
+    /// Whether no change can escape the system: the folder is on this machine's own disk or in its memory.
+    bool seesAll() const { return seesAll_; }
+
   private:
     struct Identity {
         dev_t device;
@@ -31,6 +34,7 @@ class FolderWatch {
     std::filesystem::path folder_;
     std::optional<Identity> watched_;
     FileDescriptor events_;
+    bool seesAll_ = false;
 };
 
 } // namespace easel::toolbox

@@ -58,7 +58,13 @@ HostFiles::SecondaryFolder HostFiles::findSecondaryFolder(std::string_view name,
     if (::access(folder->c_str(), W_OK | X_OK) != 0)
         return {spec, lastSystemError(*folder)};
     recoverFolder(*folder);
+    lastFound_ = *folder;
     return {spec, {}};
+}
+
+void HostFiles::prepareListing() {
+    if (lastFound_)
+        listings_.prepare(*lastFound_);
 }
 
 FileResult HostFiles::resolve(std::int16_t volume, std::int64_t folder, std::string_view name,

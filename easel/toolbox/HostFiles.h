@@ -64,6 +64,8 @@ class HostFiles {
     FileResult resolve(std::int16_t volume, std::int64_t folder, std::string_view name, FileSpec& out);
     /// Valid until the next operation.
     const std::vector<ListedFile>& list(std::int16_t volume, std::int64_t folder);
+    /// Begins to list the folder last found, on another thread, so that listing it later takes no time.
+    void prepareListing();
     /// Another number whenever `list` gave something else than before.
     std::uint64_t listingRevision() const { return listings_.revision(); }
     FileResult remove(const FileSpec& spec);
@@ -105,6 +107,7 @@ class HostFiles {
     Trash trash_;
     std::optional<Waiting> waiting_;
     ListingCache listings_;
+    std::optional<std::filesystem::path> lastFound_;
     Flushing flushing_ = Flushing::AtOnce;
 };
 

@@ -4,6 +4,7 @@
 #include "easel/toolbox/AtomicFile.h"
 
 #include <algorithm>
+#include <system_error>
 
 namespace easel::toolbox {
 namespace {
@@ -15,37 +16,61 @@ constexpr std::size_t kFewChanges = 64;
 } // namespace
 
 const std::vector<ListedFile>& ListingCache::list(const std::filesystem::path& folder) {
+    if (coming_.valid())
+        take(coming_.get());
     auto changes = watch_.changes();
-    if (revision_ == 0 || folder != folder_ || !changes || changes->size() > kFewChanges ||
-        Clock::now() - read_ > kLongest)
-        readAnew(folder);
-    else
+    if (revision_ == 0 || folder != folder_ || !changes || changes->size() > kFewChanges || mayBeOld()) {
+        begin(folder);
+        take(listFolder(folder));
+    } else {
         for (auto& name : *changes)
             lookAgain(std::move(name));
-    return files_;
+    }
+    return listing_.files;
 }
 
-void ListingCache::readAnew(const std::filesystem::path& folder) {
-    // In this order: what changes while the folder is read is looked at again.
+void ListingCache::prepare(const std::filesystem::path& folder) {
+    if (coming_.valid())
+        return;
+    begin(folder);
+    try {
+        coming_ = std::async(std::launch::async, listFolder, folder);
+    } catch (const std::system_error&) {
+        // Without a thread to spare, whoever lists the folder reads it.
+        folder_.clear();
+    }
+}
+
+// Before the folder is read, so that what changes meanwhile is looked at again.
+void ListingCache::begin(const std::filesystem::path& folder) {
     watch_.start(folder);
     read_ = Clock::now();
     folder_ = folder;
-    files_ = listFolder(folder);
+}
+
+void ListingCache::take(FolderListing listing) {
+    listing_ = std::move(listing);
     ++revision_;
+}
+
+bool ListingCache::mayBeOld() const {
+    return (listing_.hasLinks || !watch_.seesAll()) && Clock::now() - read_ > kLongest;
 }
 
 void ListingCache::lookAgain(std::string name) {
     if (isTemporaryName(name))
         return;
+    std::error_code error;
+    listing_.hasLinks = listing_.hasLinks || std::filesystem::is_symlink(folder_ / name, error);
     if (name.starts_with(kHeaderPrefix))
         name.erase(0, kHeaderPrefix.size());
-    const auto listed = std::find_if(files_.begin(), files_.end(),
+    auto& files = listing_.files;
+    const auto listed = std::find_if(files.begin(), files.end(),
                                      [&](const ListedFile& file) { return file.file.name == name; });
-    if (listed != files_.end())
-        files_.erase(listed);
+    if (listed != files.end())
+        files.erase(listed);
     if (auto file = listedFile({folder_, std::move(name)}))
-        files_.insert(std::upper_bound(files_.begin(), files_.end(), *file, isListedBefore),
-                      std::move(*file));
+        files.insert(std::upper_bound(files.begin(), files.end(), *file, isListedBefore), std::move(*file));
     ++revision_;
 }
 

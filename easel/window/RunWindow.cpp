@@ -11,6 +11,7 @@
 #include "easel/window/Workspace.h"
 
 #include "easel/interface/Host.h"
+#include "easel/interface/Storage.h"
 
 #include <QFile>
 #include <QPointer>
@@ -22,6 +23,8 @@
 
 namespace easel::window {
 namespace {
+
+constexpr std::chrono::milliseconds kAtLeisure{150};
 
 // Qt ends the program when it cannot reach the display; it is to say so plainly and leave no core behind.
 void reportMessages(QtMsgType type, const QMessageLogContext&, const QString& text) {
@@ -41,6 +44,8 @@ void openFirstWindows(Workspace& workspace, const StartUp& startUp, const Plugin
     const QPointer<MainWindow> first = &workspace.newDrawing();
     for (const std::filesystem::path& file : startUp.files)
         workspace.openFile(QFile::decodeName(file.c_str()), first);
+    // Once the user looks at the window, what the gradient editor will ask for first is made ready.
+    QTimer::singleShot(kAtLeisure, [] { host::theStorage().files().prepareListing(); });
     if (!plugin.problem().isEmpty())
         workspace.tell(plugin.problem());
 }

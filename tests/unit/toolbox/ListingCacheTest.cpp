@@ -29,7 +29,8 @@ class ListingCacheTest : public testing::Test {
 
     fs::path folder() const { return base_ / "folder"; }
     void expectUpToDate() {
-        EXPECT_THAT(linesOf(cache_.list(folder())), testing::ElementsAreArray(linesOf(listFolder(folder()))));
+        EXPECT_THAT(linesOf(cache_.list(folder())),
+                    testing::ElementsAreArray(linesOf(listFolder(folder()).files)));
     }
 
     tests::TemporaryFolder base_;
@@ -90,6 +91,36 @@ TEST_F(ListingCacheTest, SeesWhatALinkLeadsToASecondLaterAtTheLatest) {
     std::this_thread::sleep_for(std::chrono::milliseconds(1050));
     expectUpToDate();
     EXPECT_EQ(cache_.list(folder()).size(), 1U);
+}
+
+TEST_F(ListingCacheTest, SeesALinkThatWasMadeLaterAndWhatItLeadsTo) {
+    expectUpToDate();
+    fs::create_symlink(base_ / "elsewhere", folder() / "link");
+    expectUpToDate();
+    writeContent(base_ / "elsewhere", "");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1050));
+    EXPECT_EQ(cache_.list(folder()).size(), 1U);
+}
+
+TEST_F(ListingCacheTest, IsNotReadAgainAsLongAsNothingChanges) {
+    dropFile(folder(), "a", "x");
+    expectUpToDate();
+    const auto before = cache_.revision();
+    std::this_thread::sleep_for(std::chrono::milliseconds(1050));
+    expectUpToDate();
+    EXPECT_EQ(cache_.revision(), before) << "however long ago it was read";
+}
+
+TEST_F(ListingCacheTest, ReadInTheBackgroundIsWhatTheFolderHoldsWhenItIsAskedFor) {
+    for (int i = 0; i < 200; ++i)
+        dropFile(folder(), std::to_string(i), "x");
+    cache_.prepare(folder());
+    dropFile(folder(), "late", "x");
+    fs::remove(folder() / "7");
+    expectUpToDate();
+    cache_.prepare(folder());
+    EXPECT_TRUE(cache_.list(base_ / "no folder").empty()) << "another folder is asked for instead";
+    expectUpToDate();
 }
 
 TEST_F(ListingCacheTest, FollowsThePathWhenAnotherFolderIsPutThere) {
