@@ -45,8 +45,6 @@ Canvas::Canvas(host::DrawingWindow& window, DesktopUser& user, QWidget* parent)
     setAccessibleName(tr("Drawing"));
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-    setAcceptDrops(true);
-    viewport()->setAcceptDrops(true);
     user_.addCanvas(*this);
 }
 

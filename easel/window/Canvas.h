@@ -66,7 +66,6 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void zoomChanged(double zoom);
     void pointerAt(QPointF inDrawing);
     void pointerLeft();
-    void fileDropped(const QString& file);
 
   protected:
     bool viewportEvent(QEvent* event) override;
@@ -83,9 +82,6 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dragMoveEvent(QDragMoveEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
   private:
     bool panning() const { return panFrom_.has_value(); }

@@ -1,19 +1,15 @@
-// Mouse, keyboard, wheel and dropped files on the canvas.
+// Mouse, keyboard and wheel on the canvas.
 #include "easel/window/Canvas.h"
 #include "easel/window/CursorImages.h"
 #include "easel/window/DesktopUser.h"
 #include "easel/window/PathConversion.h"
 
-#include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QScrollBar>
-#include <QUrl>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <cmath>
 
 namespace easel::window {
@@ -22,11 +18,6 @@ namespace {
 // One notch of a wheel, in the units of wheel events.
 constexpr double kNotch = 120;
 constexpr double kZoomANotch = 1.2;
-
-bool offersFiles(const QMimeData& data) {
-    const QList<QUrl> urls = data.urls();
-    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
-}
 
 } // namespace
 
@@ -164,23 +155,6 @@ void Canvas::refreshCursor() {
 
 void Canvas::showCursor(long id) {
     viewport()->setCursor(cursorWithId(id, devicePixelRatioF()));
-}
-
-void Canvas::dragEnterEvent(QDragEnterEvent* event) {
-    if (offersFiles(*event->mimeData()))
-        event->acceptProposedAction();
-}
-
-void Canvas::dragMoveEvent(QDragMoveEvent* event) {
-    if (offersFiles(*event->mimeData()))
-        event->acceptProposedAction();
-}
-
-void Canvas::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    for (const QUrl& url : event->mimeData()->urls())
-        if (url.isLocalFile())
-            Q_EMIT fileDropped(url.toLocalFile());
 }
 
 } // namespace easel::window

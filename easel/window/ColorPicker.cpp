@@ -4,7 +4,9 @@
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -12,14 +14,17 @@
 namespace easel::window {
 namespace {
 
+int narrowed(std::uint16_t channel) {
+    return (channel * 255 + 32767) / 65535;
+}
+
 QColor toScreen(const ExactColor& color) {
-    const auto narrowed = [](std::uint16_t channel) { return (channel * 255 + 32767) / 65535; };
     return {narrowed(color.red), narrowed(color.green), narrowed(color.blue)};
 }
 
-ExactColor fromScreen(const QColor& color) {
-    const auto widened = [](int channel) { return static_cast<std::uint16_t>(channel * 257); };
-    return {widened(color.red()), widened(color.green()), widened(color.blue())};
+// What a channel becomes when the dialog shows this level.
+std::uint16_t following(std::uint16_t channel, int level) {
+    return narrowed(channel) == level ? channel : static_cast<std::uint16_t>(level * 257);
 }
 
 } // namespace
@@ -30,6 +35,13 @@ ColorPicker::ColorPicker(const QString& prompt, const ExactColor& start, QWidget
     dialog_->setWindowFlags(Qt::Widget);
     dialog_->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog);
     dialog_->setCurrentColor(toScreen(start));
+    dialog_->layout()->setContentsMargins(0, 0, 0, 0);
+    dialog_->installEventFilter(this);
+    // Return is for OK.
+    for (QPushButton* button : dialog_->findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
 
     auto* exact = new QHBoxLayout;
     exact->addWidget(new QLabel(tr("Exact values:")));
@@ -47,6 +59,7 @@ ColorPicker::ColorPicker(const QString& prompt, const ExactColor& start, QWidget
     showChannels();
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(dialog_, &QColorDialog::currentColorChanged, this, &ColorPicker::pickedInDialog);
@@ -59,8 +72,17 @@ ColorPicker::ColorPicker(const QString& prompt, const ExactColor& start, QWidget
     layout->addWidget(buttons);
 }
 
+// A dialog within a dialog would take Return and Escape for its own.
+bool ColorPicker::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    keyPressEvent(static_cast<QKeyEvent*>(event));
+    return true;
+}
+
 void ColorPicker::pickedInDialog(const QColor& color) {
-    color_ = fromScreen(color);
+    color_ = {following(color_.red, color.red()), following(color_.green, color.green()),
+              following(color_.blue, color.blue())};
     showChannels();
 }
 
@@ -68,7 +90,11 @@ void ColorPicker::typedChannels() {
     const auto channel = [this](std::size_t i) { return static_cast<std::uint16_t>(channels_[i]->value()); };
     color_ = {channel(0), channel(1), channel(2)};
     const QSignalBlocker quiet(dialog_);
+    // A color of its palette draws the keyboard there, in the middle of a number.
+    QWidget* typing = focusWidget();
     dialog_->setCurrentColor(toScreen(color_));
+    if (typing != nullptr)
+        typing->setFocus();
 }
 
 void ColorPicker::showChannels() {

@@ -20,8 +20,8 @@ struct ExactColor {
     friend bool operator==(const ExactColor&, const ExactColor&) = default;
 };
 
-// Qt's color dialog knows 8 bits a channel. What it is given keeps all its bits as long as the user does not
-// choose another color in it, and the three fields take and show all 16.
+// Qt's color dialog knows 8 bits a channel. A channel keeps all its bits as long as the user does not change
+// it there; a changed one is the dialog's value times 257. The three fields take and show all 16 bits.
 class ColorPicker : public QDialog {
     Q_OBJECT
 
@@ -29,6 +29,9 @@ class ColorPicker : public QDialog {
     ColorPicker(const QString& prompt, const ExactColor& start, QWidget* parent);
 
     const ExactColor& color() const { return color_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void pickedInDialog(const QColor& color);

@@ -127,6 +127,12 @@ void PopupItem::modelChanged(host::ItemChange change) {
     setEnabled(item.enabled);
 }
 
+// What was typed when the list was open before is no part of a new search.
+void PopupItem::showPopup() {
+    view()->keyboardSearch({});
+    QComboBox::showPopup();
+}
+
 void PopupItem::keyPressEvent(QKeyEvent* event) {
     const bool opens = event->key() == Qt::Key_Space || event->key() == Qt::Key_Up ||
                        event->key() == Qt::Key_Down || event->key() == Qt::Key_F4;

@@ -84,6 +84,8 @@ class PopupItem : public QComboBox, public ItemWidget {
     QWidget* widget() override { return this; }
     void modelChanged(host::ItemChange change) override;
 
+    void showPopup() override;
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

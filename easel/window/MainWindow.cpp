@@ -54,14 +54,12 @@ MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QSt
     layout->addWidget(canvas_, 1);
     setCentralWidget(middle);
     resize(kWindowSize);
+    setAcceptDrops(true);
 
     buildActions();
     buildStatusBar();
     connect(canvas_, &Canvas::changed, this, &MainWindow::drawingChanged);
     connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
-    connect(
-        canvas_, &Canvas::fileDropped, this,
-        [this](const QString& dropped) { workspace_.openFile(dropped, this); }, Qt::QueuedConnection);
     connect(&workspace_, &Workspace::activeToolChanged, this, &MainWindow::toolChanged);
     connect(&workspace_.user(), &DesktopUser::optionKeyChanged, canvas_, &Canvas::refreshCursor);
     connect(&workspace_.user(), &DesktopUser::becameIdle, this, [this] {

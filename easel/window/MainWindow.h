@@ -52,6 +52,8 @@ class MainWindow : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     enum class Saved { Yes, No };
@@ -71,7 +73,6 @@ class MainWindow : public QMainWindow {
     // MainWindowFiles.cpp
     void newDrawing();
     void open();
-    void openRecent(const QString& file);
     Saved save();
     Saved saveAs();
     Saved saveTo(const QString& file);

@@ -8,12 +8,16 @@
 #include "easel/window/PrintDrawing.h"
 #include "easel/window/Workspace.h"
 
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 
 namespace easel::window {
 namespace {
@@ -22,6 +26,14 @@ constexpr int kMessageTime = 4000; // milliseconds
 
 QString svgFilter() {
     return QObject::tr("SVG drawings (*.svg);;All files (*)");
+}
+
+QStringList localFiles(const QMimeData& data) {
+    QStringList files;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            files << url.toLocalFile();
+    return files;
 }
 
 bool isPictureName(const QString& file) {
@@ -40,8 +52,19 @@ void MainWindow::open() {
     dialog.setFileMode(QFileDialog::ExistingFiles);
     if (!workspace_.user().runDialog(dialog))
         return;
-    for (const QString& file : dialog.selectedFiles())
-        workspace_.openFile(file, this);
+    workspace_.openFiles(dialog.selectedFiles(), this);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!localFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    // Where the files come from waits for the answer to the drop; opening them can take its time.
+    QTimer::singleShot(0, this,
+                       [this, files = localFiles(*event->mimeData())] { workspace_.openFiles(files, this); });
 }
 
 QString MainWindow::baseName() const {

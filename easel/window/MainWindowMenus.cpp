@@ -14,6 +14,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace easel::window {
 namespace {
 
@@ -24,6 +26,17 @@ constexpr int kPaletteWidth = 76;
 // A menu shows its text as it stands.
 QString verbatim(QString text) {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+// The file's name, with its folder where another file of the list has the same name.
+QString distinctName(const QString& file, const QStringList& among) {
+    const QFileInfo info(file);
+    const auto sameName = [&](const QString& other) {
+        return QFileInfo(other).fileName() == info.fileName();
+    };
+    if (std::count_if(among.begin(), among.end(), sameName) == 1)
+        return info.fileName();
+    return QStringLiteral("%1 \u2014 %2").arg(info.fileName(), info.path());
 }
 
 } // namespace
@@ -83,8 +96,9 @@ void MainWindow::buildFileMenu() {
 
 void MainWindow::fillRecentMenu() {
     recentMenu_->clear();
-    for (const QString& file : workspace_.recentFiles().files()) {
-        QAction* action = recentMenu_->addAction(verbatim(QFileInfo(file).fileName()), this,
+    const QStringList files = workspace_.recentFiles().files();
+    for (const QString& file : files) {
+        QAction* action = recentMenu_->addAction(verbatim(distinctName(file, files)), this,
                                                  [this, file] { workspace_.openFile(file, this); });
         action->setStatusTip(file);
     }

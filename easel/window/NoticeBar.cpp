@@ -12,6 +12,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), label_(new QLabel) {
     setBackgroundRole(QPalette::Midlight);
     label_->setTextFormat(Qt::PlainText);
     label_->setWordWrap(true);
+    label_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* done = new QPushButton(tr("Got it"));
     done->setToolTip(tr("Put this notice away"));
     connect(done, &QPushButton::clicked, this, &QWidget::hide);

@@ -1,10 +1,7 @@
 // Keeps the list in the settings.
 #include "easel/window/RecentFiles.h"
 
-#include <QFileInfo>
 #include <QSettings>
-
-#include <algorithm>
 
 namespace easel::window {
 namespace {
@@ -15,11 +12,7 @@ constexpr int kMost = 10;
 } // namespace
 
 QStringList RecentFiles::files() const {
-    QStringList files = QSettings().value(kKey).toStringList();
-    files.erase(std::remove_if(files.begin(), files.end(),
-                               [](const QString& file) { return !QFileInfo::exists(file); }),
-                files.end());
-    return files;
+    return QSettings().value(kKey).toStringList();
 }
 
 void RecentFiles::add(const QString& file) {
@@ -27,6 +20,12 @@ void RecentFiles::add(const QString& file) {
     files.removeAll(file);
     files.prepend(file);
     QSettings().setValue(kKey, QStringList(files.mid(0, kMost)));
+}
+
+void RecentFiles::remove(const QString& file) {
+    QStringList files = this->files();
+    files.removeAll(file);
+    QSettings().setValue(kKey, files);
 }
 
 void RecentFiles::clear() {

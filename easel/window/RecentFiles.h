@@ -1,18 +1,17 @@
 // The drawings opened last, kept from one run to the next.
 #pragma once
 
-#include <QObject>
 #include <QStringList>
 
 namespace easel::window {
 
-class RecentFiles : public QObject {
-    Q_OBJECT
-
+class RecentFiles {
   public:
-    // Absolute paths, the latest first; files that are gone are left out.
+    // Absolute paths, the latest first. A file that is gone stays until it is asked for in vain: it may lie
+    // on a disk that is not there now.
     QStringList files() const;
     void add(const QString& file);
+    void remove(const QString& file);
     void clear();
 };
 

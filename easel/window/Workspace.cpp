@@ -85,6 +85,8 @@ bool Workspace::openFile(const QString& file, QWidget* over) {
     if (const auto* failure = std::get_if<svg::Failure>(&result)) {
         if (failure->fault != svg::Fault::Cancelled)
             user_.tell(failure->message);
+        if (!QFileInfo::exists(file))
+            recentFiles_.remove(file);
         return false;
     }
     auto& drawing = std::get<drawing::Drawing>(result);
@@ -95,6 +97,13 @@ bool Workspace::openFile(const QString& file, QWidget* over) {
         show(std::move(drawing), path);
     recentFiles_.add(path);
     return true;
+}
+
+void Workspace::openFiles(const QStringList& files, QWidget* over) {
+    // The first file may take the place of the window it was opened from.
+    const QPointer<QWidget> from = over;
+    for (const QString& file : files)
+        openFile(file, from);
 }
 
 MainWindow& Workspace::show(drawing::Drawing drawing, const QString& file) {

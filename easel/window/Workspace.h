@@ -53,6 +53,8 @@ class Workspace : public QObject {
     // Opens the file in a window of its own, or in the window `over` if that holds nothing yet, or brings the
     // window that shows it to the front. Tells the user why it cannot; false then.
     bool openFile(const QString& file, QWidget* over);
+    // Opens one after the other, whichever of them can be opened.
+    void openFiles(const QStringList& files, QWidget* over);
     const std::vector<QPointer<MainWindow>>& windows() const { return windows_; }
     void windowClosed(MainWindow& window);
     // Closes all windows, asking about unsaved changes. What the plug-in waits for is cancelled first.

@@ -63,21 +63,25 @@ std::string DesktopTest::contents(const fs::path& file) const {
     return text.str();
 }
 
+std::map<std::string, std::string> DesktopTest::environment() const {
+    return {{"DISPLAY", screen().name()},
+            {"WAYLAND_DISPLAY", ""},
+            {"QT_QPA_PLATFORM", "xcb"},
+            {"QT_SCALE_FACTOR", ""},
+            {"QT_QPA_PLATFORMTHEME", ""},
+            {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
+            {"LC_ALL", "C.UTF-8"},
+            {"HOME", folder_ / "home"},
+            {"XDG_CONFIG_HOME", configuration()},
+            {"XDG_DATA_HOME", folder_ / "data"}};
+}
+
 void DesktopTest::start(const std::vector<std::string>& arguments,
-                        const std::map<std::string, std::string>& environment) {
+                        const std::map<std::string, std::string>& changes) {
     std::vector<std::string> command{EASEL_PROGRAM};
     command.insert(command.end(), arguments.begin(), arguments.end());
-    std::map<std::string, std::string> variables{{"DISPLAY", screen().name()},
-                                                 {"WAYLAND_DISPLAY", ""},
-                                                 {"QT_QPA_PLATFORM", "xcb"},
-                                                 {"QT_SCALE_FACTOR", ""},
-                                                 {"QT_QPA_PLATFORMTHEME", ""},
-                                                 {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
-                                                 {"LC_ALL", "C.UTF-8"},
-                                                 {"HOME", folder_ / "home"},
-                                                 {"XDG_CONFIG_HOME", configuration()},
-                                                 {"XDG_DATA_HOME", folder_ / "data"}};
-    for (const auto& [name, value] : environment)
+    std::map<std::string, std::string> variables = environment();
+    for (const auto& [name, value] : changes)
         variables[name] = value;
     program_ = std::make_unique<Process>(command, variables, folder_ / "easel.log");
 }
@@ -135,6 +139,14 @@ bool DesktopTest::vanishes(const std::string& title) {
     return eventually([&] { return !hasWindow(title); });
 }
 
+bool DesktopTest::getsKeyboard(const std::string& title) {
+    return eventually([&] {
+        const auto window =
+            screen().window([](const Window& each) { return each.id == screen().activeWindow(); });
+        return window && window->title.starts_with(title);
+    });
+}
+
 Area DesktopTest::waitForColor(std::uint32_t color) {
     std::optional<Area> area;
     if (!eventually([&] { return (area = screen().picture().find(color)).has_value(); }))
@@ -159,6 +171,13 @@ Window DesktopTest::openEditor(double h, double v) {
     screen().click(onScreen(h, v));
     screen().keyUp("Control_L");
     return waitForWindow("Gradient");
+}
+
+void DesktopTest::openTemplates(const Window& editor) {
+    screen().click(in(editor, EditorItems::templates));
+    EXPECT_TRUE(eventually([&] {
+        return screen().popupAt(in(editor, {EditorItems::preview.left, EditorItems::preview.top}));
+    }));
 }
 
 void DesktopTest::closeEditorWith(const std::string& key) {
@@ -187,6 +206,20 @@ void DesktopTest::answerFileDialog(const std::string& title, const fs::path& fil
     screen().key("ctrl+a");
     screen().type(file.string());
     screen().key("Return");
+}
+
+void DesktopTest::waitForMovingProgress() {
+    const Area content = waitForWindow("Easel").content;
+    const auto bar = [&] {
+        const Picture shown = screen().picture();
+        std::vector<std::uint32_t> pixels;
+        for (int x = content.left; x < content.right; ++x)
+            pixels.push_back(shown.at({x, content.middle().y}));
+        return pixels;
+    };
+    const auto first = bar();
+    EXPECT_TRUE(eventually([&] { return bar() != first; }));
+    EXPECT_TRUE(hasWindow("Easel")) << "what is being done must take longer for this test";
 }
 
 std::string DesktopTest::messageOf(const Window& box) {

@@ -52,9 +52,11 @@ class DesktopTest : public testing::Test {
 
     // Starts the program and waits until its window is there and painted.
     void start(const std::vector<std::string>& arguments,
-               const std::map<std::string, std::string>& environment = {});
+               const std::map<std::string, std::string>& changes = {});
     void startWithDrawing(const std::map<std::string, std::string>& environment = {});
     Process& program() { return *program_; }
+    // What programs need to appear on the test's screen and nowhere else.
+    std::map<std::string, std::string> environment() const;
     // Ctrl-Q, and the exit code.
     int quit();
 
@@ -65,6 +67,8 @@ class DesktopTest : public testing::Test {
     bool hasWindow(const std::string& title) const;
     std::size_t windowsWith(const std::string& title) const;
     bool vanishes(const std::string& title);
+    // Waits until a window whose title begins so has the keyboard.
+    bool getsKeyboard(const std::string& title);
     // The window of the drawing, whatever is unsaved in it.
     Window drawingWindow() { return waitForWindow("drawing.svg"); }
 
@@ -76,6 +80,8 @@ class DesktopTest : public testing::Test {
 
     // Option-click at a point of the drawing; the editor's window.
     Window openEditor(double h, double v);
+    // Opens the popup of templates, which then hears the keyboard.
+    void openTemplates(const Window& editor);
     void closeEditorWith(const std::string& key);
     static Spot in(const Window& window, Spot spot) {
         return Spot{window.content.left, window.content.top} + spot;
@@ -89,6 +95,8 @@ class DesktopTest : public testing::Test {
     void chooseInMenu(const std::vector<std::string>& keys);
     // Waits for a file dialog and answers it with a path.
     void answerFileDialog(const std::string& title, const std::filesystem::path& file);
+    // Waits for the window that shows progress, and for its bar to move.
+    void waitForMovingProgress();
     // What a message box says, through the clipboard.
     std::string messageOf(const Window& box);
 

@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <thread>
+#include <utility>
 
 namespace desktop {
 namespace {
@@ -128,7 +129,10 @@ TEST_F(DesktopTest, SpaceAndDragPansAndDraggingPastTheEdgeScrolls) {
     for (int i = 0; i < 4; ++i)
         screen().key("ctrl+equal");
     Area before{};
-    eventually([&] { return (before = waitForColor(kPlain)).width() > 450; });
+    EXPECT_TRUE(eventually([&] {
+        const Area last = std::exchange(before, waitForColor(kPlain));
+        return before == last && before.width() > 300;
+    })) << "larger, and no longer growing";
     screen().keyDown("space");
     screen().drag({before.middle(), before.middle() + Spot{-60, -40}});
     screen().keyUp("space");

@@ -119,19 +119,42 @@ TEST_F(EditorTest, ALineDraggedInThePreviewTurnsTheGradientAndLeavesNoTraceThere
     closeEditorWith("Escape");
 }
 
-TEST_F(EditorTest, AColorIsPickedAtSixteenBits) {
+TEST_F(EditorTest, AColorTypedInThePickerIsTheStopsToTheLastBit) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);
     screen().click(in(editor, EditorItems::swatch));
-    const Window picker = waitForWindow("Color of the gradient stop");
-    // The exact fields are the last ones before the buttons.
-    for (int back = 0; back < 3; ++back)
-        screen().key("shift+Tab");
-    (void)picker;
+    waitForWindow("Color of the gradient stop");
+    // The three fields for 16 bits follow the one for the color's name.
+    for (const char* key : {"alt+h", "Tab", "Tab", "Tab"})
+        screen().key(key);
+    screen().type("12345");
+    // A channel given with 8 bits leaves the others as they are.
+    screen().key("alt+r");
+    screen().type("18");
+    screen().key("alt+g");
+    screen().type("52");
     screen().key("Return");
     EXPECT_TRUE(vanishes("Color of the gradient stop"));
     closeEditorWith("Return");
-    EXPECT_TRUE(hasWindow("drawing.svg"));
+    // 18 and 52 of 255 are 4626 and 13364 of 65535.
+    EXPECT_THAT(saved(), HasSubstr("4626 13364 12345"));
+}
+
+TEST_F(EditorTest, EscapeInThePickersFieldsLeavesTheColorAndTheKeyboardComesBack) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    const Window editor = openEditor(160, 290);
+    screen().click(in(editor, EditorItems::swatch));
+    waitForWindow("Color of the gradient stop");
+    screen().key("alt+h");
+    screen().type("123456");
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Color of the gradient stop"));
+    EXPECT_TRUE(getsKeyboard("Gradient"));
+    closeEditorWith("Escape");
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    EXPECT_EQ(quit(), 0) << "nothing to ask about";
+    EXPECT_EQ(contents(drawing()), before);
 }
 
 TEST_F(EditorTest, TheToolsOptionsOpenByKeyAndByDoubleClick) {
@@ -191,8 +214,7 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
     Window editor = openEditor(160, 290);
     addStopInTheMiddle(editor);
     EXPECT_TRUE(positionBecomes("50.00"));
-    screen().click(in(editor, EditorItems::templates));
-    std::this_thread::sleep_for(300ms);
+    openTemplates(editor);
     screen().type("Sav");
     screen().key("Return");
     waitForWindow("Save Template");
@@ -205,15 +227,13 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
 
     startWithDrawing();
     editor = openEditor(160, 290);
-    screen().click(in(editor, EditorItems::templates));
-    std::this_thread::sleep_for(300ms);
+    openTemplates(editor);
     screen().type("Dawn");
     screen().key("Return");
     std::this_thread::sleep_for(200ms);
     screen().click(onRamp(editor, 0.5));
     EXPECT_TRUE(positionBecomes("50.00")) << "the stop of the template";
-    screen().click(in(editor, EditorItems::templates));
-    std::this_thread::sleep_for(300ms);
+    openTemplates(editor);
     screen().type("Del");
     screen().key("Return");
     const Window list = waitForWindow("Delete Templates");
@@ -233,15 +253,14 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
         eventually([&] { return fs::exists(folder() / "data" / "Trash" / "files" / "Dawn & Dusk.GRD"); }));
     EXPECT_TRUE(vanishes("Delete Templates"));
     closeEditorWith("Escape");
-    program().signal(SIGTERM);
-    EXPECT_EQ(program().wait(10s), 0);
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    EXPECT_EQ(quit(), 0);
 }
 
 TEST_F(EditorTest, ACharacterThatNamesCannotHoldIsRefusedWithABeep) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);
-    screen().click(in(editor, EditorItems::templates));
-    std::this_thread::sleep_for(300ms);
+    openTemplates(editor);
     screen().type("Sav");
     screen().key("Return");
     waitForWindow("Save Template");

@@ -82,6 +82,104 @@ TEST_F(FilesTest, AFailedSaveKeepsTheDrawingUnsaved) {
     std::filesystem::remove_all(drawing());
 }
 
+TEST_F(FilesTest, SavingUnderTheNameOfAnotherFileAsksAndLeavesTheOldOneAlone) {
+    const std::filesystem::path other = folder() / "other.svg";
+    std::ofstream(other) << "other";
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    screen().click(onScreen(160, 110));
+    EXPECT_TRUE(colorVanishes(kPlain));
+    screen().key("ctrl+shift+s");
+    answerFileDialog("Save As", other);
+    EXPECT_TRUE(eventually([&] { return windowsWith("Save As") == 2; })) << "the file dialog's question";
+    EXPECT_EQ(contents(other), "other");
+    screen().key("alt+y");
+    waitForWindow("other.svg");
+    EXPECT_THAT(contents(other), HasSubstr("data-easel-record"));
+    EXPECT_EQ(contents(drawing()), before);
+    EXPECT_EQ(quit(), 0) << "nothing is unsaved";
+}
+
+TEST_F(FilesTest, ASaveToAPlaceThatCannotBeWrittenLeavesTheDrawingUnsavedUnderItsName) {
+    // A link to itself cannot be written by anybody.
+    const std::filesystem::path nowhere = folder() / "nowhere.svg";
+    std::filesystem::create_symlink(nowhere, nowhere);
+    startWithDrawing();
+    screen().click(onScreen(160, 110));
+    EXPECT_TRUE(colorVanishes(kPlain));
+    screen().key("ctrl+shift+s");
+    answerFileDialog("Save As", nowhere);
+    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("nowhere.svg: "));
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_TRUE(hasWindow("drawing.svg*"));
+}
+
+TEST_F(FilesTest, RecentDrawingsAreListedLatestFirstAfterARestartAndOneThatIsGoneLeavesTheList) {
+    const std::filesystem::path first = folder() / "first.svg";
+    const std::filesystem::path second = folder() / "second.svg";
+    std::filesystem::copy_file(drawing(), first);
+    std::filesystem::copy_file(drawing(), second);
+    start({first.string(), second.string()});
+    waitForWindow("first.svg");
+    waitForWindow("second.svg");
+    ASSERT_EQ(quit(), 0);
+
+    startWithDrawing();
+    // The entries are drawing, second, first; the menu opens on its first one.
+    chooseInMenu({"alt+f", "r", "Down", "Return"});
+    waitForWindow("second.svg");
+    EXPECT_TRUE(getsKeyboard("second.svg"));
+    // Now second, drawing, first.
+    std::filesystem::remove(first);
+    chooseInMenu({"alt+f", "r", "Down", "Down", "Return"});
+    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("first.svg: "));
+    screen().key("Escape");
+    const std::filesystem::path settings = configuration() / "kestrad" / "easel.conf";
+    EXPECT_TRUE(eventually([&] { return contents(settings).find("first.svg") == std::string::npos; }));
+    EXPECT_THAT(contents(settings), HasSubstr("second.svg"));
+}
+
+TEST_F(FilesTest, ALargeDrawingShowsItsProgressAndIsCancelledLeavingTheOneThatWasOpen) {
+    const std::filesystem::path large = folder() / "large.svg";
+    {
+        std::ofstream svg(large);
+        svg << R"(<svg xmlns="http://www.w3.org/2000/svg" width="600" height="400">)";
+        for (int i = 0; i < 800'000; ++i)
+            svg << "<path d='M1 1h9v9z'/>";
+        svg << "</svg>";
+    }
+    startWithDrawing();
+    screen().key("ctrl+o");
+    answerFileDialog("Open", large);
+    waitForMovingProgress();
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    waitForColor(kPlain);
+    EXPECT_FALSE(hasWindow("large.svg"));
+    EXPECT_EQ(quit(), 0);
+}
+
+TEST_F(FilesTest, WhatIsNotShownIsNamedOnceUntilItIsPutAway) {
+    std::ofstream(drawing()) << R"(<svg xmlns="http://www.w3.org/2000/svg" width="600" height="400">
+  <text y="20">One</text><text y="40">Two</text>
+  <rect x="60" y="40" width="200" height="140" fill="#12c84a"/></svg>)";
+    start({drawing().string()});
+    const Area below = waitForColor(kPlain);
+    const Area& window = drawingWindow().content;
+    screen().drag({{window.left + 100, window.top + 62}, {window.right - 140, window.top + 84}});
+    std::string text;
+    EXPECT_TRUE(eventually([&] {
+        screen().key("ctrl+c");
+        return !(text = screen().clipboard()).empty();
+    }));
+    EXPECT_EQ(text, "Text is kept in the file but not shown.");
+    screen().click({window.right - 50, window.top + 73});
+    EXPECT_TRUE(eventually([&] { return waitForColor(kPlain).top < below.top; }))
+        << "the canvas takes its place";
+}
+
 TEST_F(FilesTest, WithoutADisplayTheProgramSaysSoAndEndsWithCodeTwo) {
     start({drawing().string()}, {{"DISPLAY", ""}, {"QT_QPA_PLATFORM", ""}});
     EXPECT_EQ(program().wait(10s), 2);

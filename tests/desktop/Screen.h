@@ -28,8 +28,13 @@ struct Area {
     int right = 0; // one past the last pixel
     int bottom = 0;
 
+    friend bool operator==(const Area&, const Area&) = default;
+
     int width() const { return right - left; }
     int height() const { return bottom - top; }
+    bool contains(Spot spot) const {
+        return spot.x >= left && spot.x < right && spot.y >= top && spot.y < bottom;
+    }
     Spot middle() const { return {(left + right) / 2, (top + bottom) / 2}; }
 };
 
@@ -89,6 +94,10 @@ class Screen {
     // Visible windows, as the window manager lists them.
     std::vector<Window> windows() const;
     std::optional<Window> window(const std::function<bool(const Window&)>& wanted) const;
+    // Whether a menu, a list or the like, which no window manager has a hand in, covers that spot.
+    bool popupAt(Spot spot) const;
+    // The window that has the keyboard, by the window manager's account.
+    unsigned long activeWindow() const;
     // Asks a window to close, as its close button does.
     void close(const Window& window);
     // Serial number of the picture that the pointer has now.

@@ -71,7 +71,8 @@ Picture Screen::picture() const {
     Picture result{width, height, {}};
     result.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
-        const auto* row = reinterpret_cast<const std::uint32_t*>(image->data + y * image->bytes_per_line);
+        const auto* row =
+            reinterpret_cast<const std::uint32_t*>(image->data + std::ptrdiff_t{image->bytes_per_line} * y);
         for (int x = 0; x < width; ++x)
             result.pixels.push_back(row[x] & 0xffffff);
     }
@@ -108,6 +109,29 @@ std::optional<Window> Screen::window(const std::function<bool(const Window&)>& w
         if (wanted(window))
             return window;
     return std::nullopt;
+}
+
+bool Screen::popupAt(Spot spot) const {
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window* children = nullptr;
+    unsigned count = 0;
+    XQueryTree(display_, DefaultRootWindow(display_), &root, &parent, &children, &count);
+    bool found = false;
+    for (unsigned i = 0; i < count && !found; ++i) {
+        XWindowAttributes attributes{};
+        found = XGetWindowAttributes(display_, children[i], &attributes) != 0 &&
+                attributes.override_redirect != 0 && attributes.map_state == IsViewable &&
+                attributes.c_class == InputOutput && contentOf(display_, children[i]).contains(spot);
+    }
+    if (children != nullptr)
+        XFree(children);
+    return found;
+}
+
+unsigned long Screen::activeWindow() const {
+    const Property id = property(display_, DefaultRootWindow(display_), atom(display_, "_NET_ACTIVE_WINDOW"));
+    return id.items == 1 ? *reinterpret_cast<const unsigned long*>(id.bytes.data()) : 0;
 }
 
 void Screen::close(const Window& window) {
