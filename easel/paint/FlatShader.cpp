@@ -6,19 +6,29 @@
 namespace easel::paint {
 
 FlatShader::FlatShader(const SurfaceView& surface, const RampSegments& color, double opacity)
-    : surface_(surface), color_(color.all().front()), opacity_(opacity), pixel_(opaquePixel(color_.color)) {}
+    : surface_(surface), color_(color.all().front()), opacity_(opacity), piece_(color_, 0) {}
 
-void FlatShader::row(int y, std::span<const CoverageRun> runs) {
-    std::uint32_t* pixels = surface_.row(y);
-    BlendQueue queue(pixels);
-    for (const CoverageRun& run : runs) {
-        if (hidingOf(color_, run, opacity_) == Hiding::Full) {
-            std::fill(pixels + run.begin, pixels + run.end, pixel_);
-            continue;
-        }
-        for (int x = run.begin; x < run.end; ++x)
-            queue.add(color_, x, color_.anchor, shareOf(run, opacity_));
-    }
+void FlatShader::row(int y, const RowCoverage& coverage) {
+    std::uint32_t* row = surface_.row(y);
+    if (opacity_ != 1 || !color_.opaque())
+        return mix(row, coverage);
+    const LinearStretch everywhere = piece_.stretch(0, coverage.extent().end, color_.anchor);
+    fillLinear(row, coverage.full, &everywhere);
+    blendLinear(row, coverage.partial, &everywhere, coverage.coverage);
+}
+
+// What is below shows through everywhere.
+void FlatShader::mix(std::uint32_t* row, const RowCoverage& coverage) const {
+    BlendQueue queue(row);
+    const auto add = [&](int x, std::uint32_t covered) {
+        queue.add(color_, x, color_.anchor, shareOf(covered, opacity_));
+    };
+    for (const PixelSpan& span : coverage.full)
+        for (int x = span.begin; x < span.end; ++x)
+            add(x, kFullCoverage);
+    for (const PixelSpan& span : coverage.partial)
+        for (int x = span.begin; x < span.end; ++x)
+            add(x, coverage.coverage[x]);
     queue.flush(color_);
 }
 

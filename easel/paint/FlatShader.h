@@ -1,22 +1,26 @@
 // Paints one color everywhere.
 #pragma once
 
+#include "easel/paint/Coverage.h"
+#include "easel/paint/LinearPiece.h"
 #include "easel/paint/RampSegments.h"
-#include "easel/paint/Rasteriser.h"
+#include "easel/paint/Surface.h"
 
 namespace easel::paint {
 
-class FlatShader : public RowSink {
+class FlatShader : public CoverageSink {
   public:
     // `color` has one segment and must outlive the shader.
     FlatShader(const SurfaceView& surface, const RampSegments& color, double opacity);
-    void row(int y, std::span<const CoverageRun> runs) override;
+    void row(int y, const RowCoverage& coverage) override;
 
   private:
+    void mix(std::uint32_t* row, const RowCoverage& coverage) const;
+
     SurfaceView surface_;
     const RampSegment& color_;
     double opacity_;
-    std::uint32_t pixel_; // where it hides what is below
+    LinearPiece piece_; // where it hides what is below
 };
 
 } // namespace easel::paint

@@ -16,34 +16,30 @@ std::uint32_t nearestUnit(double value) {
 } // namespace
 
 LinearPiece::LinearPiece(const RampSegment& segment, double perPixel)
-    : anchor_(segment.anchor), reach_(segment.reach), flat_(segment.flat() || perPixel == 0) {
-    std::array<std::uint32_t, 3> unit;
-    for (std::size_t i = 0; i < unit.size(); ++i) {
+    : anchor_(segment.anchor), reach_(segment.reach) {
+    for (std::size_t i = 0; i < start_.size(); ++i) {
         start_[i] = segment.color[i] * kUnits + kRounding;
         slope_[i] = segment.slope[i] * kUnits;
         // Where a segment is so steep that it ends within a pixel, only its first color is ever used.
         const double step = std::clamp(segment.slope[i] * perPixel, -256.0, 256.0) * kUnits;
-        unit[i] = nearestUnit(step);
-        steps_.block[i] = nearestUnit(step * kBlock);
+        steps_.pixel[i] = nearestUnit(step);
     }
-    if (flat_)
-        return;
     constexpr std::uint32_t kHalf = 1U << 15;
     for (std::uint32_t i = 0; i < kBlock; ++i) {
-        steps_.blueRed[i] = (i * unit[0] + kHalf) >> 16 | ((i * unit[2] + kHalf) & 0xFFFF0000);
-        steps_.green[i] = (i * unit[1] + kHalf) >> 16;
+        steps_.blueRed[i] =
+            (i * steps_.pixel[0] + kHalf) >> 16 | ((i * steps_.pixel[2] + kHalf) & 0xFFFF0000);
+        steps_.green[i] = (i * steps_.pixel[1] + kHalf) >> 16;
     }
 }
 
-void LinearPiece::paint(std::uint32_t* pixels, int count, int room, double parameter) const {
+LinearStretch LinearPiece::stretch(int x, int end, double parameter) const {
     const double way = std::clamp(parameter - anchor_, 0.0, reach_);
-    LinearStart start;
-    for (std::size_t i = 0; i < start.size(); ++i)
-        start[i] = static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * way));
-    if (flat_)
-        std::fill_n(pixels, count, 0xFF000000 | start[2] >> 24 << 16 | start[1] >> 24 << 8 | start[0] >> 24);
-    else
-        fillLinear(pixels, count, room, start, steps_);
+    LinearStretch stretch{end, {}, &steps_};
+    for (std::size_t i = 0; i < stretch.origin.size(); ++i)
+        stretch.origin[i] =
+            static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * way)) -
+            steps_.pixel[i] * static_cast<std::uint32_t>(x);
+    return stretch;
 }
 
 } // namespace easel::paint

@@ -1,7 +1,7 @@
 // One segment of a ramp prepared for all rows of a linear gradient.
 #pragma once
 
-#include "easel/paint/PixelKernels.h"
+#include "easel/paint/LinearKernels.h"
 #include "easel/paint/RampSegments.h"
 
 namespace easel::paint {
@@ -11,15 +11,14 @@ class LinearPiece {
     // `perPixel` is the change of the parameter from a pixel to its right neighbor.
     LinearPiece(const RampSegment& segment, double perPixel);
 
-    // Opaque pixels, the first of them with the given parameter; see fillLinear.
-    void paint(std::uint32_t* pixels, int count, int room, double parameter) const;
+    // The pixels from x to `end` of a row, the first of them with the given parameter.
+    LinearStretch stretch(int x, int end, double parameter) const;
 
   private:
     double anchor_;
     double reach_;
-    std::array<double, 3> start_; // a LinearStart at the anchor, not yet rounded
-    std::array<double, 3> slope_; // its change per unit of the parameter
-    bool flat_;
+    std::array<double, 3> start_; // the levels at the anchor, not yet rounded
+    std::array<double, 3> slope_; // their change per unit of the parameter
     LinearSteps steps_;
 };
 

@@ -12,38 +12,44 @@ namespace {
 constexpr int kEndless = std::numeric_limits<int>::max();
 } // namespace
 
-// The segments in the order in which a row meets them, which is backwards where the parameter falls to the
-// right.
+// Walks along a row. Its places are the segments in the order in which the row meets them, which is backwards
+// where the parameter falls to the right.
 class LinearShader::Track {
   public:
     Track(const LinearShader& shader, int y)
-        : shader_(shader), segments_(shader.segments_.all()), perPixel_(shader.perPixel_),
-          pixelsPerUnit_(1 / perPixel_), y_(y + 0.5), first_(shader.map_.at({0.5, y_})) {}
+        : shader_(shader), segments_(shader.segments_.all()), y_(y + 0.5),
+          first_(shader.origin_ + shader.perRow_ * y) {}
 
-    double parameter(int x) const { return first_ + perPixel_ * x; }
-    std::size_t index() const { return index_; }
+    double parameter(int x) const { return first_ + shader_.perPixel_ * x; }
+    std::size_t place() const { return place_; }
+    std::size_t index() const { return rises() ? place_ : segments_.size() - 1 - place_; }
+    // The first pixel beyond the present place.
     int end() const { return end_; }
 
+    // Goes to the place of a pixel, which is likely to be near that where the row before began.
     void enter(int x) {
-        index_ = shader_.segments_.find(perPixel_ == 0 ? first_ : parameter(x));
-        findEnd();
+        place_ = shader_.perPixel_ == 0 ? shader_.segments_.find(first_) : shader_.firstPlace_;
+        while (place_ > 0 && endOf(place_ - 1) > x)
+            --place_;
+        end_ = endOf(place_);
+        while (end_ <= x)
+            next();
     }
-    void next() {
-        index_ += perPixel_ > 0 ? 1 : static_cast<std::size_t>(-1);
-        findEnd();
-    }
+    // The next place may have no pixels.
+    void next() { end_ = endOf(++place_); }
 
   private:
-    void findEnd() {
-        const bool last = perPixel_ > 0 ? index_ + 1 == segments_.size() : index_ == 0;
-        end_ =
-            last || perPixel_ == 0 ? kEndless : pixelBeyond(segments_[perPixel_ > 0 ? index_ + 1 : index_]);
+    bool rises() const { return shader_.perPixel_ >= 0; }
+    int endOf(std::size_t place) const {
+        if (place + 1 == segments_.size() || shader_.perPixel_ == 0)
+            return kEndless;
+        return pixelBeyond(segments_[rises() ? place + 1 : segments_.size() - 1 - place]);
     }
     // The first pixel on the far side of a segment's start.
     int pixelBeyond(const RampSegment& segment) const {
         const PixelBox& clip = shader_.surface_.clip();
         const double crossing =
-            std::clamp<double>((segment.start - first_) * pixelsPerUnit_, clip.left - 1, clip.right);
+            std::clamp<double>((segment.start - first_) * shader_.pixelsPerUnit_, clip.left - 1, clip.right);
         // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
         const int whole = static_cast<int>(crossing);
         const int near = whole + (crossing > whole ? 1 : 0);
@@ -54,41 +60,82 @@ class LinearShader::Track {
         return beyond(segment, near) ? near : near + 1;
     }
     bool beyond(const RampSegment& segment, int x) const {
-        return (shader_.map_.at({x + 0.5, y_}) >= segment.start) == (perPixel_ > 0);
+        return (shader_.map_.at({x + 0.5, y_}) >= segment.start) == rises();
     }
 
     const LinearShader& shader_;
     std::span<const RampSegment> segments_;
-    double perPixel_;
-    double pixelsPerUnit_;
     double y_;
     double first_; // parameter at the centre of the row's pixel 0
-    std::size_t index_ = 0;
+    std::size_t place_ = 0;
     int end_ = 0;
 };
 
 LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, const RampSegments& segments,
-                           double opacity, std::vector<LinearPiece>& pieces)
+                           double opacity, LinearScratch& scratch)
     : surface_(surface), map_(map), segments_(segments), opacity_(opacity),
-      perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared), pieces_(pieces) {
+      perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared),
+      perRow_(dot(map.toGradient.direction({0, 1}), map.axis) / map.lengthSquared),
+      origin_(map.at({0.5, 0.5})), pixelsPerUnit_(1 / perPixel_), pieces_(scratch.pieces),
+      stretches_(scratch.stretches) {
     pieces_.clear();
-    for (const RampSegment& segment : segments_.all())
+    for (const RampSegment& segment : segments_.all()) {
         pieces_.emplace_back(segment, perPixel_);
+        (hides(segment) ? anyHides_ : anyMixes_) = true;
+    }
 }
 
-void LinearShader::row(int y, std::span<const CoverageRun> runs) {
+void LinearShader::row(int y, const RowCoverage& coverage) {
     std::uint32_t* pixels = surface_.row(y);
-    BlendQueue queue(pixels);
     Track track(*this, y);
+    if (anyHides_) {
+        layOut(track, coverage.extent());
+        if (!coverage.full.empty())
+            fillLinear(pixels, coverage.full, stretches_.data());
+        if (!coverage.partial.empty())
+            blendLinear(pixels, coverage.partial, stretches_.data(), coverage.coverage);
+    }
+    if (anyMixes_) {
+        mix(pixels, coverage.full, track, [](int) { return std::uint32_t{kFullCoverage}; });
+        mix(pixels, coverage.partial, track, [&](int x) { return coverage.coverage[x]; });
+    }
+}
+
+bool LinearShader::hides(const RampSegment& segment) const {
+    return opacity_ == 1 && segment.opaque();
+}
+
+void LinearShader::layOut(Track& track, const PixelSpan& extent) {
+    stretches_.clear();
+    track.enter(extent.begin);
+    firstPlace_ = track.place();
+    for (int x = extent.begin;; track.next()) {
+        const int end = std::min(track.end(), extent.end);
+        if (end <= x)
+            continue;
+        stretches_.push_back(pieces_[track.index()].stretch(x, end, track.parameter(x)));
+        if (!hides(segments_.all()[track.index()]))
+            stretches_.back().steps = nullptr;
+        if (end == extent.end)
+            return;
+        x = end;
+    }
+}
+
+// Pixel by pixel where what is below shows through.
+template <class CoverageOf>
+void LinearShader::mix(std::uint32_t* pixels, std::span<const PixelSpan> spans, Track& track,
+                       const CoverageOf& coverageOf) const {
+    if (spans.empty())
+        return;
+    BlendQueue queue(pixels);
     const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
-    const auto paint = [&](int begin, int end, const CoverageRun& run) {
-        if (hidingOf(present(), run, opacity_) == Hiding::Full)
-            return pieces_[track.index()].paint(pixels + begin, end - begin, run.end - begin,
-                                                track.parameter(begin));
-        for (int x = begin; x < end; ++x)
-            queue.add(present(), x, track.parameter(x), shareOf(run, opacity_));
+    const auto paint = [&](int begin, int end, const PixelSpan&) {
+        if (!hides(present()))
+            for (int x = begin; x < end; ++x)
+                queue.add(present(), x, track.parameter(x), shareOf(coverageOf(x), opacity_));
     };
-    walkSegments(runs, track, paint, [&] { queue.flush(present()); });
+    walkSegments(spans, track, paint, [&] { queue.flush(present()); });
 }
 
 } // namespace easel::paint

@@ -2,7 +2,6 @@
 #include "easel/paint/Painter.h"
 
 #include "easel/paint/FlatShader.h"
-#include "easel/paint/LinearShader.h"
 #include "easel/paint/OutlineEdges.h"
 #include "easel/paint/PointShader.h"
 #include "easel/paint/RadialShader.h"
@@ -89,7 +88,7 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
         return use(shader);
     }
     if (const auto* line = std::get_if<LinearMap>(&map); line && laidOut(*line)) {
-        LinearShader shader(surface, *line, segments_, opacity, pieces_);
+        LinearShader shader(surface, *line, segments_, opacity, linear_);
         return use(shader);
     }
     if (const auto* circles = std::get_if<RadialMap>(&map);
@@ -109,7 +108,7 @@ void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Af
     if (area.width() <= kSmallWidth && area.height() <= kSmallHeight)
         fetch(surface, area);
     withShader(surface, area, toSurface, ink, opacity,
-               [&](RowSink& shader) { rasteriser_.sweep(rule, shader); });
+               [&](CoverageSink& shader) { rasteriser_.sweep(rule, shader); });
 }
 
 void Painter::fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,
@@ -130,10 +129,10 @@ void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const
     const PixelBox& clip = surface.clip();
     if (clip.empty())
         return;
-    const CoverageRun whole[] = {{clip.left, clip.right, kFullCoverage}};
-    withShader(surface, clip, toSurface, ink, opacity, [&](RowSink& shader) {
+    const PixelSpan whole[] = {{clip.left, clip.right}};
+    withShader(surface, clip, toSurface, ink, opacity, [&](CoverageSink& shader) {
         for (int y = clip.top; y < clip.bottom; ++y)
-            shader.row(y, whole);
+            shader.row(y, {whole, {}, nullptr});
     });
 }
 

@@ -4,7 +4,7 @@
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 #include "easel/paint/Gradient.h"
-#include "easel/paint/LinearPiece.h"
+#include "easel/paint/LinearShader.h"
 #include "easel/paint/RadialPiece.h"
 #include "easel/paint/RampSegments.h"
 #include "easel/paint/Rasteriser.h"
@@ -44,7 +44,7 @@ class Painter {
 
     Rasteriser rasteriser_;
     RampSegments segments_;
-    std::vector<LinearPiece> pieces_;
+    LinearScratch linear_;
     std::vector<RadialPiece> radialPieces_;
 };
 

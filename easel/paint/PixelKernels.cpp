@@ -16,9 +16,6 @@ namespace easel::paint::HWY_NAMESPACE {
 
 #if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
 
-void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& start, const LinearSteps& steps) {
-    plain::fillLinear(out, count, room, start, steps);
-}
 void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, const RadialColors& colors) {
     plain::fillRadial<float>(out, count, room, run, colors);
 }
@@ -50,33 +47,8 @@ template <class D, class V> void StorePixels(D d, V pixels, std::uint32_t* out, 
 }
 
 // Two colors of 16 bits each lie in a 32-bit lane, and a pixel takes the high bytes of two such lanes: blue
-// and red of one, green and alpha of the other.
-void FillLinear(std::uint32_t* out, int count, int room, const LinearStart& start, const LinearSteps& steps) {
-    const hn::ScalableTag<std::uint32_t> d;
-    const hn::Repartition<std::uint16_t, decltype(d)> d16;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    const auto highBytes = hn::Set(d, 0xFF00FF00);
-    std::uint32_t blue = start[0];
-    std::uint32_t green = start[1];
-    std::uint32_t red = start[2];
-    for (int block = 0; block < count; block += kBlock) {
-        const auto blueRed = hn::BitCast(d16, hn::Set(d, (red & 0xFFFF0000) | (blue >> 16)));
-        const auto greenAlpha = hn::BitCast(d16, hn::Set(d, kOpaque | (green >> 16)));
-        for (int i = 0; i < kBlock; i += lanes) {
-            const auto even = hn::Add(blueRed, hn::BitCast(d16, hn::Load(d, steps.blueRed.data() + i)));
-            const auto odd = hn::Add(greenAlpha, hn::BitCast(d16, hn::Load(d, steps.green.data() + i)));
-            const auto pixels =
-                hn::Or(hn::BitCast(d, hn::ShiftRight<8>(even)), hn::And(hn::BitCast(d, odd), highBytes));
-            StorePixels(d, pixels, out, block + i, room);
-        }
-        blue += steps.block[0];
-        green += steps.block[1];
-        red += steps.block[2];
-    }
-}
-
-// Colors lie in lanes as in FillLinear. `waysFrom(at)` gives the whole numbers nearest to the ways of the
-// pixels from `at` on in the low halves of their lanes; the calls come in order.
+// and red of one, green and alpha of the other. `waysFrom(at)` gives the whole numbers nearest to the ways of
+// the pixels from `at` on in the low halves of their lanes; the calls come in order.
 template <class D, class Ways>
 void FillAlongWays(D d, std::uint32_t* out, int count, int room, const RadialColors& colors,
                    const Ways& waysFrom) {
@@ -172,15 +144,9 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace easel::paint {
 
-HWY_EXPORT(FillLinear);
 HWY_EXPORT(FillRadial);
 HWY_EXPORT(FillRadialFar);
 HWY_EXPORT(BlendPoints);
-
-void fillLinear(std::uint32_t* pixels, int count, int room, const LinearStart& start,
-                const LinearSteps& steps) {
-    HWY_DYNAMIC_DISPATCH(FillLinear)(pixels, count, room, start, steps);
-}
 
 void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run,
                 const RadialColors& colors) {

@@ -16,22 +16,6 @@ inline std::uint32_t nearestLevel(float level) {
     return std::bit_cast<std::uint32_t>(level + kShift) & 0xFF;
 }
 
-inline void fillLinear(std::uint32_t* pixels, int count, int, const LinearStart& start,
-                       const LinearSteps& steps) {
-    LinearStart color = start;
-    for (int block = 0; block < count; block += kBlock) {
-        for (int i = 0; i < kBlock && block + i < count; ++i) {
-            const auto at = static_cast<std::size_t>(i);
-            const std::uint32_t blue = (color[0] >> 16) + steps.blueRed[at];
-            const std::uint32_t green = (color[1] >> 16) + steps.green[at];
-            const std::uint32_t red = (color[2] >> 16) + (steps.blueRed[at] >> 16);
-            pixels[block + i] = 0xFF000000 | (red << 8 & 0xFF0000) | (green & 0xFF00) | (blue >> 8 & 0xFF);
-        }
-        for (std::size_t i = 0; i < color.size(); ++i)
-            color[i] += steps.block[i];
-    }
-}
-
 // A half of `base` plus the same half of `slope` times way / 32768, rounded.
 inline std::uint32_t halfAlong(std::uint32_t base, std::uint32_t slope, int way) {
     const int change = (static_cast<std::int16_t>(slope & 0xFFFF) * way + (1 << 14)) >> 15;

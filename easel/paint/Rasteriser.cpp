@@ -1,11 +1,12 @@
 // Exact-area coverage: edges leave signed changes of coverage in the columns they pass, a running sum turns
-// them into runs.
+// them into coverage.
 #include "easel/paint/Rasteriser.h"
 
+#include "easel/paint/CoverageKernels.h"
+
 #include <algorithm>
-#include <bit>
 #include <cmath>
-#include <cstdlib>
+#include <cstring>
 #include <utility>
 
 namespace easel::paint {
@@ -14,19 +15,6 @@ namespace {
 
 constexpr std::int64_t kUnit = kFullCoverage;
 
-int roundedInt(double value) {
-    return static_cast<int>(std::lrint(value));
-}
-
-// The covered share under a fill rule, from the sum of the windings' areas.
-int covered(std::int64_t sum, drawing::FillRule rule) {
-    const std::int64_t size = std::abs(sum);
-    if (rule == drawing::FillRule::NonZero)
-        return static_cast<int>(std::min(size, kUnit));
-    const auto folded = static_cast<int>(size % (2 * kUnit));
-    return folded > kFullCoverage ? 2 * kFullCoverage - folded : folded;
-}
-
 drawing::Point atHeight(drawing::Point from, drawing::Point to, double y) {
     return {from.x + (to.x - from.x) * ((y - from.y) / (to.y - from.y)), y};
 }
@@ -34,34 +22,32 @@ drawing::Point atHeight(drawing::Point from, drawing::Point to, double y) {
 } // namespace
 
 void Rasteriser::begin(const PixelBox& clip) {
-    clip_ = clip;
-    width_ = clip.width();
-    height_ = clip.height();
-    leftmost_ = width_;
-    rightmost_ = 0;
-    highest_ = clip.height() * kUnit;
-    lowest_ = 0;
+    clip_ = clip.empty() ? PixelBox{} : clip;
+    left_ = clip_.left;
+    right_ = clip_.right;
+    leftmost_ = right_;
+    rightmost_ = left_;
+    highest_ = clip_.bottom * kUnit;
+    lowest_ = clip_.top * kUnit;
     edges_.clear();
     active_.clear();
-    // Coverage that ends at the right border leaves its change one or two columns beyond it.
-    const auto columns = static_cast<std::size_t>(clip.width()) + 2;
-    if (cells_.size() < columns) {
-        cells_.assign(columns, 0);
-        touched_.assign(columns / 64 + 1, 0);
-    }
+    // Coverage that ends at the right border leaves its change one column beyond it.
+    changes_.reserve(clip_.right + 1);
+    coverage_.resize(changes_.columns());
+    full_.resize(changes_.columns() / kCoverageBlock + 2);
+    partial_.resize(full_.size());
 }
 
 void Rasteriser::addEdge(drawing::Point from, drawing::Point to) {
-    const drawing::Point corner{static_cast<double>(clip_.left), static_cast<double>(clip_.top)};
-    from = from - corner;
-    to = to - corner;
     if (!drawing::isFinite(from) || !drawing::isFinite(to) || from.y == to.y)
         return;
-    if (std::max(from.y, to.y) <= 0 || std::min(from.y, to.y) >= height_)
+    const double top = clip_.top;
+    const double bottom = clip_.bottom;
+    if (std::max(from.y, to.y) <= top || std::min(from.y, to.y) >= bottom)
         return;
     const drawing::Point whole[] = {from, to};
-    const double low = std::clamp(whole[0].y, 0.0, height_);
-    const double high = std::clamp(whole[1].y, 0.0, height_);
+    const double low = std::clamp(whole[0].y, top, bottom);
+    const double high = std::clamp(whole[1].y, top, bottom);
     if (low != from.y)
         from = atHeight(whole[0], whole[1], low);
     if (high != to.y)
@@ -77,13 +63,13 @@ void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
     const auto heightAt = [&](double x) {
         return std::clamp(from.y + (to.y - from.y) * ((x - from.x) / (to.x - from.x)), from.y, to.y);
     };
-    const auto beyond = [&](double x) { return x < 0 ? -1 : x > width_ ? 1 : 0; };
+    const auto beyond = [&](double x) { return x < left_ ? -1 : x > right_ ? 1 : 0; };
     if (beyond(from.x) == 0 && beyond(to.x) == 0)
         return addSloped(from, to, winding);
     double cuts[] = {from.y, from.y, to.y, to.y};
     if (beyond(from.x) != beyond(to.x)) {
-        cuts[1] = beyond(from.x) == 0 ? from.y : heightAt(from.x < 0 ? 0 : width_);
-        cuts[2] = beyond(to.x) == 0 ? to.y : heightAt(to.x < 0 ? 0 : width_);
+        cuts[1] = beyond(from.x) == 0 ? from.y : heightAt(from.x < left_ ? left_ : right_);
+        cuts[2] = beyond(to.x) == 0 ? to.y : heightAt(to.x < left_ ? left_ : right_);
     }
     const auto xAt = [&](double y) {
         return y == from.y ? from.x : y == to.y ? to.x : atHeight(from, to, y).x;
@@ -94,13 +80,13 @@ void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
         if (top >= bottom)
             continue;
         const double x = xAt((top + bottom) / 2);
-        if (x < 0)
-            addSloped({0, top}, {0, bottom}, winding);
-        else if (x > width_)
-            rightmost_ = width_;
+        if (x < left_)
+            addSloped({left_, top}, {left_, bottom}, winding);
+        else if (x > right_)
+            rightmost_ = right_;
         else
-            addSloped({std::clamp(xAt(top), 0.0, width_), top},
-                      {std::clamp(xAt(bottom), 0.0, width_), bottom}, winding);
+            addSloped({std::clamp(xAt(top), left_, right_), top},
+                      {std::clamp(xAt(bottom), left_, right_), bottom}, winding);
     }
 }
 
@@ -112,8 +98,9 @@ void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int windi
     // NOLINTEND(bugprone-incorrect-roundings)
     if (top >= bottom)
         return;
-    edges_.push_back(
-        {top, bottom, upper.x, (lower.x - upper.x) / static_cast<double>(bottom - top), winding});
+    const auto height = static_cast<double>(bottom - top);
+    const double way = lower.x - upper.x;
+    edges_.push_back({top, bottom, upper.x, way / height, winding * height / std::abs(way), winding});
     leftmost_ = std::min({leftmost_, upper.x, lower.x});
     rightmost_ = std::max({rightmost_, upper.x, lower.x});
     highest_ = std::min(highest_, top);
@@ -123,12 +110,11 @@ void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int windi
 PixelBox Rasteriser::bounds() const {
     if (edges_.empty())
         return {};
-    return {clip_.left + static_cast<int>(leftmost_), clip_.top + static_cast<int>(highest_ / kUnit),
-            clip_.left + static_cast<int>(std::ceil(rightmost_)),
-            clip_.top + static_cast<int>((lowest_ + kUnit - 1) / kUnit)};
+    return {static_cast<int>(leftmost_), static_cast<int>(highest_ / kUnit),
+            static_cast<int>(std::ceil(rightmost_)), static_cast<int>((lowest_ + kUnit - 1) / kUnit)};
 }
 
-void Rasteriser::sweep(drawing::FillRule rule, RowSink& sink) {
+void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {
     std::sort(edges_.begin(), edges_.end(), [](const Edge& a, const Edge& b) { return a.top < b.top; });
     auto next = edges_.begin();
     std::int64_t row = 0;
@@ -138,89 +124,74 @@ void Rasteriser::sweep(drawing::FillRule rule, RowSink& sink) {
         const std::int64_t rowBottom = (row + 1) * kUnit;
         for (; next != edges_.end() && next->top < rowBottom; ++next)
             active_.push_back(*next);
-        for (std::size_t i = 0; i < active_.size();) {
-            advance(active_[i], rowBottom);
-            if (active_[i].top == active_[i].bottom) {
-                active_[i] = active_.back();
-                active_.pop_back();
-            } else {
-                ++i;
-            }
-        }
-        collectRuns(rule);
-        if (!runs_.empty())
-            sink.row(clip_.top + static_cast<int>(row), runs_);
+        sweepRow(rowBottom);
+        const RowCoverage coverage = collect(rule);
+        if (!coverage.empty())
+            sink.row(static_cast<int>(row), coverage);
         ++row;
     }
 }
 
-// Takes the edge's part in this row off it and leaves its coverage in the cells.
-void Rasteriser::advance(Edge& edge, std::int64_t rowBottom) {
-    const std::int64_t bottom = std::min(edge.bottom, rowBottom);
-    const auto height = static_cast<int>(bottom - edge.top);
-    // Rounding must not carry the end out of the columns there are.
-    const double end = std::clamp(edge.x + edge.slope * height, 0.0, width_);
-    accumulate(std::min(edge.x, end), std::max(edge.x, end), height * edge.winding);
-    edge.x = end;
-    edge.top = bottom;
-}
-
-void Rasteriser::accumulate(double left, double right, int cover) {
-    const int first = static_cast<int>(left);
-    const int last = static_cast<int>(right);
-    if (last > first && right > first + 1)
-        return accumulateAcross(left, right, first, last, cover);
-    // In one column: what lies left of the edge's middle is covered only from the next column on.
-    const int later = roundedInt(((left + right) / 2 - first) * cover);
-    put(first, cover - later);
-    put(first + 1, later);
-}
-
-// Over several columns the coverage grows by a triangle, then linearly, then by what the last triangle
-// leaves.
-void Rasteriser::accumulateAcross(double left, double right, int first, int last, int cover) {
-    const double rise = cover / (right - left);
-    const double head = first + 1 - left;
-    int before = roundedInt(head * head / 2 * rise);
-    put(first, before);
-    for (int column = first + 1; column < last; ++column) {
-        const int now = roundedInt((column + 0.5 - left) * rise);
-        put(column, now - before);
-        before = now;
-    }
-    const double tail = right - last;
-    const int now = cover - roundedInt(tail * tail / 2 * rise);
-    put(last, now - before);
-    put(last + 1, cover - now);
-}
-
-// Empties the cells again while it reads them.
-void Rasteriser::collectRuns(drawing::FillRule rule) {
-    runs_.clear();
-    std::int64_t sum = 0;
-    int begin = 0;
-    const auto emitTo = [&](int end) {
-        const int coverage = covered(sum, rule);
-        if (coverage > 0 && begin < end)
-            runs_.push_back({clip_.left + begin, clip_.left + end, coverage});
-        begin = end;
-    };
-    const int width = clip_.width();
-    // Changes may lie up to two columns right of the edges.
-    const auto firstWord = static_cast<std::size_t>(leftmost_) / 64;
-    const auto lastWord = (static_cast<std::size_t>(rightmost_) + 2) / 64;
-    for (std::size_t word = firstWord; word <= lastWord; ++word) {
-        for (std::uint64_t bits = touched_[word]; bits != 0; bits &= bits - 1) {
-            const auto column = static_cast<int>(word) * 64 + std::countr_zero(bits);
-            const std::int64_t change = std::exchange(cells_[static_cast<std::size_t>(column)], 0);
-            if (change == 0)
-                continue;
-            emitTo(std::min(column, width));
-            sum += change;
+// Takes the edges' part in a row off them and leaves it in the columns.
+void Rasteriser::sweepRow(std::int64_t rowBottom) {
+    for (std::size_t i = 0; i < active_.size();) {
+        Edge& edge = active_[i];
+        const std::int64_t bottom = std::min(edge.bottom, rowBottom);
+        const auto height = static_cast<int>(bottom - edge.top);
+        // Rounding must not carry the end out of the columns there are.
+        const double end = std::clamp(edge.x + edge.slope * height, left_, right_);
+        changes_.addEdge(std::min(edge.x, end), std::max(edge.x, end), edge.rise, height * edge.winding);
+        edge.x = end;
+        edge.top = bottom;
+        if (bottom < edge.bottom) {
+            ++i;
+            continue;
         }
-        touched_[word] = 0;
+        edge = active_.back();
+        active_.pop_back();
     }
-    emitTo(width);
+}
+
+// Forgets the changes.
+RowCoverage Rasteriser::collect(drawing::FillRule rule) {
+    constexpr std::size_t kWord = TouchedBlocks::kInWord;
+    const std::size_t first = static_cast<std::size_t>(leftmost_) / kCoverageBlock / kWord * kWord;
+    const std::size_t end = ((static_cast<std::size_t>(rightmost_) + 1) / kCoverageBlock / kWord + 1) * kWord;
+    TouchedBlocks touched(changes_.touched(), first, end);
+    sumCoverage(touched, changes_.data(), coverage_.data(), rule);
+    fullCount_ = 0;
+    partialCount_ = 0;
+    int reached = clip_.left;
+    std::uint32_t covered = 0;
+    while (touched.next()) {
+        const int column = static_cast<int>(touched.block()) * kCoverageBlock;
+        addEven(reached, column, covered);
+        reached = column + kCoverageBlock;
+        covered = coverage_[static_cast<std::size_t>(reached) - 1];
+        addPartial(column, reached);
+    }
+    addEven(reached, clip_.right, covered);
+    std::memset(changes_.touched() + first, 0, end - first);
+    return {{full_.data(), fullCount_}, {partial_.data(), partialCount_}, coverage_.data()};
+}
+
+void Rasteriser::addPartial(int begin, int end) {
+    const PixelSpan span{std::max(begin, clip_.left), std::min(end, clip_.right)};
+    partial_[partialCount_] = span;
+    partialCount_ += span.begin < span.end ? 1 : 0;
+}
+
+// Pixels between blocks with changes, all covered alike.
+void Rasteriser::addEven(int begin, int end, std::uint32_t covered) {
+    full_[fullCount_] = {begin, end};
+    fullCount_ += covered == kFullCoverage && begin < end ? 1 : 0;
+    if (covered == 0 || covered == kFullCoverage)
+        return;
+    for (; begin < end; begin = (begin / kCoverageBlock + 1) * kCoverageBlock) {
+        const int blockEnd = std::min((begin / kCoverageBlock + 1) * kCoverageBlock, end);
+        std::fill(coverage_.begin() + begin, coverage_.begin() + blockEnd, covered);
+        addPartial(begin, blockEnd);
+    }
 }
 
 } // namespace easel::paint

@@ -1,9 +1,9 @@
 // Walks the runs of a row and the segments of a ramp side by side, and paints what both agree on.
 #pragma once
 
+#include "easel/paint/Coverage.h"
 #include "easel/paint/PixelKernels.h"
 #include "easel/paint/RampSegments.h"
-#include "easel/paint/Rasteriser.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,10 +15,10 @@ namespace easel::paint {
 // pixel after the present segment, and `next()` goes on to the segment that begins there, which may be empty.
 // `paint(begin, end, run)` paints pixels of one run in the present segment, and `leave()` is called at its
 // end.
-template <class Track, class Paint, class Leave>
-void walkSegments(std::span<const CoverageRun> runs, Track& track, const Paint& paint, const Leave& leave) {
+template <class Run, class Track, class Paint, class Leave>
+void walkSegments(std::span<const Run> runs, Track& track, const Paint& paint, const Leave& leave) {
     track.enter(runs.front().begin);
-    for (const CoverageRun& run : runs) {
+    for (const Run& run : runs) {
         for (int x = run.begin; x < run.end;) {
             if (track.end() <= x) {
                 leave();
@@ -41,8 +41,11 @@ inline Hiding hidingOf(const RampSegment& segment, const CoverageRun& run, doubl
     return run.coverage == kFullCoverage && opacity == 1 && segment.opaque() ? Hiding::Full : Hiding::Partial;
 }
 
+inline float shareOf(std::uint32_t coverage, double opacity) {
+    return static_cast<float>(coverage * (opacity / kFullCoverage));
+}
 inline float shareOf(const CoverageRun& run, double opacity) {
-    return static_cast<float>(run.coverage * (opacity / kFullCoverage));
+    return shareOf(static_cast<std::uint32_t>(run.coverage), opacity);
 }
 
 // Without opacity: the pixel is opaque.
