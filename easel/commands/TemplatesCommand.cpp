@@ -14,6 +14,7 @@
 
 #include <iostream>
 #include <memory>
+#include <optional>
 
 namespace easel::commands {
 
@@ -28,6 +29,7 @@ constexpr int kFailed = 2;
 struct TemplatesRequest {
     std::string preferences;
     std::string name;
+    std::optional<std::string> newName;
     std::string file;
     std::string picture;
     std::vector<std::string> files;
@@ -105,12 +107,13 @@ int exportTemplate(const TemplateShelf& shelf, const TemplatesRequest& request) 
     return 0;
 }
 
-int importOne(const TemplateShelf& shelf, const std::string& file, const std::string& givenName) {
+int importOne(const TemplateShelf& shelf, const std::string& file,
+              const std::optional<std::string>& givenName) {
     const auto read = exchange::importFile(file);
     if (const auto* error = std::get_if<FileError>(&read))
         return fail(*error);
     const auto& imported = std::get<exchange::ImportedGradient>(read);
-    const std::string name = givenName.empty() ? fs::path(file).stem().string() : givenName;
+    const std::string name = givenName.value_or(fs::path(file).stem().string());
     const auto saved = shelf.save(name, imported.gradient);
     if (const auto* error = std::get_if<FileError>(&saved))
         return fail(*error);
@@ -124,11 +127,11 @@ int importOne(const TemplateShelf& shelf, const std::string& file, const std::st
 
 // What can be imported is, whatever becomes of the rest.
 int import(const TemplateShelf& shelf, const TemplatesRequest& request) {
-    if (!request.name.empty() && request.files.size() > 1)
-        return fail({request.name, "several files cannot have one name", {}});
+    if (request.newName && request.files.size() > 1)
+        return fail({*request.newName, "several files cannot have one name", {}});
     int exitCode = 0;
     for (const std::string& file : request.files)
-        exitCode = std::max(exitCode, importOne(shelf, file, request.name));
+        exitCode = std::max(exitCode, importOne(shelf, file, request.newName));
     return exitCode;
 }
 
@@ -184,7 +187,7 @@ void addTemplatesCommand(CLI::App& app, int& exitCode) {
     CLI::App* imported =
         addAction(*command, "import", "Make templates of gradients in files", request, exitCode, import);
     imported->add_option("FILE", request->files, "The files; " + formats)->required();
-    imported->add_option("--name", request->name,
+    imported->add_option("--name", request->newName,
                          "The template's name (default: the file's, without its ending)");
     imported->footer(
         "A template that is replaced goes to the trash. What a template cannot hold is said in a line on "

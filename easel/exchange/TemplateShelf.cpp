@@ -42,12 +42,19 @@ OrFileError<CGradientData> TemplateShelf::load(const std::string& name) const {
 
 OrFileError<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
                                                       const CGradientData& gradient) const {
+    if (withoutEnding(name).empty())
+        return FileError{R"("")", "a template's name cannot be empty", {}};
     const auto encoded = toolbox::toMacRoman(withoutEnding(name) + kEnding);
-    if (encoded.outcome != toolbox::EncodingOutcome::Converted)
+    if (encoded.outcome == toolbox::EncodingOutcome::NotUtf8)
+        return FileError{name, "the name is not UTF-8", {}};
+    if (encoded.outcome == toolbox::EncodingOutcome::NotInEncoding)
         return FileError{name, "the host's encoding has no character " + encoded.culprit, {}};
     const auto disk = toolbox::nameOnDisk(encoded.text);
-    if (!disk || withoutEnding(name).empty())
-        return FileError{name, "it cannot be the name of a template: at most 59 characters, and no ':'", {}};
+    if (!disk)
+        return FileError{
+            name,
+            "it cannot be the name of a template: at most 59 characters, no ':' and no '._' in front",
+            {}};
     const auto header = templateHeader(gradient);
     if (!header)
         return FileError{name, "a gradient without colors cannot be kept", {}};
@@ -71,10 +78,16 @@ toolbox::FileOutcome TemplateShelf::remove(const std::string& name) const {
 }
 
 OrFileError<FilePair> TemplateShelf::find(const std::string& name) const {
-    for (const auto& wanted : {name, withoutEnding(name) + kEnding})
-        for (const auto& file : toolbox::listFolder(folder_).files)
-            if (file.info.type == kTemplateType && toolbox::fromMacRoman(file.hostName) == wanted)
+    const auto files = toolbox::listFolder(folder_).files;
+    for (const auto& wanted : {name, withoutEnding(name) + kEnding}) {
+        // Composed or decomposed, a name is the same in the host's encoding.
+        const auto encoded = toolbox::toMacRoman(wanted);
+        if (encoded.outcome != toolbox::EncodingOutcome::Converted)
+            continue;
+        for (const auto& file : files)
+            if (file.info.type == kTemplateType && file.hostName == encoded.text)
                 return file.file;
+    }
     return FileError{name, "there is no template of that name in " + folder_.string(),
                      std::make_error_code(std::errc::no_such_file_or_directory)};
 }

@@ -131,15 +131,32 @@ TEST_F(TemplatesCommand, ErrorsNameTheFileAndTheReason) {
 
 TEST_F(TemplatesCommand, NamesThatNoTemplateCanHaveAreRefusedBeforeAnythingIsWritten) {
     writeContent(player_.folder() / "a.css", "linear-gradient(red, blue)");
-    for (const char* name : {"a:b", "._x", "''", "'\u65E5'"}) {
+    const std::pair<const char*, const char*> wrong[] = {
+        {"a:b", "a:b: it cannot be the name of a template"},
+        {"._x", "._x: it cannot be the name of a template"},
+        {"''", "a template's name cannot be empty"},
+        {"'\u65E5'", "the host's encoding has no character \u65E5"},
+        {"$(printf '\\377')", "the name is not UTF-8"},
+    };
+    for (const auto& [name, message] : wrong) {
         const auto ran = run(std::string("import a.css --name ") + name);
-        if (std::string(name) == "''")
-            EXPECT_EQ(run("list").out, "a\n") << "no name means the file's";
-        else
-            EXPECT_EQ(ran.exitCode, 2) << name;
+        EXPECT_EQ(ran.exitCode, 2) << name;
+        EXPECT_THAT(ran.err, HasSubstr(message));
+        EXPECT_FALSE(fs::exists(templateFolder(player_))) << name;
     }
     EXPECT_EQ(run("import a.css --name a/b").exitCode, 0);
     EXPECT_TRUE(fs::exists(templateFolder(player_) / "a:b.GRD"));
+}
+
+TEST_F(TemplatesCommand, ADecomposedNameIsTheSameAsAComposedOne) {
+    writeContent(player_.folder() / "a.css", "linear-gradient(red, blue)");
+    EXPECT_EQ(run("import a.css --name 'Cafe\u0301'").exitCode, 0);
+    EXPECT_EQ(run("list").out, "Caf\u00E9\n");
+    EXPECT_EQ(run("show 'Cafe\u0301'").exitCode, 0);
+    EXPECT_EQ(run("show 'Caf\u00E9'").exitCode, 0);
+    EXPECT_EQ(run("export 'Cafe\u0301.GRD' out.css").exitCode, 0);
+    EXPECT_EQ(run("delete 'Cafe\u0301'").exitCode, 0);
+    EXPECT_EQ(run("list").out, "");
 }
 
 TEST_F(TemplatesCommand, HelpIsCompleteAndAMissingActionIsMisuse) {

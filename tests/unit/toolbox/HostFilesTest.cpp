@@ -212,6 +212,27 @@ TEST_F(HostFilesTest, WhatACrashLeftIsClearedWhenTheFolderIsFoundNextTime) {
     EXPECT_EQ(tests::entriesIn(folder()), 0U);
 }
 
+TEST_F(HostFilesTest, OfTwoProgramsOnOneFolderTheLaterSaveWinsAndBothSeeIt) {
+    HostFiles other(StoragePlaces::within(base_ / "prefs"), [](const FileError&) {});
+    other.findSecondaryFolder("Templates", FolderCreation::IfMissing);
+    FileSpec placeholder;
+    other.resolve(-1, 2, ":Templates:JUNK", placeholder);
+    // The other one has been asked to replace the file when this one does.
+    const FileSpec spec{placeholder.volume, placeholder.folder, "a"};
+    save("a", "first");
+    other.remove(spec);
+    other.create(spec, kInfo);
+    auto opened = std::get<OpenedFile>(other.open(spec, Access::Write));
+    opened.header = tests::headerWith("the other's");
+    save("a", "second");
+    EXPECT_EQ(keptIn(folder(), "a"), "second");
+    EXPECT_FALSE(other.write(opened));
+    EXPECT_EQ(keptIn(folder(), "a"), "the other's");
+    EXPECT_THAT(listed(), ElementsAre("a"));
+    EXPECT_EQ(other.list(placeholder.volume, placeholder.folder).size(), 1U);
+    EXPECT_EQ(keptIn(base_ / "prefs/Trash/files", "a.2"), "second");
+}
+
 TEST_F(HostFilesTest, AListingShowsEveryChangeAtOnce) {
     for (int i = 0; i < 20; ++i) {
         const std::string name(1, static_cast<char>('a' + i));
