@@ -3,6 +3,7 @@
 
 #include "easel/paint/SegmentWalk.h"
 
+#include <cmath>
 #include <limits>
 
 namespace easel::paint {
@@ -10,6 +11,7 @@ namespace easel::paint {
 namespace {
 
 constexpr int kEndless = std::numeric_limits<int>::max();
+
 } // namespace
 
 // Walks along a row. Its places are the segments in the order in which the row meets them, which is backwards
@@ -28,7 +30,12 @@ class LinearShader::Track {
 
     // Goes to the place of a pixel, which is likely to be near that where the row before began.
     void enter(int x) {
-        place_ = shader_.perPixel_ == 0 ? shader_.segments_.find(first_) : shader_.firstPlace_;
+        if (level()) {
+            place_ = shader_.segments_.find(first_);
+            end_ = kEndless;
+            return;
+        }
+        place_ = shader_.firstPlace_;
         while (place_ > 0 && endOf(place_ - 1) > x)
             --place_;
         end_ = endOf(place_);
@@ -39,9 +46,11 @@ class LinearShader::Track {
     void next() { end_ = endOf(++place_); }
 
   private:
+    // The whole row has one color.
+    bool level() const { return !std::isfinite(shader_.pixelsPerUnit_); }
     bool rises() const { return shader_.perPixel_ >= 0; }
     int endOf(std::size_t place) const {
-        if (place + 1 == segments_.size() || shader_.perPixel_ == 0)
+        if (place + 1 == segments_.size())
             return kEndless;
         return pixelBeyond(segments_[rises() ? place + 1 : segments_.size() - 1 - place]);
     }

@@ -101,6 +101,23 @@ TEST(GradientExactness, LinearPixelsRoundTheExactColor) {
     }
 }
 
+TEST(GradientExactness, LinesAlongTheAxesAreExactLikeAnyOther) {
+    Dice dice(6);
+    for (const auto& [start, end] : {std::pair<drawing::Point, drawing::Point>{{0, 2}, {0, 45}},
+                                     {{3, 45}, {3, 2}},
+                                     {{5, 7}, {60, 7}},
+                                     {{60, 0}, {5, 0}}})
+        for (const Opacity opacity : {Opacity::Opaque, Opacity::Mixed})
+            for (const Spread spread : {Spread::Pad, Spread::Reflect, Spread::Repeat}) {
+                const paint::Gradient gradient{drawing::LinearGeometry{start, end},
+                                               {},
+                                               spread,
+                                               paint::Ramp(randomStops(dice, 6, opacity))};
+                EXPECT_LE(largestError(gradient, 70, 50, 0xFF336699), kLargestError)
+                    << "from " << start.x << ", " << start.y;
+            }
+}
+
 TEST(GradientExactness, RadialPixelsRoundTheExactColorWhereverTheStartCircleLies) {
     Dice dice(2);
     for (int i = 0; i < 300; ++i) {
