@@ -118,6 +118,31 @@ TEST(GradientExactness, LinesAlongTheAxesAreExactLikeAnyOther) {
             }
 }
 
+// As people draw: corners, centres and stops on a grid, where crossings fall exactly on pixels.
+TEST(GradientExactness, RoundNumbersAreExactLikeAnyOther) {
+    Dice dice(7);
+    const auto onGrid = [&](double step, int most) { return step * dice.whole(0, most); };
+    for (int i = 0; i < 400; ++i) {
+        auto stops = randomStops(dice, dice.whole(2, 6), dice.coin() ? Opacity::Opaque : Opacity::Mixed);
+        for (auto& stop : stops)
+            stop.position = std::nearbyint(stop.position * 8) / 8;
+        const auto point = [&] { return drawing::Point{onGrid(0.5, 140), onGrid(0.5, 60)}; };
+        // A quarter keeps pixels off the lines beyond which no circle passes.
+        const double radius = 4.25 + onGrid(1, 40);
+        drawing::RadialGeometry circles{point(), onGrid(1, 4), point(), radius};
+        if (i % 3 == 0)
+            circles.focus = circles.centre;
+        if (i % 3 == 1)
+            circles = {circles.centre + drawing::Point{radius, 0}, 0, circles.centre, radius};
+        const auto spread = static_cast<Spread>(dice.whole(0, 2));
+        const paint::Gradient linear{
+            drawing::LinearGeometry{point(), point()}, {}, spread, paint::Ramp(stops)};
+        const paint::Gradient radial{circles, {}, spread, paint::Ramp(stops)};
+        EXPECT_LE(largestError(linear, 70, 30, 0xFF336699), kLargestError) << "linear " << i;
+        EXPECT_LE(largestError(radial, 70, 30, 0xFF336699), kLargestError) << "radial " << i;
+    }
+}
+
 TEST(GradientExactness, RadialPixelsRoundTheExactColorWhereverTheStartCircleLies) {
     Dice dice(2);
     for (int i = 0; i < 300; ++i) {
