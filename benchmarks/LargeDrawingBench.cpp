@@ -100,8 +100,8 @@ void runLargeDrawings(Report& report) {
         const double memory = heapBytes() - before - static_cast<double>(bytes.size());
         double pathBytes = 0;
         drawing->forEach([&](const drawing::ObjectPtr& object) {
-            pathBytes += static_cast<double>(object->outline->points().capacity() * sizeof(drawing::Point) +
-                                             object->outline->verbs().capacity());
+            pathBytes += static_cast<double>(object->outline.points().size() * sizeof(drawing::Point) +
+                                             object->outline.verbs().size());
         });
         paint::Surface surface(3200, 1800);
         const double paint = secondsOf([&] { paint::renderDrawing(*drawing, surface.view(), {}, 1); });

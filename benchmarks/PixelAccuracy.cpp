@@ -109,7 +109,7 @@ double coverageError(const drawing::Path& polygon, int top, int bottom) {
     surface.clear(0xFF000000);
     paint::Painter().fill(surface.view(), polygon, drawing::FillRule::NonZero, {},
                           drawing::ColorPaint{{65535, 65535, 65535}, 1});
-    const std::vector<Point>& points = polygon.points();
+    const std::span<const Point> points = polygon.points();
     double largest = 0;
     for (int y = top; y < bottom; ++y) {
         std::vector<double> area(kWidth);

@@ -10,7 +10,7 @@ constexpr std::size_t kLargestBlock = 256;
 } // namespace
 
 bool DisplayList::holds(Slot slot) const {
-    return slot < entries_.size() && entries_[slot].block != kNoBlock;
+    return slot < blockOf_.size() && blockOf_[slot] != kNoBlock;
 }
 
 DisplayList::Place DisplayList::placeOf(std::size_t index) const {
@@ -26,14 +26,15 @@ Slot DisplayList::slotAt(std::size_t index) const {
 }
 
 std::size_t DisplayList::indexOf(Slot slot) const {
-    const Block& block = blocks_[entries_[slot].block];
+    const Block& block = blocks_[blockOf_[slot]];
     const auto found = std::find(block.slots.begin(), block.slots.end(), slot);
     return block.begin + static_cast<std::size_t>(found - block.slots.begin());
 }
 
 Slot DisplayList::newSlot() {
-    entries_.emplace_back();
-    return static_cast<Slot>(entries_.size() - 1);
+    objects_.emplace_back();
+    blockOf_.push_back(kNoBlock);
+    return static_cast<Slot>(objects_.size() - 1);
 }
 
 void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
@@ -42,7 +43,8 @@ void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
     const Place place = placeOf(index);
     std::vector<Slot>& slots = blocks_[place.block].slots;
     slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(place.position), slot);
-    entries_[slot] = {std::move(object), static_cast<std::uint32_t>(place.block)};
+    objects_[slot] = std::move(object);
+    blockOf_[slot] = static_cast<std::uint32_t>(place.block);
     ++size_;
     if (slots.size() > kLargestBlock)
         split(place.block);
@@ -50,32 +52,32 @@ void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
 }
 
 ObjectPtr DisplayList::erase(Slot slot) {
-    Entry& entry = entries_[slot];
-    const std::size_t block = entry.block;
+    const std::size_t block = std::exchange(blockOf_[slot], kNoBlock);
     std::vector<Slot>& slots = blocks_[block].slots;
     slots.erase(std::find(slots.begin(), slots.end(), slot));
-    entry.block = kNoBlock;
     --size_;
     if (slots.empty()) {
         blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(block));
         renumber(block);
     }
     recount(block);
-    return std::exchange(entry.object, nullptr);
+    return std::exchange(objects_[slot], nullptr);
 }
 
 ObjectPtr DisplayList::replace(Slot slot, ObjectPtr object) {
-    return std::exchange(entries_[slot].object, std::move(object));
+    return std::exchange(objects_[slot], std::move(object));
 }
 
 void DisplayList::append(std::vector<ObjectPtr> objects) {
-    entries_.reserve(entries_.size() + objects.size());
+    objects_.reserve(objects_.size() + objects.size());
+    blockOf_.reserve(blockOf_.size() + objects.size());
     for (ObjectPtr& object : objects) {
         if (blocks_.empty() || blocks_.back().slots.size() >= kLargestBlock / 2)
             blocks_.emplace_back();
         const Slot slot = newSlot();
         blocks_.back().slots.push_back(slot);
-        entries_[slot] = {std::move(object), static_cast<std::uint32_t>(blocks_.size() - 1)};
+        objects_[slot] = std::move(object);
+        blockOf_[slot] = static_cast<std::uint32_t>(blocks_.size() - 1);
     }
     size_ += objects.size();
     recount(0);
@@ -94,7 +96,7 @@ void DisplayList::split(std::size_t block) {
 void DisplayList::renumber(std::size_t firstBlock) {
     for (std::size_t i = firstBlock; i < blocks_.size(); ++i)
         for (const Slot slot : blocks_[i].slots)
-            entries_[slot].block = static_cast<std::uint32_t>(i);
+            blockOf_[slot] = static_cast<std::uint32_t>(i);
 }
 
 void DisplayList::recount(std::size_t firstBlock) {

@@ -23,7 +23,7 @@ class DisplayList {
     Slot slotAt(std::size_t index) const;
     // The slot is in the list.
     std::size_t indexOf(Slot slot) const;
-    const ObjectPtr& object(Slot slot) const { return entries_[slot].object; }
+    const ObjectPtr& object(Slot slot) const { return objects_[slot]; }
 
     // Gives out a slot that is in no list yet.
     Slot newSlot();
@@ -40,7 +40,7 @@ class DisplayList {
     template <class Visitor> void forEach(Visitor visit) const {
         for (const Block& block : blocks_)
             for (const Slot slot : block.slots)
-                visit(slot, entries_[slot].object);
+                visit(slot, objects_[slot]);
     }
 
   private:
@@ -49,10 +49,6 @@ class DisplayList {
     struct Block {
         std::size_t begin = 0; // the index of its first entry
         std::vector<Slot> slots;
-    };
-    struct Entry {
-        ObjectPtr object;
-        std::uint32_t block = kNoBlock;
     };
     struct Place {
         std::size_t block = 0;
@@ -66,7 +62,8 @@ class DisplayList {
     void recount(std::size_t firstBlock);
 
     std::vector<Block> blocks_;
-    std::vector<Entry> entries_; // by slot
+    std::vector<ObjectPtr> objects_;     // by slot
+    std::vector<std::uint32_t> blockOf_; // by slot
     std::size_t size_ = 0;
 };
 

@@ -31,7 +31,7 @@ std::optional<std::size_t> Drawing::indexOfId(std::string_view id) const {
     std::size_t index = 0;
     std::optional<std::size_t> found;
     list_.forEach([&](Slot, const ObjectPtr& object) {
-        if (!found && object->id == id)
+        if (!found && object->id.text() == id)
             found = index;
         ++index;
     });

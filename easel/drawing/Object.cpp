@@ -50,18 +50,15 @@ bool Object::showsGradient() const {
 bool Object::hitBy(Point p, double reach) const {
     if (!bounds.grownBy(reach).contains(p))
         return false;
-    return contains(*outline, fillRule, p) || outlineWithin(*outline, p, reach);
+    return contains(outline, fillRule, p) || outlineWithin(outline, p, reach);
 }
 
 Box Object::paintBounds() const {
-    return bounds.grownBy(strokeReach(styleOf(*this)) * transform.largestScale());
+    return bounds.grownBy(strokeReach(styleOf(*this)) * unitsOf(*this).largestScale());
 }
 
 ObjectPtr sealed(Object object) {
-    static const auto kNoOutline = std::make_shared<const Path>();
-    if (!object.outline)
-        object.outline = kNoOutline;
-    object.bounds = object.outline->bounds();
+    object.bounds = object.outline.bounds();
     return std::make_shared<const Object>(std::move(object));
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "easel/drawing/Group.h"
+#include "easel/drawing/Name.h"
 #include "easel/drawing/ObjectGradient.h"
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
@@ -18,7 +19,7 @@
 namespace easel::drawing {
 
 // Values are the kind numbers that plug-ins see; 0 stands for "no object" there.
-enum class Kind : std::uint16_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line };
+enum class Kind : std::uint8_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line };
 
 inline constexpr Kind kAllKinds[] = {Kind::Rect, Kind::Ellipse,  Kind::Polygon,
                                      Kind::Path, Kind::Polyline, Kind::Line};
@@ -68,14 +69,15 @@ struct Object {
     FillRule fillRule = FillRule::NonZero;
     FillPattern fillPattern = FillPattern::None;
     FillOrigin fillOrigin = FillOrigin::File;
-    std::string id;                      // the element's id, UTF-8; may be empty
-    std::shared_ptr<const Path> outline; // in drawing coordinates; never null in a drawing
-    Affine transform;                    // from the object's own units to the drawing: the shape of its pen
-    std::shared_ptr<const Style> style;  // null: not stroked, opaque
-    Paint fill;                          // what fills the object when it has no gradient
-    ObjectGradient gradient;             // empty: none
-    GroupPtr group;                      // innermost layer; null: the drawing itself
     ElementSpan source;
+    Name id;      // the element's id, UTF-8
+    Path outline; // in drawing coordinates
+    std::shared_ptr<const Affine>
+        units;                          // from the object's own units to the drawing; null: they are the same
+    std::shared_ptr<const Style> style; // null: not stroked, opaque
+    Paint fill;                         // what fills the object when it has no gradient
+    ObjectGradient gradient;            // empty: none
+    GroupPtr group;                     // innermost layer; null: the drawing itself
 
     // Tight box of the outline, without stroke. Kept by `sealed`.
     Box bounds;
@@ -93,13 +95,18 @@ struct Object {
 
 using ObjectPtr = std::shared_ptr<const Object>;
 
-// Makes an object fit for a drawing: fills in what is missing and computes its bounds.
+// Makes an object fit for a drawing: computes its bounds.
 ObjectPtr sealed(Object object);
 
 // The style that a null style stands for.
 const Style& plainStyle();
 inline const Style& styleOf(const Object& object) {
     return object.style ? *object.style : plainStyle();
+}
+
+// The map from the object's own units to the drawing, which is the shape of its pen.
+inline Affine unitsOf(const Object& object) {
+    return object.units ? *object.units : Affine();
 }
 
 } // namespace easel::drawing

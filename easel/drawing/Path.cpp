@@ -2,6 +2,7 @@
 
 #include "easel/drawing/Segments.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace easel::drawing {
@@ -18,26 +19,25 @@ std::ptrdiff_t pointCount(Verb verb) {
 
 void Path::moveTo(Point p) {
     // Of several moves in a row only the last counts.
-    if (!verbs_.empty() && verbs_.back() == Verb::Move) {
-        points_.back() = p;
-    } else {
-        verbs_.push_back(Verb::Move);
-        points_.push_back(p);
-    }
+    if (!empty() && verbs().back() == Verb::Move)
+        memory_.ownPoints().back() = p;
+    else
+        memory_.add(Verb::Move, {p});
 }
 
 void Path::beginSegment() {
-    if (verbs_.empty())
+    if (empty())
         moveTo({});
-    else if (verbs_.back() == Verb::Close)
+    else if (verbs().back() == Verb::Close)
         moveTo(subpathStart());
 }
 
 Point Path::subpathStart() const {
-    const Point* start = points_.data() + points_.size();
-    for (std::size_t i = verbs_.size(); i-- > 0;) {
-        start -= pointCount(verbs_[i]);
-        if (verbs_[i] == Verb::Move)
+    const VerbList all = verbs();
+    const Point* start = points().data() + points().size();
+    for (std::size_t i = all.size(); i-- > 0;) {
+        start -= pointCount(all[i]);
+        if (all[i] == Verb::Move)
             break;
     }
     return *start;
@@ -45,39 +45,41 @@ Point Path::subpathStart() const {
 
 void Path::lineTo(Point p) {
     beginSegment();
-    verbs_.push_back(Verb::Line);
-    points_.push_back(p);
+    memory_.add(Verb::Line, {p});
 }
 
 void Path::cubicTo(Point control1, Point control2, Point end) {
     beginSegment();
-    verbs_.push_back(Verb::Cubic);
-    points_.insert(points_.end(), {control1, control2, end});
+    memory_.add(Verb::Cubic, {control1, control2, end});
 }
 
 void Path::close() {
-    if (!verbs_.empty() && verbs_.back() != Verb::Close)
-        verbs_.push_back(Verb::Close);
+    if (!empty() && verbs().back() != Verb::Close)
+        memory_.add(Verb::Close, {});
 }
 
 void Path::reserve(std::size_t verbs, std::size_t points) {
-    verbs_.reserve(verbs);
-    points_.reserve(points);
+    memory_.setRoom(verbs, points);
 }
 
 void Path::shrinkToFit() {
-    verbs_.shrink_to_fit();
-    points_.shrink_to_fit();
+    memory_.setRoom(0, 0);
 }
 
 bool Path::closed() const {
-    for (std::size_t i = 0; i < verbs_.size(); ++i) {
-        const bool segment = verbs_[i] == Verb::Line || verbs_[i] == Verb::Cubic;
-        const bool last = i + 1 == verbs_.size() || verbs_[i + 1] == Verb::Move;
+    const VerbList all = verbs();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const bool segment = all[i] == Verb::Line || all[i] == Verb::Cubic;
+        const bool last = i + 1 == all.size() || all[i + 1] == Verb::Move;
         if (segment && last)
             return false;
     }
     return true;
+}
+
+bool operator==(const Path& a, const Path& b) {
+    return std::equal(a.verbs().begin(), a.verbs().end(), b.verbs().begin(), b.verbs().end()) &&
+           std::equal(a.points().begin(), a.points().end(), b.points().begin(), b.points().end());
 }
 
 namespace {
@@ -124,14 +126,14 @@ Box Path::bounds() const {
     walkSegments(*this, sink);
     // A path of moves alone still is somewhere.
     if (sink.box.empty())
-        for (const Point p : points_)
+        for (const Point p : points())
             sink.addFinite(p);
     return sink.box;
 }
 
 Path Path::transformed(const Affine& map) const {
     Path result = *this;
-    for (Point& p : result.points_)
+    for (Point& p : result.memory_.ownPoints())
         p = map(p);
     return result;
 }

@@ -2,18 +2,17 @@
 // inside.
 #pragma once
 
-#include "easel/drawing/Geometry.h"
+#include "easel/drawing/PathMemory.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace easel::drawing {
 
 enum class FillRule : std::uint8_t { NonZero, EvenOdd };
 
-// Move and Line take one point, Cubic three (two controls, then the end), Close none.
-enum class Verb : std::uint8_t { Move, Line, Cubic, Close };
-
+// Copies share their memory until one of them changes.
 class Path {
   public:
     void moveTo(Point p);
@@ -21,12 +20,13 @@ class Path {
     void lineTo(Point p);
     void cubicTo(Point control1, Point control2, Point end);
     void close();
+    // Room for so many verbs and points in all.
     void reserve(std::size_t verbs, std::size_t points);
     void shrinkToFit();
 
-    bool empty() const { return verbs_.empty(); }
-    const std::vector<Verb>& verbs() const { return verbs_; }
-    const std::vector<Point>& points() const { return points_; }
+    bool empty() const { return verbs().empty(); }
+    VerbList verbs() const { return memory_.verbs(); }
+    std::span<const Point> points() const { return memory_.points(); }
     // True when every subpath that has a segment ends with a close.
     bool closed() const;
 
@@ -35,14 +35,13 @@ class Path {
     Box bounds() const;
     Path transformed(const Affine& map) const;
 
-    friend bool operator==(const Path&, const Path&) = default;
+    friend bool operator==(const Path& a, const Path& b);
 
   private:
     void beginSegment();
     Point subpathStart() const;
 
-    std::vector<Verb> verbs_;
-    std::vector<Point> points_;
+    PathMemory memory_;
 };
 
 // One subpath as a polygon. `closed` tells whether the outline returns to its first point; a fill closes it

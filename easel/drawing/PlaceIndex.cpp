@@ -3,18 +3,38 @@
 #include <boost/geometry.hpp>
 #include <boost/geometry/index/rtree.hpp>
 
+#include <algorithm>
+#include <cmath>
 #include <iterator>
+#include <limits>
 
 namespace easel::drawing {
 
 namespace {
 namespace bg = boost::geometry;
-using TreePoint = bg::model::point<double, 2, bg::cs::cartesian>;
+// Single precision takes half the memory; boxes grow a little to what it can hold.
+using TreePoint = bg::model::point<float, 2, bg::cs::cartesian>;
 using TreeBox = bg::model::box<TreePoint>;
 using TreeValue = std::pair<TreeBox, Slot>;
 
+constexpr float kFarthest = std::numeric_limits<float>::max();
+
+float narrowed(double value) {
+    return static_cast<float>(std::clamp<double>(value, -kFarthest, kFarthest));
+}
+
+float atMost(double value) {
+    const float near = narrowed(value);
+    return near > value ? std::nextafter(near, -kFarthest) : near;
+}
+
+float atLeast(double value) {
+    const float near = narrowed(value);
+    return near < value ? std::nextafter(near, kFarthest) : near;
+}
+
 TreeBox treeBox(const Box& box) {
-    return {{box.left, box.top}, {box.right, box.bottom}};
+    return {{atMost(box.left), atMost(box.top)}, {atLeast(box.right), atLeast(box.bottom)}};
 }
 } // namespace
 

@@ -1,4 +1,4 @@
-// Where the objects of a drawing are: finds those whose box meets an area.
+// Where the objects of a drawing are: finds those whose box meets an area, and a few that it just misses.
 #pragma once
 
 #include "easel/drawing/DisplayList.h"

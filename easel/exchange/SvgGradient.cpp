@@ -54,10 +54,10 @@ ImportedGradient nearest(const ForeignGradient& foreign, const drawing::Object& 
 
 std::optional<ImportedGradient> gradientOf(const drawing::Object& object) {
     if (const CGradient* const own = drawing::gradientIn(object.gradient))
-        return ImportedGradient{own->GetGradientData(), object.id, {}};
+        return ImportedGradient{own->GetGradientData(), object.id.text(), {}};
     if (const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill)) {
         auto result = nearest(**foreign, object);
-        result.name = object.id;
+        result.name = object.id.text();
         return result;
     }
     return std::nullopt;
@@ -81,11 +81,11 @@ ImportOutcome readSvg(const std::filesystem::path& file) {
 }
 
 drawing::Drawing squareWith(const CGradientData& gradient, double size) {
-    auto outline = std::make_shared<drawing::Path>();
-    outline->moveTo({0, 0});
+    drawing::Path outline;
+    outline.moveTo({0, 0});
     for (const Point corner : {Point{size, 0}, Point{size, size}, Point{0, size}})
-        outline->lineTo(corner);
-    outline->close();
+        outline.lineTo(corner);
+    outline.close();
     drawing::Object square;
     square.kind = drawing::Kind::Rect;
     square.id = "gradient";

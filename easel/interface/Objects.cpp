@@ -117,13 +117,13 @@ void ObjToPoly(TessObject const* object, TessObject& polygon, double tolerance) 
     const drawing::Object* source = objectOf(object);
     if (!source || !(tolerance > 0))
         return;
-    drawing::Path outline = polygonOutline(*source->outline, tolerance);
+    drawing::Path outline = polygonOutline(source->outline, tolerance);
     if (outline.empty())
         return;
     drawing::Object flat;
     flat.kind = drawing::Kind::Polygon;
     flat.fillRule = source->fillRule;
-    flat.outline = std::make_shared<const drawing::Path>(std::move(outline));
+    flat.outline = std::move(outline);
     polygon = TessObject(std::make_shared<HostObject>(HostObject{sealed(std::move(flat))}));
 }
 

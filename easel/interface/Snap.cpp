@@ -25,9 +25,9 @@ std::optional<drawing::Point> nearestCorner(const DrawingWindow& window, drawing
     };
     const drawing::Box area = drawing::Box{point.x, point.y, point.x, point.y}.grownBy(best);
     for (const drawing::ObjectPtr& object : window.drawing().objectsWithin(area)) {
-        const auto& points = object->outline->points();
+        const auto& points = object->outline.points();
         std::size_t next = 0;
-        for (const drawing::Verb verb : object->outline->verbs()) {
+        for (const drawing::Verb verb : object->outline.verbs()) {
             if (verb == drawing::Verb::Close)
                 continue;
             next += verb == drawing::Verb::Cubic ? 3 : 1;

@@ -220,7 +220,7 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
     if (!ink.visible())
         return;
     setInk(ink.ink(), opacity * opacityOf(drawing::styleOf(object).fillOpacity));
-    addPath(*object.outline);
+    addPath(object.outline);
     cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
     cairo_fill(cairo_);
 }
@@ -228,13 +228,14 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
 void CairoPainter::paintStroke(const Object& object, double opacity) {
     const HeldInk ink = HeldInk::ofStroke(object);
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
-    if (!ink.visible() || !object.transform.invertible() || !std::isfinite(stroke.width))
+    const drawing::Affine units = drawing::unitsOf(object);
+    if (!ink.visible() || !units.invertible() || !std::isfinite(stroke.width))
         return;
     const Saved saved(cairo_);
     setInk(ink.ink(), opacity * opacityOf(stroke.opacity));
-    addPath(*object.outline);
+    addPath(object.outline);
     // The path is already fixed in the page's space; what is changed now is the shape of the pen.
-    const cairo_matrix_t own = matrixOf(object.transform);
+    const cairo_matrix_t own = matrixOf(units);
     cairo_transform(cairo_, &own);
     cairo_set_line_width(cairo_, stroke.width);
     cairo_set_line_join(cairo_, joinOf(stroke.join));

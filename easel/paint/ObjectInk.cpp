@@ -32,7 +32,7 @@ HeldInk HeldInk::ofFill(const drawing::Object& object) {
     if (!object.showsGradient())
         return HeldInk(fillOf(object));
     const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
-    return HeldInk(gradientOf(drawing::fitGradient(record, *object.outline)));
+    return HeldInk(gradientOf(drawing::fitGradient(record, object.outline)));
 }
 
 HeldInk HeldInk::ofStroke(const drawing::Object& object) {

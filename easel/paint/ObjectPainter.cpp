@@ -93,7 +93,7 @@ void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, 
                               double opacity) {
     const HeldInk fill = HeldInk::ofFill(object);
     if (fill.visible())
-        painter_.fill(surface, *object.outline, object.fillRule, toSurface, fill.ink(),
+        painter_.fill(surface, object.outline, object.fillRule, toSurface, fill.ink(),
                       opacity * drawing::styleOf(object).fillOpacity);
 }
 
@@ -101,17 +101,17 @@ void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, 
 void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                                 double opacity) {
     const HeldInk ink = HeldInk::ofStroke(object);
-    const double scale = (toSurface * object.transform).largestScale();
-    if (!ink.visible() || !object.transform.invertible() || !(scale > 0))
+    const Affine units = drawing::unitsOf(object);
+    const double scale = (toSurface * units).largestScale();
+    if (!ink.visible() || !units.invertible() || !(scale > 0))
         return;
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
-    StrokeShape shape = object.transform == Affine{}
-                            ? strokeShape(*object.outline, stroke, kStrokeTolerance / scale)
-                            : strokeShape(object.outline->transformed(object.transform.inverse()), stroke,
-                                          kStrokeTolerance / scale);
+    StrokeShape shape = units == Affine{} ? strokeShape(object.outline, stroke, kStrokeTolerance / scale)
+                                          : strokeShape(object.outline.transformed(units.inverse()), stroke,
+                                                        kStrokeTolerance / scale);
     for (drawing::Contour& polygon : shape.polygons)
         for (drawing::Point& point : polygon.points)
-            point = object.transform(point);
+            point = units(point);
     painter_.fill(surface, shape.polygons, drawing::FillRule::NonZero, toSurface, ink.ink(),
                   opacity * stroke.opacity * shape.opacity);
 }

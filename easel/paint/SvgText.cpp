@@ -80,7 +80,7 @@ class SvgWriter {
   private:
     bool nameTaken() const {
         for (const drawing::ObjectPtr& object : objects_)
-            if (object->id.starts_with(prefix_))
+            if (object->id.text().starts_with(prefix_))
                 return true;
         return false;
     }
@@ -103,15 +103,16 @@ class SvgWriter {
     void writeObject(const Object& object) {
         written_.next();
         const drawing::Style& style = drawing::styleOf(object);
-        const bool stroked = drawing::strokes(style) && object.transform.invertible();
+        const Affine units = drawing::unitsOf(object);
+        const bool stroked = drawing::strokes(style) && units.invertible();
         // Where it shows, the pen keeps the shape that the object's own units give it.
-        const Affine own = stroked ? object.transform : Affine{};
+        const Affine own = stroked ? units : Affine{};
         const Affine toOwn = own.inverse();
-        body_ += "<path" + attribute("id", object.id);
+        body_ += "<path" + attribute("id", object.id.text());
         if (own != Affine{})
             body_ += attribute("transform", matrixText(own));
         body_ +=
-            attribute("d", pathText(own == Affine{} ? *object.outline : object.outline->transformed(toOwn)));
+            attribute("d", pathText(own == Affine{} ? object.outline : object.outline.transformed(toOwn)));
         body_ += fillText(object, toOwn);
         if (object.fillRule == drawing::FillRule::EvenOdd)
             body_ += attribute("fill-rule", "evenodd");

@@ -21,8 +21,8 @@ void newDrawing(Session& session, Arguments& arguments) {
 void add(Session& session, Arguments& arguments) {
     drawing::Object object = newObject(arguments);
     drawing::Drawing& drawing = session.frontWindow().drawing();
-    if (drawing.indexOfId(object.id))
-        throw PlayError("there is an object \"" + object.id + "\" already");
+    if (drawing.indexOfId(object.id.text()))
+        throw PlayError("there is an object \"" + object.id.text() + "\" already");
     drawing.closeUndo();
     drawing.insert(drawing.size(), sealed(std::move(object)));
 }

@@ -111,9 +111,9 @@ drawing::Object newObject(Arguments& arguments) {
     object.id = arguments.text("ID");
     if (object.id.empty())
         throw PlayError("the ID is empty");
-    auto outline = std::make_shared<const Path>(outlineOf(*kind, arguments));
+    auto outline = outlineOf(*kind, arguments);
     arguments.done();
-    if (*kind == Kind::Path && !outline->closed())
+    if (*kind == Kind::Path && !outline.closed())
         object.kind = Kind::Polyline;
     if (!carriesGradient(object.kind))
         object.style = thinLine();

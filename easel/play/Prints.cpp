@@ -57,7 +57,7 @@ Json gradientOf(Session& session, const drawing::ObjectGradient& gradient) {
 
 // What an object is called in answers: its id, or its index if it has none.
 std::string nameOf(const drawing::Object& object, std::size_t index) {
-    std::string name = object.id;
+    std::string name = object.id.text();
     if (name.empty())
         name.append(1, '@').append(std::to_string(index));
     return name;
@@ -135,7 +135,7 @@ Json printFit(Session& session, Arguments& arguments) {
     const CGradient* gradient = object.gradient;
     if (!gradient)
         throw PlayError("the object \"" + id + "\" has no gradient");
-    const drawing::FittedGradient fit = drawing::fitGradient(gradient->GetGradientData(), *object.outline);
+    const drawing::FittedGradient fit = drawing::fitGradient(gradient->GetGradientData(), object.outline);
     Json stops = Json::array();
     for (const drawing::FittedStop& stop : fit.stops)
         stops.push_back(stopOf(stop.position, stop.color.red, stop.color.green, stop.color.blue));

@@ -101,13 +101,12 @@ GradientBlock::GradientBlock(std::string_view text, std::string prefix) : prefix
 
 std::string GradientBlock::addRecord(const Object& object) {
     const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
-    const auto standard = standardGradient(record, *object.outline);
-    return addElement(standard ? *standard : colorsOf(record), object.transform.inverse(),
-                      recordText(record));
+    const auto standard = standardGradient(record, object.outline);
+    return addElement(standard ? *standard : colorsOf(record), unitsOf(object).inverse(), recordText(record));
 }
 
 std::string GradientBlock::addForeign(const ForeignGradient& gradient, const Object& object) {
-    return addElement(gradient, object.transform.inverse(), {});
+    return addElement(gradient, unitsOf(object).inverse(), {});
 }
 
 std::string GradientBlock::addElement(const ForeignGradient& gradient, const Affine& toUnits,

@@ -49,12 +49,12 @@ Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opa
     object.kind = shape.kind;
     object.id = element.attribute("id").value();
     object.fillRule = place.style.fillRule;
-    object.outline = std::make_shared<const drawing::Path>(placedPath(shape.outline, place.toDrawing));
-    object.transform = place.toDrawing;
+    object.outline = placedPath(shape.outline, place.toDrawing);
+    object.units = sharedUnits(place.toDrawing);
     const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
     setFill(object, at, place.style);
     // A path that is neither closed nor filled is a line; only closed shapes take a gradient.
-    if (object.kind == Kind::Path && object.fillPattern == FillPattern::None && !object.outline->closed())
+    if (object.kind == Kind::Path && object.fillPattern == FillPattern::None && !object.outline.closed())
         object.kind = Kind::Polyline;
 
     Style style;
@@ -86,9 +86,9 @@ void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedS
     if (!foreign || !carriesGradient(object.kind))
         return;
     const GradientElement& element = *scene_.servers.gradient(style.fill.serverId);
-    auto record = writtenRecord(element, **foreign, *object.outline);
+    auto record = writtenRecord(element, **foreign, object.outline);
     if (!record)
-        record = recordFor(**foreign, *object.outline);
+        record = recordFor(**foreign, object.outline);
     if (!record)
         return;
     object.gradient = drawing::ObjectGradient(new CGradient(*record));
@@ -123,6 +123,14 @@ Paint ObjectReader::paint(const PaintSpec& spec, const PaintPlace& at, const Com
     if (const auto* const color = std::get_if<ColorPaint>(&placed))
         return *color;
     return NoPaint();
+}
+
+std::shared_ptr<const drawing::Affine> ObjectReader::sharedUnits(const drawing::Affine& units) {
+    if (units == drawing::Affine())
+        return nullptr;
+    if (!lastUnits_ || *lastUnits_ != units)
+        lastUnits_ = std::make_shared<const drawing::Affine>(units);
+    return lastUnits_;
 }
 
 ObjectReader::StylePtr ObjectReader::shared(Style style) {

@@ -24,10 +24,12 @@ class ObjectReader {
     drawing::Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) const;
     void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
     StylePtr shared(drawing::Style style);
+    std::shared_ptr<const drawing::Affine> sharedUnits(const drawing::Affine& units);
 
     const Scene& scene_;
     std::vector<StylePtr> recent_; // styles of the last objects: neighbours mostly look alike
     std::size_t nextRecent_ = 0;
+    std::shared_ptr<const drawing::Affine> lastUnits_; // of the last object that has any of its own
 };
 
 } // namespace easel::svg

@@ -73,16 +73,20 @@ std::optional<Element> ellipseElement(const Path& path) {
                                   attribute("ry", ry)};
 }
 
+std::vector<Point> pointsOf(const Path& path) {
+    return {path.points().begin(), path.points().end()};
+}
+
 std::optional<Element> pointsElement(const char* name, const Path& path) {
-    const bool closed = path == drawing::polygonPath(path.points());
-    const bool open = path == drawing::polylinePath(path.points());
+    const bool closed = path == drawing::polygonPath(pointsOf(path));
+    const bool open = path == drawing::polylinePath(pointsOf(path));
     if (name == std::string_view("polygon") ? !closed : !open)
         return std::nullopt;
     return Element{name, attribute("points", pointsText(path))};
 }
 
 std::optional<Element> lineElement(const Path& path) {
-    if (path.points().size() != 2 || path != drawing::polylinePath(path.points()))
+    if (path.points().size() != 2 || path != drawing::polylinePath(pointsOf(path)))
         return std::nullopt;
     const Point from = path.points()[0];
     const Point to = path.points()[1];
@@ -173,14 +177,15 @@ std::string pathText(const Path& path) {
 
 std::string objectText(const Object& object, const Affine& placeToDrawing, const std::string& prefix,
                        GradientBlock& gradients) {
-    const bool ownUnits = object.transform.invertible();
-    const Affine units = ownUnits ? object.transform : placeToDrawing;
-    const Path outline = units == Affine() ? *object.outline : object.outline->transformed(units.inverse());
+    const Affine own = unitsOf(object);
+    const bool ownUnits = own.invertible();
+    const Affine units = ownUnits ? own : placeToDrawing;
+    const Path outline = units == Affine() ? object.outline : object.outline.transformed(units.inverse());
     const Element element = elementFor(object.kind, outline);
     const Style& style = styleOf(object);
     std::string text = '<' + prefix + element.name;
     if (!object.id.empty())
-        text += attribute("id", escaped(object.id));
+        text += attribute("id", escaped(object.id.text()));
     text += element.geometry;
     if (const Affine transform = placeToDrawing.inverse() * units; transform != Affine())
         text += attribute("transform", transformText(transform));

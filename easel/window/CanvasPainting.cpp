@@ -71,7 +71,7 @@ void drawSelection(QPainter& painter, const host::DrawingWindow& window, const Q
     area.add(view.toDrawing(fromQt(exposed.bottomRight())));
     for (const drawing::ObjectPtr& object : window.drawing().someSelected(kMostOutlines))
         if (!area.intersection(object->bounds.grownBy(reach)).empty())
-            strokeVisibly(painter, toPainterPath(object->outline->transformed(toWindow)), accent);
+            strokeVisibly(painter, toPainterPath(object->outline.transformed(toWindow)), accent);
 }
 
 void drawFeedback(QPainter& painter, const host::DrawingWindow& window) {

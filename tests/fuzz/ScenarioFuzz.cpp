@@ -29,9 +29,9 @@ void playInScene(Scene& scene, const play::Step& step) {
         scene.gradient = play::gradientRecord(arguments);
     } else if (step.words[0] == "add") {
         const drawing::ObjectPtr object = sealed(play::newObject(arguments));
-        static_cast<void>(drawing::fitGradient(scene.gradient, *object->outline));
+        static_cast<void>(drawing::fitGradient(scene.gradient, object->outline));
         scene.drawing.insert(scene.drawing.size(), object);
-        if (scene.drawing.indexOfId(object->id) == std::nullopt)
+        if (scene.drawing.indexOfId(object->id.text()) == std::nullopt)
             std::abort();
     } else if (step.words[0] == "press") {
         static_cast<void>(scene.drawing.pick(arguments.point(), 3, drawing::KindSet::all()));

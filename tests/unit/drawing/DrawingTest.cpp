@@ -13,7 +13,7 @@ ObjectPtr rectangle(const std::string& id, const Box& box) {
     Object object;
     object.kind = Kind::Rect;
     object.id = id;
-    object.outline = std::make_shared<const Path>(rectanglePath(box));
+    object.outline = rectanglePath(box);
     object.fillPattern = FillPattern::SolidBlack;
     return sealed(std::move(object));
 }
@@ -29,7 +29,7 @@ Drawing threeRectangles() {
 
 std::string ids(const Drawing& drawing) {
     std::string result;
-    drawing.forEach([&](const ObjectPtr& object) { result += object->id; });
+    drawing.forEach([&](const ObjectPtr& object) { result += object->id.text(); });
     return result;
 }
 
@@ -50,7 +50,7 @@ TEST(Drawing, PickPassesOverKindsThatTheFilterLeavesOut) {
     Drawing drawing = threeRectangles();
     Object line;
     line.kind = Kind::Line;
-    line.outline = std::make_shared<const Path>(polylinePath({{0, 0}, {100, 100}}));
+    line.outline = polylinePath({{0, 0}, {100, 100}});
     drawing.insert(3, sealed(line));
     KindSet rectangles;
     rectangles.add(Kind::Rect);
@@ -140,7 +140,7 @@ TEST(Drawing, AreaQueriesGiveObjectsBackToFront) {
     const Drawing drawing = threeRectangles();
     const auto objects = drawing.objectsWithin({30, 30, 55, 55});
     ASSERT_EQ(objects.size(), 3U);
-    EXPECT_EQ(objects[0]->id + objects[1]->id + objects[2]->id, "abc");
+    EXPECT_EQ(objects[0]->id.text() + objects[1]->id.text() + objects[2]->id.text(), "abc");
     EXPECT_TRUE(drawing.objectsWithin({95, 0, 99, 5}).empty());
 }
 

@@ -50,6 +50,41 @@ TEST(Path, ASegmentAfterACloseStartsWhereTheSubpathBegan) {
     EXPECT_FALSE(path.closed());
 }
 
+TEST(Path, ACopyIsUntouchedByChangesOfTheOther) {
+    Path path;
+    path.moveTo({1, 2});
+    const Path moved = path;
+    path.moveTo({3, 4});
+    const Path replaced = path;
+    path.lineTo({5, 6});
+    const Path shifted = path.transformed(Affine::translation(10, 0));
+    EXPECT_EQ(moved.points().front(), (Point{1, 2}));
+    EXPECT_EQ(replaced.points().size(), 1u);
+    EXPECT_EQ(path.points().back(), (Point{5, 6}));
+    EXPECT_EQ(shifted.points().back(), (Point{15, 6}));
+}
+
+TEST(Path, KeepsOrderHoweverLongItGrowsAndWhenItIsShrunk) {
+    Path path;
+    path.moveTo({0, 0});
+    for (int i = 1; i < 1000; i += 4) {
+        path.lineTo({1.0 * i, 0});
+        path.cubicTo({1.0 * i + 1, 0}, {1.0 * i + 2, 0}, {1.0 * i + 3, 0});
+    }
+    path.close();
+    const Path grown = path;
+    path.shrinkToFit();
+    EXPECT_EQ(path, grown);
+    ASSERT_EQ(path.verbs().size(), 502u);
+    ASSERT_EQ(path.points().size(), 1001u);
+    EXPECT_EQ(path.verbs()[0], Verb::Move);
+    EXPECT_EQ(path.verbs()[499], Verb::Line);
+    EXPECT_EQ(path.verbs()[500], Verb::Cubic);
+    EXPECT_EQ(path.verbs().back(), Verb::Close);
+    for (std::size_t i = 0; i < path.points().size(); ++i)
+        EXPECT_EQ(path.points()[i].x, static_cast<double>(i));
+}
+
 TEST(Path, FlattenedEllipseHasItsAreaAndStaysWithinTolerance) {
     const std::vector<Contour> contours = flatten(ellipsePath({50, 40}, 30, 20), 0.01);
     ASSERT_EQ(contours.size(), 1U);

@@ -20,7 +20,7 @@ namespace host = easel::host;
 drawing::ObjectPtr blackBox(const drawing::Box& box, drawing::Kind kind = drawing::Kind::Rect) {
     drawing::Object object;
     object.kind = kind;
-    object.outline = std::make_shared<const drawing::Path>(drawing::rectanglePath(box));
+    object.outline = drawing::rectanglePath(box);
     object.fill = drawing::ColorPaint{};
     object.fillPattern = drawing::FillPattern::SolidBlack;
     return sealed(std::move(object));
@@ -171,7 +171,7 @@ TEST(ObjToPoly, MakesAPolygonOfAnythingWithAnInside) {
     host::DrawingWindow window{drawing::Drawing::create(100, 100)};
     drawing::Object ellipse;
     ellipse.kind = drawing::Kind::Ellipse;
-    ellipse.outline = std::make_shared<const drawing::Path>(drawing::ellipsePath({50, 50}, 40, 20));
+    ellipse.outline = drawing::ellipsePath({50, 50}, 40, 20);
     window.drawing().insert(0, sealed(std::move(ellipse)));
     CTessObjList list;
     long index = 0;

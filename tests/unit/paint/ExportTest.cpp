@@ -79,7 +79,7 @@ TEST(PictureSize, TheSystemSaysHowMuchMemoryIsFree) {
 ObjectPtr withGradient(const std::string& id, const Box& box, const CGradientData& record) {
     Object object;
     object.id = id;
-    object.outline = std::make_shared<const Path>(rectanglePath(box));
+    object.outline = rectanglePath(box);
     object.fillPattern = FillPattern::SolidBlack;
     object.setGradient(ObjectGradient(new CGradient(record)));
     return sealed(object);

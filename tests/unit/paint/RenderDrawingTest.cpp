@@ -22,7 +22,7 @@ constexpr Rgb16 kBlue{0, 0, 65535};
 
 Object filled(Path outline, Paint paint) {
     Object object;
-    object.outline = std::make_shared<const Path>(std::move(outline));
+    object.outline = std::move(outline);
     object.fillPattern = FillPattern::Other;
     object.fill = std::move(paint);
     return object;
@@ -121,7 +121,7 @@ TEST(RenderDrawing, AStrokeIsShapedByTheObjectsOwnUnits) {
     style.stroke.width = 2;
     Object object = square({40, 40, 60, 60}, kRed);
     object.style = styled(style);
-    object.transform = Affine::scaling(10, 1);
+    object.units = std::make_shared<const Affine>(Affine::scaling(10, 1));
     const Surface surface = rendered({sealed(object)});
     EXPECT_EQ(surface.row(50)[31], 0xFF0000FFu); // ten to the left
     EXPECT_EQ(surface.row(50)[29], 0u);
@@ -301,7 +301,7 @@ TEST(RenderDrawing, NumbersThatAreNoneAndHugeOnesNeverHang) {
         group.clip = clipTo({rectanglePath({odd, 10, 90, 90})});
         Object object = filled(ellipsePath({odd, 50}, 40, odd), ColorPaint{kRed, odd});
         object.style = styled(style);
-        object.transform = {odd, 0, 0, 1, odd, 0};
+        object.units = std::make_shared<const Affine>(Affine{odd, 0, 0, 1, odd, 0});
         object.group = std::make_shared<const Group>(group);
         Object withRecord = object;
         withRecord.setGradient(ObjectGradient(new CGradient(record)));

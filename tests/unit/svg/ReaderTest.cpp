@@ -112,7 +112,7 @@ TEST(SvgReader, SwitchTakesTheFirstChildThatFits) {
                                            "<rect id='b' systemLanguage='fr, en-GB' width='1' height='1'/>"
                                            "<rect id='c' width='1' height='1'/></switch>"));
     ASSERT_EQ(drawing.size(), 1U);
-    EXPECT_EQ(drawing.object(0)->id, "b");
+    EXPECT_EQ(drawing.object(0)->id.text(), "b");
 }
 
 TEST(SvgReader, NestedViewportsMoveScaleAndClip) {
@@ -180,7 +180,7 @@ TEST(SvgReader, HiddenElementsAreNoObjects) {
                                            "<g visibility='hidden'><rect width='1' height='1'/>"
                                            "<rect id='v' visibility='visible' width='1' height='1'/></g>"));
     ASSERT_EQ(drawing.size(), 1U);
-    EXPECT_EQ(drawing.object(0)->id, "v");
+    EXPECT_EQ(drawing.object(0)->id.text(), "v");
 }
 
 TEST(SvgReader, WhatIsNotShownIsNamedOnce) {
