@@ -95,10 +95,10 @@ TEST_F(OutputTest, ALongExportShowsItsProgressAndIsCancelledWithoutATrace) {
             << R"(<stop stop-color="#203080"/><stop offset="1" stop-color="#f0d060"/></linearGradient></defs>)";
         for (int i = 0; i < 50'000; ++i)
             svg << "<path fill='url(#l)' d='M" << i % 600 << ' ' << i / 600 << "h9v9z'/>";
-        svg << "</svg>";
+        svg << "<circle cx='500' cy='300' r='50' fill='#c832fa'/></svg>";
     }
     start({drawing().string()});
-    drawingWindow();
+    waitForColor(kMarker); // the window is there before its drawing
     const auto files = [&] { return std::distance(fs::directory_iterator(folder()), {}); };
     const auto before = files();
     exportAs("d", "PDF", in("long.pdf"));
