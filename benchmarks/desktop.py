@@ -28,19 +28,16 @@ class Desktop:
     """An X server with a window manager; the environment names it to programs."""
 
     def __enter__(self):
-        read, write = os.pipe()
-        self.screen = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1400x950x24", "-nolisten", "tcp"],
-            pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.environ["DISPLAY"] = ":" + os.read(read, 16).decode().strip()
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        time.sleep(1)
+        # The screen lasts as long as its command, which waits for the end of its input.
+        with_screen = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../tools/with-screen")
+        self.screen = subprocess.Popen([with_screen, "1400x950", "sh", "-c", "echo $DISPLAY; cat"], text=True,
+                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        os.environ["DISPLAY"] = self.screen.stdout.readline().strip()
         return self
 
     def __exit__(self, *_):
-        for process in (self.manager, self.screen):
-            process.kill()
-            process.wait()
+        self.screen.stdin.close()
+        self.screen.wait()
 
 
 class Program:

@@ -4,8 +4,11 @@
 #include "easel/paint/GradientRange.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectInk.h"
-#include "easel/paint/SvgFragments.h"
 #include "easel/svg/Color.h"
+#include "easel/svg/ElementText.h"
+#include "easel/svg/GradientText.h"
+#include "easel/svg/Number.h"
+#include "easel/svg/Transform.h"
 
 #include <cmath>
 #include <map>
@@ -14,31 +17,12 @@ namespace easel::paint {
 
 using drawing::Affine;
 using drawing::Object;
+using svg::attribute;
+using svg::attributeUnless;
+using svg::numberText;
+using svg::pathText;
 
 namespace {
-
-std::string geometryText(const drawing::LinearGeometry& line) {
-    return attribute("x1", line.start.x) + attribute("y1", line.start.y) + attribute("x2", line.end.x) +
-           attribute("y2", line.end.y);
-}
-
-std::string geometryText(const drawing::RadialGeometry& circles) {
-    return attribute("cx", circles.centre.x) + attribute("cy", circles.centre.y) +
-           attribute("r", circles.radius) + attribute("fx", circles.focus.x) +
-           attribute("fy", circles.focus.y) + attributeUnless(0, "fr", circles.focusRadius);
-}
-
-std::string spreadText(drawing::Spread spread) {
-    switch (spread) {
-    case drawing::Spread::Reflect:
-        return attribute("spreadMethod", "reflect");
-    case drawing::Spread::Repeat:
-        return attribute("spreadMethod", "repeat");
-    case drawing::Spread::Pad:
-        break;
-    }
-    return {};
-}
 
 double opacityOf(double value) {
     return value > 0 ? std::min(value, 1.0) : 0;
@@ -110,7 +94,7 @@ class SvgWriter {
         const Affine toOwn = own.inverse();
         body_ += "<path" + attribute("id", object.id.text());
         if (own != Affine{})
-            body_ += attribute("transform", matrixText(own));
+            body_ += attribute("transform", svg::transformText(own));
         body_ +=
             attribute("d", pathText(own == Affine{} ? object.outline : object.outline.transformed(toOwn)));
         body_ += fillText(object, toOwn);
@@ -160,12 +144,10 @@ class SvgWriter {
                                         ? "linearGradient"
                                         : "radialGradient";
         const Affine map = toOwn * gradient.toDrawing;
-        std::string text =
-            attribute("gradientUnits", "userSpaceOnUse") +
-            std::visit([](const auto& geometry) { return geometryText(geometry); }, gradient.geometry) +
-            spreadText(gradient.spread);
+        std::string text = attribute("gradientUnits", "userSpaceOnUse") +
+                           svg::geometryText(gradient.geometry) + svg::spreadText(gradient.spread);
         if (map != Affine{})
-            text += attribute("gradientTransform", matrixText(map));
+            text += attribute("gradientTransform", svg::transformText(map));
         text += ">";
         for (const RampStop& stop : gradient.ramp.stops())
             text += "<stop" + attribute("offset", stop.position) +

@@ -1,6 +1,7 @@
 #include "easel/svg/GradientText.h"
 
 #include "easel/svg/Color.h"
+#include "easel/svg/ElementText.h"
 #include "easel/svg/GradientRecord.h"
 #include "easel/svg/Number.h"
 #include "easel/svg/RecordText.h"
@@ -25,38 +26,10 @@ namespace {
 
 constexpr std::string_view kNameBegin = "easel-gradient-";
 
-std::string attribute(std::string_view name, double value) {
-    std::string text(" ");
-    text.append(name).append("=\"").append(numberText(value)).append("\"");
-    return text;
-}
-
-std::string geometryText(const ForeignGradient& gradient) {
-    if (const auto* const line = std::get_if<LinearGeometry>(&gradient.geometry))
-        return attribute("x1", line->start.x) + attribute("y1", line->start.y) +
-               attribute("x2", line->end.x) + attribute("y2", line->end.y);
-    const auto& circles = std::get<RadialGeometry>(gradient.geometry);
-    std::string text = attribute("cx", circles.centre.x) + attribute("cy", circles.centre.y) +
-                       attribute("r", circles.radius);
-    if (circles.focus != circles.centre)
-        text += attribute("fx", circles.focus.x) + attribute("fy", circles.focus.y);
-    if (circles.focusRadius != 0)
-        text += attribute("fr", circles.focusRadius);
-    return text;
-}
-
-std::string spreadText(Spread spread) {
-    if (spread == Spread::Pad)
-        return {};
-    return spread == Spread::Reflect ? " spreadMethod=\"reflect\"" : " spreadMethod=\"repeat\"";
-}
-
 std::string stopText(const ForeignStop& stop, const std::string& prefix) {
-    std::string text = '<' + prefix + "stop" + attribute("offset", stop.offset) + " stop-color=\"" +
-                       colorText(stop.color) + '"';
-    if (stop.opacity != 1)
-        text += attribute("stop-opacity", stop.opacity);
-    return text + "/>";
+    std::string text = '<' + prefix + "stop" + attribute("offset", stop.offset) +
+                       attribute("stop-color", colorText(stop.color));
+    return text + attributeUnless(1, "stop-opacity", stop.opacity) + "/>";
 }
 
 // The colors alone, for a record whose geometry on its object is not finite.
@@ -73,19 +46,22 @@ ForeignGradient colorsOf(const CGradientData& record) {
 
 } // namespace
 
-std::string escaped(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        if (c == '&')
-            result += "&amp;";
-        else if (c == '<')
-            result += "&lt;";
-        else if (c == '"')
-            result += "&quot;";
-        else
-            result += c;
-    }
-    return result;
+std::string geometryText(const std::variant<LinearGeometry, RadialGeometry>& geometry) {
+    if (const auto* const line = std::get_if<LinearGeometry>(&geometry))
+        return attribute("x1", line->start.x) + attribute("y1", line->start.y) +
+               attribute("x2", line->end.x) + attribute("y2", line->end.y);
+    const auto& circles = std::get<RadialGeometry>(geometry);
+    std::string text = attribute("cx", circles.centre.x) + attribute("cy", circles.centre.y) +
+                       attribute("r", circles.radius);
+    if (circles.focus != circles.centre)
+        text += attribute("fx", circles.focus.x) + attribute("fy", circles.focus.y);
+    return text + attributeUnless(0, "fr", circles.focusRadius);
+}
+
+std::string spreadText(Spread spread) {
+    if (spread == Spread::Pad)
+        return {};
+    return attribute("spreadMethod", spread == Spread::Reflect ? "reflect" : "repeat");
 }
 
 GradientBlock::GradientBlock(std::string_view text, std::string prefix) : prefix_(std::move(prefix)) {
@@ -115,7 +91,7 @@ std::string GradientBlock::addElement(const ForeignGradient& gradient, const Aff
     const std::string name = prefix_ + (isLinear ? "linearGradient" : "radialGradient");
     const std::string id = std::string(kNameBegin) + std::to_string(++lastNumber_);
     std::string text =
-        '<' + name + " id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\"" + geometryText(gradient);
+        '<' + name + " id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\"" + geometryText(gradient.geometry);
     const Affine transform = toUnits * gradient.toDrawing;
     if (transform != Affine())
         text += " gradientTransform=\"" + transformText(transform) + '"';

@@ -6,12 +6,14 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace easel::svg {
 
-// Escapes what an attribute value in double quotes cannot hold.
-std::string escaped(std::string_view text);
+// Attributes of a gradient element, each with a leading blank; none for what is assumed anyway.
+std::string geometryText(const std::variant<drawing::LinearGeometry, drawing::RadialGeometry>& geometry);
+std::string spreadText(drawing::Spread spread);
 
 // Gathers the gradients that objects refer to, each under a name of its own.
 class GradientBlock {

@@ -1,6 +1,7 @@
 #include "easel/svg/ObjectText.h"
 
 #include "easel/svg/Color.h"
+#include "easel/svg/ElementText.h"
 #include "easel/svg/Number.h"
 #include "easel/svg/Transform.h"
 
@@ -18,18 +19,8 @@ using drawing::Path;
 using drawing::Point;
 using drawing::Stroke;
 using drawing::Style;
-using drawing::Verb;
 
 namespace {
-
-std::string attribute(std::string_view name, std::string_view value) {
-    std::string text(" ");
-    text.append(name).append("=\"").append(value).append("\"");
-    return text;
-}
-std::string attribute(std::string_view name, double value) {
-    return attribute(name, numberText(value));
-}
 
 std::string pointsText(const Path& path) {
     std::string text;
@@ -124,8 +115,7 @@ std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock
         return text;
     }
     text += attribute("stroke-width", stroke.width);
-    if (opacity != 1)
-        text += attribute("stroke-opacity", opacity);
+    text += attributeUnless(1, "stroke-opacity", opacity);
     text += attribute("stroke-linejoin", kJoins[static_cast<std::size_t>(stroke.join)]);
     text += attribute("stroke-linecap", kCaps[static_cast<std::size_t>(stroke.cap)]);
     text += attribute("stroke-miterlimit", stroke.miterLimit);
@@ -149,31 +139,13 @@ std::string fillAttributes(const Object& object, GradientBlock& gradients) {
     if (const auto* const color = std::get_if<ColorPaint>(&object.fill); color && !object.showsGradient())
         opacity *= color->opacity;
     std::string text = attribute("fill", fill.empty() ? "none" : fill);
-    if (opacity != 1)
-        text += attribute("fill-opacity", opacity);
+    text += attributeUnless(1, "fill-opacity", opacity);
     if (object.fillRule == drawing::FillRule::EvenOdd)
         text += attribute("fill-rule", "evenodd");
     return text;
 }
 
 } // namespace
-
-std::string pathText(const Path& path) {
-    static constexpr std::array<char, 4> kLetters = {'M', 'L', 'C', 'Z'};
-    static constexpr std::array<std::size_t, 4> kCounts = {1, 1, 3, 0};
-    std::string text;
-    std::size_t next = 0;
-    for (const Verb verb : path.verbs()) {
-        const auto kind = static_cast<std::size_t>(verb);
-        text += kLetters[kind];
-        for (std::size_t i = 0; i < kCounts[kind]; ++i) {
-            const Point p = path.points()[next++];
-            text += i == 0 ? "" : " ";
-            text += numberText(p.x) + ' ' + numberText(p.y);
-        }
-    }
-    return text;
-}
 
 std::string objectText(const Object& object, const Affine& placeToDrawing, const std::string& prefix,
                        GradientBlock& gradients) {
@@ -184,14 +156,11 @@ std::string objectText(const Object& object, const Affine& placeToDrawing, const
     const Element element = elementFor(object.kind, outline);
     const Style& style = styleOf(object);
     std::string text = '<' + prefix + element.name;
-    if (!object.id.empty())
-        text += attribute("id", escaped(object.id.text()));
-    text += element.geometry;
+    text += attribute("id", object.id.text()) + element.geometry;
     if (const Affine transform = placeToDrawing.inverse() * units; transform != Affine())
         text += attribute("transform", transformText(transform));
     text += fillAttributes(object, gradients) + strokeText(object, style.stroke, gradients);
-    if (style.opacity != 1)
-        text += attribute("opacity", style.opacity);
+    text += attributeUnless(1, "opacity", style.opacity);
     if (style.first == drawing::PaintStep::Stroke)
         text += attribute("paint-order", "stroke");
     return text + "/>";

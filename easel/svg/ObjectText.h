@@ -11,7 +11,4 @@ namespace easel::svg {
 std::string objectText(const drawing::Object& object, const drawing::Affine& placeToDrawing,
                        const std::string& prefix, GradientBlock& gradients);
 
-// Path data in absolute commands, which reads back as the same path.
-std::string pathText(const drawing::Path& path);
-
 } // namespace easel::svg

@@ -48,30 +48,27 @@ std::optional<std::size_t> MemoryBlocks::size(char** block) {
 }
 
 BlockOutcome MemoryBlocks::resize(char** block, std::size_t size) {
-    auto* const found = find(block);
-    if (!found)
-        return BlockOutcome::NotABlock;
-    if (found->place == Place::Locked && size > found->bytes.capacity())
-        return BlockOutcome::Locked;
-    try {
-        sizeTo(found->bytes, size);
-    } catch (const std::bad_alloc&) {
-        return BlockOutcome::NoMemory;
-    } catch (const std::length_error&) {
-        return BlockOutcome::NoMemory;
-    }
-    found->address = found->bytes.data();
-    return BlockOutcome::Done;
+    return change(block, size, [&](std::vector<char>& bytes) { sizeTo(bytes, size); });
 }
 
 BlockOutcome MemoryBlocks::append(char** block, std::span<const char> more) {
+    const auto* const found = find(block);
+    if (!found)
+        return BlockOutcome::NotABlock;
+    const auto end = found->bytes.size() + more.size();
+    return change(block, end,
+                  [&](std::vector<char>& bytes) { bytes.insert(bytes.end(), more.begin(), more.end()); });
+}
+
+template <class Change>
+BlockOutcome MemoryBlocks::change(char** block, std::size_t newSize, const Change& change) {
     auto* const found = find(block);
     if (!found)
         return BlockOutcome::NotABlock;
-    if (found->place == Place::Locked && more.size() > found->bytes.capacity() - found->bytes.size())
+    if (found->place == Place::Locked && newSize > found->bytes.capacity())
         return BlockOutcome::Locked;
     try {
-        found->bytes.insert(found->bytes.end(), more.begin(), more.end());
+        change(found->bytes);
     } catch (const std::bad_alloc&) {
         return BlockOutcome::NoMemory;
     } catch (const std::length_error&) {

@@ -54,6 +54,7 @@ class MemoryBlocks {
     };
 
     Block* find(char** block);
+    template <class Change> BlockOutcome change(char** block, std::size_t newSize, const Change& change);
     BlockOutcome setPlace(char** block, Place place);
 
     std::unordered_map<char**, std::unique_ptr<Block>> blocks_;
