@@ -54,6 +54,8 @@ bool Object::hitBy(Point p, double reach) const {
 }
 
 Box Object::paintBounds() const {
+    if (!style)
+        return bounds;
     return bounds.grownBy(strokeReach(styleOf(*this)) * unitsOf(*this).largestScale());
 }
 

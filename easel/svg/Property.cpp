@@ -91,20 +91,9 @@ void StatedStyle::set(const Declaration& declaration) {
 }
 
 Cascade::Cascade(const XmlTree& tree) : tree_(tree) {
-    // Sheets stand in any place; they are found once and in order.
-    pugi::xml_node node = tree.root();
-    while (node) {
-        const bool isSheet = tree.svgName(node) == "style";
-        if (isSheet)
-            addSheet(node);
-        if (node.first_child() && !isSheet) {
-            node = node.first_child();
-            continue;
-        }
-        while (node && node != tree.root() && !node.next_sibling())
-            node = node.parent();
-        node = node == tree.root() ? pugi::xml_node() : node.next_sibling();
-    }
+    for (const pugi::xml_node sheet : tree.sheets())
+        if (tree.svgName(sheet) == "style")
+            addSheet(sheet);
 }
 
 void Cascade::addSheet(pugi::xml_node styleElement) {

@@ -71,7 +71,6 @@ XmlTree::XmlTree(const std::string& text) {
 
 void XmlTree::index(const std::string& text) {
     Entities entities(text);
-    svgPrefixes_.insert("");
     forEachElement(root_, [&](pugi::xml_node element, int depth) {
         if (depth > kDeepest)
             throw ReadError{Fault::TooDeep,
@@ -82,6 +81,8 @@ void XmlTree::index(const std::string& text) {
                 if (std::strchr(attribute.value(), '&'))
                     attribute.set_value(entities.expanded(attribute.value()).c_str());
         noteNamespaces(element);
+        if (std::string_view(element.name()).ends_with("style"))
+            sheets_.push_back(element);
         if (const pugi::xml_attribute id = element.attribute("id"))
             ids_.try_emplace(id.value(), element);
     });
@@ -97,13 +98,15 @@ void XmlTree::noteNamespaces(pugi::xml_node element) {
             svgPrefixes_.insert(std::string(name.substr(6)) + ':');
         // A root in another language; inside a drawing foreign elements carry prefixes.
         if (name == "xmlns" && !isSvg && element == root_ && *attribute.value() != '\0')
-            svgPrefixes_.erase("");
+            plainNamesAreSvg_ = false;
     }
 }
 
 std::string_view XmlTree::svgName(pugi::xml_node element) const {
     const std::string_view name = element.name();
     const std::string_view prefix = prefixOf(name);
+    if (prefix.empty())
+        return plainNamesAreSvg_ ? name : std::string_view();
     if (svgPrefixes_.find(std::string(prefix)) == svgPrefixes_.end())
         return {};
     return name.substr(prefix.size());

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 namespace easel::svg {
 
@@ -31,6 +32,8 @@ class XmlTree {
     std::string_view prefix() const;
     // The first element with this id, or none.
     pugi::xml_node byId(std::string_view id) const;
+    // What may be style sheets, in the order of the text.
+    const std::vector<pugi::xml_node>& sheets() const { return sheets_; }
     // Where the '<' of the element's start tag is in the text.
     std::size_t tagBegin(pugi::xml_node element) const;
 
@@ -42,7 +45,9 @@ class XmlTree {
     pugi::xml_node root_;
     std::size_t elementCount_ = 0;
     std::unordered_map<std::string_view, pugi::xml_node> ids_;
-    std::unordered_set<std::string> svgPrefixes_;
+    std::vector<pugi::xml_node> sheets_;
+    bool plainNamesAreSvg_ = true;
+    std::unordered_set<std::string> svgPrefixes_; // with their colons
 };
 
 // What `href` or `xlink:href` says; empty if neither is there.
