@@ -1,14 +1,14 @@
 // `easelbench drawings`: what growing drawings cost.
 #include "benchmarks/Benches.h"
+#include "benchmarks/ChangeTimes.h"
+#include "benchmarks/DrawingFiles.h"
+#include "benchmarks/HeapUse.h"
 #include "benchmarks/Timing.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/svg/Document.h"
 
-#include <malloc.h>
-
+#include <algorithm>
 #include <map>
-#include <sstream>
-#include <stdexcept>
 
 namespace bench {
 
@@ -17,71 +17,45 @@ namespace {
 using namespace easel;
 
 const std::string kTable = "Large drawings";
-constexpr int kChanges = 51;
 constexpr double kFrameLimit = 4; // milliseconds
 constexpr double kMostGrowth = 1.5;
 constexpr double kMostBytes = 600;
 
-// Ellipses that overlap their neighbors a little, on as large a sheet as they need.
-std::string svgOf(int count) {
-    std::ostringstream svg;
-    constexpr int kColumns = 200;
-    svg << "<svg xmlns='http://www.w3.org/2000/svg' width='3200' height='" << (count / kColumns + 1) * 16
-        << "'>\n";
-    for (int i = 0; i < count; ++i)
-        svg << "<ellipse cx='" << i % kColumns * 16 + 8 << "' cy='" << i / kColumns * 16 + 8
-            << "' rx='9' ry='7' fill='#" << i % 10 << "80'/>\n";
-    svg << "</svg>\n";
-    return svg.str();
-}
-
-double heapBytes() {
-    return static_cast<double>(mallinfo2().uordblks);
-}
-
-drawing::ObjectPtr recolored(const drawing::Object& object, int step) {
-    auto copy = std::make_shared<drawing::Object>(object);
-    copy->fill = drawing::ColorPaint{{static_cast<std::uint16_t>(step * 1000), 0, 65535}, 1};
-    return copy;
-}
-
-struct Times {
-    double change;
-    double undo;
+// The pixels of a window that shows the whole drawing, as one does that has just been opened.
+struct FittedWindow {
+    double zoom;
+    paint::Surface surface;
 };
 
-// An undoable change of one object and the repaint of what it covers, and the same for taking it back.
-Times timesOf(drawing::Drawing& drawing, paint::Surface& surface) {
-    std::vector<double> changes;
-    std::vector<double> undos;
-    drawing::Box dirty;
-    drawing.setChangeListener([&](const drawing::Box& area) { dirty.add(area); });
-    const auto repaint = [&] {
-        const paint::PixelBox box{static_cast<int>(dirty.left) - 1, static_cast<int>(dirty.top) - 1,
-                                  static_cast<int>(dirty.right) + 2, static_cast<int>(dirty.bottom) + 2};
-        paint::renderDrawing(drawing, surface.view().clippedTo(box), {}, 1);
-        dirty = {};
-    };
-    for (int i = 0; i < kChanges; ++i) {
-        const std::size_t index = static_cast<std::size_t>(i) * 17 % drawing.size();
-        changes.push_back(secondsOf([&] {
-            drawing.prepareUndo(1);
-            const drawing::ObjectPtr object = recolored(*drawing.object(index), i);
-            drawing.erase(index);
-            drawing.insert(index, object);
-            drawing.closeUndo();
-            repaint();
+FittedWindow fitted(const drawing::Drawing& drawing) {
+    const double zoom = std::min(1920 / drawing.width(), 1080 / drawing.height());
+    return {zoom, paint::Surface(static_cast<int>(drawing.width() * zoom) + 1,
+                                 static_cast<int>(drawing.height() * zoom) + 1)};
+}
+
+// An area of the window's middle of so many pixels each way, painted anew with all that is in it.
+double repaintTime(const drawing::Drawing& drawing, FittedWindow& window, int side) {
+    const int x = window.surface.width() / 2;
+    const int y = window.surface.height() / 2;
+    const paint::SurfaceView area = window.surface.view().clippedTo({x, y, x + side, y + side});
+    std::vector<double> times;
+    for (int i = 0; i < kRuns; ++i)
+        times.push_back(secondsOf([&] {
+            paint::renderDrawing(drawing, area, drawing::Affine::scaling(window.zoom, window.zoom), 1);
         }));
-        bool undone = false;
-        undos.push_back(secondsOf([&] {
-            undone = drawing.undo();
-            repaint();
-        }));
-        if (!undone)
-            throw std::logic_error("there was nothing to undo");
-    }
-    drawing.setChangeListener({});
-    return {median(changes), median(undos)};
+    return median(times);
+}
+
+void measureFitted(Report& report, const std::string& name, int count) {
+    svg::ReadResult read = svg::readBytes(drawingFile(count, Fills::OneGradient), "fitted.svg");
+    auto& drawing = std::get<drawing::Drawing>(read);
+    FittedWindow window = fitted(drawing);
+    const ChangeTimes times =
+        changeTimes(drawing, window.surface, drawing::Affine::scaling(window.zoom, window.zoom));
+    report.add(kTable, {name + ", fitted to the window", "change and repaint", times.change * 1e3, "ms",
+                        kFrameLimit, Better::Lower});
+    report.add(kTable, {name + ", fitted to the window", "repaint of 64 x 64 pixels",
+                        repaintTime(drawing, window, 64) * 1e3, "ms", kFrameLimit, Better::Lower});
 }
 
 } // namespace
@@ -90,7 +64,7 @@ void runLargeDrawings(Report& report) {
     std::map<int, double> changes;
     for (const int count : {1000, 10000, 100000}) {
         const std::string name = std::to_string(count) + " objects";
-        const std::string bytes = svgOf(count);
+        const std::string bytes = drawingFile(count, Fills::Colors);
         const double before = heapBytes();
         std::optional<svg::ReadResult> read;
         const double open = secondsOf([&] { read = svg::readBytes(bytes, "large.svg"); }, Clock::Wall);
@@ -98,22 +72,18 @@ void runLargeDrawings(Report& report) {
         if (drawing == nullptr)
             continue;
         const double memory = heapBytes() - before - static_cast<double>(bytes.size());
-        double pathBytes = 0;
-        drawing->forEach([&](const drawing::ObjectPtr& object) {
-            pathBytes += static_cast<double>(object->outline.points().size() * sizeof(drawing::Point) +
-                                             object->outline.verbs().size());
-        });
         paint::Surface surface(3200, 1800);
         const double paint = secondsOf([&] { paint::renderDrawing(*drawing, surface.view(), {}, 1); });
-        const Times times = timesOf(*drawing, surface);
+        const ChangeTimes times = changeTimes(*drawing, surface, {});
         changes[count] = times.change;
         report.add(kTable, {name, "open", open * 1e3, "ms"});
         report.add(kTable, {name, "first paint", paint * 1e3, "ms"});
         report.add(kTable,
                    {name, "change and repaint", times.change * 1e3, "ms", kFrameLimit, Better::Lower});
         report.add(kTable, {name, "undo and repaint", times.undo * 1e3, "ms", kFrameLimit, Better::Lower});
-        report.add(kTable, {name, "memory beside paths", (memory - pathBytes) / count, "B/object", kMostBytes,
-                            Better::Lower});
+        report.add(kTable, {name, "memory beside paths", (memory - pathBytes(*drawing)) / count, "B/object",
+                            kMostBytes, Better::Lower});
+        measureFitted(report, name, count);
     }
     report.add(kTable, {"100000 against 1000 objects", "growth of a change", changes[100000] / changes[1000],
                         "times", kMostGrowth, Better::Lower});

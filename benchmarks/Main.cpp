@@ -13,6 +13,7 @@ int main(int count, char** arguments) {
         bench::runPixels(report);
     } else if (command == "drawings") {
         bench::runLargeDrawings(report);
+        bench::runOpening(report);
     } else {
         std::fprintf(stderr, "usage: easelbench pixels|drawings JSON-FILE, or easelbench counted WORKLOAD\n");
         return 2;
