@@ -16,15 +16,34 @@ namespace {
 
 constexpr int kAppearsAfter = 500; // milliseconds
 constexpr int kFrame = 33;
+constexpr int kSteps = 1000;
+
+// Takes the keyboard, so that Escape cancels.
+class ProgressWindow : public QProgressDialog {
+  public:
+    using QProgressDialog::QProgressDialog;
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        QProgressDialog::showEvent(event);
+        activateWindow();
+    }
+};
 
 } // namespace
 
 std::unique_ptr<QProgressDialog> makeProgressDialog(const QString& text, QWidget* over) {
-    auto dialog = std::make_unique<QProgressDialog>(text, QObject::tr("Cancel"), 0, kProgressSteps, over);
+    auto dialog = std::make_unique<ProgressWindow>(text, QObject::tr("Cancel"), 0, kSteps, over);
     dialog->setWindowTitle(QObject::tr("Easel"));
     dialog->setMinimumDuration(kAppearsAfter);
     dialog->setValue(0);
     return dialog;
+}
+
+void showProgress(QProgressDialog& dialog, double done) {
+    // A new value brings a cancelled dialog back, and the last one closes it.
+    if (!dialog.wasCanceled())
+        dialog.setValue(static_cast<int>(done * (kSteps - 1)));
 }
 
 void workBeside(DesktopUser& user, const QString& text, QWidget* over,
@@ -53,8 +72,7 @@ void workBeside(DesktopUser& user, const QString& text, QWidget* over,
             qApp, [] {}, Qt::QueuedConnection);
     });
     QTimer frames;
-    QObject::connect(&frames, &QTimer::timeout, dialog.get(),
-                     [&] { dialog->setValue(static_cast<int>(done * (kProgressSteps - 1))); });
+    QObject::connect(&frames, &QTimer::timeout, dialog.get(), [&] { showProgress(*dialog, done); });
     frames.start(kFrame);
     while (!finished) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

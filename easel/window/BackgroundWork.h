@@ -15,10 +15,10 @@ namespace easel::window {
 class DesktopUser;
 
 // A window that shows how far something is and lets the user cancel it. It appears only when the work takes
-// longer than half a second. Its value goes from 0 to kProgressSteps; the last step is never shown, for it
-// would close the window.
-inline constexpr int kProgressSteps = 1000;
+// longer than half a second.
 std::unique_ptr<QProgressDialog> makeProgressDialog(const QString& text, QWidget* over);
+// `done` is 0 to 1. Once the user has cancelled, nothing is shown any more.
+void showProgress(QProgressDialog& dialog, double done);
 
 // Runs the work on a thread of its own and returns when it is done, or throws what it threw. Meanwhile the
 // user hears of its progress and can cancel it, and can do nothing else; so the work may read what only the

@@ -29,8 +29,9 @@ svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* ove
     svg::ReadOptions options;
     options.progress = [&](double done) {
         if (sinceShown.elapsed() >= kFrame) {
-            dialog->setValue(static_cast<int>(done * (kProgressSteps - 1)));
+            // The window that it is to appear over may only now hear where it is.
             QCoreApplication::processEvents();
+            showProgress(*dialog, done);
             sinceShown.restart();
         }
         return !dialog->wasCanceled() && !user.cancelled();

@@ -93,6 +93,7 @@ void DesktopTest::startWithDrawing(const std::map<std::string, std::string>& env
 }
 
 int DesktopTest::quit() {
+    getsKeyboard();
     screen().key("ctrl+q");
     return program_->wait(10s).value_or(-1);
 }
@@ -135,6 +136,12 @@ Window DesktopTest::waitForWindow(const std::string& title) {
     return *found;
 }
 
+Window DesktopTest::waitForDialog(const std::string& title) {
+    Window window = waitForWindow(title);
+    EXPECT_TRUE(getsKeyboard(title)) << title;
+    return window;
+}
+
 bool DesktopTest::vanishes(const std::string& title) {
     return eventually([&] { return !hasWindow(title); });
 }
@@ -170,7 +177,7 @@ Window DesktopTest::openEditor(double h, double v) {
     screen().keyDown("Control_L");
     screen().click(onScreen(h, v));
     screen().keyUp("Control_L");
-    return waitForWindow("Gradient");
+    return waitForDialog("Gradient");
 }
 
 void DesktopTest::openTemplates(const Window& editor) {
@@ -181,6 +188,7 @@ void DesktopTest::openTemplates(const Window& editor) {
 }
 
 void DesktopTest::closeEditorWith(const std::string& key) {
+    EXPECT_TRUE(getsKeyboard("Gradient"));
     screen().key(key);
     EXPECT_TRUE(vanishes("Gradient"));
 }
@@ -197,19 +205,20 @@ std::string DesktopTest::positionField() {
 }
 
 void DesktopTest::chooseInMenu(const std::vector<std::string>& keys) {
+    getsKeyboard();
     for (const std::string& key : keys)
         screen().key(key);
 }
 
 void DesktopTest::answerFileDialog(const std::string& title, const fs::path& file) {
-    waitForWindow(title);
+    waitForDialog(title);
     screen().key("ctrl+a");
     screen().type(file.string());
     screen().key("Return");
 }
 
 void DesktopTest::waitForMovingProgress() {
-    const Area content = waitForWindow("Easel").content;
+    const Area content = waitForDialog("Easel").content;
     const auto bar = [&] {
         const Picture shown = screen().picture();
         std::vector<std::uint32_t> pixels;
@@ -223,10 +232,10 @@ void DesktopTest::waitForMovingProgress() {
 }
 
 std::string DesktopTest::messageOf(const Window& box) {
-    screen().click({(box.content.left + box.content.right) / 2 + 20, box.content.top + 24});
-    screen().key("ctrl+a");
     std::string text;
     eventually([&] {
+        screen().click({(box.content.left + box.content.right) / 2 + 20, box.content.top + 24});
+        screen().key("ctrl+a");
         screen().key("ctrl+c");
         return !(text = screen().clipboard()).empty();
     });
@@ -235,6 +244,7 @@ std::string DesktopTest::messageOf(const Window& box) {
 
 std::string DesktopTest::saved() {
     const std::string before = contents(drawing());
+    getsKeyboard("drawing.svg");
     screen().key("ctrl+s");
     eventually([&] { return contents(drawing()) != before; }, 3s);
     return contents(drawing());

@@ -64,11 +64,14 @@ class DesktopTest : public testing::Test {
     static bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds atMost = 10s);
     // Waits for a window whose title begins so. Fails the test if there is none.
     Window waitForWindow(const std::string& title);
+    // The same for one that takes the keyboard.
+    Window waitForDialog(const std::string& title);
     bool hasWindow(const std::string& title) const;
     std::size_t windowsWith(const std::string& title) const;
     bool vanishes(const std::string& title);
-    // Waits until a window whose title begins so has the keyboard.
-    bool getsKeyboard(const std::string& title);
+    // Waits until a window whose title begins so has the keyboard, which comes a little after the window.
+    // Keys that are pressed between the end of one window and then are lost.
+    bool getsKeyboard(const std::string& title = {});
     // The window of the drawing, whatever is unsaved in it.
     Window drawingWindow() { return waitForWindow("drawing.svg"); }
 
@@ -91,7 +94,7 @@ class DesktopTest : public testing::Test {
     // What the position field holds, through the clipboard.
     std::string positionField();
 
-    // Presses one key after the other: the menu's, and those of the entries.
+    // Presses one key after the other once a window hears them: the menu's, and those of the entries.
     void chooseInMenu(const std::vector<std::string>& keys);
     // Waits for a file dialog and answers it with a path.
     void answerFileDialog(const std::string& title, const std::filesystem::path& file);

@@ -177,12 +177,12 @@ TEST_F(DesktopTest, UnsavedChangesAreAskedAbout) {
     screen().click(onScreen(160, 110));
     EXPECT_TRUE(colorVanishes(kPlain));
     screen().key("ctrl+w");
-    waitForWindow("Easel");
+    waitForDialog("Easel");
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     EXPECT_TRUE(hasWindow("drawing.svg"));
     screen().key("ctrl+w");
-    waitForWindow("Easel");
+    waitForDialog("Easel");
     screen().key("Return");
     EXPECT_EQ(program().wait(10s), 0);
     EXPECT_NE(contents(drawing()), before) << "Return saves";

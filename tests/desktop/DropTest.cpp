@@ -69,7 +69,7 @@ TEST_F(DropTest, OfSeveralFilesTheOneThatIsNoDrawingIsNamedWithTheReasonAndTheOt
     const fs::path good = copyOfDrawing("good.svg");
     startWithDrawing();
     drop({bad, good}, drawingWindow().content.middle());
-    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("bad.svg: "));
+    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("bad.svg: "));
     screen().key("Escape");
     waitForWindow("good.svg");
 }

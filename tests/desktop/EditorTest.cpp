@@ -95,9 +95,10 @@ TEST_F(EditorTest, TheKindIsSwitchedAndTheCentreMovedInThePreview) {
     EXPECT_TRUE(vanishes("Gradient"));
     EXPECT_THAT(saved(), HasSubstr("<radialGradient"));
     // The centre is at a quarter of the width and of the height: there the shape has the first stop's color.
-    const Picture shown = screen().picture();
-    EXPECT_LT(shown.at(onScreen(110, 255)) >> 16, 0x40U);
-    EXPECT_GT(shown.at(onScreen(255, 355)) >> 16, 0xa0U);
+    EXPECT_TRUE(eventually([&] {
+        const Picture shown = screen().picture();
+        return shown.at(onScreen(110, 255)) >> 16 < 0x40 && shown.at(onScreen(255, 355)) >> 16 > 0xa0;
+    }));
 }
 
 TEST_F(EditorTest, ALineDraggedInThePreviewTurnsTheGradientAndLeavesNoTraceThere) {
@@ -123,7 +124,7 @@ TEST_F(EditorTest, AColorTypedInThePickerIsTheStopsToTheLastBit) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);
     screen().click(in(editor, EditorItems::swatch));
-    waitForWindow("Color of the gradient stop");
+    waitForDialog("Color of the gradient stop");
     // The three fields for 16 bits follow the one for the color's name.
     for (const char* key : {"alt+h", "Tab", "Tab", "Tab"})
         screen().key(key);
@@ -145,7 +146,7 @@ TEST_F(EditorTest, EscapeInThePickersFieldsLeavesTheColorAndTheKeyboardComesBack
     const std::string before = contents(drawing());
     const Window editor = openEditor(160, 290);
     screen().click(in(editor, EditorItems::swatch));
-    waitForWindow("Color of the gradient stop");
+    waitForDialog("Color of the gradient stop");
     screen().key("alt+h");
     screen().type("123456");
     screen().key("Escape");
@@ -160,12 +161,12 @@ TEST_F(EditorTest, EscapeInThePickersFieldsLeavesTheColorAndTheKeyboardComesBack
 TEST_F(EditorTest, TheToolsOptionsOpenByKeyAndByDoubleClick) {
     startWithDrawing();
     screen().key("ctrl+g");
-    waitForWindow("Gradient");
+    waitForDialog("Gradient");
     closeEditorWith("Escape");
     const Window window = drawingWindow();
     // The second tool of the palette at the left edge.
     screen().doubleClick({window.content.left + 40, window.content.top + 115});
-    waitForWindow("Gradient");
+    waitForDialog("Gradient");
     closeEditorWith("Escape");
 }
 
@@ -217,7 +218,7 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
     openTemplates(editor);
     screen().type("Sav");
     screen().key("Return");
-    waitForWindow("Save Template");
+    waitForDialog("Save Template");
     screen().type("Dawn & Dusk");
     screen().key("Return");
     EXPECT_TRUE(vanishes("Save Template"));
@@ -236,7 +237,7 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
     openTemplates(editor);
     screen().type("Del");
     screen().key("Return");
-    const Window list = waitForWindow("Delete Templates");
+    const Window list = waitForDialog("Delete Templates");
     screen().click({list.content.left + 80, list.content.top + 54}); // the first row
     screen().key("Return");
     // The question has the title of the list, which it follows.
@@ -263,7 +264,7 @@ TEST_F(EditorTest, ACharacterThatNamesCannotHoldIsRefusedWithABeep) {
     openTemplates(editor);
     screen().type("Sav");
     screen().key("Return");
-    waitForWindow("Save Template");
+    waitForDialog("Save Template");
     screen().type("ab");
     const int bells = screen().bells();
     screen().typeCharacter(U'\u4e2d');

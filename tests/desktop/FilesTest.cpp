@@ -16,6 +16,7 @@ TEST_F(FilesTest, ADrawingIsOpenedThroughTheFileMenu) {
     const std::filesystem::path other = folder() / "other.svg";
     std::filesystem::copy_file(drawing(), other);
     startWithDrawing();
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
     screen().key("ctrl+o");
     answerFileDialog("Open", other);
     waitForWindow("other.svg");
@@ -26,7 +27,7 @@ TEST_F(FilesTest, AFileThatIsNoDrawingIsNamedWithTheReasonAndNothingElseChanges)
     const std::filesystem::path bad = folder() / "bad.svg";
     std::ofstream(bad) << "this is no drawing";
     start({bad.string()});
-    const Window box = waitForWindow("Easel");
+    const Window box = waitForDialog("Easel");
     EXPECT_THAT(messageOf(box), HasSubstr("bad.svg"));
     screen().key("Escape");
     waitForWindow("Untitled");
@@ -44,9 +45,9 @@ TEST_F(FilesTest, ADrawingThatTakesLongToReadIsWaitedForInItsOwnWindowAndCanBeCa
     }
     start({(folder() / "long.svg").string()});
     const Window drawing = waitForWindow("long.svg");
-    const Window progress = waitForWindow("Easel");
+    waitForDialog("Easel");
     EXPECT_FALSE(screen().picture().find(kPlain)) << "the window is there before its drawing";
-    screen().close(progress);
+    screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     EXPECT_EQ(waitForWindow("Untitled").id, drawing.id) << "an empty drawing stays";
     EXPECT_EQ(quit(), 0);
@@ -56,7 +57,7 @@ TEST_F(FilesTest, WithoutAUsablePluginTheProgramSaysWhyAndRuns) {
     const std::filesystem::path module = folder() / "NoPlugin.so";
     std::ofstream(module) << "not a module";
     start({"--plugin", module.string(), drawing().string()});
-    const Window box = waitForWindow("Easel");
+    const Window box = waitForDialog("Easel");
     EXPECT_THAT(messageOf(box), HasSubstr("NoPlugin.so"));
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
@@ -71,12 +72,12 @@ TEST_F(FilesTest, AFailedSaveKeepsTheDrawingUnsaved) {
     std::filesystem::remove(drawing());
     std::filesystem::create_directory(drawing());
     screen().key("ctrl+s");
-    const Window box = waitForWindow("Easel");
+    const Window box = waitForDialog("Easel");
     EXPECT_THAT(messageOf(box), HasSubstr("drawing.svg"));
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     screen().key("ctrl+q");
-    waitForWindow("Easel"); // still asks about the changes
+    waitForDialog("Easel"); // still asks about the changes
     screen().key("alt+n");
     screen().key("Escape");
     std::filesystem::remove_all(drawing());
@@ -109,7 +110,7 @@ TEST_F(FilesTest, ASaveToAPlaceThatCannotBeWrittenLeavesTheDrawingUnsavedUnderIt
     EXPECT_TRUE(colorVanishes(kPlain));
     screen().key("ctrl+shift+s");
     answerFileDialog("Save As", nowhere);
-    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("nowhere.svg: "));
+    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("nowhere.svg: "));
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     EXPECT_TRUE(hasWindow("drawing.svg*"));
@@ -133,7 +134,7 @@ TEST_F(FilesTest, RecentDrawingsAreListedLatestFirstAfterARestartAndOneThatIsGon
     // Now second, drawing, first.
     std::filesystem::remove(first);
     chooseInMenu({"alt+f", "r", "Down", "Down", "Return"});
-    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("first.svg: "));
+    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("first.svg: "));
     screen().key("Escape");
     const std::filesystem::path settings = configuration() / "kestrad" / "easel.conf";
     EXPECT_TRUE(eventually([&] { return contents(settings).find("first.svg") == std::string::npos; }));
@@ -150,6 +151,7 @@ TEST_F(FilesTest, ALargeDrawingShowsItsProgressAndIsCancelledLeavingTheOneThatWa
         svg << "</svg>";
     }
     startWithDrawing();
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
     screen().key("ctrl+o");
     answerFileDialog("Open", large);
     waitForMovingProgress();

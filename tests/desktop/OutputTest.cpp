@@ -55,12 +55,12 @@ TEST_F(OutputTest, AnEndingThatIsNoneIsFollowedByTheFormatsOwnAndReplacingIsAske
     std::ofstream(in("version1.2.png")) << "before";
     startWithDrawing();
     exportAs("p", "PNG", in("version1.2"));
-    waitForWindow("Easel");
+    waitForDialog("Easel");
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     EXPECT_EQ(contents(in("version1.2.png")), "before");
     exportAs("p", "PNG", in("version1.2"));
-    waitForWindow("Easel");
+    waitForDialog("Easel");
     screen().key("Return");
     EXPECT_TRUE(eventually([&] { return contents(in("version1.2.png")).starts_with("\x89PNG"); }));
     EXPECT_FALSE(fs::exists(in("version1.2")));
@@ -73,7 +73,7 @@ TEST_F(OutputTest, AnExportDoesNotTakeThePlaceOfTheDrawingsOwnFile) {
     // The file dialog's own question.
     EXPECT_TRUE(eventually([&] { return windowsWith("Export as SVG") == 2; }));
     screen().key("alt+y");
-    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("drawing.svg: this is the drawing itself"));
+    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("drawing.svg: this is the drawing itself"));
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     EXPECT_EQ(contents(drawing()), before);
@@ -84,7 +84,7 @@ TEST_F(OutputTest, AnExportThatFailsNamesFileAndReason) {
     fs::create_symlink(in("nowhere.pdf"), in("nowhere.pdf"));
     startWithDrawing();
     exportAs("d", "PDF", in("nowhere.pdf"));
-    EXPECT_THAT(messageOf(waitForWindow("Easel")), HasSubstr("nowhere.pdf: "));
+    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("nowhere.pdf: "));
 }
 
 TEST_F(OutputTest, ALongExportShowsItsProgressAndIsCancelledWithoutATrace) {
@@ -112,7 +112,7 @@ TEST_F(OutputTest, ALongExportShowsItsProgressAndIsCancelledWithoutATrace) {
 TEST_F(OutputTest, PrintingToAFileGivesAPageThatLiesAsTheDrawingDoesAndHoldsGradients) {
     startWithDrawing();
     screen().key("ctrl+p");
-    waitForWindow("Print");
+    waitForDialog("Print");
     screen().key("alt+f"); // the name of the file
     screen().key("ctrl+a");
     screen().type(in("printed.pdf").string());
