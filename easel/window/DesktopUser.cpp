@@ -20,6 +20,15 @@
 
 namespace easel::window {
 
+// A key that is pressed while the plug-in follows the mouse is one for the dialog, once the mouse is up.
+struct DesktopUser::ShownDialog {
+    ShownDialog(host::Dialog& dialog, DesktopUser& user)
+        : window(dialog, user, user.parentForDialogs()), keys(user.gate_, &window, InputGate::Hears::Keys) {}
+
+    DialogWindow window;
+    InputGate::Scope keys;
+};
+
 DesktopUser::DesktopUser(QObject* parent) : QObject(parent) {
     qApp->installEventFilter(this);
 }
@@ -161,18 +170,18 @@ void DesktopUser::tell(const std::string& message) {
 }
 
 void DesktopUser::dialogShown(host::Dialog& dialog) {
-    auto& window = dialogs_[&dialog];
-    window = std::make_unique<DialogWindow>(dialog, *this, parentForDialogs());
-    open_.emplace_back(window.get());
-    window->show();
-    window->activateWindow();
+    auto& shown = dialogs_[&dialog];
+    shown = std::make_unique<ShownDialog>(dialog, *this);
+    open_.emplace_back(&shown->window);
+    shown->window.show();
+    shown->window.activateWindow();
 }
 
 void DesktopUser::dialogClosed(host::Dialog& dialog) {
     const auto found = dialogs_.find(&dialog);
     if (found == dialogs_.end())
         return;
-    std::erase(open_, found->second.get());
+    std::erase(open_, &found->second->window);
     dialogs_.erase(found);
     if (QWidget* next = parentForDialogs())
         next->activateWindow();
@@ -182,7 +191,7 @@ std::int16_t DesktopUser::nextHit(host::Dialog& dialog) {
     const auto found = dialogs_.find(&dialog);
     if (found == dialogs_.end())
         return 0;
-    const InputGate::Scope scope(gate_, found->second.get());
+    const InputGate::Scope scope(gate_, &found->second->window);
     pointer_.sleepUntil([&dialog] { return dialog.hasHit(); });
     return pointer_.givenUp() ? std::int16_t{0} : static_cast<std::int16_t>(dialog.takeHit().value_or(0));
 }

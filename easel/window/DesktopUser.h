@@ -16,7 +16,6 @@ class QInputEvent;
 namespace easel::window {
 
 class Canvas;
-class DialogWindow;
 
 class DesktopUser : public QObject, public host::User {
     Q_OBJECT
@@ -90,13 +89,15 @@ class DesktopUser : public QObject, public host::User {
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
+    struct ShownDialog;
+
     void noteModifiers(const QInputEvent& event);
     Canvas* canvasOf(const host::DrawingWindow& window) const;
 
     PointerTracker pointer_;
     InputGate gate_;
     std::map<const host::DrawingWindow*, Canvas*> canvases_;
-    std::map<const host::Dialog*, std::unique_ptr<DialogWindow>> dialogs_;
+    std::map<const host::Dialog*, std::unique_ptr<ShownDialog>> dialogs_;
     std::vector<QPointer<QWidget>> open_; // dialogs on the screen, the front one last
     QPointer<QWidget> frontWindow_;
     Qt::KeyboardModifiers modifiers_;

@@ -27,18 +27,21 @@ bool isInput(QEvent::Type type) {
     }
 }
 
+bool isKey(QEvent::Type type) {
+    return type == QEvent::KeyPress || type == QEvent::ShortcutOverride || type == QEvent::Shortcut;
+}
+
 } // namespace
 
 InputGate::InputGate(QObject* parent) : QObject(parent) {
     qApp->installEventFilter(this);
 }
 
-InputGate::Scope::Scope(InputGate& gate, QWidget* only) : gate_(gate) {
-    gate_.only_.emplace_back(only);
-}
+InputGate::Scope::Scope(InputGate& gate, QWidget* only, Hears hears)
+    : gate_(gate), place_(gate.admitted_.insert(gate.admitted_.end(), {only, hears})) {}
 
 InputGate::Scope::~Scope() {
-    gate_.only_.pop_back();
+    gate_.admitted_.erase(place_);
 }
 
 bool InputGate::admits(const QWidget& widget) const {
@@ -46,18 +49,19 @@ bool InputGate::admits(const QWidget& widget) const {
     if (widget.window()->windowType() == Qt::Popup)
         return true;
     for (const QWidget* at = &widget; at != nullptr; at = at->parentWidget())
-        if (at == only_.back())
+        if (at == admitted_.back().widget)
             return true;
     return false;
 }
 
 bool InputGate::eventFilter(QObject* receiver, QEvent* event) {
-    if (only_.empty() || only_.back() == nullptr || !receiver->isWidgetType() || !isInput(event->type()))
+    if (admitted_.empty() || admitted_.back().widget == nullptr || !receiver->isWidgetType() ||
+        !isInput(event->type()))
         return false;
     if (admits(*static_cast<QWidget*>(receiver)))
-        return false;
+        return admitted_.back().hears == Hears::Keys && !isKey(event->type());
     if (event->type() == QEvent::MouseButtonPress) {
-        QWidget* window = only_.back()->window();
+        QWidget* window = admitted_.back().widget->window();
         window->raise();
         window->activateWindow();
     }

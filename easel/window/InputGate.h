@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <vector>
+#include <list>
 
 namespace easel::window {
 
@@ -15,18 +15,28 @@ class InputGate : public QObject {
     Q_OBJECT
 
   public:
+    enum class Hears { Everything, Keys };
+
+  private:
+    struct Admitted {
+        QPointer<QWidget> widget;
+        Hears hears;
+    };
+
+  public:
     explicit InputGate(QObject* parent = nullptr);
 
-    // While it lives, only this widget and what it contains or opens hears the user.
+    // While it lives, and no later one does, only this widget and what it contains or opens hears the user.
     class Scope {
       public:
-        Scope(InputGate& gate, QWidget* only);
+        Scope(InputGate& gate, QWidget* only, Hears hears = Hears::Everything);
         ~Scope();
         Scope(const Scope&) = delete;
         Scope& operator=(const Scope&) = delete;
 
       private:
         InputGate& gate_;
+        std::list<Admitted>::iterator place_;
     };
 
   protected:
@@ -35,7 +45,7 @@ class InputGate : public QObject {
   private:
     bool admits(const QWidget& widget) const;
 
-    std::vector<QPointer<QWidget>> only_;
+    std::list<Admitted> admitted_; // the one that counts last
 };
 
 } // namespace easel::window

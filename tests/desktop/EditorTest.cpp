@@ -158,6 +158,20 @@ TEST_F(EditorTest, EscapeInThePickersFieldsLeavesTheColorAndTheKeyboardComesBack
     EXPECT_EQ(contents(drawing()), before);
 }
 
+TEST_F(EditorTest, AKeyPressedInMidDragIsHeardAfterIt) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    addStopInTheMiddle(editor);
+    EXPECT_TRUE(positionBecomes("50.00"));
+    screen().moveTo(onRamp(editor, 0.5));
+    screen().press();
+    screen().glideTo(onRamp(editor, 0.75));
+    screen().key("Return");
+    screen().release();
+    EXPECT_TRUE(vanishes("Gradient"));
+    EXPECT_THAT(saved(), HasSubstr("offset=\"0.75"));
+}
+
 TEST_F(EditorTest, TheToolsOptionsOpenByKeyAndByDoubleClick) {
     startWithDrawing();
     screen().key("ctrl+g");
