@@ -11,9 +11,12 @@ namespace {
 
 using Words = std::vector<std::string_view>;
 
+enum class Mixing { Untold, InSrgbAsTold };
+
 struct Reading {
     ImportedGradient result;
     Notes notes;
+    Mixing mixing = Mixing::Untold;
     std::string flaw; ///< why there is no gradient, once there is none
 };
 
@@ -69,7 +72,10 @@ bool setSide(const Words& sides, Reading& reading) {
 void takeColorSpace(Words& prelude, Reading& reading) {
     for (std::size_t i = 0; i < prelude.size(); ++i)
         if (lowerCase(prelude[i]) == "in") {
-            reading.notes.insert("its color space is left out: colors are mixed as they are in sRGB");
+            if (i + 1 < prelude.size() && lowerCase(prelude[i + 1]) == "srgb")
+                reading.mixing = Mixing::InSrgbAsTold;
+            else
+                reading.notes.insert(kColorSpaceNote);
             const bool isFirst = i == 0;
             const std::size_t length = prelude.size() > i + 3 && lowerCase(prelude[i + 3]) == "hue" ? 4 : 2;
             if (isFirst && prelude.size() > length)
@@ -187,6 +193,8 @@ bool read(const CssFunction& function, Reading& reading) {
         return false;
     }
     auto stops = stopsFrom(std::span(parts).subspan(hasPrelude ? 1 : 0), reading.notes, reading.flaw);
+    if (reading.mixing == Mixing::InSrgbAsTold)
+        reading.notes.erase(kColorSpaceNote);
     if (stops)
         reading.result.gradient.ColorList() = std::move(*stops);
     return stops.has_value();

@@ -38,10 +38,19 @@ std::optional<double> positionIn(std::string_view word, Notes& notes) {
     return kUnplaced;
 }
 
+// Colors that are written in one of the newer forms are mixed in another space unless the gradient says
+// which.
+bool isMixedInOklab(std::string_view color) {
+    const auto name = lowerCase(color.substr(0, color.find('(')));
+    return name == "lab" || name == "lch" || name == "oklab" || name == "oklch" || name == "color";
+}
+
 std::optional<RGBColor> colorIn(std::string_view word, Notes& notes) {
     const auto color = svg::parseColor(word);
     if (!color)
         return std::nullopt;
+    if (isMixedInOklab(word))
+        notes.insert(kColorSpaceNote);
     if (color->opacity < 1)
         notes.insert("its opacity is left out: every color is opaque");
     return RGBColor{color->color.red, color->color.green, color->color.blue};

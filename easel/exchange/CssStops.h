@@ -15,6 +15,8 @@ namespace easel::exchange {
 /// What is said once however often it occurs.
 using Notes = std::set<std::string>;
 
+constexpr const char* kColorSpaceNote = "its color space is left out: colors are mixed as they are in sRGB";
+
 /// Whether the part of a gradient's list is a color with or without positions.
 bool isColorStop(std::string_view part);
 

@@ -5,12 +5,16 @@
 
 #include <cmath>
 #include <numbers>
+#include <pugixml.hpp>
+#include <sstream>
 
 namespace easel::exchange {
 namespace {
 
 using drawing::ForeignGradient;
 using drawing::Point;
+
+constexpr double kSquareSize = 256;
 
 // Where a point lies within a box, as fractions of its sides.
 TPoint<double> fractionsOf(const drawing::Box& box, Point point) {
@@ -63,6 +67,45 @@ std::optional<ImportedGradient> gradientOf(const drawing::Object& object) {
     return std::nullopt;
 }
 
+std::optional<ImportedGradient> firstGradientIn(const drawing::Drawing& drawing) {
+    for (std::size_t i = 0; i < drawing.size(); ++i)
+        if (auto found = gradientOf(*drawing.object(i)))
+            return found;
+    return std::nullopt;
+}
+
+bool isGradient(const pugi::xml_node& node) {
+    const std::string_view name = node.name();
+    const auto local = name.substr(name.find(':') + 1);
+    return (local == "linearGradient" || local == "radialGradient") && node.attribute("id") &&
+           (node.first_child() || node.attribute("href") || node.attribute("xlink:href"));
+}
+
+// Files that are made to pass gradients on hold nothing but gradients; the first one is put on a square.
+std::optional<ImportedGradient> unusedGradientIn(const std::filesystem::path& file) {
+    pugi::xml_document document;
+    if (!document.load_file(file.c_str()))
+        return std::nullopt;
+    const auto gradient = document.find_node(isGradient);
+    if (!gradient)
+        return std::nullopt;
+    auto square = document.document_element().append_child("rect");
+    square.append_attribute("xmlns") = "http://www.w3.org/2000/svg";
+    square.append_attribute("width") = kSquareSize;
+    square.append_attribute("height") = kSquareSize;
+    square.append_attribute("fill") = ("url(#" + std::string(gradient.attribute("id").value()) + ")").c_str();
+    std::ostringstream text;
+    document.save(text, "", pugi::format_raw);
+    const auto read = svg::readBytes(text.str(), file.string());
+    const auto* const drawing = std::get_if<drawing::Drawing>(&read);
+    auto found = drawing ? firstGradientIn(*drawing) : std::nullopt;
+    if (found) {
+        found->name = gradient.attribute("id").value();
+        found->notes.emplace_back("no shape has it; it is taken as a square of 256 units shows it");
+    }
+    return found;
+}
+
 } // namespace
 
 ImportOutcome readSvg(const std::filesystem::path& file) {
@@ -73,11 +116,11 @@ ImportOutcome readSvg(const std::filesystem::path& file) {
         const auto& message = failure->message;
         return NoGradient{message.starts_with(prefix) ? message.substr(prefix.size()) : message};
     }
-    const auto& drawing = std::get<drawing::Drawing>(read);
-    for (std::size_t i = 0; i < drawing.size(); ++i)
-        if (auto found = gradientOf(*drawing.object(i)))
-            return std::move(*found);
-    return NoGradient{"no shape in it has a gradient"};
+    if (auto found = firstGradientIn(std::get<drawing::Drawing>(read)))
+        return std::move(*found);
+    if (auto found = unusedGradientIn(file))
+        return std::move(*found);
+    return NoGradient{"there is no gradient in it"};
 }
 
 drawing::Drawing squareWith(const CGradientData& gradient, double size) {
@@ -98,8 +141,7 @@ drawing::Drawing squareWith(const CGradientData& gradient, double size) {
 }
 
 ExportedGradient writeSvg(const CGradientData& gradient) {
-    constexpr double kSize = 256;
-    return {svg::toBytes(squareWith(gradient, kSize)), {}};
+    return {svg::toBytes(squareWith(gradient, kSquareSize)), {}};
 }
 
 } // namespace easel::exchange

@@ -89,6 +89,19 @@ TEST_F(TemplatesCommand, ImportTakesSeveralFilesNamesThemAfterTheirsAndSaysWhatI
     EXPECT_EQ(run("list").out, "one\ntwo\n");
 }
 
+TEST_F(TemplatesCommand, ImportTakesAGradientFromAnSvgFileThatHasNoShapes) {
+    writeContent(player_.folder() / "alone.svg",
+                 "<s:svg xmlns:s='http://www.w3.org/2000/svg'><s:defs><s:linearGradient id='empty'/>"
+                 "<s:radialGradient id='g' cx='.25' cy='.75'><s:stop offset='0' stop-color='red'/>"
+                 "<s:stop offset='1' stop-color='blue'/></s:radialGradient></s:defs></s:svg>");
+    writeContent(player_.folder() / "none.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    const auto ran = run("import alone.svg --name Alone");
+    EXPECT_EQ(ran.exitCode, 0) << ran.err;
+    EXPECT_THAT(ran.err, HasSubstr("no shape has it"));
+    EXPECT_THAT(run("show Alone").out, HasSubstr("kind    radial\nstart   0.25 0.75\nend     0.25 0.75\n"));
+    EXPECT_THAT(run("import none.svg").err, HasSubstr("none.svg: there is no gradient in it"));
+}
+
 TEST_F(TemplatesCommand, AnImportedTemplateIsLoadedByTheEditor) {
     writeContent(player_.folder() / "one.css", "linear-gradient(90deg, red, lime 25%, blue)");
     EXPECT_EQ(run("import one.css --name 'Caf\u00E9 1'").exitCode, 0);

@@ -108,6 +108,9 @@ TEST(CssGradient, WhatCannotBeHeldIsSaid) {
     EXPECT_THAT(noteOn("repeating-linear-gradient(red, blue 20%)"), ElementsAre(HasSubstr("repetition")));
     EXPECT_THAT(noteOn("linear-gradient(in oklch longer hue, red, blue)"),
                 ElementsAre(HasSubstr("color space")));
+    EXPECT_THAT(noteOn("linear-gradient(oklch(60% 0.1 20), blue)"), ElementsAre(HasSubstr("color space")))
+        << "this is what colors written so imply";
+    EXPECT_THAT(noteOn("linear-gradient(in srgb, oklch(60% 0.1 20), blue)"), IsEmpty());
     EXPECT_THAT(noteOn("linear-gradient(to top right, red, blue)"), ElementsAre(HasSubstr("corner")));
     EXPECT_THAT(noteOn("linear-gradient(red, lime 20px, blue)"), ElementsAre(HasSubstr("lengths")));
     EXPECT_THAT(noteOn("radial-gradient(red, blue)"), ElementsAre(HasSubstr("ellipse")));
