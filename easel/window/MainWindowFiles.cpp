@@ -154,8 +154,6 @@ void MainWindow::print() {
     printer.setDocName(name());
     turnPage(drawingWindow_.drawing(), printer);
     QPrintDialog dialog(&printer, this);
-    // There is one page.
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     if (!workspace_.user().runDialog(dialog))
         return;
     if (printDrawing(drawingWindow_.drawing(), printer, workspace_.user(), this) == Printed::Yes)
