@@ -43,7 +43,14 @@ struct CCarbonDialogBase::State {
     bool confirmed = false;
 
     // Empty for what is not there any more: an item must not be asked for when there are none.
-    std::string textNow(long index) const { return index < count() ? describe(index) : std::string(); }
+    std::vector<std::string> textsNow(const std::vector<int>& indexes) const {
+        const long there = count();
+        std::vector<std::string> texts;
+        texts.reserve(indexes.size());
+        for (const long index : indexes)
+            texts.push_back(index < there ? describe(index) : std::string());
+        return texts;
+    }
 
     // Where the thing that was listed in a row is now. What is listed can change behind the dialog's back,
     // and then a row must not name another thing than the user selected. It is looked for near by first.
@@ -76,8 +83,8 @@ bool CCarbonDialogBase::Run() {
         if (CanProcessCommand(command))
             DoCommand(command);
     };
-    const auto textOf = [this](long row) { return state_->textNow(row); };
-    DeletionList list(state_->title, state_->count(), textOf, state_->mode, carryOut);
+    const auto textsOf = [this](const std::vector<int>& rows) { return state_->textsNow(rows); };
+    DeletionList list(state_->title, state_->count(), textsOf, state_->mode, carryOut);
     state_->list = &list;
     theHost().user->runDeletion(list);
     return state_->confirmed;

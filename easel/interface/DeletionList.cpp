@@ -2,6 +2,7 @@
 #include "easel/interface/DeletionList.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace easel::host {
@@ -12,10 +13,19 @@ DeletionList::DeletionList(std::string title, long count, Describe describe, Sel
       mode_(mode), handler_(std::move(handler)) {}
 
 const std::string& DeletionList::text(int row) {
-    auto& text = rows_[static_cast<std::size_t>(row)];
-    if (!text)
-        text = describe_(row);
-    return *text;
+    askFor({row});
+    return *rows_[static_cast<std::size_t>(row)];
+}
+
+void DeletionList::askFor(const std::vector<int>& rows) {
+    std::vector<int> unknown;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(unknown),
+                 [this](int row) { return !rows_[static_cast<std::size_t>(row)]; });
+    if (unknown.empty())
+        return;
+    auto texts = describe_(unknown);
+    for (std::size_t i = 0; i < unknown.size(); ++i)
+        rows_[static_cast<std::size_t>(unknown[i])] = std::move(texts[i]);
 }
 
 void DeletionList::select(std::vector<int> rows) {
@@ -25,8 +35,7 @@ void DeletionList::select(std::vector<int> rows) {
     if (mode_ == SelectionMode::One && rows.size() > 1)
         rows.erase(rows.begin() + 1, rows.end());
     selection_ = std::move(rows);
-    for (const int row : selection_)
-        text(row);
+    askFor(selection_);
 }
 
 void DeletionList::command(DeletionCommand command) {

@@ -18,8 +18,8 @@ class DeletionList {
   public:
     // Carries out a command; it may ask the user a question, and closes the list when that is the outcome.
     using Handler = std::function<void(DeletionCommand)>;
-    // Gives the text of a row.
-    using Describe = std::function<std::string(long)>;
+    // Gives the texts of rows.
+    using Describe = std::function<std::vector<std::string>(const std::vector<int>&)>;
 
     // Texts are UTF-8.
     DeletionList(std::string title, long count, Describe describe, SelectionMode mode, Handler handler);
@@ -43,6 +43,8 @@ class DeletionList {
     void close() { open_ = false; }
 
   private:
+    void askFor(const std::vector<int>& rows);
+
     std::string title_;
     Describe describe_;
     std::vector<std::optional<std::string>> rows_;

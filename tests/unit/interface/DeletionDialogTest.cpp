@@ -189,7 +189,8 @@ TEST(DeletionDialog, OneRowAtATimeWhereSeveralAreNotAllowed) {
 
 TEST(DeletionList, LeavesOutRowsThatAreNotThereAndRepeatedOnes) {
     DeletionList list(
-        "", 3, [](long) { return "thing"; }, easel::host::SelectionMode::Several, [](DeletionCommand) {});
+        "", 3, [](const auto& rows) { return std::vector<std::string>(rows.size(), "thing"); },
+        easel::host::SelectionMode::Several, [](DeletionCommand) {});
     list.select({2, -1, 0, 3, 2});
     EXPECT_THAT(list.selection(), testing::ElementsAre(0, 2));
     list.select({});
