@@ -49,6 +49,10 @@ paint::PixelBox pixelsOf(const drawing::Box& area, const drawing::Affine& toImag
             pixel(std::ceil(end.x), image.width()), pixel(std::ceil(end.y), image.height())};
 }
 
+bool encloses(const drawing::Box& outer, const drawing::Box& inner) {
+    return outer.contains({inner.left, inner.top}) && outer.contains({inner.right, inner.bottom});
+}
+
 void whiten(paint::Surface& image, const paint::PixelBox& box) {
     for (int y = box.top; y < box.bottom; ++y)
         std::fill(image.row(y) + box.left, image.row(y) + box.right, kWhite);
@@ -95,6 +99,10 @@ void DrawingWindow::mark(const drawing::Box& area) {
     const drawing::Box seen = area.intersection(view_.seen());
     if (seen.empty())
         return;
+    // A change marks its object several times: as it was and as it is, selected and not.
+    if (std::any_of(marks_.begin(), marks_.end(), [&](const auto& one) { return encloses(one, seen); }))
+        return;
+    std::erase_if(marks_, [&](const auto& one) { return encloses(seen, one); });
     marks_.push_back(seen);
     if (marks_.size() <= kMostMarks)
         return;

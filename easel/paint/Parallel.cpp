@@ -12,7 +12,9 @@
 namespace easel::paint {
 
 unsigned usefulThreads() {
-    return std::clamp(std::thread::hardware_concurrency(), 1u, 16u);
+    // To ask the system, a file has to be read.
+    static const unsigned threads = std::clamp(std::thread::hardware_concurrency(), 1u, 16u);
+    return threads;
 }
 
 void forEachPiece(std::size_t count, unsigned threads, const std::function<void(std::size_t piece)>& work) {

@@ -63,6 +63,25 @@ TEST_F(DrawingWindowTest, PaintsThroughItsView) {
     EXPECT_EQ(pixel(36, 32), kWhite);
 }
 
+TEST_F(DrawingWindowTest, MarksAnAreaOnceHoweverOftenItChanges) {
+    window.paintMarked();
+    window.drawing().insert(0, blackBox({10, 10, 20, 20}));
+    window.drawing().select(0);
+    window.drawing().invalidateSelection();
+    ASSERT_EQ(window.marks().size(), 1U);
+    const drawing::Box small = window.marks().front();
+    window.drawing().erase(0);
+    window.drawing().insert(0, blackBox({5, 5, 30, 30}));
+    ASSERT_EQ(window.marks().size(), 1U);
+    EXPECT_EQ(window.marks().front().intersection(small), small);
+    EXPECT_GT(window.marks().front().right, small.right);
+    window.drawing().insert(1, blackBox({80, 10, 85, 40}));
+    EXPECT_EQ(window.marks().size(), 2U) << "another area is another mark";
+    window.paintMarked();
+    EXPECT_EQ(pixel(25, 25), kBlack);
+    EXPECT_EQ(pixel(82, 25), kBlack);
+}
+
 TEST_F(DrawingWindowTest, PaintsManySmallChangesAllTheSame) {
     window.paintMarked();
     for (int i = 0; i < 40; ++i)
