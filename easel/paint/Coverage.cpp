@@ -3,15 +3,6 @@
 
 namespace easel::paint {
 
-PixelSpan RowCoverage::extent() const {
-    if (full.empty())
-        return {partial.front().begin, partial.back().end};
-    if (partial.empty())
-        return {full.front().begin, full.back().end};
-    return {std::min(full.front().begin, partial.front().begin),
-            std::max(full.back().end, partial.back().end)};
-}
-
 void RowSink::row(int y, const RowCoverage& coverage) {
     runs_.clear();
     auto full = coverage.full.begin();

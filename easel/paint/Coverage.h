@@ -43,7 +43,14 @@ struct RowCoverage {
 
     bool empty() const { return full.empty() && partial.empty(); }
     // From the first to the last of a row that is not empty.
-    PixelSpan extent() const;
+    PixelSpan extent() const {
+        if (full.empty())
+            return {partial.front().begin, partial.back().end};
+        if (partial.empty())
+            return {full.front().begin, full.back().end};
+        return {std::min(full.front().begin, partial.front().begin),
+                std::max(full.back().end, partial.back().end)};
+    }
 };
 
 // Receives the rows of a shape from top to bottom, none of them empty.

@@ -2,6 +2,7 @@
 #include "easel/paint/CoverageKernels.h"
 
 #include "easel/paint/Coverage.h"
+#include "easel/paint/TouchedBlocks.h"
 
 #include <utility>
 
@@ -73,21 +74,23 @@ HWY_INLINE Sum SumBlock(Sum sum, std::uint32_t* changes, std::uint32_t* coverage
 
 #endif
 
-template <drawing::FillRule rule>
-void SumUnderRule(TouchedBlocks touched, std::uint32_t* changes, std::uint32_t* coverage) {
+template <drawing::FillRule rule> void SumUnderRule(const ChangedRow& row, CoverageLists& lists) {
+    CoverageLists::Writer writer(lists);
+    TouchedBlocks touched(row.touched, row.firstBlock, row.endBlock);
     auto sum = ZeroSum();
     while (touched.next()) {
         const std::size_t column = touched.block() * kCoverageBlock;
-        sum = SumBlock<rule>(sum, changes + column, coverage + column);
+        sum = SumBlock<rule>(sum, row.changes + column, writer.coverage() + column);
+        writer.addBlock(static_cast<int>(column));
     }
+    writer.finish(lists);
 }
 
-void SumCoverage(TouchedBlocks touched, std::uint32_t* changes, std::uint32_t* coverage,
-                 drawing::FillRule rule) {
+void SumCoverage(const ChangedRow& row, drawing::FillRule rule, CoverageLists& lists) {
     if (rule == drawing::FillRule::NonZero)
-        SumUnderRule<drawing::FillRule::NonZero>(touched, changes, coverage);
+        SumUnderRule<drawing::FillRule::NonZero>(row, lists);
     else
-        SumUnderRule<drawing::FillRule::EvenOdd>(touched, changes, coverage);
+        SumUnderRule<drawing::FillRule::EvenOdd>(row, lists);
 }
 
 } // namespace easel::paint::HWY_NAMESPACE
@@ -98,9 +101,8 @@ namespace easel::paint {
 
 HWY_EXPORT(SumCoverage);
 
-void sumCoverage(TouchedBlocks touched, std::uint32_t* changes, std::uint32_t* coverage,
-                 drawing::FillRule rule) {
-    HWY_DYNAMIC_DISPATCH(SumCoverage)(touched, changes, coverage, rule);
+void sumCoverage(const ChangedRow& row, drawing::FillRule rule, CoverageLists& lists) {
+    HWY_DYNAMIC_DISPATCH(SumCoverage)(row, rule, lists);
 }
 
 } // namespace easel::paint

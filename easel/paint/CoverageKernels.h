@@ -2,17 +2,23 @@
 // them give the same coverage.
 #pragma once
 
-#include "easel/drawing/Path.h"
-#include "easel/paint/TouchedBlocks.h"
+#include "easel/paint/CoverageLists.h"
 
+#include <cstddef>
 #include <cstdint>
 
 namespace easel::paint {
 
-// Sums up the changes of coverage of a row from left to right and writes what they come to under the fill
-// rule. Only touched blocks are read and written; there are no changes outside of them. The changes are set
-// to 0. Both arrays lie on multiples of 16 bytes.
-void sumCoverage(TouchedBlocks touched, std::uint32_t* changes, std::uint32_t* coverage,
-                 drawing::FillRule rule);
+// The changes of coverage of a row. There are none outside of touched blocks, which have a byte of 1.
+struct ChangedRow {
+    std::uint32_t* changes;      // by column, on a multiple of 16 bytes
+    const std::uint8_t* touched; // by block
+    // The blocks that may be touched; both are multiples of TouchedBlocks::kInWord.
+    std::size_t firstBlock;
+    std::size_t endBlock;
+};
+
+// Sums up changes from left to right and lists what they come to under the fill rule. Sets them to 0.
+void sumCoverage(const ChangedRow& row, drawing::FillRule rule, CoverageLists& lists);
 
 } // namespace easel::paint

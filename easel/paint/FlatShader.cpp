@@ -12,7 +12,8 @@ void FlatShader::row(int y, const RowCoverage& coverage) {
     std::uint32_t* row = surface_.row(y);
     if (opacity_ != 1 || !color_.opaque())
         return mix(row, coverage);
-    const LinearStretch everywhere = piece_.stretch(0, coverage.extent().end, color_.anchor);
+    LinearStretch everywhere;
+    piece_.layOut(0, coverage.extent().end, color_.anchor, everywhere);
     fillLinear(row, coverage.full, &everywhere);
     blendLinear(row, coverage.partial, &everywhere, coverage.coverage);
 }

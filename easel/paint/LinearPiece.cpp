@@ -32,14 +32,14 @@ LinearPiece::LinearPiece(const RampSegment& segment, double perPixel)
     }
 }
 
-LinearStretch LinearPiece::stretch(int x, int end, double parameter) const {
+void LinearPiece::layOut(int x, int end, double parameter, LinearStretch& stretch) const {
     const double way = std::clamp(parameter - anchor_, 0.0, reach_);
-    LinearStretch stretch{end, {}, &steps_};
+    stretch.end = end;
+    stretch.steps = &steps_;
     for (std::size_t i = 0; i < stretch.origin.size(); ++i)
         stretch.origin[i] =
             static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * way)) -
             steps_.pixel[i] * static_cast<std::uint32_t>(x);
-    return stretch;
 }
 
 } // namespace easel::paint

@@ -11,8 +11,9 @@ class LinearPiece {
     // `perPixel` is the change of the parameter from a pixel to its right neighbor.
     LinearPiece(const RampSegment& segment, double perPixel);
 
-    // The pixels from x to `end` of a row, the first of them with the given parameter.
-    LinearStretch stretch(int x, int end, double parameter) const;
+    // The pixels from x to `end` of a row, the first of them with the given parameter. Written in place,
+    // since a copy of what has just been written is slow.
+    void layOut(int x, int end, double parameter, LinearStretch& stretch) const;
 
   private:
     double anchor_;

@@ -19,24 +19,28 @@ constexpr int kEndless = std::numeric_limits<int>::max();
 class LinearShader::Track {
   public:
     Track(const LinearShader& shader, int y)
-        : shader_(shader), segments_(shader.segments_.all()), y_(y + 0.5),
-          first_(shader.origin_ + shader.perRow_ * y) {}
+        : shader_(shader), segments_(shader.segments_.all().data()), last_(shader.segments_.all().size() - 1),
+          perPixel_(shader.perPixel_), pixelsPerUnit_(shader.pixelsPerUnit_),
+          first_(shader.origin_ + shader.perRow_ * y), left_(shader.surface_.clip().left - 1),
+          right_(shader.surface_.clip().right), y_(y + 0.5) {}
 
-    double parameter(int x) const { return first_ + shader_.perPixel_ * x; }
+    double parameter(int x) const { return first_ + perPixel_ * x; }
     std::size_t place() const { return place_; }
-    std::size_t index() const { return rises() ? place_ : segments_.size() - 1 - place_; }
+    std::size_t index() const { return rises() ? place_ : last_ - place_; }
     // The first pixel beyond the present place.
     int end() const { return end_; }
 
     // Goes to the place of a pixel, which is likely to be near that where the row before began.
     void enter(int x) {
         if (level()) {
-            place_ = shader_.segments_.find(first_);
+            const std::size_t segment = shader_.segments_.find(first_);
+            place_ = rises() ? segment : last_ - segment;
             end_ = kEndless;
             return;
         }
         place_ = shader_.firstPlace_;
-        while (place_ > 0 && endOf(place_ - 1) > x)
+        // No further than the pixel before, since rounding decides which place has this one.
+        while (place_ > 0 && !reaches(parameter(x - 1), border(place_ - 1)))
             --place_;
         end_ = endOf(place_);
         while (end_ <= x)
@@ -47,18 +51,19 @@ class LinearShader::Track {
 
   private:
     // The whole row has one color.
-    bool level() const { return !std::isfinite(shader_.pixelsPerUnit_); }
-    bool rises() const { return shader_.perPixel_ >= 0; }
-    int endOf(std::size_t place) const {
-        if (place + 1 == segments_.size())
-            return kEndless;
-        return pixelBeyond(segments_[rises() ? place + 1 : segments_.size() - 1 - place]);
+    bool level() const { return !std::isfinite(pixelsPerUnit_); }
+    bool rises() const { return perPixel_ >= 0; }
+    // Where the next place begins.
+    const RampSegment& border(std::size_t place) const {
+        return segments_[rises() ? place + 1 : last_ - place];
     }
+    bool reaches(double parameter, const RampSegment& border) const {
+        return (parameter >= border.start) == rises();
+    }
+    int endOf(std::size_t place) const { return place == last_ ? kEndless : pixelBeyond(border(place)); }
     // The first pixel on the far side of a segment's start.
     int pixelBeyond(const RampSegment& segment) const {
-        const PixelBox& clip = shader_.surface_.clip();
-        const double crossing =
-            std::clamp<double>((segment.start - first_) * shader_.pixelsPerUnit_, clip.left - 1, clip.right);
+        const double crossing = std::min(std::max((segment.start - first_) * pixelsPerUnit_, left_), right_);
         // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
         const int whole = static_cast<int>(crossing);
         const int near = whole + (crossing > whole ? 1 : 0);
@@ -69,13 +74,18 @@ class LinearShader::Track {
         return beyond(segment, near) ? near : near + 1;
     }
     bool beyond(const RampSegment& segment, int x) const {
-        return (shader_.map_.at({x + 0.5, y_}) >= segment.start) == rises();
+        return reaches(shader_.map_.at({x + 0.5, y_}), segment);
     }
 
     const LinearShader& shader_;
-    std::span<const RampSegment> segments_;
-    double y_;
+    const RampSegment* segments_;
+    std::size_t last_; // segment
+    double perPixel_;
+    double pixelsPerUnit_;
     double first_; // parameter at the centre of the row's pixel 0
+    double left_;
+    double right_;
+    double y_;
     std::size_t place_ = 0;
     int end_ = 0;
 };
@@ -87,6 +97,7 @@ LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, con
       perRow_(dot(map.toGradient.direction({0, 1}), map.axis) / map.lengthSquared),
       origin_(map.at({0.5, 0.5})), pixelsPerUnit_(1 / perPixel_), pieces_(scratch.pieces),
       stretches_(scratch.stretches) {
+    stretches_.resize(segments_.all().size());
     pieces_.clear();
     for (const RampSegment& segment : segments_.all()) {
         pieces_.emplace_back(segment, perPixel_);
@@ -115,18 +126,20 @@ bool LinearShader::hides(const RampSegment& segment) const {
 }
 
 void LinearShader::layOut(Track& track, const PixelSpan& extent) {
-    stretches_.clear();
     track.enter(extent.begin);
     firstPlace_ = track.place();
+    LinearStretch* stretch = stretches_.data();
     for (int x = extent.begin;; track.next()) {
         const int end = std::min(track.end(), extent.end);
         if (end <= x)
             continue;
-        stretches_.push_back(pieces_[track.index()].stretch(x, end, track.parameter(x)));
-        if (!hides(segments_.all()[track.index()]))
-            stretches_.back().steps = nullptr;
+        const std::size_t index = track.index();
+        pieces_[index].layOut(x, end, track.parameter(x), *stretch);
+        if (anyMixes_ && !hides(segments_.all()[index]))
+            stretch->steps = nullptr;
         if (end == extent.end)
             return;
+        ++stretch;
         x = end;
     }
 }

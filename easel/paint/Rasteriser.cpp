@@ -14,6 +14,7 @@ namespace easel::paint {
 namespace {
 
 constexpr std::int64_t kUnit = kFullCoverage;
+constexpr double kSteepest = 1e10; // parts of a pixel per column
 
 drawing::Point atHeight(drawing::Point from, drawing::Point to, double y) {
     return {from.x + (to.x - from.x) * ((y - from.y) / (to.y - from.y)), y};
@@ -31,11 +32,6 @@ void Rasteriser::begin(const PixelBox& clip) {
     lowest_ = clip_.top * kUnit;
     edges_.clear();
     active_.clear();
-    // Coverage that ends at the right border leaves its change one column beyond it.
-    changes_.reserve(clip_.right + 1);
-    coverage_.resize(changes_.columns());
-    full_.resize(changes_.columns() / kCoverageBlock + 2);
-    partial_.resize(full_.size());
 }
 
 void Rasteriser::addEdge(drawing::Point from, drawing::Point to) {
@@ -100,7 +96,9 @@ void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int windi
         return;
     const auto height = static_cast<double>(bottom - top);
     const double way = lower.x - upper.x;
-    edges_.push_back({top, bottom, upper.x, way / height, winding * height / std::abs(way), winding});
+    // Steeper ones stay in a column so long that their rise does not matter.
+    const double rise = std::min(height / std::abs(way), kSteepest);
+    edges_.push_back({top, bottom, upper.x, way / height, static_cast<float>(rise * winding), winding});
     leftmost_ = std::min({leftmost_, upper.x, lower.x});
     rightmost_ = std::max({rightmost_, upper.x, lower.x});
     highest_ = std::min(highest_, top);
@@ -115,83 +113,40 @@ PixelBox Rasteriser::bounds() const {
 }
 
 void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {
+    // Edges leave changes up to one column right of them.
+    band_.reserve(static_cast<int>(rightmost_) + 1);
+    lists_.reserve(clip_.left, clip_.right, band_.columns());
     std::sort(edges_.begin(), edges_.end(), [](const Edge& a, const Edge& b) { return a.top < b.top; });
     auto next = edges_.begin();
-    std::int64_t row = 0;
-    while (next != edges_.end() || !active_.empty()) {
+    for (std::int64_t top = 0; next != edges_.end() || !active_.empty(); top += kBandRows) {
         if (active_.empty())
-            row = next->top / kUnit;
-        const std::int64_t rowBottom = (row + 1) * kUnit;
-        for (; next != edges_.end() && next->top < rowBottom; ++next)
+            top = next->top / kUnit;
+        for (; next != edges_.end() && next->top < (top + kBandRows) * kUnit; ++next)
             active_.push_back(*next);
-        sweepRow(rowBottom);
-        const RowCoverage coverage = collect(rule);
-        if (!coverage.empty())
-            sink.row(static_cast<int>(row), coverage);
-        ++row;
+        sweepBand(top, rule, sink);
     }
 }
 
-// Takes the edges' part in a row off them and leaves it in the columns.
-void Rasteriser::sweepRow(std::int64_t rowBottom) {
-    for (std::size_t i = 0; i < active_.size();) {
-        Edge& edge = active_[i];
-        const std::int64_t bottom = std::min(edge.bottom, rowBottom);
-        const auto height = static_cast<int>(bottom - edge.top);
-        // Rounding must not carry the end out of the columns there are.
-        const double end = std::clamp(edge.x + edge.slope * height, left_, right_);
-        changes_.addEdge(std::min(edge.x, end), std::max(edge.x, end), edge.rise, height * edge.winding);
-        edge.x = end;
-        edge.top = bottom;
-        if (bottom < edge.bottom) {
-            ++i;
-            continue;
-        }
-        edge = active_.back();
-        active_.pop_back();
+void Rasteriser::sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink) {
+    addEdges(active_, top, left_, right_, band_);
+    std::erase_if(active_, [](const Edge& edge) { return edge.top == edge.bottom; });
+    const std::int64_t bottom = std::min((lowest_ + kUnit - 1) / kUnit, top + kBandRows);
+    for (std::int64_t row = top; row < bottom; ++row) {
+        const RowCoverage coverage = collect(static_cast<std::size_t>(row - top), rule);
+        if (!coverage.empty())
+            sink.row(static_cast<int>(row), coverage);
     }
 }
 
 // Forgets the changes.
-RowCoverage Rasteriser::collect(drawing::FillRule rule) {
+RowCoverage Rasteriser::collect(std::size_t row, drawing::FillRule rule) {
     constexpr std::size_t kWord = TouchedBlocks::kInWord;
     const std::size_t first = static_cast<std::size_t>(leftmost_) / kCoverageBlock / kWord * kWord;
     const std::size_t end = ((static_cast<std::size_t>(rightmost_) + 1) / kCoverageBlock / kWord + 1) * kWord;
-    TouchedBlocks touched(changes_.touched(), first, end);
-    sumCoverage(touched, changes_.data(), coverage_.data(), rule);
-    fullCount_ = 0;
-    partialCount_ = 0;
-    int reached = clip_.left;
-    std::uint32_t covered = 0;
-    while (touched.next()) {
-        const int column = static_cast<int>(touched.block()) * kCoverageBlock;
-        addEven(reached, column, covered);
-        reached = column + kCoverageBlock;
-        covered = coverage_[static_cast<std::size_t>(reached) - 1];
-        addPartial(column, reached);
-    }
-    addEven(reached, clip_.right, covered);
-    std::memset(changes_.touched() + first, 0, end - first);
-    return {{full_.data(), fullCount_}, {partial_.data(), partialCount_}, coverage_.data()};
-}
-
-void Rasteriser::addPartial(int begin, int end) {
-    const PixelSpan span{std::max(begin, clip_.left), std::min(end, clip_.right)};
-    partial_[partialCount_] = span;
-    partialCount_ += span.begin < span.end ? 1 : 0;
-}
-
-// Pixels between blocks with changes, all covered alike.
-void Rasteriser::addEven(int begin, int end, std::uint32_t covered) {
-    full_[fullCount_] = {begin, end};
-    fullCount_ += covered == kFullCoverage && begin < end ? 1 : 0;
-    if (covered == 0 || covered == kFullCoverage)
-        return;
-    for (; begin < end; begin = (begin / kCoverageBlock + 1) * kCoverageBlock) {
-        const int blockEnd = std::min((begin / kCoverageBlock + 1) * kCoverageBlock, end);
-        std::fill(coverage_.begin() + begin, coverage_.begin() + blockEnd, covered);
-        addPartial(begin, blockEnd);
-    }
+    std::uint8_t* touched = band_.touched(row);
+    sumCoverage({band_.changes(row), touched, first, end}, rule, lists_);
+    std::memset(touched + first, 0, end - first);
+    return lists_.row();
 }
 
 } // namespace easel::paint

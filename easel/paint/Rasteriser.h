@@ -3,8 +3,9 @@
 
 #include "easel/drawing/Geometry.h"
 #include "easel/drawing/Path.h"
-#include "easel/paint/ColumnChanges.h"
 #include "easel/paint/Coverage.h"
+#include "easel/paint/CoverageLists.h"
+#include "easel/paint/EdgeKernels.h"
 #include "easel/paint/Surface.h"
 
 #include <cstdint>
@@ -26,23 +27,10 @@ class Rasteriser {
     void sweep(drawing::FillRule rule, CoverageSink& sink);
 
   private:
-    // An edge, or what is left of it below the current row. Heights are whole parts of a pixel, which lets
-    // the coverage of closed polygons cancel out exactly.
-    struct Edge {
-        std::int64_t top;
-        std::int64_t bottom;
-        double x;     // at `top`
-        double slope; // per part of a pixel
-        double rise;  // parts of a pixel that the edge sinks per column, negative for edges that lead upwards
-        int winding;
-    };
-
     void addInside(drawing::Point from, drawing::Point to);
     void addSloped(drawing::Point upper, drawing::Point lower, int winding);
-    void sweepRow(std::int64_t rowBottom);
-    RowCoverage collect(drawing::FillRule rule);
-    void addPartial(int begin, int end);
-    void addEven(int begin, int end, std::uint32_t covered);
+    void sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink);
+    RowCoverage collect(std::size_t row, drawing::FillRule rule);
 
     PixelBox clip_;
     double left_ = 0;
@@ -54,13 +42,8 @@ class Rasteriser {
     std::int64_t lowest_ = 0;
     std::vector<Edge> edges_;
     std::vector<Edge> active_;
-    // Of the current row.
-    ColumnChanges changes_;
-    std::vector<std::uint32_t> coverage_;
-    std::vector<PixelSpan> full_;
-    std::vector<PixelSpan> partial_;
-    std::size_t fullCount_ = 0;
-    std::size_t partialCount_ = 0;
+    CoverageBand band_;
+    CoverageLists lists_; // of the current row
 };
 
 } // namespace easel::paint

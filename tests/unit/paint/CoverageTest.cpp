@@ -140,6 +140,15 @@ TEST(Coverage, FollowsTheFillRuleWhereASquareLiesTwice) {
     EXPECT_EQ(evenOdd.row(2)[5], 0xFFFFFFFFU);
 }
 
+TEST(Coverage, AShapeThatWindsManyThousandTimesIsFilledAsItsRuleSays) {
+    const std::vector<Polygon> squares(70000, {{1, 1}, {9.5, 1}, {9.5, 4}, {1, 4}});
+    const paint::Surface nonZero = coverageOf(squares, FillRule::NonZero, 12, 5);
+    const paint::Surface evenOdd = coverageOf(squares, FillRule::EvenOdd, 12, 5);
+    EXPECT_EQ(nonZero.row(2)[5], 0xFFFFFFFFU);
+    EXPECT_EQ(nonZero.row(2)[10], 0xFF000000U);
+    EXPECT_EQ(evenOdd.row(2)[5], 0xFF000000U);
+}
+
 TEST(Coverage, CurvesAreFollowedToATenthOfALevelOfTheirArea) {
     paint::Surface surface(100, 100);
     paint::Painter().fill(surface.view(), drawing::ellipsePath({50.3, 49.6}, 40, 40), FillRule::NonZero, {},
