@@ -39,6 +39,7 @@ double repaintTime(const drawing::Drawing& drawing, FittedWindow& window, int si
     const int y = window.surface.height() / 2;
     const paint::SurfaceView area = window.surface.view().clippedTo({x, y, x + side, y + side});
     std::vector<double> times;
+    times.reserve(kRuns);
     for (int i = 0; i < kRuns; ++i)
         times.push_back(secondsOf([&] {
             paint::renderDrawing(drawing, area, drawing::Affine::scaling(window.zoom, window.zoom), 1);

@@ -7,6 +7,7 @@
 #include "easel/svg/XmlTree.h"
 
 #include <memory>
+#include <memory_resource>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
@@ -52,7 +53,8 @@ class PaintServers {
 
     const XmlTree& tree_;
     const Cascade& cascade_;
-    std::unordered_map<std::string_view, std::optional<GradientElement>> known_;
+    std::pmr::monotonic_buffer_resource memory_; // of what is known, which stays as long as the reader
+    std::pmr::unordered_map<std::string_view, std::optional<GradientElement>> known_{&memory_};
 };
 
 // What the gradient is on this shape: nothing where it disables painting, a plain color where it has no
