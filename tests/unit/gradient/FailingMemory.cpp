@@ -44,9 +44,20 @@ void* operator new(std::size_t size) {
     return block;
 }
 
+// Memory resources ask for alignment, though for none that every block does not have.
+void* operator new(std::size_t size, std::align_val_t /*alignment*/) {
+    return operator new(size);
+}
+
 void operator delete(void* block) noexcept {
     Free(block);
 }
 void operator delete(void* block, std::size_t /*size*/) noexcept {
+    Free(block);
+}
+void operator delete(void* block, std::align_val_t /*alignment*/) noexcept {
+    Free(block);
+}
+void operator delete(void* block, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept {
     Free(block);
 }
