@@ -46,6 +46,7 @@ Canvas::Canvas(host::DrawingWindow& window, DesktopUser& user, QWidget* parent)
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     user_.addCanvas(*this);
+    connect(&user_, &DesktopUser::becameIdle, this, &Canvas::handOverHeld);
 }
 
 Canvas::~Canvas() {

@@ -7,8 +7,11 @@
 
 #include <QAbstractScrollArea>
 #include <QElapsedTimer>
+#include <QMouseEvent>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 class QNativeGestureEvent;
 
@@ -96,6 +99,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     QRegion markedRegion() const;
     QRect feedbackArea() const;
     void pinch(const QNativeGestureEvent& event);
+    bool holdsBack(const QEvent& event);
+    void handOverHeld();
 
     host::DrawingWindow& window_;
     DesktopUser& user_;
@@ -109,6 +114,7 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     QRect shownFeedback_;
     double flash_ = 0;
     bool updateDue_ = false;
+    std::vector<std::unique_ptr<QMouseEvent>> held_; // the next gesture's, in the order of their coming
 };
 
 } // namespace easel::window

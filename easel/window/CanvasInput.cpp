@@ -4,6 +4,7 @@
 #include "easel/window/DesktopUser.h"
 #include "easel/window/PathConversion.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -11,6 +12,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace easel::window {
 namespace {
@@ -62,6 +64,25 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event) {
         user_.pointer().released(event->position());
     else if (tool_ != nullptr)
         tool_->release(*this, *event);
+}
+
+// A quick user presses again before the plug-in has heard that the button went up. That press and what comes
+// after it wait until the gesture before is over.
+bool Canvas::holdsBack(const QEvent& event) {
+    const QEvent::Type type = event.type();
+    const bool presses = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    const bool follows = type == QEvent::MouseMove || type == QEvent::MouseButtonRelease;
+    if (!presses && !(follows && !held_.empty()))
+        return false;
+    if (!user_.busy() || !user_.pointer().over())
+        return false;
+    held_.emplace_back(static_cast<const QMouseEvent&>(event).clone());
+    return true;
+}
+
+void Canvas::handOverHeld() {
+    for (std::unique_ptr<QMouseEvent>& event : std::exchange(held_, {}))
+        QCoreApplication::postEvent(viewport(), event.release());
 }
 
 void Canvas::startPan(QPointF from) {
@@ -139,6 +160,8 @@ bool Canvas::event(QEvent* event) {
 }
 
 bool Canvas::viewportEvent(QEvent* event) {
+    if (holdsBack(*event))
+        return true;
     if (event->type() == QEvent::NativeGesture)
         pinch(static_cast<const QNativeGestureEvent&>(*event));
     if (event->type() == QEvent::Leave)

@@ -31,6 +31,8 @@ class PointerTracker {
     void scrollTowardsMouse();
 
     bool down() const { return down_; }
+    // The button went up, though whoever follows the mouse may not have heard of it yet.
+    bool over() const { return !down_ || releasePosition_; }
 
     // A modifier key went down or up: who follows the mouse has to look again.
     void keysChanged() { keysChanged_ = true; }
