@@ -71,19 +71,32 @@ Screen::Screen(const std::string& outputFolder) : name_(startServer(server_, out
     waitForManager();
 }
 
+// The manager announces itself before it answers windows, and one that it misses then never shows. So it
+// counts as there once it has taken a window in.
 void Screen::waitForManager() const {
-    const Atom sign = XInternAtom(display_, "_NET_SUPPORTING_WM_CHECK", False);
-    for (int tries = 0; tries < 500; ++tries) {
+    const Atom state = XInternAtom(display_, "WM_STATE", False);
+    const ::Window trial = XCreateSimpleWindow(display_, DefaultRootWindow(display_), 0, 0, 9, 9, 0, 0, 0);
+    const auto taken = [&] {
         int count = 0;
-        Atom* properties = XListProperties(display_, DefaultRootWindow(display_), &count);
-        const bool there = std::find(properties, properties + count, sign) != properties + count;
+        Atom* properties = XListProperties(display_, trial, &count);
+        const bool found = std::find(properties, properties + count, state) != properties + count;
         if (properties != nullptr)
             XFree(properties);
-        if (there)
-            return;
-        pause(std::chrono::milliseconds(10));
+        return found;
+    };
+    bool there = false;
+    for (int tries = 0; tries < 100 && !there; ++tries) {
+        XMapWindow(display_, trial);
+        for (int looks = 0; looks < 10 && !there; ++looks) {
+            pause(std::chrono::milliseconds(10));
+            there = taken();
+        }
+        if (!there)
+            XUnmapWindow(display_, trial);
     }
-    throw std::runtime_error("the window manager does not start");
+    XDestroyWindow(display_, trial);
+    if (!there)
+        throw std::runtime_error("the window manager does not start");
 }
 
 Screen::~Screen() {
