@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolButton>
 #include <QWidget>
 
 namespace easel::window {
@@ -69,9 +70,20 @@ void EaselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         return;
     case PE_FrameStatusBarItem:
         return;
+    case PE_IndicatorArrowDown:
+        drawMenuArrow(*option, *painter, widget);
+        return;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+}
+
+// The arrow of a button that opens a menu stands beside its text and not in the corner below.
+void EaselStyle::drawMenuArrow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const {
+    QStyleOption placed(option);
+    if (qobject_cast<const QToolButton*>(widget) != nullptr)
+        placed.rect.moveCenter({option.rect.center().x() - 3, widget->rect().center().y() + 1});
+    QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, &placed, &painter, widget);
 }
 
 void EaselStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -20,6 +20,9 @@ class EaselStyle : public QProxyStyle {
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
+
+  private:
+    void drawMenuArrow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
 };
 
 } // namespace easel::window
