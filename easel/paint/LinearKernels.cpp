@@ -13,6 +13,8 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 
+#include "easel/paint/StorePixels.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace easel::paint::HWY_NAMESPACE {
 
@@ -40,19 +42,6 @@ template <class D> hn::Vec<Unsigned16<D>> Pair(D d, std::uint32_t low, std::uint
 }
 template <class D> hn::Vec<Unsigned16<D>> Colors(D d, const std::uint32_t* pairs) {
     return hn::BitCast(Unsigned16<D>(), hn::Load(d, pairs));
-}
-
-// Writes a vector at index `at`, but nothing at or beyond index `room`. Not with a masked store: what is read
-// next to one has to wait for it, and the edge pixels that follow are read.
-template <class D, class V> void StorePixels(D d, V pixels, std::uint32_t* out, int at, int room) {
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    if (at + lanes <= room)
-        hn::StoreU(pixels, d, out + at);
-    else if (at < room) {
-        HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / 4];
-        hn::Store(pixels, d, whole);
-        std::memcpy(out + at, whole, static_cast<std::size_t>(room - at) * 4);
-    }
 }
 
 // Pixels from begin to end; those up to `room` may be written over.

@@ -4,12 +4,12 @@
 
 #include "easel/paint/PlainKernels.h"
 
-#include <cstring>
-
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "easel/paint/PixelKernels.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+
+#include "easel/paint/StorePixels.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace easel::paint::HWY_NAMESPACE {
@@ -30,21 +30,6 @@ void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const Bl
 #else
 
 namespace hn = hwy::HWY_NAMESPACE;
-
-constexpr std::uint32_t kOpaque = 0xFF000000;
-
-// Writes a vector at index `at`, but nothing at or beyond index `room`. Not with a masked store: what is read
-// next to one has to wait for it, and the edge pixels that follow are read.
-template <class D, class V> void StorePixels(D d, V pixels, std::uint32_t* out, int at, int room) {
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    if (at + lanes <= room)
-        hn::StoreU(pixels, d, out + at);
-    else if (at < room) {
-        HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / 4];
-        hn::Store(pixels, d, whole);
-        std::memcpy(out + at, whole, static_cast<std::size_t>(room - at) * 4);
-    }
-}
 
 // Two colors of 16 bits each lie in a 32-bit lane, and a pixel takes the high bytes of two such lanes: blue
 // and red of one, green and alpha of the other. `waysFrom(at)` gives the whole numbers nearest to the ways of
