@@ -34,6 +34,22 @@ std::optional<CGradientData> writtenRecord(const GradientElement& element, const
     return record;
 }
 
+Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) {
+    if (kind == PaintSpec::Kind::Color)
+        return spec.color;
+    if (kind == PaintSpec::Kind::CurrentColor)
+        return style.color;
+    return NoPaint();
+}
+
+Paint kept(PlacedPaint placed) {
+    if (auto* const foreign = std::get_if<ForeignGradient>(&placed))
+        return std::make_shared<const ForeignGradient>(std::move(*foreign));
+    if (const auto* const color = std::get_if<ColorPaint>(&placed))
+        return *color;
+    return NoPaint();
+}
+
 FillPattern patternOf(const Paint& fill) {
     if (std::holds_alternative<NoPaint>(fill))
         return FillPattern::None;
@@ -80,49 +96,53 @@ Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opa
 }
 
 void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedStyle& style) {
-    object.fill = paint(style.fill, at, style);
+    const GradientElement* const element = gradientOf(style.fill);
+    if (!element) {
+        object.fill = paintWithoutGradient(style.fill, style);
+    } else {
+        PlacedPaint placed = place(*element, at);
+        const auto* const foreign = std::get_if<ForeignGradient>(&placed);
+        if (foreign && carriesGradient(object.kind) && setGradient(object, *element, *foreign))
+            return;
+        object.fill = kept(std::move(placed));
+    }
     object.fillPattern = patternOf(object.fill);
-    const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill);
-    if (!foreign || !carriesGradient(object.kind))
-        return;
-    const GradientElement& element = *scene_.servers.gradient(style.fill.serverId);
-    auto record = writtenRecord(element, **foreign, object.outline);
+}
+
+bool ObjectReader::setGradient(Object& object, const GradientElement& element,
+                               const ForeignGradient& placed) {
+    auto record = writtenRecord(element, placed, object.outline);
     if (!record)
-        record = recordFor(**foreign, object.outline);
+        record = recordFor(placed, object.outline);
     if (!record)
-        return;
+        return false;
     object.gradient = drawing::ObjectGradient(new CGradient(*record));
     object.fillPattern = FillPattern::SolidBlack;
-    object.fill = NoPaint();
+    return true;
 }
 
-Paint ObjectReader::plainPaint(PaintSpec::Kind kind, const PaintSpec& spec,
-                               const ComputedStyle& style) const {
-    if (kind == PaintSpec::Kind::Color)
-        return spec.color;
-    if (kind == PaintSpec::Kind::CurrentColor)
-        return style.color;
-    return NoPaint();
+const GradientElement* ObjectReader::gradientOf(const PaintSpec& spec) const {
+    return spec.kind == PaintSpec::Kind::Server ? scene_.servers.gradient(spec.serverId) : nullptr;
 }
 
-Paint ObjectReader::paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) {
+Paint ObjectReader::paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const {
+    const GradientElement* const element = gradientOf(spec);
+    return element ? kept(place(*element, at)) : paintWithoutGradient(spec, style);
+}
+
+PlacedPaint ObjectReader::place(const GradientElement& element, const PaintPlace& at) const {
+    scene_.budget.spend(element.stops.size());
+    return placedGradient(element, at);
+}
+
+Paint ObjectReader::paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const {
     if (spec.kind != PaintSpec::Kind::Server)
         return plainPaint(spec.kind, spec, style);
-    const GradientElement* const gradient = scene_.servers.gradient(spec.serverId);
-    if (!gradient) {
-        if (spec.serverId.empty())
-            scene_.notes.add(Unshown::External);
-        else if (scene_.tree.svgName(scene_.tree.byId(spec.serverId)) == "pattern")
-            scene_.notes.add(Unshown::Pattern);
-        return plainPaint(spec.fallback, spec, style);
-    }
-    scene_.budget.spend(gradient->stops.size());
-    auto placed = placedGradient(*gradient, at);
-    if (auto* const foreign = std::get_if<ForeignGradient>(&placed))
-        return std::make_shared<const ForeignGradient>(std::move(*foreign));
-    if (const auto* const color = std::get_if<ColorPaint>(&placed))
-        return *color;
-    return NoPaint();
+    if (spec.serverId.empty())
+        scene_.notes.add(Unshown::External);
+    else if (scene_.tree.svgName(scene_.tree.byId(spec.serverId)) == "pattern")
+        scene_.notes.add(Unshown::Pattern);
+    return plainPaint(spec.fallback, spec, style);
 }
 
 std::shared_ptr<const drawing::Affine> ObjectReader::sharedUnits(const drawing::Affine& units) {

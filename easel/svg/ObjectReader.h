@@ -20,9 +20,15 @@ class ObjectReader {
   private:
     using StylePtr = std::shared_ptr<const drawing::Style>;
 
-    drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style);
-    drawing::Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) const;
     void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
+    // False if no record can tell what the gradient is on the object.
+    static bool setGradient(drawing::Object& object, const GradientElement& element,
+                            const drawing::ForeignGradient& placed);
+    drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const;
+    drawing::Paint paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const;
+    // Null if the paint is no gradient of the file.
+    const GradientElement* gradientOf(const PaintSpec& spec) const;
+    PlacedPaint place(const GradientElement& element, const PaintPlace& at) const;
     StylePtr shared(drawing::Style style);
     std::shared_ptr<const drawing::Affine> sharedUnits(const drawing::Affine& units);
 

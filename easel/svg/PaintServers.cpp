@@ -56,12 +56,12 @@ class Chain {
         return {};
     }
     // The same among the elements of one kind: geometry is not taken over from the other one.
-    std::string_view geometry(const char* name) const {
+    const char* geometry(const char* name) const {
         for (const pugi::xml_node element : elements_)
             if (std::string_view(element.name()) == elements_.front().name())
                 if (const pugi::xml_attribute found = element.attribute(name))
-                    return trimmed(found.value());
-        return {};
+                    return found.value();
+        return "";
     }
 
   private:
@@ -71,49 +71,44 @@ class Chain {
 } // namespace
 
 const GradientElement* PaintServers::gradient(std::string_view id) {
-    auto [known, isNew] = known_.try_emplace(id);
-    if (isNew) {
-        const pugi::xml_node element = tree_.byId(id);
-        if (isGradient(tree_.svgName(element)))
-            known->second = read(element);
-    }
-    return known->second ? &*known->second : nullptr;
+    const auto number = tree_.idNumber(id);
+    if (!number)
+        return nullptr;
+    const GradientElement*& known = byIdNumber_[*number];
+    if (!known)
+        if (const pugi::xml_node element = tree_.byIdNumber(*number); isGradient(tree_.svgName(element)))
+            known = &read(element);
+    return known;
 }
 
-GradientElement PaintServers::read(pugi::xml_node element) {
+const GradientElement& PaintServers::read(pugi::xml_node element) {
     const Chain chain(tree_, element);
-    GradientElement gradient;
-    gradient.kind = tree_.svgName(element) == "linearGradient" ? GradientElement::Kind::Linear
-                                                               : GradientElement::Kind::Radial;
+    GradientElement& gradient = read_.emplace_back(&memory_);
     if (chain.attribute("gradientUnits") == "userSpaceOnUse")
         gradient.units = GradientUnits::UserSpaceOnUse;
     gradient.transform = parseTransform(chain.attribute("gradientTransform")).value_or(drawing::Affine());
     gradient.spread = parseSpread(chain.attribute("spreadMethod")).value_or(Spread::Pad);
-    for (const auto& [name, text] : {std::pair("x1", &gradient.x1),
-                                     {"y1", &gradient.y1},
-                                     {"x2", &gradient.x2},
-                                     {"y2", &gradient.y2},
-                                     {"cx", &gradient.cx},
-                                     {"cy", &gradient.cy},
-                                     {"r", &gradient.r},
-                                     {"fx", &gradient.fx},
-                                     {"fy", &gradient.fy},
-                                     {"fr", &gradient.fr}})
-        *text = chain.geometry(name);
-    gradient.record = element.attribute(kRecordAttribute).value();
+    const auto text = [&chain](const char* name) { return chain.geometry(name); };
+    if (tree_.svgName(element) == "linearGradient")
+        gradient.geometry = LineTexts{text("x1"), text("y1"), text("x2"), text("y2")};
+    else
+        gradient.geometry =
+            CircleTexts{text("cx"), text("cy"), text("r"), text("fx"), text("fy"), text("fr")};
     for (const pugi::xml_node link : chain.elements()) {
-        gradient.stops = readStops(link);
+        readStops(link, gradient.stops);
         if (!gradient.stops.empty())
             break;
     }
+    gradient.record = element.attribute(kRecordAttribute).value();
     return gradient;
 }
 
-std::vector<ForeignStop> PaintServers::readStops(pugi::xml_node element) const {
-    std::vector<ForeignStop> stops;
+void PaintServers::readStops(pugi::xml_node element, std::pmr::vector<ForeignStop>& stops) const {
+    const auto isStop = [this](pugi::xml_node child) { return tree_.svgName(child) == "stop"; };
+    stops.reserve(static_cast<std::size_t>(std::count_if(element.begin(), element.end(), isStop)));
     double last = 0;
     for (const pugi::xml_node child : element.children()) {
-        if (tree_.svgName(child) != "stop")
+        if (!isStop(child))
             continue;
         const StatedStyle style = cascade_.of(child);
         last = std::max(last, parseOpacity(child.attribute("offset").value(), 0));
@@ -122,7 +117,6 @@ std::vector<ForeignStop> PaintServers::readStops(pugi::xml_node element) const {
         const ColorPaint color = current ? colorAt(child) : parseColor(stated).value_or(ColorPaint{});
         stops.push_back({last, color.color, color.opacity * parseOpacity(style[Property::StopOpacity], 1)});
     }
-    return stops;
 }
 
 ColorPaint PaintServers::colorAt(pugi::xml_node element) const {

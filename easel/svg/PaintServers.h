@@ -6,29 +6,34 @@
 #include "easel/svg/Property.h"
 #include "easel/svg/XmlTree.h"
 
-#include <memory>
+#include <deque>
 #include <memory_resource>
-#include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <variant>
+#include <vector>
 
 namespace easel::svg {
 
 enum class GradientUnits : std::uint8_t { ObjectBoundingBox, UserSpaceOnUse };
 
-// A gradient element before it meets a shape. Texts point into the file's text and are empty where nothing is
-// said.
+// Coordinates as they are stated, in the file's text; empty where nothing is said.
+struct LineTexts {
+    const char *x1 = "", *y1 = "", *x2 = "", *y2 = "";
+};
+struct CircleTexts {
+    const char *cx = "", *cy = "", *r = "", *fx = "", *fy = "", *fr = "";
+};
+
+// A gradient element before it meets a shape. A file may have very many.
 struct GradientElement {
-    enum class Kind : std::uint8_t { Linear, Radial };
-    Kind kind = Kind::Linear;
+    explicit GradientElement(std::pmr::memory_resource* memory) : stops(memory) {}
+
     GradientUnits units = GradientUnits::ObjectBoundingBox;
-    drawing::Affine transform;
     drawing::Spread spread = drawing::Spread::Pad;
-    std::string_view x1, y1, x2, y2;         // linear
-    std::string_view cx, cy, r, fx, fy, fr;  // radial
-    std::vector<drawing::ForeignStop> stops; // offsets in order, 0 to 1
-    std::string_view record;                 // our own record's values, if they stand beside
+    std::variant<LineTexts, CircleTexts> geometry;
+    drawing::Affine transform;
+    std::pmr::vector<drawing::ForeignStop> stops; // offsets in order, 0 to 1
+    const char* record = "";                      // our own record's values, if they stand beside
 };
 
 // Where a shape is painted.
@@ -40,26 +45,27 @@ struct PaintPlace {
 
 class PaintServers {
   public:
-    PaintServers(const XmlTree& tree, const Cascade& cascade) : tree_(tree), cascade_(cascade) {}
+    PaintServers(const XmlTree& tree, const Cascade& cascade)
+        : tree_(tree), cascade_(cascade), byIdNumber_(tree.idCount()) {}
 
     // Null if there is no gradient with this id. Throws ReadError for gradients that refer to each other in a
     // circle.
     const GradientElement* gradient(std::string_view id);
 
   private:
-    GradientElement read(pugi::xml_node element);
-    std::vector<drawing::ForeignStop> readStops(pugi::xml_node element) const;
+    const GradientElement& read(pugi::xml_node element);
+    void readStops(pugi::xml_node element, std::pmr::vector<drawing::ForeignStop>& stops) const;
     drawing::ColorPaint colorAt(pugi::xml_node element) const;
 
     const XmlTree& tree_;
     const Cascade& cascade_;
-    std::pmr::monotonic_buffer_resource memory_; // of what is known, which stays as long as the reader
-    std::pmr::unordered_map<std::string_view, std::optional<GradientElement>> known_{&memory_};
+    std::pmr::monotonic_buffer_resource memory_; // of what has been read, which stays as long as the reader
+    std::pmr::deque<GradientElement> read_{&memory_};
+    std::vector<const GradientElement*> byIdNumber_; // null: not read yet, or no gradient
 };
 
-// What the gradient is on this shape: nothing where it disables painting, a plain color where it has no
-// extent.
-std::variant<drawing::NoPaint, drawing::ColorPaint, drawing::ForeignGradient>
-placedGradient(const GradientElement& gradient, const PaintPlace& place);
+// What a gradient is on a shape: nothing where it disables painting, a plain color where it has no extent.
+using PlacedPaint = std::variant<drawing::NoPaint, drawing::ColorPaint, drawing::ForeignGradient>;
+PlacedPaint placedGradient(const GradientElement& gradient, const PaintPlace& place);
 
 } // namespace easel::svg

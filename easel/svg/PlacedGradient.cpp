@@ -1,5 +1,6 @@
 // Works out the geometry of a gradient element on one shape.
 #include "easel/svg/PaintServers.h"
+#include "easel/svg/Scanner.h"
 
 namespace easel::svg {
 
@@ -23,7 +24,8 @@ class Coordinates {
             return *value;
         return parse(otherwise, axis).value_or(0);
     }
-    std::optional<double> parse(std::string_view text, Axis axis) const {
+    std::optional<double> parse(std::string_view stated, Axis axis) const {
+        const std::string_view text = trimmed(stated);
         if (text.empty())
             return std::nullopt;
         if (fractions_)
@@ -37,19 +39,19 @@ class Coordinates {
     const LengthContext& lengths_;
 };
 
-LinearGeometry linear(const GradientElement& gradient, const Coordinates& at) {
-    return {{at.read(gradient.x1, Axis::Horizontal, "0%"), at.read(gradient.y1, Axis::Vertical, "0%")},
-            {at.read(gradient.x2, Axis::Horizontal, "100%"), at.read(gradient.y2, Axis::Vertical, "0%")}};
+LinearGeometry linear(const LineTexts& texts, const Coordinates& at) {
+    return {{at.read(texts.x1, Axis::Horizontal, "0%"), at.read(texts.y1, Axis::Vertical, "0%")},
+            {at.read(texts.x2, Axis::Horizontal, "100%"), at.read(texts.y2, Axis::Vertical, "0%")}};
 }
 
-RadialGeometry radial(const GradientElement& gradient, const Coordinates& at) {
+RadialGeometry radial(const CircleTexts& texts, const Coordinates& at) {
     RadialGeometry geometry;
-    geometry.centre = {at.read(gradient.cx, Axis::Horizontal, "50%"),
-                       at.read(gradient.cy, Axis::Vertical, "50%")};
-    geometry.radius = at.read(gradient.r, Axis::Other, "50%");
-    geometry.focus = {at.parse(gradient.fx, Axis::Horizontal).value_or(geometry.centre.x),
-                      at.parse(gradient.fy, Axis::Vertical).value_or(geometry.centre.y)};
-    geometry.focusRadius = at.read(gradient.fr, Axis::Other, "0%");
+    geometry.centre = {at.read(texts.cx, Axis::Horizontal, "50%"),
+                       at.read(texts.cy, Axis::Vertical, "50%")};
+    geometry.radius = at.read(texts.r, Axis::Other, "50%");
+    geometry.focus = {at.parse(texts.fx, Axis::Horizontal).value_or(geometry.centre.x),
+                      at.parse(texts.fy, Axis::Vertical).value_or(geometry.centre.y)};
+    geometry.focusRadius = at.read(texts.fr, Axis::Other, "0%");
     return geometry;
 }
 
@@ -59,8 +61,7 @@ ColorPaint colorOf(const drawing::ForeignStop& stop) {
 
 } // namespace
 
-std::variant<NoPaint, ColorPaint, ForeignGradient> placedGradient(const GradientElement& gradient,
-                                                                  const PaintPlace& place) {
+PlacedPaint placedGradient(const GradientElement& gradient, const PaintPlace& place) {
     if (gradient.stops.empty())
         return NoPaint();
     ForeignGradient result;
@@ -78,19 +79,19 @@ std::variant<NoPaint, ColorPaint, ForeignGradient> placedGradient(const Gradient
     if (gradient.stops.size() == 1)
         return colorOf(gradient.stops.front());
     const Coordinates at(gradient, place);
-    if (gradient.kind == GradientElement::Kind::Linear) {
-        const LinearGeometry geometry = linear(gradient, at);
+    if (const auto* const line = std::get_if<LineTexts>(&gradient.geometry)) {
+        const LinearGeometry geometry = linear(*line, at);
         if (geometry.start == geometry.end)
             return colorOf(gradient.stops.back());
         result.geometry = geometry;
     } else {
-        const RadialGeometry geometry = radial(gradient, at);
+        const RadialGeometry geometry = radial(std::get<CircleTexts>(gradient.geometry), at);
         if (!(geometry.radius > 0))
             return colorOf(gradient.stops.back());
         result.geometry = geometry;
     }
     result.spread = gradient.spread;
-    result.stops = gradient.stops;
+    result.stops.assign(gradient.stops.begin(), gradient.stops.end());
     return result;
 }
 

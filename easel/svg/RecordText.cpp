@@ -67,6 +67,8 @@ std::string recordText(const CGradientData& record) {
 }
 
 std::optional<CGradientData> parseRecord(std::string_view text) {
+    if (text.empty())
+        return std::nullopt;
     CGradientData record;
     record.ColorList().clear();
     Scanner parts(text);

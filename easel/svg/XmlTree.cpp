@@ -84,8 +84,15 @@ void XmlTree::index(const std::string& text) {
         if (std::string_view(element.name()).ends_with("style"))
             sheets_.push_back(element);
         if (const pugi::xml_attribute id = element.attribute("id"))
-            ids_.try_emplace(id.value(), element);
+            withIds_.push_back(element);
     });
+    numberIds();
+}
+
+void XmlTree::numberIds() {
+    idNumbers_.reserve(withIds_.size());
+    for (std::size_t i = 0; i < withIds_.size(); ++i)
+        idNumbers_.try_emplace(withIds_[i].attribute("id").value(), static_cast<std::uint32_t>(i));
 }
 
 void XmlTree::noteNamespaces(pugi::xml_node element) {
@@ -117,8 +124,13 @@ std::string_view XmlTree::prefix() const {
 }
 
 pugi::xml_node XmlTree::byId(std::string_view id) const {
-    const auto found = ids_.find(id);
-    return found == ids_.end() ? pugi::xml_node() : found->second;
+    const auto number = idNumber(id);
+    return number ? withIds_[*number] : pugi::xml_node();
+}
+
+std::optional<std::size_t> XmlTree::idNumber(std::string_view id) const {
+    const auto found = idNumbers_.find(id);
+    return found == idNumbers_.end() ? std::nullopt : std::optional<std::size_t>(found->second);
 }
 
 std::size_t XmlTree::tagBegin(pugi::xml_node element) const {

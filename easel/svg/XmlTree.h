@@ -6,6 +6,9 @@
 #include <pugixml.hpp>
 
 #include <cstddef>
+#include <cstdint>
+#include <memory_resource>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -32,6 +35,10 @@ class XmlTree {
     std::string_view prefix() const;
     // The first element with this id, or none.
     pugi::xml_node byId(std::string_view id) const;
+    // The place of that element among all with ids, in the order of the text: 0 to idCount() - 1.
+    std::optional<std::size_t> idNumber(std::string_view id) const;
+    std::size_t idCount() const { return withIds_.size(); }
+    pugi::xml_node byIdNumber(std::size_t number) const { return withIds_[number]; }
     // What may be style sheets, in the order of the text.
     const std::vector<pugi::xml_node>& sheets() const { return sheets_; }
     // Where the '<' of the element's start tag is in the text.
@@ -39,12 +46,15 @@ class XmlTree {
 
   private:
     void index(const std::string& text);
+    void numberIds();
     void noteNamespaces(pugi::xml_node element);
 
     pugi::xml_document document_;
     pugi::xml_node root_;
     std::size_t elementCount_ = 0;
-    std::unordered_map<std::string_view, pugi::xml_node> ids_;
+    std::vector<pugi::xml_node> withIds_;
+    std::pmr::monotonic_buffer_resource idMemory_;
+    std::pmr::unordered_map<std::string_view, std::uint32_t> idNumbers_{&idMemory_};
     std::vector<pugi::xml_node> sheets_;
     bool plainNamesAreSvg_ = true;
     std::unordered_set<std::string> svgPrefixes_; // with their colons
