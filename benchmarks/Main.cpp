@@ -1,5 +1,7 @@
-// The benchmark program: `easelbench pixels|drawings JSON-FILE`, `easelbench counted WORKLOAD`.
+// The benchmark program: `easelbench pixels|drawings JSON-FILE`, `easelbench counted WORKLOAD`, and what it
+// starts itself, `easelbench open SVG-FILE`.
 #include "benchmarks/Benches.h"
+#include "benchmarks/OpeningRun.h"
 
 #include <cstdio>
 
@@ -8,6 +10,8 @@ int main(int count, char** arguments) {
     const std::string operand = count > 2 ? arguments[2] : "";
     if (command == "counted")
         return bench::runCounted(operand) ? 0 : 2;
+    if (command == "open")
+        return bench::printOpeningTime(operand) ? 0 : 2;
     bench::Report report;
     if (command == "pixels") {
         bench::runPixels(report);

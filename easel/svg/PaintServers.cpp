@@ -71,14 +71,25 @@ class Chain {
 } // namespace
 
 const GradientElement* PaintServers::gradient(std::string_view id) {
-    const auto number = tree_.idNumber(id);
+    const auto number = idNumber(id);
     if (!number)
         return nullptr;
     const GradientElement*& known = byIdNumber_[*number];
-    if (!known)
-        if (const pugi::xml_node element = tree_.byIdNumber(*number); isGradient(tree_.svgName(element)))
-            known = &read(element);
+    const pugi::xml_node element = tree_.withIds()[*number].element;
+    if (!known && isGradient(tree_.svgName(element)))
+        known = &read(element);
     return known;
+}
+
+// Shapes mostly ask for gradients in the order of the file. Trying the next one first spares large drawings a
+// look into the table of ids, which waits for memory.
+std::optional<std::size_t> PaintServers::idNumber(std::string_view id) {
+    const auto& withIds = tree_.withIds();
+    const bool isNext = nextId_ < withIds.size() && withIds[nextId_].id == id;
+    const auto number = isNext ? std::optional(nextId_) : tree_.idNumber(id);
+    if (number)
+        nextId_ = *number + 1;
+    return number;
 }
 
 const GradientElement& PaintServers::read(pugi::xml_node element) {

@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <memory_resource>
+#include <optional>
 #include <string_view>
 #include <variant>
 #include <vector>
@@ -46,13 +47,14 @@ struct PaintPlace {
 class PaintServers {
   public:
     PaintServers(const XmlTree& tree, const Cascade& cascade)
-        : tree_(tree), cascade_(cascade), byIdNumber_(tree.idCount()) {}
+        : tree_(tree), cascade_(cascade), byIdNumber_(tree.withIds().size()) {}
 
     // Null if there is no gradient with this id. Throws ReadError for gradients that refer to each other in a
     // circle.
     const GradientElement* gradient(std::string_view id);
 
   private:
+    std::optional<std::size_t> idNumber(std::string_view id);
     const GradientElement& read(pugi::xml_node element);
     void readStops(pugi::xml_node element, std::pmr::vector<drawing::ForeignStop>& stops) const;
     drawing::ColorPaint colorAt(pugi::xml_node element) const;
@@ -62,6 +64,7 @@ class PaintServers {
     std::pmr::monotonic_buffer_resource memory_; // of what has been read, which stays as long as the reader
     std::pmr::deque<GradientElement> read_{&memory_};
     std::vector<const GradientElement*> byIdNumber_; // null: not read yet, or no gradient
+    std::size_t nextId_ = 0;                         // after the one asked for last
 };
 
 // What a gradient is on a shape: nothing where it disables painting, a plain color where it has no extent.

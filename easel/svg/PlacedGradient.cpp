@@ -46,8 +46,7 @@ LinearGeometry linear(const LineTexts& texts, const Coordinates& at) {
 
 RadialGeometry radial(const CircleTexts& texts, const Coordinates& at) {
     RadialGeometry geometry;
-    geometry.centre = {at.read(texts.cx, Axis::Horizontal, "50%"),
-                       at.read(texts.cy, Axis::Vertical, "50%")};
+    geometry.centre = {at.read(texts.cx, Axis::Horizontal, "50%"), at.read(texts.cy, Axis::Vertical, "50%")};
     geometry.radius = at.read(texts.r, Axis::Other, "50%");
     geometry.focus = {at.parse(texts.fx, Axis::Horizontal).value_or(geometry.centre.x),
                       at.parse(texts.fy, Axis::Vertical).value_or(geometry.centre.y)};

@@ -84,15 +84,19 @@ void XmlTree::index(const std::string& text) {
         if (std::string_view(element.name()).ends_with("style"))
             sheets_.push_back(element);
         if (const pugi::xml_attribute id = element.attribute("id"))
-            withIds_.push_back(element);
+            withIds_.push_back({id.value(), element});
     });
     numberIds();
 }
 
+// An id that stands twice is that of the first element alone.
 void XmlTree::numberIds() {
     idNumbers_.reserve(withIds_.size());
-    for (std::size_t i = 0; i < withIds_.size(); ++i)
-        idNumbers_.try_emplace(withIds_[i].attribute("id").value(), static_cast<std::uint32_t>(i));
+    std::uint32_t count = 0;
+    for (const WithId& each : withIds_)
+        if (idNumbers_.try_emplace(each.id, count).second)
+            withIds_[count++] = each;
+    withIds_.resize(count);
 }
 
 void XmlTree::noteNamespaces(pugi::xml_node element) {
@@ -125,7 +129,7 @@ std::string_view XmlTree::prefix() const {
 
 pugi::xml_node XmlTree::byId(std::string_view id) const {
     const auto number = idNumber(id);
-    return number ? withIds_[*number] : pugi::xml_node();
+    return number ? withIds_[*number].element : pugi::xml_node();
 }
 
 std::optional<std::size_t> XmlTree::idNumber(std::string_view id) const {

@@ -35,10 +35,13 @@ class XmlTree {
     std::string_view prefix() const;
     // The first element with this id, or none.
     pugi::xml_node byId(std::string_view id) const;
-    // The place of that element among all with ids, in the order of the text: 0 to idCount() - 1.
+    // The elements that are found by their ids, numbered in the order of the text.
+    struct WithId {
+        std::string_view id;
+        pugi::xml_node element;
+    };
+    const std::vector<WithId>& withIds() const { return withIds_; }
     std::optional<std::size_t> idNumber(std::string_view id) const;
-    std::size_t idCount() const { return withIds_.size(); }
-    pugi::xml_node byIdNumber(std::size_t number) const { return withIds_[number]; }
     // What may be style sheets, in the order of the text.
     const std::vector<pugi::xml_node>& sheets() const { return sheets_; }
     // Where the '<' of the element's start tag is in the text.
@@ -52,7 +55,7 @@ class XmlTree {
     pugi::xml_document document_;
     pugi::xml_node root_;
     std::size_t elementCount_ = 0;
-    std::vector<pugi::xml_node> withIds_;
+    std::vector<WithId> withIds_;
     std::pmr::monotonic_buffer_resource idMemory_;
     std::pmr::unordered_map<std::string_view, std::uint32_t> idNumbers_{&idMemory_};
     std::vector<pugi::xml_node> sheets_;
