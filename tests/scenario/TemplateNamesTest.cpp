@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 using namespace tests;
 using nlohmann::json;
 using testing::ElementsAre;
@@ -22,8 +24,12 @@ std::vector<std::string> filesBelow(const fs::path& folder) {
 }
 
 struct OddName {
+    const char* oddity;
     const char* typed;
     const char* onDisk;
+
+    // Names the test.
+    friend void PrintTo(const OddName& name, std::ostream* out) { *out << name.oddity; }
 };
 
 class OddTemplateName : public testing::TestWithParam<OddName> {};
@@ -47,15 +53,18 @@ TEST_P(OddTemplateName, IsSavedListedLoadedReplacedAndDeletedInItsFolder) {
 
 INSTANTIATE_TEST_SUITE_P(
     Names, OddTemplateName,
-    testing::Values(OddName{"..", "...GRD"}, OddName{".", "..GRD"}, OddName{".hidden", ".hidden.GRD"},
-                    OddName{"a/b", "a:b.GRD"}, OddName{"/", ":.GRD"}, OddName{"../x", "..:x.GRD"},
-                    OddName{"con", "con.GRD"}, OddName{"-rf *", "-rf *.GRD"}, OddName{"a;b(c", "a;b(c.GRD"},
-                    OddName{"Caf\u00E9 \u2020", "Caf\u00E9 \u2020.GRD"},
-                    OddName{"\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122"
+    testing::Values(OddName{"two dots", "..", "...GRD"}, OddName{"one dot", ".", "..GRD"},
+                    OddName{"hidden", ".hidden", ".hidden.GRD"}, OddName{"slash inside", "a/b", "a:b.GRD"},
+                    OddName{"slash alone", "/", ":.GRD"}, OddName{"folder above", "../x", "..:x.GRD"},
+                    OddName{"device", "con", "con.GRD"}, OddName{"option and pattern", "-rf *", "-rf *.GRD"},
+                    OddName{"shell signs", "a;b(c", "a;b(c.GRD"},
+                    OddName{"accents", "Caf\u00E9 \u2020", "Caf\u00E9 \u2020.GRD"},
+                    OddName{"longest in bytes",
+                            "\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122"
                             "\u2122\u2122\u2122\u2122\u2122\u2122\u2122",
                             "\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122\u2122"
                             "\u2122\u2122\u2122\u2122\u2122\u2122\u2122.GRD"},
-                    OddName{"WWWWWWWWWWWWWWWWWWWW", "WWWWWWWWWWWWWWWWWWWW.GRD"}));
+                    OddName{"widest letters", "WWWWWWWWWWWWWWWWWWWW", "WWWWWWWWWWWWWWWWWWWW.GRD"}));
 
 TEST(TemplateNames, AnEmptyNameSavesNothing) {
     const Player player;
