@@ -4,10 +4,11 @@
 #include "benchmarks/OpeningRun.h"
 
 #include <cstdio>
+#include <exception>
 
-int main(int count, char** arguments) {
-    const std::string command = count > 1 ? arguments[1] : "";
-    const std::string operand = count > 2 ? arguments[2] : "";
+namespace {
+
+int run(const std::string& command, const std::string& operand) {
     if (command == "counted")
         return bench::runCounted(operand) ? 0 : 2;
     if (command == "open")
@@ -25,4 +26,15 @@ int main(int count, char** arguments) {
     if (!operand.empty())
         report.save(operand);
     return report.allMet() ? 0 : 1;
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    try {
+        return run(count > 1 ? arguments[1] : "", count > 2 ? arguments[2] : "");
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "easelbench: %s\n", error.what());
+        return 2;
+    }
 }

@@ -32,8 +32,10 @@ bool printOpeningTime(const std::filesystem::path& file) {
         static_cast<void>(svg::readBytes(drawingFile(kSmallDrawing, fills), "small.svg"));
     std::optional<svg::ReadResult> read;
     const double time = secondsOf([&] { read.emplace(svg::readFile(file)); });
+    if (!std::holds_alternative<drawing::Drawing>(*read))
+        return false;
     std::printf("%.9f\n", time);
-    return std::holds_alternative<drawing::Drawing>(*read);
+    return true;
 }
 
 double openingTime(const std::filesystem::path& file) {

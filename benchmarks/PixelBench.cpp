@@ -42,6 +42,7 @@ void measureSmallFills(Report& report, paint::Surface& surface) {
     constexpr int kCount = 10000;
     const std::vector<SmallFill> fills = smallStars(kCount);
     std::vector<CairoPattern> patterns;
+    patterns.reserve(fills.size());
     for (const SmallFill& fill : fills)
         patterns.push_back(patternOf(fill.gradient));
     paint::Painter painter;

@@ -42,6 +42,7 @@ paint::Gradient padded(const std::variant<drawing::LinearGeometry, drawing::Radi
 
 paint::Ramp rampOf(int stops) {
     std::vector<paint::RampStop> list;
+    list.reserve(static_cast<std::size_t>(stops));
     unsigned seed = 7;
     const auto channel = [&] {
         seed = seed * 1103515245 + 12345;

@@ -32,7 +32,7 @@ class Report {
 
   private:
     std::string table_;
-    nlohmann::ordered_json tables_;
+    nlohmann::ordered_json tables_ = nlohmann::ordered_json::object();
     bool allMet_ = true;
 };
 

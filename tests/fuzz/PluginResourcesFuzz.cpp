@@ -1,6 +1,7 @@
 // A plug-in's resource file: any text is refused with a reason, or gives resources that can be looked up.
 #include "easel/toolbox/PluginResources.h"
 
+#include <cstddef>
 #include <cstdlib>
 
 using namespace easel::toolbox;
@@ -14,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const auto& resources = std::get<PluginResources>(read);
     for (int id = -3; id < 10; ++id) {
-        if (resources.string(id, 1).size() > 3 * 255)
+        if (resources.string(id, 1).size() > std::size_t{3} * 255)
             std::abort();
         const auto* const dialog = resources.dialog(id);
         for (std::size_t i = 0; dialog && i < dialog->items.size(); ++i)

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <exception>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -99,9 +100,7 @@ void showWorst(Tally& tally) {
     }
 }
 
-} // namespace
-
-int main() {
+int compareGallery() {
     Tally tally;
     for (std::string file; std::getline(std::cin, file);)
         look(file, tally);
@@ -117,4 +116,15 @@ int main() {
                 tally.compared.size(), within(0), within(0.01));
     const bool fine = tally.savedDifferently == 0 && within(kMostApart) == std::ssize(tally.compared);
     return fine ? 0 : 1;
+}
+
+} // namespace
+
+int main() {
+    try {
+        return compareGallery();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 2;
+    }
 }

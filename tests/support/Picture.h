@@ -36,7 +36,9 @@ class Picture {
     std::uint32_t at(int x, int y) const {
         if (x < 0 || y < 0 || x >= width_ || y >= height_)
             return 0xffffffffu;
-        return pixels_[static_cast<std::size_t>(y * width_ + x)] & 0xffffffu;
+        return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                       static_cast<std::size_t>(x)] &
+               0xffffffu;
     }
     // The pixels from (left, top) as letters: '#' black, '.' the background, '?' anything else.
     std::vector<std::string> letters(int left, int top, int width, int height,

@@ -11,8 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
-#include <cstring>
+#include <cstdint>
 #include <random>
 
 namespace tests {
@@ -26,7 +27,7 @@ constexpr int kActions = 20000;
 constexpr int kNameDialog = 5206;
 
 bool sameBits(double a, double b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
 bool equal(const CGradientData& a, const CGradientData& b) {

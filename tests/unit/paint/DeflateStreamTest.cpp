@@ -53,7 +53,7 @@ TEST(DeflateStream, JoinedPartsUnpackToAllTheirBytes) {
         Bytes joined;
         Bytes expected;
         for (unsigned part = 0; part < 12; ++part) {
-            const Bytes bytes = sample(part, part * part * 900);
+            const Bytes bytes = sample(part, std::size_t{900} * part * part);
             Bytes stream = packed(bytes, level);
             ASSERT_TRUE(makeDeflatePart(stream, part == 11 ? StreamPart::Last : StreamPart::Inner));
             joined.insert(joined.end(), stream.begin(), stream.end());

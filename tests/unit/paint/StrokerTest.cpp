@@ -10,7 +10,6 @@
 
 namespace {
 
-using easel::drawing::Contour;
 using easel::drawing::FillRule;
 using easel::drawing::LineCap;
 using easel::drawing::LineJoin;
