@@ -7,7 +7,10 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
 #include <random>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -184,6 +187,38 @@ TEST(SvgGradient, AttributesAndStopsAreTakenOverAlongReferences) {
     EXPECT_EQ(gradient->spread, Spread::Reflect);
     ASSERT_EQ(gradient->stops.size(), 3U);
     EXPECT_EQ(gradient->stops[2].offset, 0.8) << "an offset never goes back";
+}
+
+TEST(SvgGradient, ShapesGetTheFirstElementWithTheirIdInWhateverOrderTheyAskForThem) {
+    constexpr std::uint16_t kElements = 200;
+    std::mt19937 random(5);
+    std::uniform_int_distribution<int> anyId(0, kElements / 2); // so that many stand twice
+    std::map<int, std::uint16_t> first;                         // red of the first element with an id
+    std::string gradients;
+    for (std::uint16_t i = 0; i < kElements; ++i) {
+        const int id = anyId(random);
+        first.try_emplace(id, i);
+        gradients += "<linearGradient id='g" + std::to_string(id) + "'><stop stop-color='rgb(" +
+                     std::to_string(i) + ",0,0)'/><stop offset='1' stop-color='blue'/></linearGradient>";
+    }
+    std::vector<int> asked;
+    for (const auto& [id, red] : first)
+        asked.push_back(id); // in order
+    for (int i = 0; i < 1000; ++i)
+        asked.push_back(anyId(random) + i % 2); // in none; some ids are not there
+    std::string shapes;
+    for (const int id : asked)
+        shapes += "<rect width='50' height='50' fill='url(#g" + std::to_string(id) + ")'/>";
+    const Drawing drawing = readOk(svgFile(gradients + shapes));
+    ASSERT_EQ(drawing.size(), asked.size());
+    for (std::size_t i = 0; i < asked.size(); ++i) {
+        const CGradientData* const record = recordOf(drawing, i);
+        const auto known = first.find(asked[i]);
+        ASSERT_EQ(record != nullptr, known != first.end()) << asked[i];
+        if (!record)
+            continue;
+        ASSERT_EQ(record->ColorList().front().ColorRGB().red, known->second * 257) << asked[i];
+    }
 }
 
 TEST(SvgGradient, GradientsWithoutExtentShowOneColor) {
