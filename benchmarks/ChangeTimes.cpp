@@ -1,61 +1,55 @@
 // Recolors objects one after the other.
 #include "benchmarks/ChangeTimes.h"
 
-#include "benchmarks/Timing.h"
 #include "easel/paint/RenderDrawing.h"
 
+#include <memory>
 #include <stdexcept>
 
 namespace bench {
 
-namespace {
-
 using namespace easel;
 
-constexpr int kChanges = 51;
-
-drawing::ObjectPtr recolored(const drawing::Object& object, int step) {
-    auto copy = std::make_shared<drawing::Object>(object);
-    copy->fill = drawing::ColorPaint{{static_cast<std::uint16_t>(step * 1000), 0, 65535}, 1};
-    return copy;
+ChangeTimes::ChangeTimes(drawing::Drawing& drawing, paint::Surface& surface, const drawing::Affine& toSurface)
+    : drawing_(drawing), surface_(surface), toSurface_(toSurface) {
+    drawing_.setChangeListener([this](const drawing::Box& area) { dirty_.add(area); });
 }
 
-} // namespace
+ChangeTimes::~ChangeTimes() {
+    drawing_.setChangeListener({});
+}
 
-ChangeTimes changeTimes(drawing::Drawing& drawing, paint::Surface& surface,
-                        const drawing::Affine& toSurface) {
-    std::vector<double> changes;
-    std::vector<double> undos;
-    drawing::Box dirty;
-    drawing.setChangeListener([&](const drawing::Box& area) { dirty.add(area); });
-    const auto repaint = [&] {
-        const drawing::Point corner = toSurface({dirty.left, dirty.top});
-        const drawing::Point end = toSurface({dirty.right, dirty.bottom});
-        const paint::PixelBox box{static_cast<int>(corner.x) - 1, static_cast<int>(corner.y) - 1,
-                                  static_cast<int>(end.x) + 2, static_cast<int>(end.y) + 2};
-        paint::renderDrawing(drawing, surface.view().clippedTo(box), toSurface, 1);
-        dirty = {};
-    };
-    for (int i = 0; i < kChanges; ++i) {
-        const std::size_t index = static_cast<std::size_t>(i) * 17 % drawing.size();
-        changes.push_back(secondsOf([&] {
-            drawing.prepareUndo(1);
-            const drawing::ObjectPtr object = recolored(*drawing.object(index), i);
-            drawing.erase(index);
-            drawing.insert(index, object);
-            drawing.closeUndo();
-            repaint();
-        }));
-        bool undone = false;
-        undos.push_back(secondsOf([&] {
-            undone = drawing.undo();
-            repaint();
-        }));
-        if (!undone)
-            throw std::logic_error("there was nothing to undo");
-    }
-    drawing.setChangeListener({});
-    return {median(changes), median(undos)};
+void ChangeTimes::measure() {
+    const std::size_t index = changes_.size() * 17 % drawing_.size();
+    changes_.push_back(secondsOf([&] {
+        recolorObject(index);
+        repaint();
+    }));
+    bool undone = false;
+    undos_.push_back(secondsOf([&] {
+        undone = drawing_.undo();
+        repaint();
+    }));
+    if (!undone)
+        throw std::logic_error("there was nothing to undo");
+}
+
+void ChangeTimes::recolorObject(std::size_t index) {
+    drawing_.prepareUndo(1);
+    auto copy = std::make_shared<drawing::Object>(*drawing_.object(index));
+    copy->fill = drawing::ColorPaint{{static_cast<std::uint16_t>(changes_.size() * 1000), 0, 65535}, 1};
+    drawing_.erase(index);
+    drawing_.insert(index, std::move(copy));
+    drawing_.closeUndo();
+}
+
+void ChangeTimes::repaint() {
+    const drawing::Point corner = toSurface_({dirty_.left, dirty_.top});
+    const drawing::Point end = toSurface_({dirty_.right, dirty_.bottom});
+    const paint::PixelBox box{static_cast<int>(corner.x) - 1, static_cast<int>(corner.y) - 1,
+                              static_cast<int>(end.x) + 2, static_cast<int>(end.y) + 2};
+    paint::renderDrawing(drawing_, surface_.view().clippedTo(box), toSurface_, 1);
+    dirty_ = {};
 }
 
 } // namespace bench
