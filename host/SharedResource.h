@@ -93,14 +93,15 @@ template <typename T> class SharedResourcePtr {
         std::unique_ptr<T> fresh(resource);
         TypeMap& map = GetTypeMap();
         std::uint32_t const id = fresh->HashID();
-        if (auto const found = map.find(id); found != map.end()) {
+        auto const place = map.lower_bound(id);
+        if (place != map.end() && place->first == id) {
             fresh.reset();
-            *this = found->second;
+            *this = place->second;
             return;
         }
         count_ = new std::uint32_t(1);
         resource_ = fresh.release();
-        map.emplace(id, *this);
+        map.emplace_hint(place, id, *this);
     }
 
     T* resource_ = nullptr;
