@@ -83,8 +83,9 @@ void XmlTree::index(const std::string& text) {
         noteNamespaces(element);
         if (std::string_view(element.name()).ends_with("style"))
             sheets_.push_back(element);
-        if (const pugi::xml_attribute id = element.attribute("id"))
-            withIds_.push_back({id.value(), element});
+        // An empty id is none: whatever refers to nothing would refer to it.
+        if (const std::string_view id = element.attribute("id").value(); !id.empty())
+            withIds_.push_back({id, element});
     });
     numberIds();
 }

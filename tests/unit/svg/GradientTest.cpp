@@ -221,6 +221,15 @@ TEST(SvgGradient, ShapesGetTheFirstElementWithTheirIdInWhateverOrderTheyAskForTh
     }
 }
 
+TEST(SvgGradient, AnEmptyIdIsNotWhatGradientsWithoutReferenceReferTo) {
+    const Drawing drawing =
+        readOk(svgFile("<radialGradient id='' spreadMethod='reflect'>" + std::string(kStops) +
+                       "</radialGradient><linearGradient id='g'/>"
+                       "<rect width='50' height='50' fill='url(#g)'/>"));
+    EXPECT_FALSE(recordOf(drawing));
+    EXPECT_TRUE(std::holds_alternative<NoPaint>(drawing.object(0)->fill)); // without stops
+}
+
 TEST(SvgGradient, GradientsWithoutExtentShowOneColor) {
     const auto colorOf = [](const std::string& gradient) {
         return std::get<ColorPaint>(gradientRect(gradient).object(0)->fill).color;
