@@ -99,7 +99,10 @@ void Rewriter::applyChanges(std::uint32_t repetition, Splices& splices) const {
     const FillStatement statement = source_.sheetsStateFill ? FillStatement::Style : FillStatement::Attribute;
     if (const auto found = changes_.find(repetition); found != changes_.end()) {
         for (const Change& change : found->second) {
-            if (change.fill.empty())
+            if (change.fill.empty() && source_.chosen.contains(change.tag))
+                // Without it the switch would show another of its elements.
+                splices.replace(change.tag, elementEnd(text_, change.tag), '<' + source_.prefix + "g/>");
+            else if (change.fill.empty())
                 removeElement(splices, text_, change.tag);
             else
                 stateFill(splices, text_, RawTag(text_, change.tag), change.fill, statement);

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,7 @@ struct Source : drawing::DocumentSource {
     bool sheetsStateFill = false;
     std::vector<drawing::ElementSpan> objects; // of every object that was read, in the drawing's order
     std::vector<Repetition> repetitions;       // number 1 is the first
+    std::set<std::size_t> chosen;              // start tags of what is shown of `switch` elements
 
     const std::string& text() const { return encoding == Encoding::Utf8 ? bytes : decoded; }
 };

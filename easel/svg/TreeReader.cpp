@@ -168,6 +168,7 @@ void TreeReader::readSwitch(pugi::xml_node element, const Place& place) {
     for (const pugi::xml_node child : element.children()) {
         if (scene_.tree.svgName(child).empty() || !accepts(child))
             continue;
+        source_.chosen.insert(scene_.tree.tagBegin(child));
         readElement(child, place);
         return;
     }

@@ -127,6 +127,17 @@ TEST(SvgWriter, ADeletedObjectsElementGoesWithItsLine) {
     EXPECT_EQ(toBytes(drawing), expected);
 }
 
+TEST(SvgWriter, DeletingWhatASwitchShowsDoesNotShowItsNextElement) {
+    Drawing drawing = readOk(svgFile("<switch><rect systemLanguage='xx' width='1' height='1'/>"
+                                     "<rect width='2' height='2'/><rect width='3' height='3'/></switch>"));
+    ASSERT_EQ(drawing.size(), 1U);
+    drawing.prepareUndo(1);
+    drawing.erase(0);
+    const std::string bytes = toBytes(drawing);
+    EXPECT_EQ(readOk(bytes).size(), 0U);
+    EXPECT_NE(bytes.find("<rect width='3' height='3'/>"), std::string::npos);
+}
+
 TEST(SvgWriter, TheFirstElementCanGoWhileOurBlockComesInItsPlace) {
     const std::string before =
         "<svg xmlns=\"http://www.w3.org/2000/svg\">\n  <rect id='a' width='9' height='9'/>\n"
