@@ -1,10 +1,17 @@
 // Rows of ellipses as SVG.
 #include "benchmarks/DrawingFiles.h"
 
+#include "easel/svg/Document.h"
+
 #include <iomanip>
 #include <sstream>
+#include <stdexcept>
+#include <utility>
+#include <variant>
 
 namespace bench {
+
+using namespace easel;
 
 namespace {
 
@@ -37,6 +44,13 @@ std::string drawingFile(int count, Fills fills) {
     }
     svg << "</svg>\n";
     return svg.str();
+}
+
+drawing::Drawing opened(std::string bytes) {
+    svg::ReadResult read = svg::readBytes(std::move(bytes), "growing.svg");
+    if (auto* drawing = std::get_if<drawing::Drawing>(&read))
+        return std::move(*drawing);
+    throw std::logic_error(std::get<svg::Failure>(read).message);
 }
 
 } // namespace bench

@@ -5,7 +5,6 @@
 #include "benchmarks/HeapUse.h"
 #include "benchmarks/Timing.h"
 #include "easel/paint/RenderDrawing.h"
-#include "easel/svg/Document.h"
 
 #include <algorithm>
 #include <map>
@@ -24,10 +23,6 @@ constexpr int kChanges = 51;
 constexpr double kFrameLimit = 4; // milliseconds
 constexpr double kMostGrowth = 1.5;
 constexpr double kMostBytes = 600;
-
-drawing::Drawing opened(const std::string& bytes) {
-    return std::get<drawing::Drawing>(svg::readBytes(bytes, "large.svg"));
-}
 
 // A drawing of ellipses at 100 %, from the first opening on.
 class AtFullSize {

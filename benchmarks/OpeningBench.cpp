@@ -4,7 +4,6 @@
 #include "benchmarks/HeapUse.h"
 #include "benchmarks/OpeningRun.h"
 #include "benchmarks/Timing.h"
-#include "easel/svg/Document.h"
 
 #include <unistd.h>
 
@@ -12,7 +11,8 @@
 #include <fstream>
 #include <map>
 #include <set>
-#include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace bench {
 
@@ -24,13 +24,6 @@ const std::string kTable = "Files with gradients";
 constexpr double kMostBytes = 600;
 // Opening grows no faster than the file, but for what two measurements of the same differ by.
 constexpr double kMostGrowth = 1.1;
-
-drawing::Drawing opened(std::string bytes) {
-    svg::ReadResult read = svg::readBytes(std::move(bytes), "growing.svg");
-    if (auto* drawing = std::get_if<drawing::Drawing>(&read))
-        return std::move(*drawing);
-    throw std::logic_error(std::get<svg::Failure>(read).message);
-}
 
 // The first opening of the file, which makes its gradients.
 double bytesBesidePaths(const std::string& bytes) {
