@@ -97,7 +97,10 @@ void DesktopTest::startWithDrawing(const std::map<std::string, std::string>& env
 int DesktopTest::quit() {
     getsKeyboard();
     screen().key("ctrl+q");
-    return program_->wait(10s).value_or(-1);
+    const int code = program_->wait(10s).value_or(-1);
+    // The server takes a program's windows off the screen a little after its end.
+    EXPECT_TRUE(colorVanishes(kPlain));
+    return code;
 }
 
 bool DesktopTest::eventually(const std::function<bool()>& condition, std::chrono::milliseconds atMost) {
