@@ -33,7 +33,7 @@ int render(const RenderRequest& request) {
     const auto& drawing = std::get<drawing::Drawing>(read);
     for (const std::string& note : drawing.notes())
         std::cerr << "easel: " << request.drawing << ": " << note << "\n";
-    if (const toolbox::FileOutcome error = paint::exportDrawing(drawing, request.picture, request.size))
+    if (const files::FileOutcome error = paint::exportDrawing(drawing, request.picture, request.size))
         return fail(error->message());
     return 0;
 }

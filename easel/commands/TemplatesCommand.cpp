@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using exchange::TemplateShelf;
-using toolbox::FileError;
+using files::FileError;
 
 constexpr int kFailed = 2;
 
@@ -47,7 +47,7 @@ void say(const std::string& subject, const std::vector<std::string>& notes) {
 
 // Runs an action on the user's templates; its result is the exit code.
 template <class Action> int withShelf(const TemplatesRequest& request, Action action) {
-    auto places = toolbox::StoragePlaces::ofUser();
+    auto places = classic::StoragePlaces::ofUser();
     if (!request.preferences.empty())
         places.preferences = fs::absolute(request.preferences);
     const auto folder = host::templateFolder(host::PluginModule::defaultFile(), places);

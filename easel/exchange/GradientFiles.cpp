@@ -1,24 +1,24 @@
 // Chooses the format by the ending of a file's name.
 #include "easel/exchange/GradientFiles.h"
 
+#include "easel/classic/HostNames.h"
+#include "easel/classic/MacBinary.h"
+#include "easel/classic/MacRoman.h"
+#include "easel/classic/PairCommit.h"
 #include "easel/exchange/CssGradient.h"
 #include "easel/exchange/Ggr.h"
 #include "easel/exchange/SvgGradient.h"
 #include "easel/exchange/TemplateFile.h"
-#include "easel/toolbox/AtomicFile.h"
-#include "easel/toolbox/HostNames.h"
-#include "easel/toolbox/MacBinary.h"
-#include "easel/toolbox/MacRoman.h"
-#include "easel/toolbox/PairCommit.h"
-#include "easel/toolbox/WholeFile.h"
+#include "easel/files/AtomicFile.h"
+#include "easel/files/WholeFile.h"
 
 namespace fs = std::filesystem;
 
 namespace easel::exchange {
 namespace {
 
-using toolbox::FileError;
-using toolbox::OrFileError;
+using files::FileError;
+using files::OrFileError;
 
 constexpr std::uintmax_t kLargestFile = 64U << 20;
 
@@ -44,7 +44,7 @@ FileError unknownFormat(const fs::path& file) {
     return {file, std::string("its ending is none of ") + kFormatsInWords, {}};
 }
 
-toolbox::FilePair pairAt(const fs::path& file) {
+classic::FilePair pairAt(const fs::path& file) {
     const auto folder = file.parent_path();
     return {folder.empty() ? fs::path(".") : folder, file.filename().string()};
 }
@@ -55,8 +55,8 @@ OrFileError<ImportedGradient> named(OrFileError<CGradientData> gradient) {
     return ImportedGradient{std::get<CGradientData>(std::move(gradient)), {}, {}};
 }
 
-OrFileError<ImportedGradient> importMacBinary(const toolbox::Bytes& bytes, const fs::path& file) {
-    const auto binary = toolbox::readMacBinary(bytes);
+OrFileError<ImportedGradient> importMacBinary(const files::Bytes& bytes, const fs::path& file) {
+    const auto binary = classic::readMacBinary(bytes);
     if (!binary)
         return FileError{file, "it is no MacBinary file of version 2", {}};
     return named(templateIn(binary->resourceFork, file));
@@ -69,27 +69,27 @@ OrFileError<ImportedGradient> imported(ImportOutcome outcome, const fs::path& fi
 }
 
 OrFileError<std::vector<std::string>> written(const ExportedGradient& exported, const fs::path& file) {
-    if (const auto failure = toolbox::replaceFile(file, exported.text))
+    if (const auto failure = files::replaceFile(file, exported.text))
         return *failure;
     return exported.notes;
 }
 
-OrFileError<std::vector<std::string>> exportMacBinary(const toolbox::AppleDouble& header,
+OrFileError<std::vector<std::string>> exportMacBinary(const classic::AppleDouble& header,
                                                       const std::string& name, const fs::path& file) {
     const auto fork = header.resourceFork();
-    const toolbox::MacBinaryFile binary{toolbox::toMacRoman(name + ".GRD").text,
+    const classic::MacBinaryFile binary{classic::toMacRoman(name + ".GRD").text,
                                         header.finderInfo(),
                                         {},
                                         {fork.begin(), fork.end()},
-                                        toolbox::dateNow()};
-    if (const auto failure = toolbox::replaceFile(file, toolbox::writeMacBinary(binary)))
+                                        classic::dateNow()};
+    if (const auto failure = files::replaceFile(file, classic::writeMacBinary(binary)))
         return *failure;
     return std::vector<std::string>();
 }
 
-OrFileError<std::vector<std::string>> exportTemplate(const toolbox::AppleDouble& header, const fs::path& file,
-                                                     const toolbox::Trash& trash) {
-    if (const auto failure = toolbox::writePair(pairAt(file), header, trash))
+OrFileError<std::vector<std::string>> exportTemplate(const classic::AppleDouble& header, const fs::path& file,
+                                                     const files::Trash& trash) {
+    if (const auto failure = classic::writePair(pairAt(file), header, trash))
         return *failure;
     return std::vector<std::string>();
 }
@@ -104,10 +104,10 @@ OrFileError<ImportedGradient> importFile(const fs::path& file) {
         return named(readTemplate(pairAt(file)));
     if (format == Format::Svg)
         return imported(readSvg(file), file);
-    const auto read = toolbox::readWholeFile(file, kLargestFile);
+    const auto read = files::readWholeFile(file, kLargestFile);
     if (const auto* const error = std::get_if<FileError>(&read))
         return *error;
-    const auto& bytes = std::get<toolbox::Bytes>(read);
+    const auto& bytes = std::get<files::Bytes>(read);
     if (format == Format::MacBinary)
         return importMacBinary(bytes, file);
     const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
@@ -115,7 +115,7 @@ OrFileError<ImportedGradient> importFile(const fs::path& file) {
 }
 
 OrFileError<std::vector<std::string>> exportFile(const CGradientData& gradient, const std::string& name,
-                                                 const fs::path& file, const toolbox::Trash& trash) {
+                                                 const fs::path& file, const files::Trash& trash) {
     const auto header = templateHeader(gradient);
     if (!header)
         return FileError{file, "a gradient without colors cannot be written", {}};

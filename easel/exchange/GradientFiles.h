@@ -2,7 +2,7 @@
 #pragma once
 
 #include "easel/exchange/Exchange.h"
-#include "easel/toolbox/Trash.h"
+#include "easel/files/Trash.h"
 
 namespace easel::exchange {
 
@@ -11,13 +11,13 @@ inline constexpr const char* kFormatsInWords =
     ".GRD (with its header file ._NAME beside it), .bin (MacBinary), .ggr (GIMP), .svg, .css";
 
 /// Reads a gradient; the error names the file and the reason.
-toolbox::OrFileError<ImportedGradient> importFile(const std::filesystem::path& file);
+files::OrFileError<ImportedGradient> importFile(const std::filesystem::path& file);
 
 /// Writes a gradient whole or not at all, and gives the notes on what the file does not hold. A .GRD that is
 /// replaced goes to the trash.
-toolbox::OrFileError<std::vector<std::string>> exportFile(const CGradientData& gradient,
-                                                          const std::string& name,
-                                                          const std::filesystem::path& file,
-                                                          const toolbox::Trash& trash);
+files::OrFileError<std::vector<std::string>> exportFile(const CGradientData& gradient,
+                                                        const std::string& name,
+                                                        const std::filesystem::path& file,
+                                                        const files::Trash& trash);
 
 } // namespace easel::exchange

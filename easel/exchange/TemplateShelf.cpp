@@ -1,19 +1,19 @@
 // Listing, loading, saving and removing templates by name.
 #include "easel/exchange/TemplateShelf.h"
 
+#include "easel/classic/HostNames.h"
+#include "easel/classic/MacRoman.h"
+#include "easel/classic/PairCommit.h"
 #include "easel/exchange/TemplateFile.h"
-#include "easel/toolbox/HostNames.h"
-#include "easel/toolbox/MacRoman.h"
-#include "easel/toolbox/PairCommit.h"
 
 namespace fs = std::filesystem;
 
 namespace easel::exchange {
 namespace {
 
-using toolbox::FileError;
-using toolbox::FilePair;
-using toolbox::OrFileError;
+using classic::FilePair;
+using files::FileError;
+using files::OrFileError;
 
 constexpr const char* kEnding = ".GRD";
 
@@ -27,9 +27,9 @@ std::string withoutEnding(const std::string& name) {
 
 std::vector<std::string> TemplateShelf::names() const {
     std::vector<std::string> names;
-    for (const auto& file : toolbox::listFolder(folder_).files)
+    for (const auto& file : classic::listFolder(folder_).files)
         if (file.info.type == kTemplateType)
-            names.push_back(withoutEnding(toolbox::fromMacRoman(file.hostName)));
+            names.push_back(withoutEnding(classic::fromMacRoman(file.hostName)));
     return names;
 }
 
@@ -44,12 +44,12 @@ OrFileError<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
                                                       const CGradientData& gradient) const {
     if (withoutEnding(name).empty())
         return FileError{R"("")", "a template's name cannot be empty", {}};
-    const auto encoded = toolbox::toMacRoman(withoutEnding(name) + kEnding);
-    if (encoded.outcome == toolbox::EncodingOutcome::NotUtf8)
+    const auto encoded = classic::toMacRoman(withoutEnding(name) + kEnding);
+    if (encoded.outcome == classic::EncodingOutcome::NotUtf8)
         return FileError{name, "the name is not UTF-8", {}};
-    if (encoded.outcome == toolbox::EncodingOutcome::NotInEncoding)
+    if (encoded.outcome == classic::EncodingOutcome::NotInEncoding)
         return FileError{name, "the host's encoding has no character " + encoded.culprit, {}};
-    const auto disk = toolbox::nameOnDisk(encoded.text);
+    const auto disk = classic::nameOnDisk(encoded.text);
     if (!disk)
         return FileError{
             name,
@@ -62,27 +62,27 @@ OrFileError<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
     fs::create_directories(folder_, error);
     if (error)
         return FileError{folder_, error.message(), error};
-    toolbox::recoverFolder(folder_);
+    classic::recoverFolder(folder_);
     const FilePair file{folder_, *disk};
-    const auto saved = toolbox::exists(file) ? Saved::Replaced : Saved::New;
-    if (const auto failure = toolbox::writePair(file, *header, trash_))
+    const auto saved = classic::exists(file) ? Saved::Replaced : Saved::New;
+    if (const auto failure = classic::writePair(file, *header, trash_))
         return *failure;
     return saved;
 }
 
-toolbox::FileOutcome TemplateShelf::remove(const std::string& name) const {
+files::FileOutcome TemplateShelf::remove(const std::string& name) const {
     const auto file = find(name);
     if (const auto* const error = std::get_if<FileError>(&file))
         return *error;
-    return toolbox::trashPair(std::get<FilePair>(file), trash_);
+    return classic::trashPair(std::get<FilePair>(file), trash_);
 }
 
 OrFileError<FilePair> TemplateShelf::find(const std::string& name) const {
-    const auto files = toolbox::listFolder(folder_).files;
+    const auto files = classic::listFolder(folder_).files;
     for (const auto& wanted : {name, withoutEnding(name) + kEnding}) {
         // Composed or decomposed, a name is the same in the host's encoding.
-        const auto encoded = toolbox::toMacRoman(wanted);
-        if (encoded.outcome != toolbox::EncodingOutcome::Converted)
+        const auto encoded = classic::toMacRoman(wanted);
+        if (encoded.outcome != classic::EncodingOutcome::Converted)
             continue;
         for (const auto& file : files)
             if (file.info.type == kTemplateType && file.hostName == encoded.text)

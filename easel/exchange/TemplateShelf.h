@@ -1,8 +1,8 @@
 // The templates of a user, as a program without the plug-in looks at them.
 #pragma once
 
-#include "easel/toolbox/FolderListing.h"
-#include "easel/toolbox/Trash.h"
+#include "easel/classic/FolderListing.h"
+#include "easel/files/Trash.h"
 #include "host/Gradient.h"
 
 namespace easel::exchange {
@@ -14,22 +14,22 @@ class TemplateShelf {
         : folder_(std::move(folder)), trash_(std::move(trash)) {}
 
     const std::filesystem::path& folder() const { return folder_; }
-    const toolbox::Trash& trash() const { return trash_; }
+    const files::Trash& trash() const { return trash_; }
 
     /// The names of the templates, without ".GRD", in the order of the popup.
     std::vector<std::string> names() const;
-    toolbox::OrFileError<CGradientData> load(const std::string& name) const;
+    files::OrFileError<CGradientData> load(const std::string& name) const;
     /// Whether a template was in the way, which now lies in the trash.
     enum class Saved { New, Replaced };
-    toolbox::OrFileError<Saved> save(const std::string& name, const CGradientData& gradient) const;
+    files::OrFileError<Saved> save(const std::string& name, const CGradientData& gradient) const;
     /// Moves it to the trash.
-    [[nodiscard]] toolbox::FileOutcome remove(const std::string& name) const;
+    [[nodiscard]] files::FileOutcome remove(const std::string& name) const;
 
   private:
-    toolbox::OrFileError<toolbox::FilePair> find(const std::string& name) const;
+    files::OrFileError<classic::FilePair> find(const std::string& name) const;
 
     std::filesystem::path folder_;
-    toolbox::Trash trash_;
+    files::Trash trash_;
 };
 
 /// The name without the ending of template files.

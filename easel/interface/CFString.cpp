@@ -1,7 +1,7 @@
 // Implements the counted string objects of host/Strings.h.
 #include "easel/interface/CFString.h"
 
-#include "easel/toolbox/MacRoman.h"
+#include "easel/classic/MacRoman.h"
 
 struct __CFString {
     std::string text; // UTF-8
@@ -22,7 +22,7 @@ CFStringRef CFStringCreateWithPascalString(CFAllocatorRef, unsigned char const* 
                                            CFStringEncoding encoding) {
     if (!bytes || encoding != kCFStringEncodingMacRoman)
         return nullptr;
-    return new __CFString{easel::toolbox::fromMacRoman(CStr255::FromPascal(bytes).Text())};
+    return new __CFString{easel::classic::fromMacRoman(CStr255::FromPascal(bytes).Text())};
 }
 
 CFStringRef CFRetain(CFStringRef string) {

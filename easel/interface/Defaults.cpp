@@ -1,9 +1,9 @@
 // Implements host/Defaults.h.
 #include "host/Defaults.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/Storage.h"
-#include "easel/toolbox/MacRoman.h"
 
 #include <algorithm>
 
@@ -14,24 +14,24 @@ using host::theStorage;
 Handle GetDefaultsResource(unsigned long type, short id) {
     journal("GetDefaultsResource", type, id);
     const auto stored = theStorage().defaults().read();
-    const auto* const fork = std::get_if<toolbox::ResourceFork>(&stored);
+    const auto* const fork = std::get_if<classic::ResourceFork>(&stored);
     const auto* const resource = fork ? fork->find(static_cast<std::uint32_t>(type), id) : nullptr;
     if (!resource)
         return nullptr;
-    Handle const block = toolbox::MemoryBlocks::shared().create(resource->data.size());
+    Handle const block = classic::MemoryBlocks::shared().create(resource->data.size());
     if (block)
         std::copy(resource->data.begin(), resource->data.end(), *block);
     return block;
 }
 
 void SetDefaultsResource(Handle data, unsigned long type, short id, CStr255 name) {
-    journal("SetDefaultsResource", type, id, toolbox::fromMacRoman(name.Text()));
-    const auto size = toolbox::MemoryBlocks::shared().size(data);
+    journal("SetDefaultsResource", type, id, classic::fromMacRoman(name.Text()));
+    const auto size = classic::MemoryBlocks::shared().size(data);
     if (!size)
         return;
     theStorage().files().settle();
-    toolbox::Resource resource{static_cast<std::uint32_t>(type), id, 0, name.Text(),
-                               toolbox::Bytes(*data, *data + *size)};
+    classic::Resource resource{static_cast<std::uint32_t>(type), id, 0, name.Text(),
+                               files::Bytes(*data, *data + *size)};
     if (const auto failure = theStorage().defaults().put(std::move(resource)))
         theStorage().tellFailure(*failure);
 }

@@ -128,7 +128,7 @@ void DeleteDialog::DoOKAction() {
     if (state.list == nullptr)
         return;
     const std::vector<int>& selection = state.list->selection();
-    const easel::toolbox::HostFiles::ManyChanges many(easel::host::theStorage().files());
+    const easel::classic::HostFiles::ManyChanges many(easel::host::theStorage().files());
     // A deletion moves those behind it.
     const std::vector<int> lastFirst(selection.rbegin(), selection.rend());
     for (const int row : lastFirst)

@@ -1,8 +1,8 @@
 // What the person in front of a dialog does to it: typing, choosing, moving the focus, hitting items.
 #include "easel/interface/Dialog.h"
 
-#include "easel/toolbox/MacRoman.h"
-#include "easel/toolbox/Utf8.h"
+#include "easel/classic/MacRoman.h"
+#include "easel/files/Utf8.h"
 
 #include <algorithm>
 
@@ -38,8 +38,8 @@ void Dialog::replaceSelection(DialogItem& field, const std::string& replacement)
 
 EditOutcome Dialog::typeCharacter(char32_t character) {
     DialogItem* field = focusedField();
-    const toolbox::EncodedText encoded = toolbox::toMacRoman(toolbox::utf8Of(character));
-    if (field == nullptr || encoded.outcome != toolbox::EncodingOutcome::Converted || !fits(encoded.text))
+    const classic::EncodedText encoded = classic::toMacRoman(files::utf8Of(character));
+    if (field == nullptr || encoded.outcome != classic::EncodingOutcome::Converted || !fits(encoded.text))
         return EditOutcome::Refused;
     const auto selected = static_cast<std::size_t>(field->selection.to - field->selection.from);
     if (field->text.size() - selected + encoded.text.size() > kLongestText)
@@ -72,8 +72,8 @@ EditOutcome Dialog::eraseForward() {
 
 EditOutcome Dialog::enterText(int number, const std::string& utf8) {
     DialogItem* field = itemOfKind(number, ItemKind::EditText);
-    const toolbox::EncodedText encoded = toolbox::toMacRoman(utf8);
-    if (field == nullptr || encoded.outcome != toolbox::EncodingOutcome::Converted || !fits(encoded.text))
+    const classic::EncodedText encoded = classic::toMacRoman(utf8);
+    if (field == nullptr || encoded.outcome != classic::EncodingOutcome::Converted || !fits(encoded.text))
         return EditOutcome::Refused;
     moveFocus(number);
     field->selection = {0, static_cast<int>(field->text.size())};

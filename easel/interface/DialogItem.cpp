@@ -1,12 +1,12 @@
 // What an item shows.
 #include "easel/interface/DialogItem.h"
 
-#include "easel/toolbox/MacRoman.h"
+#include "easel/classic/MacRoman.h"
 
 namespace easel::host {
 
 std::string DialogItem::shownText() const {
-    return toolbox::fromMacRoman(text);
+    return classic::fromMacRoman(text);
 }
 
 } // namespace easel::host

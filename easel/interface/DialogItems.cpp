@@ -2,11 +2,11 @@
 // them.
 #include "host/Dialogs.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/OpenDialogs.h"
 #include "easel/interface/ThemeColor.h"
 #include "easel/paint/Port.h"
-#include "easel/toolbox/MacRoman.h"
 
 #include <algorithm>
 #include <cstring>
@@ -90,7 +90,7 @@ void InvalDLogItem(DialogRef ref, short number) {
 }
 
 void SetDLOGText(DialogRef ref, short number, CStr255 const& text) {
-    journal("SetDLOGText", number, easel::toolbox::fromMacRoman(text.Text()));
+    journal("SetDLOGText", number, easel::classic::fromMacRoman(text.Text()));
     if (Dialog* dialog = openDialogs().find(ref))
         dialog->setText(number, text.Text());
 }

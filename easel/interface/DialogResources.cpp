@@ -1,16 +1,16 @@
 // Makes dialogs and alerts from the resources of the plug-in that is loaded.
 #include "easel/interface/DialogResources.h"
 
+#include "easel/classic/MacRoman.h"
+#include "easel/classic/PluginResources.h"
 #include "easel/interface/PluginResourceFile.h"
-#include "easel/toolbox/MacRoman.h"
-#include "easel/toolbox/PluginResources.h"
 
 namespace easel::host {
 
 namespace {
 
-using toolbox::ItemResource;
-using toolbox::ItemResourceKind;
+using classic::ItemResource;
+using classic::ItemResourceKind;
 
 ItemKind kindOf(ItemResourceKind kind) {
     switch (kind) {
@@ -31,25 +31,25 @@ ItemKind kindOf(ItemResourceKind kind) {
     return ItemKind::StaticText;
 }
 
-ButtonRole roleOf(toolbox::ButtonResourceRole role) {
+ButtonRole roleOf(classic::ButtonResourceRole role) {
     switch (role) {
-    case toolbox::ButtonResourceRole::Default:
+    case classic::ButtonResourceRole::Default:
         return ButtonRole::Default;
-    case toolbox::ButtonResourceRole::Cancel:
+    case classic::ButtonResourceRole::Cancel:
         return ButtonRole::Cancel;
-    case toolbox::ButtonResourceRole::Plain:
+    case classic::ButtonResourceRole::Plain:
         break;
     }
     return ButtonRole::Plain;
 }
 
-TextAlignment alignmentOf(toolbox::AlignmentResource alignment) {
+TextAlignment alignmentOf(classic::AlignmentResource alignment) {
     switch (alignment) {
-    case toolbox::AlignmentResource::Center:
+    case classic::AlignmentResource::Center:
         return TextAlignment::Center;
-    case toolbox::AlignmentResource::Right:
+    case classic::AlignmentResource::Right:
         return TextAlignment::Right;
-    case toolbox::AlignmentResource::Left:
+    case classic::AlignmentResource::Left:
         break;
     }
     return TextAlignment::Left;
@@ -57,19 +57,19 @@ TextAlignment alignmentOf(toolbox::AlignmentResource alignment) {
 
 // The texts of resources are known to be in the host's encoding.
 std::string encoded(const std::string& utf8) {
-    return toolbox::toMacRoman(utf8).text;
+    return classic::toMacRoman(utf8).text;
 }
 
-std::shared_ptr<Menu> menuOf(const toolbox::PluginResources& resources, int id) {
+std::shared_ptr<Menu> menuOf(const classic::PluginResources& resources, int id) {
     auto menu = std::make_shared<Menu>();
-    if (const toolbox::MenuResource* entries = resources.menu(id))
-        for (const toolbox::MenuEntryResource& entry : *entries)
+    if (const classic::MenuResource* entries = resources.menu(id))
+        for (const classic::MenuEntryResource& entry : *entries)
             menu->append(
-                {encoded(entry.text), true, entry.kind == toolbox::MenuEntryResource::Kind::Separator});
+                {encoded(entry.text), true, entry.kind == classic::MenuEntryResource::Kind::Separator});
     return menu;
 }
 
-DialogItem itemOf(const toolbox::PluginResources& resources, const ItemResource& resource, int number) {
+DialogItem itemOf(const classic::PluginResources& resources, const ItemResource& resource, int number) {
     DialogItem item;
     item.number = number;
     item.kind = kindOf(resource.kind);
@@ -90,8 +90,8 @@ DialogItem itemOf(const toolbox::PluginResources& resources, const ItemResource&
 } // namespace
 
 std::optional<DialogDescription> dialogDescription(int id) {
-    const toolbox::PluginResources& resources = pluginResources();
-    const toolbox::DialogResource* resource = resources.dialog(id);
+    const classic::PluginResources& resources = pluginResources();
+    const classic::DialogResource* resource = resources.dialog(id);
     if (resource == nullptr)
         return std::nullopt;
     DialogDescription description{id, resource->title, resource->width, resource->height, {}};
@@ -101,7 +101,7 @@ std::optional<DialogDescription> dialogDescription(int id) {
 }
 
 std::optional<Alert> alertDescription(int id) {
-    const toolbox::AlertResource* resource = pluginResources().alert(id);
+    const classic::AlertResource* resource = pluginResources().alert(id);
     if (resource == nullptr)
         return std::nullopt;
     return Alert{id, resource->title, resource->text, resource->detail, resource->confirm, resource->decline};

@@ -5,7 +5,7 @@
 
 namespace easel::host {
 
-std::span<const FSSpec> Enumeration::records(toolbox::HostFiles& files, short volume, long folder,
+std::span<const FSSpec> Enumeration::records(classic::HostFiles& files, short volume, long folder,
                                              OSType type) {
     const auto& listed = files.list(volume, folder);
     const Question question{files.listingRevision(), volume, folder, type};

@@ -1,7 +1,7 @@
 // The files of one type in a folder as the records of the host interface.
 #pragma once
 
-#include "easel/toolbox/HostFiles.h"
+#include "easel/classic/HostFiles.h"
 #include "host/Files.h"
 
 #include <span>
@@ -14,7 +14,7 @@ namespace easel::host {
 class Enumeration {
   public:
     // Records of the files of that type in the order of the listing. Valid until the next call.
-    std::span<const FSSpec> records(toolbox::HostFiles& files, short volume, long folder, OSType type);
+    std::span<const FSSpec> records(classic::HostFiles& files, short volume, long folder, OSType type);
 
   private:
     struct Question {

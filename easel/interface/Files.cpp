@@ -1,27 +1,27 @@
 // Implements the files of host/Files.h.
 #include "host/Files.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/HostSpec.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/Storage.h"
-#include "easel/toolbox/MacRoman.h"
 
 #include <algorithm>
 #include <cstring>
 
 using namespace easel;
+using classic::fromMacRoman;
 using host::journal;
 using host::theStorage;
-using toolbox::fromMacRoman;
 
 namespace easel::host {
 
-toolbox::FileSpec fileSpecFrom(const FSSpec& spec) {
+classic::FileSpec fileSpecFrom(const FSSpec& spec) {
     const std::size_t length = std::min<std::size_t>(spec.name[0], sizeof(spec.name) - 1);
     return {spec.vRefNum, spec.parID, std::string(reinterpret_cast<const char*>(spec.name + 1), length)};
 }
 
-FSSpec hostSpecFrom(const toolbox::FileSpec& spec) {
+FSSpec hostSpecFrom(const classic::FileSpec& spec) {
     FSSpec out{};
     out.vRefNum = spec.volume;
     out.parID = spec.folder;
@@ -36,7 +36,7 @@ FSSpec hostSpecFrom(const toolbox::FileSpec& spec) {
 FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create) {
     journal("FindSecondaryPreferencesFolder", fromMacRoman(name.Text()), create);
     const auto found = theStorage().files().findSecondaryFolder(
-        name.Text(), create ? toolbox::FolderCreation::IfMissing : toolbox::FolderCreation::Never);
+        name.Text(), create ? classic::FolderCreation::IfMissing : classic::FolderCreation::Never);
     if (found.failure)
         theStorage().tellNothingIsKept(*found.failure);
     return host::hostSpecFrom(found.spec);
@@ -46,16 +46,16 @@ void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** lis
     journal("EnumerShell", vRefNum, dirID, fileType);
     const auto records = theStorage().enumeration().records(theStorage().files(), vRefNum, dirID,
                                                             static_cast<OSType>(fileType));
-    toolbox::MemoryBlocks::shared().append(
+    classic::MemoryBlocks::shared().append(
         reinterpret_cast<Handle>(list),
         {reinterpret_cast<const char*>(records.data()), records.size_bytes()});
 }
 
 OSErr FSMakeFSSpec(short vRefNum, long dirID, CStr255 const& name, FSSpec* out) {
     journal("FSMakeFSSpec", vRefNum, dirID, fromMacRoman(name.Text()));
-    toolbox::FileSpec spec;
+    classic::FileSpec spec;
     const auto result = theStorage().files().resolve(vRefNum, dirID, name.Text(), spec);
-    if (result == toolbox::FileResult::Done || result == toolbox::FileResult::NoSuchFile)
+    if (result == classic::FileResult::Done || result == classic::FileResult::NoSuchFile)
         *out = host::hostSpecFrom(spec);
     return static_cast<OSErr>(result);
 }

@@ -1,7 +1,7 @@
 // Implements the storing of gradients that host/Gradient.h declares.
+#include "easel/classic/GradientBytes.h"
+#include "easel/classic/MemoryBlocks.h"
 #include "easel/interface/Journal.h"
-#include "easel/toolbox/GradientBytes.h"
-#include "easel/toolbox/MemoryBlocks.h"
 
 #include <algorithm>
 
@@ -9,10 +9,10 @@ using namespace easel;
 
 Handle MakeGradientData(CGradientData const& data) {
     host::journal("MakeGradientData");
-    const auto bytes = toolbox::gradientToBytes(data);
+    const auto bytes = classic::gradientToBytes(data);
     if (!bytes)
         return nullptr;
-    Handle const block = toolbox::MemoryBlocks::shared().create(bytes->size());
+    Handle const block = classic::MemoryBlocks::shared().create(bytes->size());
     if (block)
         std::copy(bytes->begin(), bytes->end(), *block);
     return block;
@@ -22,7 +22,7 @@ bool ExtractGradientInfo(char* bytes, long size, CGradientData& out) {
     host::journal("ExtractGradientInfo", size);
     if (!bytes || size < 0)
         return false;
-    auto read = toolbox::gradientFromBytes(
+    auto read = classic::gradientFromBytes(
         {reinterpret_cast<const std::uint8_t*>(bytes), static_cast<std::size_t>(size)});
     if (const auto* const gradient = std::get_if<CGradientData>(&read)) {
         out = *gradient;

@@ -1,10 +1,10 @@
 // Implements host/Memory.h.
 #include "host/Memory.h"
 
-#include "easel/toolbox/MemoryBlocks.h"
+#include "easel/classic/MemoryBlocks.h"
 
-using easel::toolbox::BlockOutcome;
-using easel::toolbox::MemoryBlocks;
+using easel::classic::BlockOutcome;
+using easel::classic::MemoryBlocks;
 
 Handle NewHandle(long size) {
     return size < 0 ? nullptr : MemoryBlocks::shared().create(static_cast<std::size_t>(size));

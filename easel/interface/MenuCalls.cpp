@@ -1,9 +1,9 @@
 // Menus, as the host interface names them.
 #include "host/Menus.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/Menus.h"
-#include "easel/toolbox/MacRoman.h"
 
 #include <algorithm>
 #include <limits>
@@ -33,13 +33,13 @@ void DeleteMenuItem(OpaqueMenuRef* ref, short item) {
 }
 
 void AppendMenu(OpaqueMenuRef* ref, CStr255 const& text) {
-    journal("AppendMenu", easel::toolbox::fromMacRoman(text.Text()));
+    journal("AppendMenu", easel::classic::fromMacRoman(text.Text()));
     if (Menu* menu = menuOf(ref))
         menu->append({text.Text(), true, false});
 }
 
 void SetMenuItemText(OpaqueMenuRef* ref, short item, CStr255 const& text) {
-    journal("SetMenuItemText", item, easel::toolbox::fromMacRoman(text.Text()));
+    journal("SetMenuItemText", item, easel::classic::fromMacRoman(text.Text()));
     if (Menu* menu = menuOf(ref))
         menu->setText(item, text.Text());
 }

@@ -1,7 +1,7 @@
 // Entries of menus.
 #include "easel/interface/Menus.h"
 
-#include "easel/toolbox/MacRoman.h"
+#include "easel/classic/MacRoman.h"
 
 #include <utility>
 
@@ -12,7 +12,7 @@ const MenuEntry& Menu::entry(int number) const {
 }
 
 std::string Menu::text(int number) const {
-    return toolbox::fromMacRoman(entry(number).text);
+    return classic::fromMacRoman(entry(number).text);
 }
 
 bool Menu::selectable(int number) const {

@@ -1,10 +1,10 @@
 // Registration of tools, as the host interface names it.
 #include "host/Palette.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/Host.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/ToolPalette.h"
-#include "easel/toolbox/MacRoman.h"
 
 #include <limits>
 
@@ -41,7 +41,7 @@ short AddTool(TPalette* palette, PaletteElement element, short& row, short& tool
 }
 
 void AddXTNLToolName(short nameCode, short toolNumber, CStr32 name) {
-    const std::string text = easel::toolbox::fromMacRoman(name.Text());
+    const std::string text = easel::classic::fromMacRoman(name.Text());
     journal("AddXTNLToolName", nameCode, toolNumber, text);
     if (HostTool* tool = thePalette().find(toolNumber)) {
         tool->nameCode = nameCode;

@@ -1,8 +1,8 @@
 // Keeps the loaded plug-in's resources, and implements the string lists of host/Strings.h.
 #include "easel/interface/PluginResourceFile.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/Journal.h"
-#include "easel/toolbox/MacRoman.h"
 #include "host/Strings.h"
 
 #include <cstring>
@@ -10,23 +10,23 @@
 namespace easel::host {
 namespace {
 
-toolbox::PluginResources& current() {
-    static toolbox::PluginResources resources;
+classic::PluginResources& current() {
+    static classic::PluginResources resources;
     return resources;
 }
 
 } // namespace
 
-const toolbox::PluginResources& pluginResources() {
+const classic::PluginResources& pluginResources() {
     return current();
 }
 
-toolbox::FileOutcome openPluginResources(const std::filesystem::path& folder) {
+files::FileOutcome openPluginResources(const std::filesystem::path& folder) {
     closePluginResources();
-    auto read = toolbox::PluginResources::read(folder);
-    if (auto* const error = std::get_if<toolbox::FileError>(&read))
+    auto read = classic::PluginResources::read(folder);
+    if (auto* const error = std::get_if<files::FileError>(&read))
         return std::move(*error);
-    current() = std::get<toolbox::PluginResources>(std::move(read));
+    current() = std::get<classic::PluginResources>(std::move(read));
     return {};
 }
 
@@ -39,7 +39,7 @@ void closePluginResources() {
 CStr255 GetIndString(short listId, short index) {
     easel::host::journal("GetIndString", listId, index);
     // The reader of the resources has made sure that every text can be converted.
-    return easel::toolbox::toMacRoman(easel::host::pluginResources().string(listId, index)).text;
+    return easel::classic::toMacRoman(easel::host::pluginResources().string(listId, index)).text;
 }
 
 void GetIndString(CStr255& out, short listId, short index) {

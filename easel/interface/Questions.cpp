@@ -1,11 +1,11 @@
 // Alerts and the color picker, as the host interface names them.
 #include "host/Dialogs.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/DialogResources.h"
 #include "easel/interface/Host.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/User.h"
-#include "easel/toolbox/MacRoman.h"
 
 using easel::host::journal;
 using easel::host::theHost;
@@ -18,7 +18,7 @@ bool Confirm(short id) {
 }
 
 bool GetColor(TPoint<short>, unsigned char const* prompt, RGBColor const* color, RGBColor* result) {
-    const std::string text = easel::toolbox::fromMacRoman(CStr255::FromPascal(prompt).Text());
+    const std::string text = easel::classic::fromMacRoman(CStr255::FromPascal(prompt).Text());
     journal("GetColor", text);
     const auto picked = theHost().user->pickColor(text, *color);
     if (picked)

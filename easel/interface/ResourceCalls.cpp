@@ -1,10 +1,10 @@
 // Implements the resource files of host/Files.h.
 #include "host/Files.h"
 
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/HostSpec.h"
 #include "easel/interface/Journal.h"
 #include "easel/interface/Storage.h"
-#include "easel/toolbox/MacRoman.h"
 
 using namespace easel;
 using host::journal;
@@ -12,7 +12,7 @@ using host::theStorage;
 
 short FSpOpenResFile(FSSpec const* spec, signed char permission) {
     journal("FSpOpenResFile", permission);
-    const auto access = permission == kReadPermission ? toolbox::Access::Read : toolbox::Access::Write;
+    const auto access = permission == kReadPermission ? classic::Access::Read : classic::Access::Write;
     return theStorage().resourceFiles().open(host::fileSpecFrom(*spec), access);
 }
 
@@ -32,7 +32,7 @@ void CloseResFile(short refNum) {
 }
 
 void AddResource(Handle data, OSType type, short id, CStr255 const& name) {
-    journal("AddResource", type, id, toolbox::fromMacRoman(name.Text()));
+    journal("AddResource", type, id, classic::fromMacRoman(name.Text()));
     theStorage().resourceFiles().add(data, type, id, name.Text());
 }
 

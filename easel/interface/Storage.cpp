@@ -22,29 +22,29 @@ void tell(const std::string& message) {
 
 } // namespace
 
-Storage::Storage(const toolbox::StoragePlaces& places)
-    : files_(places, [this](const toolbox::FileError& error) { tellFailure(error); }),
-      resourceFiles_(files_, toolbox::MemoryBlocks::shared(),
-                     [this](const toolbox::FileError& error) { tellFailure(error); }),
+Storage::Storage(const classic::StoragePlaces& places)
+    : files_(places, [this](const files::FileError& error) { tellFailure(error); }),
+      resourceFiles_(files_, classic::MemoryBlocks::shared(),
+                     [this](const files::FileError& error) { tellFailure(error); }),
       defaults_(places) {}
 
-void Storage::tellFailure(const toolbox::FileError& error) {
+void Storage::tellFailure(const files::FileError& error) {
     if (keeping_ == Keeping::AsFarAsKnown)
         tell(error.message() + ". The change was not kept.");
 }
 
-void Storage::tellNothingIsKept(const toolbox::FileError& error) {
+void Storage::tellNothingIsKept(const files::FileError& error) {
     if (std::exchange(keeping_, Keeping::Nothing) == Keeping::AsFarAsKnown)
         tell(error.message() + ". The current gradient and templates will not be kept.");
 }
 
 Storage& theStorage() {
     if (!slot())
-        useStorage(toolbox::StoragePlaces::ofUser());
+        useStorage(classic::StoragePlaces::ofUser());
     return *slot();
 }
 
-void useStorage(const toolbox::StoragePlaces& places) {
+void useStorage(const classic::StoragePlaces& places) {
     slot().reset();
     slot() = std::make_unique<Storage>(places);
 }

@@ -1,10 +1,10 @@
 // Finds the template folder.
 #include "easel/interface/TemplateFolder.h"
 
+#include "easel/classic/HostNames.h"
+#include "easel/classic/MacRoman.h"
+#include "easel/classic/PluginResources.h"
 #include "easel/interface/PluginModule.h"
-#include "easel/toolbox/HostNames.h"
-#include "easel/toolbox/MacRoman.h"
-#include "easel/toolbox/PluginResources.h"
 
 namespace easel::host {
 
@@ -15,16 +15,16 @@ constexpr int kTemplateFolderText = 2;
 
 } // namespace
 
-toolbox::OrFileError<std::filesystem::path> templateFolder(const std::filesystem::path& module,
-                                                           const toolbox::StoragePlaces& places) {
+files::OrFileError<std::filesystem::path> templateFolder(const std::filesystem::path& module,
+                                                         const classic::StoragePlaces& places) {
     const auto folder = PluginModule::resourceFolder(module);
-    const auto resources = toolbox::PluginResources::read(folder);
-    if (const auto* const error = std::get_if<toolbox::FileError>(&resources))
+    const auto resources = classic::PluginResources::read(folder);
+    if (const auto* const error = std::get_if<files::FileError>(&resources))
         return *error;
-    const auto text = std::get<toolbox::PluginResources>(resources).string(kTextsId, kTemplateFolderText);
-    const auto name = toolbox::nameOnDisk(toolbox::toMacRoman(text).text);
+    const auto text = std::get<classic::PluginResources>(resources).string(kTextsId, kTemplateFolderText);
+    const auto name = classic::nameOnDisk(classic::toMacRoman(text).text);
     if (!name)
-        return toolbox::FileError{folder, "it has no name for the template folder", {}};
+        return files::FileError{folder, "it has no name for the template folder", {}};
     return places.preferences / *name;
 }
 

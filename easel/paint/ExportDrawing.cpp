@@ -1,11 +1,11 @@
 // Pictures of drawings in files of other formats.
 #include "easel/paint/ExportDrawing.h"
 
+#include "easel/files/AtomicFile.h"
 #include "easel/paint/PdfFile.h"
 #include "easel/paint/PngFile.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/paint/SvgText.h"
-#include "easel/toolbox/AtomicFile.h"
 
 #include <algorithm>
 #include <new>
@@ -21,9 +21,9 @@ constexpr int kBandsAThread = 2;
 // Of the time that a picture takes, about this part goes by before its pixels are packed.
 constexpr double kPaintingShare = 0.6;
 
+using files::FileError;
+using files::FileOutcome;
 using std::filesystem::path;
-using toolbox::FileError;
-using toolbox::FileOutcome;
 
 std::string lowerCased(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
@@ -63,9 +63,9 @@ FileOutcome exportOutlines(const drawing::Drawing& drawing, const path& file, co
     if (const auto* reason = std::get_if<std::string>(&scale))
         return problem(file, *reason);
     if (asPdf)
-        return toolbox::replaceFile(file,
-                                    encodePdf(drawing, pageOf(drawing, std::get<double>(scale)), progress));
-    return toolbox::replaceFile(file, encodeSvg(drawing, std::get<double>(scale), progress));
+        return files::replaceFile(file,
+                                  encodePdf(drawing, pageOf(drawing, std::get<double>(scale)), progress));
+    return files::replaceFile(file, encodeSvg(drawing, std::get<double>(scale), progress));
 }
 
 } // namespace

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/files/FileError.h"
 #include "easel/paint/PictureSize.h"
 #include "easel/paint/Progress.h"
-#include "easel/toolbox/FileError.h"
 
 #include <filesystem>
 
@@ -14,11 +14,11 @@ namespace easel::paint {
 // file that is there is replaced whole or, after an error, not at all. The error names the file and the
 // reason, which may be an ending that is none of these, a size that cannot be, or a lack of memory; where
 // `progress` cancelled, its code is std::errc::operation_canceled.
-[[nodiscard]] toolbox::FileOutcome exportDrawing(const drawing::Drawing& drawing,
-                                                 const std::filesystem::path& file,
-                                                 const SizeRequest& size = {}, const Progress& progress = {});
+[[nodiscard]] files::FileOutcome exportDrawing(const drawing::Drawing& drawing,
+                                               const std::filesystem::path& file,
+                                               const SizeRequest& size = {}, const Progress& progress = {});
 
 // Whether it is nobody's fault that there is no file.
-bool wasCancelled(const toolbox::FileError& error);
+bool wasCancelled(const files::FileError& error);
 
 } // namespace easel::paint

@@ -21,7 +21,7 @@ constexpr double kHalfOfAnObject = 30;
 struct Output {
     Progress progress;
     double halfBytes = 1;
-    toolbox::Bytes bytes;
+    files::Bytes bytes;
     std::exception_ptr failure;
 
     // Nears 1, however many bytes there will be.
@@ -58,7 +58,7 @@ PdfPage pageOf(const drawing::Drawing& drawing, double scale) {
     return {drawing.width() * points, drawing.height() * points, 0, 0, points};
 }
 
-toolbox::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress) {
+files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress) {
     Output out{
         progress.part(kPaintingShare, 1), kHalfOfAnObject * static_cast<double>(drawing.size() + 1), {}, {}};
     const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface(

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/files/FileError.h"
 #include "easel/paint/Progress.h"
-#include "easel/toolbox/FileError.h"
 
 namespace easel::paint {
 
@@ -24,6 +24,6 @@ PdfPage pageOf(const drawing::Drawing& drawing, double scale);
 
 // The bytes of a PDF file with one page. What lies outside the drawing's own area is not shown. Throws
 // std::bad_alloc and Cancelled.
-toolbox::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress = {});
+files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress = {});
 
 } // namespace easel::paint

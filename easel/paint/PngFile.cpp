@@ -2,9 +2,9 @@
 // thread is free, and joined into the single stream that the format asks for.
 #include "easel/paint/PngFile.h"
 
+#include "easel/files/AtomicFile.h"
 #include "easel/paint/DeflateStream.h"
 #include "easel/paint/PngFilter.h"
-#include "easel/toolbox/AtomicFile.h"
 
 #include <libdeflate.h>
 
@@ -226,9 +226,9 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads, 
     return out;
 }
 
-toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
-                              const Progress& progress) {
-    return toolbox::replaceFile(file, encodePng(picture, usefulThreads(), progress));
+files::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
+                            const Progress& progress) {
+    return files::replaceFile(file, encodePng(picture, usefulThreads(), progress));
 }
 
 } // namespace easel::paint

@@ -1,10 +1,10 @@
 // Pictures as PNG files: 8 bits a channel, with an alpha channel only where a pixel needs it.
 #pragma once
 
+#include "easel/files/FileError.h"
 #include "easel/paint/Parallel.h"
 #include "easel/paint/Progress.h"
 #include "easel/paint/Surface.h"
-#include "easel/toolbox/FileError.h"
 
 #include <cstdint>
 #include <vector>
@@ -28,7 +28,7 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads =
                                     const Progress& progress = {});
 
 // Replaces the file whole or, after an error, not at all. Throws Cancelled.
-[[nodiscard]] toolbox::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
-                                            const Progress& progress = {});
+[[nodiscard]] files::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
+                                          const Progress& progress = {});
 
 } // namespace easel::paint

@@ -1,11 +1,11 @@
 // Plays the steps of a scenario that act on a dialog.
 #include "easel/play/DialogHands.h"
 
+#include "easel/classic/MacRoman.h"
+#include "easel/files/Utf8.h"
 #include "easel/interface/Dialog.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/ScriptedUser.h"
-#include "easel/toolbox/MacRoman.h"
-#include "easel/toolbox/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,8 +53,8 @@ bool isControl(const host::DialogItem& item) {
 // Accents that are typed after their letters make one character with them, where the text as a whole can be
 // typed.
 std::string composed(const std::string& utf8) {
-    const toolbox::EncodedText encoded = toolbox::toMacRoman(utf8);
-    return encoded.outcome == toolbox::EncodingOutcome::Converted ? toolbox::fromMacRoman(encoded.text)
+    const classic::EncodedText encoded = classic::toMacRoman(utf8);
+    return encoded.outcome == classic::EncodingOutcome::Converted ? classic::fromMacRoman(encoded.text)
                                                                   : utf8;
 }
 
@@ -141,7 +141,7 @@ void DialogHands::type(host::Dialog& dialog, Arguments& arguments) {
     const std::string text = arguments.text("the text");
     arguments.done();
     checkFocus(dialog);
-    for (const char32_t key : toolbox::codePointsOf(composed(text)))
+    for (const char32_t key : files::codePointsOf(composed(text)))
         keys_.push_back(key);
 }
 

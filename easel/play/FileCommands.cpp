@@ -1,10 +1,10 @@
 // Commands about drawings in files: opening, saving and exporting them.
+#include "easel/files/AtomicFile.h"
 #include "easel/paint/ExportDrawing.h"
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
 #include "easel/svg/Document.h"
-#include "easel/toolbox/AtomicFile.h"
 
 namespace easel::play {
 
@@ -19,7 +19,7 @@ std::filesystem::path fileIn(Session& session, Arguments& arguments) {
 void open(Session& session, Arguments& arguments) {
     const std::filesystem::path file = fileIn(session, arguments);
     // What a save of this drawing left when the program was killed goes now.
-    toolbox::removeLeftovers(file.parent_path());
+    files::removeLeftovers(file.parent_path());
     auto result = svg::readFile(file);
     if (const auto* failure = std::get_if<svg::Failure>(&result))
         throw PlayError(failure->message);
@@ -34,7 +34,7 @@ void save(Session& session, Arguments& arguments) {
 
 void exportPicture(Session& session, Arguments& arguments) {
     const std::filesystem::path file = fileIn(session, arguments);
-    if (const toolbox::FileOutcome error = paint::exportDrawing(session.frontWindow().drawing(), file))
+    if (const files::FileOutcome error = paint::exportDrawing(session.frontWindow().drawing(), file))
         throw PlayError(error->message());
 }
 

@@ -29,7 +29,7 @@ void pictureOfWindow(Session& session, Arguments& arguments) {
         window.paintMarked();
     paint::Surface picture = copyOf(window.image());
     host::drawFeedback(window.feedback(), window.view().toImage(), picture.view());
-    if (const toolbox::FileOutcome error = paint::writePng(file, paint::rowsOf(picture)))
+    if (const files::FileOutcome error = paint::writePng(file, paint::rowsOf(picture)))
         throw PlayError(error->message());
 }
 

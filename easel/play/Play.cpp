@@ -1,10 +1,10 @@
 // Reads a scenario and gives it its folders.
 #include "easel/play/Play.h"
 
+#include "easel/files/ScratchFolder.h"
 #include "easel/interface/PluginModule.h"
 #include "easel/interface/Storage.h"
 #include "easel/play/Session.h"
-#include "easel/toolbox/ScratchFolder.h"
 
 #include <cerrno>
 #include <cstring>
@@ -49,11 +49,11 @@ fs::path folderOf(const std::string& file) {
 }
 
 // With a folder of its own a scenario leaves nothing behind, in the desktop's trash neither.
-toolbox::StoragePlaces placesOf(const PlayRequest& request,
-                                const std::optional<toolbox::ScratchFolder>& scratch) {
+classic::StoragePlaces placesOf(const PlayRequest& request,
+                                const std::optional<files::ScratchFolder>& scratch) {
     if (scratch)
-        return toolbox::StoragePlaces::within(scratch->path());
-    return {fs::absolute(request.preferences), toolbox::Trash::desktopHome()};
+        return classic::StoragePlaces::within(scratch->path());
+    return {fs::absolute(request.preferences), files::Trash::desktopHome()};
 }
 
 } // namespace
@@ -63,14 +63,14 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
     auto script = readScript(request.file, input, messages);
     if (!script)
         return PlayOutcome::failed;
-    std::optional<toolbox::ScratchFolder> scratch;
+    std::optional<files::ScratchFolder> scratch;
     if (request.preferences.empty()) {
-        auto made = toolbox::ScratchFolder::make();
-        if (const auto* error = std::get_if<toolbox::FileError>(&made)) {
+        auto made = files::ScratchFolder::make();
+        if (const auto* error = std::get_if<files::FileError>(&made)) {
             messages << error->message() << '\n';
             return PlayOutcome::failed;
         }
-        scratch.emplace(std::get<toolbox::ScratchFolder>(std::move(made)));
+        scratch.emplace(std::get<files::ScratchFolder>(std::move(made)));
     }
     host::useStorage(placesOf(request, scratch));
     Session session({.script = std::move(*script),

@@ -1,8 +1,8 @@
 // Cuts a scenario into lines and words.
 #include "easel/play/Script.h"
 
+#include "easel/files/Utf8.h"
 #include "easel/play/PlayError.h"
-#include "easel/toolbox/Utf8.h"
 
 #include <algorithm>
 
@@ -17,8 +17,8 @@ bool isBlank(char c) {
 // Decoding replaces what is malformed, so that only well-formed text comes back as it was.
 bool isUtf8(std::string_view text) {
     std::string again;
-    for (const char32_t character : toolbox::codePointsOf(text))
-        again += toolbox::utf8Of(character);
+    for (const char32_t character : files::codePointsOf(text))
+        again += files::utf8Of(character);
     return again == text;
 }
 

@@ -1,16 +1,16 @@
 // Prints what the host keeps on disk: templates, defaults and open resource files.
+#include "easel/classic/MacRoman.h"
 #include "easel/interface/Storage.h"
 #include "easel/interface/TemplateFolder.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
-#include "easel/toolbox/MacRoman.h"
 
 namespace easel::play {
 
 namespace {
 
-using toolbox::fromMacRoman;
+using classic::fromMacRoman;
 
 std::string codeText(std::uint32_t code) {
     std::string text;
@@ -19,14 +19,14 @@ std::string codeText(std::uint32_t code) {
     return fromMacRoman(text);
 }
 
-Json resourceOf(const toolbox::Resource& resource) {
+Json resourceOf(const classic::Resource& resource) {
     return {{"type", codeText(resource.type)},
             {"id", resource.id},
             {"name", fromMacRoman(resource.name.value_or(""))},
             {"bytes", resource.data.size()}};
 }
 
-Json resourcesOf(const toolbox::ResourceFork& fork) {
+Json resourcesOf(const classic::ResourceFork& fork) {
     Json resources = Json::array();
     for (const auto& resource : fork.resources())
         resources.push_back(resourceOf(resource));
@@ -34,16 +34,16 @@ Json resourcesOf(const toolbox::ResourceFork& fork) {
 }
 
 // A file whose resources cannot be read has none to show.
-Json resourcesIn(const toolbox::FilePair& file) {
-    const auto header = toolbox::readHeader(file);
-    if (std::holds_alternative<toolbox::FileError>(header))
+Json resourcesIn(const classic::FilePair& file) {
+    const auto header = classic::readHeader(file);
+    if (std::holds_alternative<files::FileError>(header))
         return Json::array();
-    const auto fork = toolbox::ResourceFork::read(std::get<toolbox::AppleDouble>(header).resourceFork());
-    const auto* const resources = std::get_if<toolbox::ResourceFork>(&fork);
+    const auto fork = classic::ResourceFork::read(std::get<classic::AppleDouble>(header).resourceFork());
+    const auto* const resources = std::get_if<classic::ResourceFork>(&fork);
     return resources ? resourcesOf(*resources) : Json::array();
 }
 
-Json fileOf(const toolbox::ListedFile& file) {
+Json fileOf(const classic::ListedFile& file) {
     std::error_code error;
     const auto dataBytes = std::filesystem::file_size(file.file.data(), error);
     return {{"name", fromMacRoman(file.hostName)},
@@ -58,20 +58,20 @@ Json fileOf(const toolbox::ListedFile& file) {
 Json printTemplates(Session& session, Arguments&) {
     auto& files = host::theStorage().files();
     const auto folder = host::templateFolder(session.pluginFile(), files.places());
-    if (const auto* const error = std::get_if<toolbox::FileError>(&folder))
+    if (const auto* const error = std::get_if<files::FileError>(&folder))
         throw PlayError(error->message());
     files.settle();
     Json templates = Json::array();
-    for (const auto& file : toolbox::listFolder(std::get<std::filesystem::path>(folder)).files)
+    for (const auto& file : classic::listFolder(std::get<std::filesystem::path>(folder)).files)
         templates.push_back(fileOf(file));
     return {{"templates", std::move(templates)}};
 }
 
 Json printDefaults(Session&, Arguments&) {
     const auto stored = host::theStorage().defaults().read();
-    if (const auto* const error = std::get_if<toolbox::FileError>(&stored))
+    if (const auto* const error = std::get_if<files::FileError>(&stored))
         throw PlayError(error->message());
-    return {{"defaults", resourcesOf(std::get<toolbox::ResourceFork>(stored))}};
+    return {{"defaults", resourcesOf(std::get<classic::ResourceFork>(stored))}};
 }
 
 Json printResourceFiles(Session&, Arguments&) {

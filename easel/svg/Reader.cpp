@@ -1,9 +1,9 @@
 // Reads an SVG file into a drawing.
+#include "easel/files/WholeFile.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/Source.h"
 #include "easel/svg/Tags.h"
 #include "easel/svg/TreeReader.h"
-#include "easel/toolbox/WholeFile.h"
 
 #include <memory>
 #include <new>
@@ -76,10 +76,10 @@ ReadResult readBytes(std::string bytes, const std::string& name, const ReadOptio
 
 ReadResult readFile(const std::filesystem::path& file, const ReadOptions& options) {
     try {
-        auto content = toolbox::readWholeFile(file, options.largestFile);
-        if (const auto* const error = std::get_if<toolbox::FileError>(&content))
+        auto content = files::readWholeFile(file, options.largestFile);
+        if (const auto* const error = std::get_if<files::FileError>(&content))
             return Failure{Fault::CannotRead, error->message()};
-        const auto& bytes = std::get<toolbox::Bytes>(content);
+        const auto& bytes = std::get<files::Bytes>(content);
         return readBytes({bytes.begin(), bytes.end()}, file.string(), options);
     } catch (const std::bad_alloc&) {
         return Failure{Fault::TooLarge, file.string() + ": there is not enough memory for it"};

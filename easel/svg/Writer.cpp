@@ -1,11 +1,11 @@
 // Writes drawings as SVG files.
+#include "easel/files/AtomicFile.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/GradientText.h"
 #include "easel/svg/Number.h"
 #include "easel/svg/ObjectText.h"
 #include "easel/svg/Rewriter.h"
 #include "easel/svg/Source.h"
-#include "easel/toolbox/AtomicFile.h"
 
 namespace easel::svg {
 
@@ -39,7 +39,7 @@ std::string toBytes(const Drawing& drawing) {
 
 std::optional<Failure> saveFile(Drawing& drawing, const std::filesystem::path& file) {
     try {
-        if (const auto error = toolbox::replaceFile(file, std::string_view(toBytes(drawing))))
+        if (const auto error = files::replaceFile(file, std::string_view(toBytes(drawing))))
             return Failure{Fault::CannotWrite, error->message()};
     } catch (const std::bad_alloc&) {
         return Failure{Fault::CannotWrite, file.string() + ": there is not enough memory to write it"};

@@ -48,7 +48,7 @@ QCursor makeCursor(long id, double ratio) {
         return {Qt::ArrowCursor};
     if (id == kPlainToolCursor)
         return plainToolCursor(ratio);
-    const toolbox::CursorResource* resource = host::pluginResources().cursor(static_cast<int>(id));
+    const classic::CursorResource* resource = host::pluginResources().cursor(static_cast<int>(id));
     if (resource == nullptr)
         return {Qt::ArrowCursor};
     const QImage image = pictureFile(resource->file, {resource->width, resource->height}, ratio);

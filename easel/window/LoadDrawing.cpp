@@ -1,7 +1,7 @@
 // Drives a progress dialog from the reader's reports.
 #include "easel/window/LoadDrawing.h"
 
-#include "easel/toolbox/AtomicFile.h"
+#include "easel/files/AtomicFile.h"
 #include "easel/window/BackgroundWork.h"
 #include "easel/window/DesktopUser.h"
 
@@ -38,7 +38,7 @@ svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* ove
     };
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     // What a save of this drawing left when the program was killed goes now.
-    toolbox::removeLeftovers(path.parent_path());
+    files::removeLeftovers(path.parent_path());
     return svg::readFile(path, options);
 }
 

@@ -138,7 +138,7 @@ void MainWindow::exportAs(const QString& suffix) {
     if (file.isEmpty())
         return;
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
-    toolbox::FileOutcome error;
+    files::FileOutcome error;
     workBeside(workspace_.user(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
                [&](const paint::Progress& progress) {
                    error = paint::exportDrawing(drawingWindow_.drawing(), path, {}, progress);

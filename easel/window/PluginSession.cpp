@@ -11,7 +11,7 @@ namespace easel::window {
 namespace {
 
 QIcon iconOf(const HostTool& tool) {
-    const toolbox::IconResource* resource = host::pluginResources().icon(tool.element.icon);
+    const classic::IconResource* resource = host::pluginResources().icon(tool.element.icon);
     return resource == nullptr ? QIcon() : pictureIcon(resource->file);
 }
 
@@ -21,7 +21,7 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
                              Workspace& workspace)
     : workspace_(workspace) {
     if (!preferences.empty())
-        host::useStorage({preferences, toolbox::StoragePlaces::ofUser().trash});
+        host::useStorage({preferences, classic::StoragePlaces::ofUser().trash});
     try {
         load(module.empty() ? host::PluginModule::defaultFile() : module);
     } catch (const host::PluginError& error) {
@@ -32,7 +32,7 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
 
 void PluginSession::load(const std::filesystem::path& module) {
     module_.emplace(module);
-    if (const toolbox::FileOutcome outcome = host::openPluginResources(module_->resourceFolder()))
+    if (const files::FileOutcome outcome = host::openPluginResources(module_->resourceFolder()))
         throw host::PluginError(outcome->message());
     module_->send(host::kStartUpMessage);
     for (const HostTool& tool : host::thePalette().tools())

@@ -2,9 +2,9 @@
 #include "easel/window/PrintDrawing.h"
 
 #include "easel/drawing/Drawing.h"
+#include "easel/files/AtomicFile.h"
 #include "easel/paint/PdfFile.h"
 #include "easel/paint/RenderDrawing.h"
-#include "easel/toolbox/AtomicFile.h"
 #include "easel/window/BackgroundWork.h"
 #include "easel/window/DesktopUser.h"
 
@@ -79,14 +79,14 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Desktop
     const bool asPdf =
         printer.outputFormat() == QPrinter::PdfFormat && printer.colorMode() == QPrinter::Color;
     const std::filesystem::path file = QFile::encodeName(printer.outputFileName()).toStdString();
-    toolbox::FileOutcome failure;
+    files::FileOutcome failure;
     QImage image;
     QString problem;
     try {
         workBeside(user, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
                    [&](const paint::Progress& progress) {
                        if (asPdf)
-                           failure = toolbox::replaceFile(file, encodePdf(drawing, page, progress));
+                           failure = files::replaceFile(file, encodePdf(drawing, page, progress));
                        else
                            image = pictureOf(drawing, page.pointsAUnit * kPrintResolution / kPointsAnInch,
                                              progress);

@@ -1,9 +1,10 @@
 // Header files: any bytes are refused, or give entries that survive writing and reading.
-#include "easel/toolbox/AppleDouble.h"
+#include "easel/classic/AppleDouble.h"
 
 #include <cstdlib>
 
-using namespace easel::toolbox;
+using namespace easel::classic;
+using namespace easel::files;
 
 namespace {
 

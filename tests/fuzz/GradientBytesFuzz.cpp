@@ -1,9 +1,10 @@
 // Stored gradients: any bytes are refused or give a gradient that writes the same bytes.
-#include "easel/toolbox/GradientBytes.h"
+#include "easel/classic/GradientBytes.h"
 
 #include <cstdlib>
 
-using namespace easel::toolbox;
+using namespace easel::classic;
+using namespace easel::files;
 
 namespace {
 

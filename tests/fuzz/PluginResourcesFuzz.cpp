@@ -1,10 +1,11 @@
 // A plug-in's resource file: any text is refused with a reason, or gives resources that can be looked up.
-#include "easel/toolbox/PluginResources.h"
+#include "easel/classic/PluginResources.h"
 
 #include <cstddef>
 #include <cstdlib>
 
-using namespace easel::toolbox;
+using namespace easel::classic;
+using namespace easel::files;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto read = PluginResources::parse({reinterpret_cast<const char*>(data), size}, "f/f.xml");

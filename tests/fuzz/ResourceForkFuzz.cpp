@@ -1,9 +1,10 @@
 // Resource files: any bytes are refused, or give resources that survive writing and reading.
-#include "easel/toolbox/ResourceFork.h"
+#include "easel/classic/ResourceFork.h"
 
 #include <cstdlib>
 
-using namespace easel::toolbox;
+using namespace easel::classic;
+using namespace easel::files;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto read = ResourceFork::read({data, size});

@@ -1,5 +1,5 @@
 // The current gradient from one run to the next.
-#include "easel/toolbox/DefaultsStore.h"
+#include "easel/classic/DefaultsStore.h"
 #include "tests/scenario/Templates.h"
 
 #include <gtest/gtest.h>
@@ -7,15 +7,15 @@
 using namespace tests;
 using nlohmann::json;
 namespace fs = std::filesystem;
-namespace toolbox = easel::toolbox;
+namespace classic = easel::classic;
 
 namespace {
 
-constexpr std::uint32_t kType = toolbox::fourCharacters("GRDT");
+constexpr std::uint32_t kType = classic::fourCharacters("GRDT");
 constexpr std::int16_t kId = 10001;
 
-toolbox::DefaultsStore storeOf(const Player& player) {
-    return toolbox::DefaultsStore({player.preferences(), player.folder() / "data/Trash"});
+classic::DefaultsStore storeOf(const Player& player) {
+    return classic::DefaultsStore({player.preferences(), player.folder() / "data/Trash"});
 }
 
 // Gives a rectangle the current gradient and prints it.
@@ -52,7 +52,7 @@ TEST(Defaults, AFirstStartHasTheDefaultGradient) {
 TEST(Defaults, AStoredGradientIsTheCurrentOneAfterTheStart) {
     const Player player;
     ASSERT_FALSE(storeOf(player).put(
-        {kType, kId, 0, "Gradient Default", *toolbox::gradientToBytes(radialGradient())}));
+        {kType, kId, 0, "Gradient Default", *classic::gradientToBytes(radialGradient())}));
     const auto gradient = currentGradient(player);
     EXPECT_EQ(gradient["type"], 2);
     EXPECT_EQ(gradient["angle"], 30.0);
@@ -60,11 +60,10 @@ TEST(Defaults, AStoredGradientIsTheCurrentOneAfterTheStart) {
 }
 
 TEST(Defaults, ABlockThatIsNoGradientGivesTheDefaultGradientAndNotAPartOfIt) {
-    const auto whole = *toolbox::gradientToBytes(radialGradient());
+    const auto whole = *classic::gradientToBytes(radialGradient());
     auto flipped = whole;
     flipped[flipped.size() - 8] ^= 0x10;
-    for (const auto& damaged :
-         {flipped, toolbox::Bytes(whole.begin(), whole.begin() + 80), toolbox::Bytes()}) {
+    for (const auto& damaged : {flipped, files::Bytes(whole.begin(), whole.begin() + 80), files::Bytes()}) {
         const Player player;
         ASSERT_FALSE(storeOf(player).put({kType, kId, 0, "Gradient Default", damaged}));
         expectDefault(currentGradient(player));
@@ -88,8 +87,8 @@ TEST(Defaults, ShuttingDownWithoutStartingUpStoresTheDefaultGradient) {
     const auto played = player.playToEnd("message 2\nprint defaults\n");
     EXPECT_EQ(played["defaults"],
               json::array({{{"type", "GRDT"}, {"id", 10001}, {"name", "Gradient Default"}, {"bytes", 104}}}));
-    const auto stored = std::get<toolbox::ResourceFork>(storeOf(player).read());
-    EXPECT_EQ(stored.find(kType, kId)->data, *toolbox::gradientToBytes(CGradientData()));
+    const auto stored = std::get<classic::ResourceFork>(storeOf(player).read());
+    EXPECT_EQ(stored.find(kType, kId)->data, *classic::gradientToBytes(CGradientData()));
 }
 
 TEST(Defaults, EndingWithoutQuittingStoresNothing) {
@@ -103,8 +102,8 @@ TEST(Defaults, OtherEntriesOfTheStoreAreKept) {
     ASSERT_FALSE(storeOf(player).put({kType, 7, 0, "Other", {1, 2, 3}}));
     const auto played = player.playToEnd("start\nquit\nprint defaults\n");
     EXPECT_EQ(played["defaults"].size(), 2U);
-    EXPECT_EQ(std::get<toolbox::ResourceFork>(storeOf(player).read()).find(kType, 7)->data,
-              (toolbox::Bytes{1, 2, 3}));
+    EXPECT_EQ(std::get<classic::ResourceFork>(storeOf(player).read()).find(kType, 7)->data,
+              (files::Bytes{1, 2, 3}));
 }
 
 TEST(Defaults, StartingReadsOnceAndShuttingDownWritesOnce) {
@@ -127,7 +126,7 @@ TEST(Defaults, ADamagedFileGivesTheDefaultGradientAndIsKeptInTheTrashWhenItIsRep
     writeContent(storeOf(player).file(), "rubbish");
     expectDefault(currentGradient(player));
     player.playToEnd("start\nquit\n");
-    EXPECT_TRUE(std::holds_alternative<toolbox::ResourceFork>(storeOf(player).read()));
+    EXPECT_TRUE(std::holds_alternative<classic::ResourceFork>(storeOf(player).read()));
     EXPECT_EQ(contentOf(player.folder() / "data/Trash/files/Defaults.rsrc"), "rubbish");
 }
 

@@ -9,7 +9,7 @@ using nlohmann::json;
 using testing::ElementsAre;
 using testing::IsEmpty;
 namespace fs = std::filesystem;
-namespace toolbox = easel::toolbox;
+namespace classic = easel::classic;
 
 namespace {
 
@@ -77,7 +77,7 @@ TEST(TemplateStore, ConfirmingReplacesTheFileAndTheOldOneLiesInTheTrash) {
 
 TEST(TemplateStore, AReplacedFileKeepsNothingElseThatTheOldOneHeld) {
     const Player player;
-    dropTemplate(player, "Sunset.GRD", {1, 2, 3}, kTemplateType, toolbox::fourCharacters("Xtra"));
+    dropTemplate(player, "Sunset.GRD", {1, 2, 3}, kTemplateType, classic::fourCharacters("Xtra"));
     writeContent(templateFolder(player) / "Sunset.GRD", "data of its own");
     const auto played = player.playToEnd(inEditor(saveAs("Sunset") + "answer yes\nprint templates\n"));
     EXPECT_EQ(played["templates"][0]["dataBytes"], 0);
@@ -126,10 +126,10 @@ TEST(TemplateStore, LoadingANameThatIsNotThereOpensNothing) {
 
 TEST(TemplateStore, TheListingHoldsEveryTemplateFileUnderItsFullNameAndNoOther) {
     const Player player;
-    const auto bytes = *toolbox::gradientToBytes(CGradientData());
+    const auto bytes = *classic::gradientToBytes(CGradientData());
     dropTemplate(player, "Sunset.GRD", bytes);
     dropTemplate(player, "no suffix", bytes);
-    dropTemplate(player, "other type.GRD", bytes, toolbox::fourCharacters("TEXT"));
+    dropTemplate(player, "other type.GRD", bytes, classic::fourCharacters("TEXT"));
     writeContent(templateFolder(player) / "stray.GRD", "no header file");
     writeContent(templateFolder(player) / "._orphan.GRD", "no file");
     fs::create_directory(templateFolder(player) / "folder.GRD");
@@ -143,7 +143,7 @@ TEST(TemplateStore, TheListingHoldsEveryTemplateFileUnderItsFullNameAndNoOther) 
 TEST(TemplateStore, AFileDroppedInByHandShowsAtTheNextRebuild) {
     const Player player;
     player.playToEnd("start\n");
-    dropTemplate(player, "Dropped.GRD", *toolbox::gradientToBytes(threeStopGradient()));
+    dropTemplate(player, "Dropped.GRD", *classic::gradientToBytes(threeStopGradient()));
     const auto played = player.playToEnd(inEditor("print dialog\nchoose 9 5\n") +
                                          "add rect r 0 0 9 9\nclick 5 5\nprint object r\n");
     EXPECT_THAT(offered(played.all("dialog")[0]), ElementsAre("Dropped.GRD"));
@@ -165,19 +165,19 @@ TEST(TemplateStore, TheCurrentResourceFileIsTheSameAfterSavingLoadingListingAndD
 
 TEST(TemplateStore, AFileWithoutTheResourceLeavesTheGradientAsItWas) {
     const Player player;
-    dropTemplate(player, "other.GRD", *toolbox::gradientToBytes(CGradientData()), kTemplateType,
-                 toolbox::fourCharacters("Xtra"));
+    dropTemplate(player, "other.GRD", *classic::gradientToBytes(CGradientData()), kTemplateType,
+                 classic::fourCharacters("Xtra"));
     player.playToEnd("start\nnew 9 9\noptions\n" + kAddStop + "choose 9 5\n" + saveAs("after") + "hit 2\n");
     EXPECT_EQ(stopsStoredIn(templateFolder(player), "after.GRD"), 3U);
 }
 
 TEST(TemplateStore, ADamagedTemplateIsListedAndGivesTheDefaultGradient) {
-    auto bytes = *toolbox::gradientToBytes(threeStopGradient());
+    auto bytes = *classic::gradientToBytes(threeStopGradient());
     bytes[40] ^= 1;
     const Player player;
     dropTemplate(player, "1 flipped.GRD", bytes);
     for (const char* name : {"2 cut.GRD", "3 rubbish.GRD"})
-        dropTemplate(player, name, *toolbox::gradientToBytes(threeStopGradient()));
+        dropTemplate(player, name, *classic::gradientToBytes(threeStopGradient()));
     const auto header = contentOf(templateFolder(player) / "._2 cut.GRD");
     writeContent(templateFolder(player) / "._2 cut.GRD", header.substr(0, header.size() / 2));
     writeContent(templateFolder(player) / "._3 rubbish.GRD", std::string(300, '?'));
@@ -186,7 +186,7 @@ TEST(TemplateStore, ADamagedTemplateIsListedAndGivesTheDefaultGradient) {
     for (const char* entry : {"5", "6", "7"}) {
         player.playToEnd(inEditor(kAddStop + "choose 9 " + entry + "\n" + saveAs("zzz") +
                                   (*entry == '5' ? "" : "answer yes\n")));
-        EXPECT_EQ(storedIn(templateFolder(player), "zzz.GRD"), *toolbox::gradientToBytes(CGradientData()))
+        EXPECT_EQ(storedIn(templateFolder(player), "zzz.GRD"), *classic::gradientToBytes(CGradientData()))
             << entry;
     }
 }

@@ -1,15 +1,15 @@
 // Templates in scenarios: saving them in the editor, and looking at their files without the program.
 #pragma once
 
-#include "easel/toolbox/AppleDouble.h"
-#include "easel/toolbox/GradientBytes.h"
-#include "easel/toolbox/ResourceFork.h"
+#include "easel/classic/AppleDouble.h"
+#include "easel/classic/GradientBytes.h"
+#include "easel/classic/ResourceFork.h"
 #include "tests/scenario/Editor.h"
 
 namespace tests {
 
-inline constexpr std::uint32_t kTemplateType = easel::toolbox::fourCharacters("GTMP");
-inline constexpr std::uint32_t kTemplateResource = easel::toolbox::fourCharacters("TMPL");
+inline constexpr std::uint32_t kTemplateType = easel::classic::fourCharacters("GTMP");
+inline constexpr std::uint32_t kTemplateResource = easel::classic::fourCharacters("TMPL");
 
 inline std::filesystem::path templateFolder(const Player& player) {
     return player.preferences() / "Gradient Templates";
@@ -31,12 +31,12 @@ inline std::string deleteRows(const std::string& rows) {
 }
 
 // Drops a file into the template folder, as another program would.
-inline void dropTemplate(const Player& player, const std::string& name, const easel::toolbox::Bytes& content,
+inline void dropTemplate(const Player& player, const std::string& name, const easel::files::Bytes& content,
                          std::uint32_t type = kTemplateType, std::uint32_t resource = kTemplateResource) {
-    easel::toolbox::ResourceFork fork;
+    easel::classic::ResourceFork fork;
     fork.put({resource, 0, 0, "", content});
-    easel::toolbox::AppleDouble header;
-    header.setFinderInfo({type, easel::toolbox::fourCharacters("*Kst")});
+    easel::classic::AppleDouble header;
+    header.setFinderInfo({type, easel::classic::fourCharacters("*Kst")});
     header.setResourceFork(*fork.write());
     const auto bytes = header.write();
     writeContent(templateFolder(player) / name, "");
@@ -51,8 +51,9 @@ inline CGradientData threeStopGradient() {
 }
 
 // What the template resource of a file on disk holds; empty if there is none.
-inline easel::toolbox::Bytes storedIn(const std::filesystem::path& folder, const std::string& name) {
-    using namespace easel::toolbox;
+inline easel::files::Bytes storedIn(const std::filesystem::path& folder, const std::string& name) {
+    using namespace easel::classic;
+    using namespace easel::files;
     const auto bytes = contentOf(folder / ("._" + name));
     const auto header = AppleDouble::read(viewOf(bytes));
     if (!std::holds_alternative<AppleDouble>(header))
@@ -65,7 +66,7 @@ inline easel::toolbox::Bytes storedIn(const std::filesystem::path& folder, const
 
 // The number of stops stored, or 0 where no gradient is.
 inline std::size_t stopsStoredIn(const std::filesystem::path& folder, const std::string& name) {
-    const auto read = easel::toolbox::gradientFromBytes(storedIn(folder, name));
+    const auto read = easel::classic::gradientFromBytes(storedIn(folder, name));
     const auto* const gradient = std::get_if<CGradientData>(&read);
     return gradient ? gradient->ColorList().size() : 0;
 }

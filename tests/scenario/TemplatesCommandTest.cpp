@@ -7,7 +7,7 @@
 using namespace tests;
 using testing::HasSubstr;
 namespace fs = std::filesystem;
-namespace toolbox = easel::toolbox;
+namespace classic = easel::classic;
 
 namespace {
 
@@ -34,7 +34,7 @@ class TemplatesCommand : public testing::Test {
                 contentOf(player_.folder() / ".err")};
     }
     void saveThreeStops(const std::string& name) const {
-        dropTemplate(player_, name + ".GRD", *toolbox::gradientToBytes(threeStopGradient()));
+        dropTemplate(player_, name + ".GRD", *classic::gradientToBytes(threeStopGradient()));
     }
 
     Player player_;
@@ -43,7 +43,7 @@ class TemplatesCommand : public testing::Test {
 TEST_F(TemplatesCommand, ListsTemplatesByNameInThePopupsOrder) {
     saveThreeStops("zebra");
     saveThreeStops("Apple");
-    dropTemplate(player_, "other.GRD", {}, toolbox::fourCharacters("TEXT"));
+    dropTemplate(player_, "other.GRD", {}, classic::fourCharacters("TEXT"));
     const auto ran = run("list");
     EXPECT_EQ(ran.exitCode, 0);
     EXPECT_EQ(ran.out, "Apple\nzebra\n");
@@ -65,7 +65,7 @@ TEST_F(TemplatesCommand, EveryFormatThatHoldsTheWholeGradientBringsItBackByteFor
     gradient.SetType(kRadialGradient);
     gradient.SetStart({0.25, 0.5});
     gradient.SetEnd({0.25, 0.5});
-    const auto bytes = *toolbox::gradientToBytes(gradient);
+    const auto bytes = *classic::gradientToBytes(gradient);
     dropTemplate(player_, "Sunset.GRD", bytes);
     for (const std::string ending : {"GRD", "bin", "svg", "css"}) {
         EXPECT_EQ(run("export Sunset out." + ending).exitCode, 0) << ending;

@@ -16,7 +16,7 @@ namespace tests {
 class EditorStage {
   public:
     explicit EditorStage(easel::host::User& user) {
-        easel::host::useStorage(easel::toolbox::StoragePlaces::within(folder_.path()));
+        easel::host::useStorage(easel::classic::StoragePlaces::within(folder_.path()));
         easel::host::theHost().user = &user;
         const std::filesystem::path resources = folder_ / "Gradient";
         std::filesystem::copy(std::filesystem::path(SOURCE_DIR) / "Gradient" / "resources", resources);

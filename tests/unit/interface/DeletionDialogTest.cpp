@@ -67,7 +67,7 @@ class ListUser : public IdleUser {
 
 bool runDialog(Record& record, const ListUser::Act& act) {
     const TemporaryFolder folder;
-    easel::host::useStorage(easel::toolbox::StoragePlaces::within(folder.path()));
+    easel::host::useStorage(easel::classic::StoragePlaces::within(folder.path()));
     const ListUser user(act);
     return (new ThingsDialog(record))->Run();
 }

@@ -148,7 +148,7 @@ TEST(PdfFile, GradientsAreShadingsAndTheSameTwoKinds) {
 }
 
 // What is painted on the page, as PDF writes it; it is the first stream of the file.
-std::string pageContent(const easel::toolbox::Bytes& pdf) {
+std::string pageContent(const easel::files::Bytes& pdf) {
     constexpr std::string_view kBegin = "stream\n";
     const auto begin = std::search(pdf.begin(), pdf.end(), kBegin.begin(), kBegin.end()) + kBegin.size();
     const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> decompressor(

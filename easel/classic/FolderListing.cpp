@@ -1,0 +1,61 @@
+// Listing a folder of host files: one pass over its names, one short read a header file.
+#include "easel/classic/FolderListing.h"
+
+#include "easel/classic/HostNames.h"
+
+#include <algorithm>
+#include <compare>
+#include <tuple>
+#include <unordered_set>
+
+namespace fs = std::filesystem;
+
+namespace easel::classic {
+namespace {
+
+char lowered(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+} // namespace
+
+FolderListing listFolder(const fs::path& folder) {
+    FolderListing listing;
+    auto& files = listing.files;
+    std::unordered_set<std::string> headers;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        auto name = at->path().filename().string();
+        listing.hasLinks = listing.hasLinks || at->is_symlink(error);
+        if (name.starts_with(kHeaderPrefix))
+            headers.insert(name.substr(kHeaderPrefix.size()));
+        else if (auto hostName = nameInHost(name); hostName && at->is_regular_file(error))
+            files.push_back({std::move(*hostName), {folder, std::move(name)}, {}});
+        error.clear();
+    }
+    for (auto& file : files)
+        if (headers.contains(file.file.name))
+            file.info = readFinderInfo(file.file);
+    std::sort(files.begin(), files.end(), isListedBefore);
+    return listing;
+}
+
+std::optional<ListedFile> listedFile(FilePair file) {
+    auto hostName = nameInHost(file.name);
+    if (!hostName || !exists(file))
+        return std::nullopt;
+    const auto info = readFinderInfo(file);
+    return ListedFile{std::move(*hostName), std::move(file), info};
+}
+
+bool isListedBefore(const ListedFile& a, const ListedFile& b) {
+    const auto byLetter = std::lexicographical_compare_three_way(
+        a.hostName.begin(), a.hostName.end(), b.hostName.begin(), b.hostName.end(), [](char x, char y) {
+            return static_cast<unsigned char>(lowered(x)) <=> static_cast<unsigned char>(lowered(y));
+        });
+    // Names that differ in case only have an order too, and so have two spellings of one name on disk.
+    return std::is_neq(byLetter) ? std::is_lt(byLetter)
+                                 : std::tie(a.hostName, a.file.name) < std::tie(b.hostName, b.file.name);
+}
+
+} // namespace easel::classic

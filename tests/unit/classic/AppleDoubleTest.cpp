@@ -1,0 +1,152 @@
+#include "easel/classic/AppleDouble.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+using namespace easel::classic;
+using namespace easel::files;
+
+namespace {
+
+constexpr FinderInfo kInfo{fourCharacters("GTMP"), fourCharacters("*Kst")};
+
+struct HandMadeEntry {
+    std::uint32_t id;
+    std::string data;
+};
+
+// Data in the opposite order of the descriptors, with a gap before each.
+Bytes handMade(std::uint32_t version, const std::vector<HandMadeEntry>& entries, const char (&filler)[17]) {
+    Bytes file;
+    putNumber(file, std::uint32_t{0x00051607});
+    putNumber(file, version);
+    putBytes(file, viewOf({filler, 16}));
+    putNumber(file, static_cast<std::uint16_t>(entries.size()));
+    std::size_t end = 26 + 12 * entries.size();
+    for (const auto& entry : entries)
+        end += 5 + entry.data.size();
+    Bytes whole = file;
+    whole.resize(end);
+    std::size_t at = 26;
+    for (const auto& entry : entries) {
+        end -= entry.data.size();
+        setNumber(whole, at, entry.id);
+        setNumber(whole, at + 4, static_cast<std::uint32_t>(end));
+        setNumber(whole, at + 8, static_cast<std::uint32_t>(entry.data.size()));
+        std::copy(entry.data.begin(), entry.data.end(), whole.begin() + static_cast<std::ptrdiff_t>(end));
+        end -= 5;
+        at += 12;
+    }
+    return whole;
+}
+
+const std::string kFinderEntry = "GTMP*Kst" + std::string(24, '\1');
+
+TEST(AppleDouble, ANewFileIsVersion2WithFinderInfoAndResourceFork) {
+    AppleDouble file;
+    file.setFinderInfo(kInfo);
+    file.setResourceFork({1, 2, 3});
+    const auto bytes = file.write();
+    ASSERT_EQ(bytes.size(), 26U + 24U + 32U + 3U);
+    EXPECT_EQ(numberAt<std::uint32_t>(bytes, 0), 0x00051607U);
+    EXPECT_EQ(numberAt<std::uint32_t>(bytes, 4), 0x00020000U);
+    EXPECT_EQ(numberAt<std::uint16_t>(bytes, 24), 2U);
+    EXPECT_EQ(std::string(bytes.begin() + 50, bytes.begin() + 58), "GTMP*Kst");
+    const auto back = std::get<AppleDouble>(AppleDouble::read(bytes));
+    EXPECT_EQ(back, file);
+    EXPECT_EQ(back.finderInfo(), kInfo);
+    EXPECT_EQ(Bytes(back.resourceFork().begin(), back.resourceFork().end()), (Bytes{1, 2, 3}));
+}
+
+TEST(AppleDouble, EntriesAreReadInAnyOrderInBothVersions) {
+    for (const auto version : {AppleDouble::kVersion1, AppleDouble::kVersion2}) {
+        const auto read = AppleDouble::read(
+            handMade(version, {{2, "fork"}, {3, "Real Name"}, {9, kFinderEntry}}, "Macintosh       "));
+        ASSERT_TRUE(std::holds_alternative<AppleDouble>(read));
+        const auto& file = std::get<AppleDouble>(read);
+        EXPECT_EQ(file.version(), version);
+        EXPECT_EQ(file.finderInfo(), kInfo);
+        EXPECT_EQ(std::string(file.resourceFork().begin(), file.resourceFork().end()), "fork");
+    }
+}
+
+TEST(AppleDouble, UnknownEntriesAndTheRestOfTheFinderInfoAreKept) {
+    const auto original = handMade(
+        AppleDouble::kVersion1, {{0x8053567E, "private"}, {9, kFinderEntry + "attributes"}, {4, "a comment"}},
+        "Macintosh       ");
+    auto file = std::get<AppleDouble>(AppleDouble::read(original));
+    file.setFinderInfo({fourCharacters("TEXT"), fourCharacters("ttxt")});
+    file.setResourceFork({9});
+    const auto back = std::get<AppleDouble>(AppleDouble::read(file.write()));
+    EXPECT_EQ(back, file);
+    ASSERT_EQ(back.entries().size(), 4U);
+    EXPECT_EQ(back.entries()[0].data, Bytes({'p', 'r', 'i', 'v', 'a', 't', 'e'}));
+    EXPECT_EQ(back.entries()[1].data.size(), 42U);
+    EXPECT_EQ(back.entries()[1].data[8], 1);
+    EXPECT_EQ(back.version(), AppleDouble::kVersion1);
+    const auto written = back.write();
+    EXPECT_EQ(std::string(written.begin() + 8, written.begin() + 17), "Macintosh");
+}
+
+TEST(AppleDouble, AFileWithoutTheseEntriesHasNoTypeAndNoFork) {
+    const auto file =
+        std::get<AppleDouble>(AppleDouble::read(handMade(AppleDouble::kVersion2, {}, "0123456789abcdef")));
+    EXPECT_EQ(file.finderInfo(), FinderInfo{});
+    EXPECT_TRUE(file.resourceFork().empty());
+}
+
+TEST(AppleDouble, DamageIsNamed) {
+    const auto whole = handMade(AppleDouble::kVersion2, {{2, "fork"}, {9, kFinderEntry}}, "0123456789abcdef");
+    const auto damageWhen = [&](std::size_t offset, auto value) {
+        auto bytes = whole;
+        setNumber(bytes, offset, value);
+        return std::get<HeaderDamage>(AppleDouble::read(bytes));
+    };
+    EXPECT_EQ(std::get<HeaderDamage>(AppleDouble::read({})), HeaderDamage::TooShort);
+    EXPECT_EQ(std::get<HeaderDamage>(AppleDouble::read(ByteView(whole).first(49))), HeaderDamage::TooShort);
+    EXPECT_EQ(damageWhen(0, std::uint32_t{0x00051600}), HeaderDamage::NotAppleDouble);
+    EXPECT_EQ(damageWhen(4, std::uint32_t{0x00030000}), HeaderDamage::UnknownVersion);
+    EXPECT_EQ(damageWhen(24, std::uint16_t{0xFFFF}), HeaderDamage::TooShort);
+    EXPECT_EQ(damageWhen(30, std::uint32_t{0xFFFFFFFF}), HeaderDamage::EntryOutside);
+    EXPECT_EQ(damageWhen(34, std::uint32_t{0xFFFFFFFF}), HeaderDamage::EntryOutside);
+    auto sharing = whole;
+    for (const std::size_t at : {26U, 38U}) {
+        setNumber(sharing, at + 4, std::uint32_t{0});
+        setNumber(sharing, at + 8, static_cast<std::uint32_t>(whole.size()));
+    }
+    EXPECT_EQ(std::get<HeaderDamage>(AppleDouble::read(sharing)), HeaderDamage::EntriesOverlap);
+}
+
+TEST(AppleDouble, TheBeginningOfAFileTellsItsTypeOrHowMuchMoreToRead) {
+    using Answer = FinderInfoPlace::Answer;
+    const auto whole =
+        handMade(AppleDouble::kVersion2, {{2, std::string(3000, 'x')}, {3, "n"}, {9, kFinderEntry}},
+                 "0123456789abcdef");
+    for (std::size_t size = 0; size <= whole.size();) {
+        const auto place = findFinderInfo(ByteView(whole).first(size));
+        if (place.answer == Answer::Here) {
+            EXPECT_EQ(place.info, kInfo);
+            EXPECT_LT(size, 200U) << "the whole file was read for 8 bytes near its beginning";
+            return;
+        }
+        size = place.answer == Answer::ReadMore ? static_cast<std::size_t>(place.needed) : 26;
+    }
+    FAIL() << "never found";
+}
+
+TEST(AppleDouble, RandomDamageNeverReadsOutOfBounds) {
+    std::mt19937 random(3);
+    const auto whole = handMade(AppleDouble::kVersion2, {{2, "fork"}, {9, kFinderEntry}}, "0123456789abcdef");
+    for (int i = 0; i < 20'000; ++i) {
+        auto bytes = whole;
+        bytes[random() % 50] = static_cast<std::uint8_t>(random());
+        bytes.resize(random() % (bytes.size() + 1));
+        const auto place = findFinderInfo(bytes);
+        const auto read = AppleDouble::read(bytes);
+        if (std::holds_alternative<AppleDouble>(read)) {
+            EXPECT_NE(place.answer, FinderInfoPlace::Answer::NotAppleDouble);
+        }
+    }
+}
+
+} // namespace

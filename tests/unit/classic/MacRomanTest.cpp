@@ -1,0 +1,68 @@
+#include "easel/classic/MacRoman.h"
+
+#include <gtest/gtest.h>
+#include <iconv.h>
+#include <string>
+
+using namespace easel::classic;
+
+namespace {
+
+std::string iconvFromMacRoman(std::string bytes) {
+    const iconv_t converter = iconv_open("UTF-8", "MACINTOSH");
+    std::string out(16, '\0');
+    char* in = bytes.data();
+    char* to = out.data();
+    std::size_t inLeft = bytes.size();
+    std::size_t outLeft = out.size();
+    const auto done = iconv(converter, &in, &inLeft, &to, &outLeft);
+    iconv_close(converter);
+    out.resize(done == static_cast<std::size_t>(-1) ? 0 : out.size() - outLeft);
+    return out;
+}
+
+TEST(MacRoman, EveryByteSurvivesTheWayThereAndBack) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const std::string text(1, static_cast<char>(byte));
+        const auto back = toMacRoman(fromMacRoman(text));
+        EXPECT_EQ(back.outcome, EncodingOutcome::Converted) << byte;
+        EXPECT_EQ(back.text, text) << byte;
+    }
+}
+
+TEST(MacRoman, AgreesWithTheSystemsTable) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const std::string text(1, static_cast<char>(byte));
+        const auto theirs = iconvFromMacRoman(text);
+        // Systems differ in three: the euro took the place of the currency sign, the increment sign is a
+        // Greek letter to some, and the maker's mark has no character of its own.
+        if (byte == 0xC6 || byte == 0xDB || byte == 0xF0)
+            continue;
+        EXPECT_EQ(fromMacRoman(text), theirs) << byte;
+    }
+    EXPECT_EQ(fromMacRoman("\xDB"), "€");
+}
+
+TEST(MacRoman, DecomposedTextBecomesTheComposedCharacter) {
+    EXPECT_EQ(toMacRoman("Cafe\u0301").text, toMacRoman("Caf\u00E9").text);
+    EXPECT_EQ(fromMacRoman(toMacRoman("A\u030Angstro\u0308m").text), "\u00C5ngstr\u00F6m");
+    EXPECT_EQ(toMacRoman("\u212B\u2126").text, toMacRoman("\u00C5\u03A9").text);
+}
+
+TEST(MacRoman, ACharacterItLacksIsNamedAndNothingIsMangled) {
+    const auto result = toMacRoman("Sunset \u65E5");
+    EXPECT_EQ(result.outcome, EncodingOutcome::NotInEncoding);
+    EXPECT_EQ(result.culprit, "\u65E5");
+    EXPECT_EQ(result.text, "");
+    EXPECT_EQ(toMacRoman("x\u0301").outcome, EncodingOutcome::NotInEncoding);
+    EXPECT_EQ(toMacRoman("\u0301").outcome, EncodingOutcome::NotInEncoding);
+    EXPECT_EQ(toMacRoman("\xF0\x9F\x8E\xA8").culprit, "\xF0\x9F\x8E\xA8");
+}
+
+TEST(MacRoman, MalformedUtf8IsRefused) {
+    for (const char* bytes : {"\xFF", "\xC0\x80", "\xC3", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80",
+                              "a\x80", "\xC1\xBF", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xF5\x80\x80\x80"})
+        EXPECT_EQ(toMacRoman(bytes).outcome, EncodingOutcome::NotUtf8) << bytes;
+}
+
+} // namespace
