@@ -35,7 +35,7 @@ StoragePlaces StoragePlaces::ofUser() {
 }
 
 StoragePlaces StoragePlaces::within(const fs::path& folder) {
-    return {folder, folder / "files::Trash"};
+    return {folder, folder / "Trash"};
 }
 
 HostFiles::HostFiles(StoragePlaces places, FailureReport report)

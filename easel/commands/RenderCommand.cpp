@@ -1,7 +1,7 @@
 // The command line of `easel render`.
 #include "easel/commands/RenderCommand.h"
 
-#include "easel/paint/ExportDrawing.h"
+#include "easel/export/ExportDrawing.h"
 #include "easel/svg/Document.h"
 
 #include <CLI/CLI.hpp>
@@ -18,7 +18,7 @@ constexpr int kFailed = 2;
 struct RenderRequest {
     std::string drawing;
     std::string picture;
-    paint::SizeRequest size;
+    exports::SizeRequest size;
 };
 
 int fail(const std::string& message) {
@@ -33,7 +33,7 @@ int render(const RenderRequest& request) {
     const auto& drawing = std::get<drawing::Drawing>(read);
     for (const std::string& note : drawing.notes())
         std::cerr << "easel: " << request.drawing << ": " << note << "\n";
-    if (const files::FileOutcome error = paint::exportDrawing(drawing, request.picture, request.size))
+    if (const files::FileOutcome error = exports::exportDrawing(drawing, request.picture, request.size))
         return fail(error->message());
     return 0;
 }

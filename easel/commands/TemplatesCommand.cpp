@@ -4,9 +4,9 @@
 #include "easel/exchange/GradientFiles.h"
 #include "easel/exchange/SvgGradient.h"
 #include "easel/exchange/TemplateShelf.h"
+#include "easel/export/ExportDrawing.h"
 #include "easel/interface/PluginModule.h"
 #include "easel/interface/TemplateFolder.h"
-#include "easel/paint/ExportDrawing.h"
 #include "easel/svg/Color.h"
 #include "easel/svg/Number.h"
 
@@ -89,7 +89,7 @@ int show(const TemplateShelf& shelf, const TemplatesRequest& request) {
         return 0;
     constexpr double kPictureSize = 256;
     const auto drawing = exchange::squareWith(std::get<CGradientData>(gradient), kPictureSize);
-    if (const auto failure = paint::exportDrawing(drawing, request.picture, {}))
+    if (const auto failure = exports::exportDrawing(drawing, request.picture, {}))
         return fail(*failure);
     return 0;
 }

@@ -1,8 +1,8 @@
 // Writes parts of a dialog's image as pictures.
 #include "easel/play/DialogPictures.h"
 
+#include "easel/export/PngFile.h"
 #include "easel/interface/Dialog.h"
-#include "easel/paint/PngFile.h"
 #include "easel/paint/Port.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
@@ -26,9 +26,9 @@ void write(Session& session, const paint::Port& port, const paint::PixelRect& ar
     if (part.empty())
         throw PlayError("there is nothing to be seen there");
     const std::ptrdiff_t width = port.imageWidth();
-    const paint::PixelRows rows{port.pixels() + part.top * width + part.left, part.width(), part.height(),
-                                width * std::ptrdiff_t{sizeof(std::uint32_t)}};
-    if (const auto error = paint::writePng(session.resolve(file), rows))
+    const exports::PixelRows rows{port.pixels() + part.top * width + part.left, part.width(), part.height(),
+                                  width * std::ptrdiff_t{sizeof(std::uint32_t)}};
+    if (const auto error = exports::writePng(session.resolve(file), rows))
         throw PlayError(error->message());
 }
 

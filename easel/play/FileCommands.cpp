@@ -1,6 +1,6 @@
 // Commands about drawings in files: opening, saving and exporting them.
+#include "easel/export/ExportDrawing.h"
 #include "easel/files/AtomicFile.h"
-#include "easel/paint/ExportDrawing.h"
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
@@ -34,7 +34,7 @@ void save(Session& session, Arguments& arguments) {
 
 void exportPicture(Session& session, Arguments& arguments) {
     const std::filesystem::path file = fileIn(session, arguments);
-    if (const files::FileOutcome error = paint::exportDrawing(session.frontWindow().drawing(), file))
+    if (const files::FileOutcome error = exports::exportDrawing(session.frontWindow().drawing(), file))
         throw PlayError(error->message());
 }
 

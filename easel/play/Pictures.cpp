@@ -1,8 +1,8 @@
 // Writes drawing windows as PNG files.
 #include "easel/play/Pictures.h"
 
+#include "easel/export/PngFile.h"
 #include "easel/interface/Feedback.h"
-#include "easel/paint/PngFile.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
 
@@ -29,7 +29,7 @@ void pictureOfWindow(Session& session, Arguments& arguments) {
         window.paintMarked();
     paint::Surface picture = copyOf(window.image());
     host::drawFeedback(window.feedback(), window.view().toImage(), picture.view());
-    if (const files::FileOutcome error = paint::writePng(file, paint::rowsOf(picture)))
+    if (const files::FileOutcome error = exports::writePng(file, exports::rowsOf(picture)))
         throw PlayError(error->message());
 }
 

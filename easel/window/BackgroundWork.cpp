@@ -47,7 +47,7 @@ void showProgress(QProgressDialog& dialog, double done) {
 }
 
 void workBeside(DesktopUser& user, const QString& text, QWidget* over,
-                const std::function<void(const paint::Progress& progress)>& work) {
+                const std::function<void(const exports::Progress& progress)>& work) {
     const DesktopUser::Call call(user);
     const std::unique_ptr<QProgressDialog> dialog = makeProgressDialog(text, over);
     const InputGate::Scope scope(user.gate(), dialog.get());
@@ -56,7 +56,7 @@ void workBeside(DesktopUser& user, const QString& text, QWidget* over,
     std::atomic<bool> wanted = true;
     std::atomic<bool> finished = false;
     std::exception_ptr failure;
-    const paint::Progress progress([&](double part) {
+    const exports::Progress progress([&](double part) {
         done = part;
         return wanted.load();
     });

@@ -1,7 +1,7 @@
 // Long work beside a window that stays alive.
 #pragma once
 
-#include "easel/paint/Progress.h"
+#include "easel/export/Progress.h"
 
 #include <functional>
 #include <memory>
@@ -24,6 +24,6 @@ void showProgress(QProgressDialog& dialog, double done);
 // user hears of its progress and can cancel it, and can do nothing else; so the work may read what only the
 // user changes.
 void workBeside(DesktopUser& user, const QString& text, QWidget* over,
-                const std::function<void(const paint::Progress& progress)>& work);
+                const std::function<void(const exports::Progress& progress)>& work);
 
 } // namespace easel::window

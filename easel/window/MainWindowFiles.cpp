@@ -1,6 +1,6 @@
 // Opening, saving, exporting and printing.
+#include "easel/export/ExportDrawing.h"
 #include "easel/interface/Alert.h"
-#include "easel/paint/ExportDrawing.h"
 #include "easel/svg/Document.h"
 #include "easel/window/BackgroundWork.h"
 #include "easel/window/MainWindow.h"
@@ -140,10 +140,10 @@ void MainWindow::exportAs(const QString& suffix) {
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     files::FileOutcome error;
     workBeside(workspace_.user(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
-               [&](const paint::Progress& progress) {
-                   error = paint::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
+               [&](const exports::Progress& progress) {
+                   error = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
                });
-    if (error && !paint::wasCancelled(*error))
+    if (error && !exports::wasCancelled(*error))
         workspace_.user().tell(error->message());
     else if (!error)
         statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);

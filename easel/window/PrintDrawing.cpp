@@ -2,8 +2,8 @@
 #include "easel/window/PrintDrawing.h"
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/PdfFile.h"
 #include "easel/files/AtomicFile.h"
-#include "easel/paint/PdfFile.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/window/BackgroundWork.h"
 #include "easel/window/DesktopUser.h"
@@ -26,17 +26,17 @@ namespace {
 constexpr double kPrintResolution = 300; // dots an inch
 constexpr double kPointsAnInch = 72;
 
-paint::PdfPage pageFor(const drawing::Drawing& drawing, const QPrinter& printer) {
+exports::PdfPage pageFor(const drawing::Drawing& drawing, const QPrinter& printer) {
     const QPageLayout layout = printer.pageLayout();
     const QRectF paper = layout.fullRect(QPageLayout::Point);
     const QRectF printable = layout.paintRect(QPageLayout::Point);
     const double points = std::min(
-        {paint::kPointsAUnit, printable.width() / drawing.width(), printable.height() / drawing.height()});
+        {exports::kPointsAUnit, printable.width() / drawing.width(), printable.height() / drawing.height()});
     const QPointF from = printable.center() - QPointF(drawing.width(), drawing.height()) * points / 2;
     return {paper.width(), paper.height(), from.x(), from.y(), points};
 }
 
-QImage pictureOf(const drawing::Drawing& drawing, double scale, const paint::Progress& progress) {
+QImage pictureOf(const drawing::Drawing& drawing, double scale, const exports::Progress& progress) {
     const auto pixels = [scale](double length) {
         return std::max(1, static_cast<int>(std::ceil(length * scale)));
     };
@@ -52,7 +52,7 @@ QImage pictureOf(const drawing::Drawing& drawing, double scale, const paint::Pro
 }
 
 // The reason why there is no paper, or nothing.
-QString paintPage(const drawing::Drawing& drawing, const paint::PdfPage& page, const QImage& image,
+QString paintPage(const drawing::Drawing& drawing, const exports::PdfPage& page, const QImage& image,
                   QPrinter& printer) {
     // Positions count from the paper's corner.
     printer.setFullPage(true);
@@ -75,7 +75,7 @@ void turnPage(const drawing::Drawing& drawing, QPrinter& printer) {
 }
 
 Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, DesktopUser& user, QWidget* over) {
-    const paint::PdfPage page = pageFor(drawing, printer);
+    const exports::PdfPage page = pageFor(drawing, printer);
     const bool asPdf =
         printer.outputFormat() == QPrinter::PdfFormat && printer.colorMode() == QPrinter::Color;
     const std::filesystem::path file = QFile::encodeName(printer.outputFileName()).toStdString();
@@ -84,7 +84,7 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Desktop
     QString problem;
     try {
         workBeside(user, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
-                   [&](const paint::Progress& progress) {
+                   [&](const exports::Progress& progress) {
                        if (asPdf)
                            failure = files::replaceFile(file, encodePdf(drawing, page, progress));
                        else
@@ -95,7 +95,7 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Desktop
             problem = QString::fromStdString(failure->message());
         else if (!asPdf)
             problem = paintPage(drawing, page, image, printer);
-    } catch (const paint::Cancelled&) {
+    } catch (const exports::Cancelled&) {
         return Printed::Cancelled;
     } catch (const std::bad_alloc&) {
         problem = QObject::tr("There is not enough memory to print this drawing.");

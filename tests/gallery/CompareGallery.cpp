@@ -5,8 +5,8 @@
 // differ most, whose pictures are written to the folder for test output. Exits with 1 if a file was saved
 // differently or its picture differs in more than a twentieth of its pixels though nothing of it was left
 // out.
-#include "tests/unit/paint/OtherPictures.h"
-#include "tests/unit/paint/PictureDifference.h"
+#include "tests/unit/export/OtherPictures.h"
+#include "tests/unit/export/PictureDifference.h"
 
 #include "easel/paint/RenderDrawing.h"
 #include "easel/svg/Document.h"

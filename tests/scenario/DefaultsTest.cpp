@@ -8,6 +8,7 @@ using namespace tests;
 using nlohmann::json;
 namespace fs = std::filesystem;
 namespace classic = easel::classic;
+namespace files = easel::files;
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <utility>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // Thrown out of work that is no longer wanted.
 class Cancelled : public std::exception {
@@ -63,4 +63,4 @@ class PieceCount {
     std::size_t done_ = 0;
 };
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,9 +1,9 @@
 // Moves the ends of a gradient out to its outermost stops.
-#include "easel/paint/GradientRange.h"
+#include "easel/export/GradientRange.h"
 
 #include <cmath>
 
-namespace easel::paint {
+namespace easel::exports {
 
 using drawing::LinearGeometry;
 using drawing::Point;
@@ -42,25 +42,25 @@ Range seen(const LinearGeometry&, Range range) {
     return range;
 }
 
-RampStop stopAt(const Ramp& ramp, double position, double newPosition) {
-    const RampColor color = ramp.at(position);
+paint::RampStop stopAt(const paint::Ramp& ramp, double position, double newPosition) {
+    const paint::RampColor color = ramp.at(position);
     const auto channel = [](double level) {
-        return static_cast<std::uint16_t>(std::lrint(level * kUnitsPerLevel));
+        return static_cast<std::uint16_t>(std::lrint(level * paint::kUnitsPerLevel));
     };
     return {newPosition, {channel(color.red), channel(color.green), channel(color.blue)}, color.opacity};
 }
 
-Ramp moved(const Ramp& ramp, Range range) {
-    std::vector<RampStop> stops;
+paint::Ramp moved(const paint::Ramp& ramp, Range range) {
+    std::vector<paint::RampStop> stops;
     if (ramp.stops().front().position < range.low)
         stops.push_back(stopAt(ramp, range.low, 0));
-    for (const RampStop& stop : ramp.stops())
+    for (const paint::RampStop& stop : ramp.stops())
         if (stop.position >= range.low && stop.position <= range.high)
             stops.push_back(
                 {(stop.position - range.low) / (range.high - range.low), stop.color, stop.opacity});
     if (ramp.stops().back().position > range.high)
         stops.push_back(stopAt(ramp, range.high, 1));
-    return Ramp(std::move(stops));
+    return paint::Ramp(std::move(stops));
 }
 
 bool proper(const LinearGeometry& line) {
@@ -74,12 +74,12 @@ bool proper(const RadialGeometry& circles) {
 
 } // namespace
 
-Gradient withinUnitRange(const Gradient& gradient) {
-    const std::vector<RampStop>& stops = gradient.ramp.stops();
+paint::Gradient withinUnitRange(const paint::Gradient& gradient) {
+    const std::vector<paint::RampStop>& stops = gradient.ramp.stops();
     const Range all{std::min(0.0, stops.front().position), std::max(1.0, stops.back().position)};
     if (gradient.spread != drawing::Spread::Pad || (all.low >= 0 && all.high <= 1))
         return gradient;
-    Gradient result = gradient;
+    paint::Gradient result = gradient;
     std::visit(
         [&](auto& geometry) {
             const Range range = seen(geometry, all);
@@ -90,11 +90,11 @@ Gradient withinUnitRange(const Gradient& gradient) {
     return result;
 }
 
-std::optional<RampStop> onlyColor(const Gradient& gradient) {
+std::optional<paint::RampStop> onlyColor(const paint::Gradient& gradient) {
     const bool drawn = std::visit([](const auto& geometry) { return proper(geometry); }, gradient.geometry);
     if (drawn && gradient.toDrawing.invertible())
         return std::nullopt;
     return gradient.ramp.stops().back();
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -5,14 +5,14 @@
 
 #include <optional>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // A gradient of pad spread that looks the same and whose stops lie between 0 and 1; others already do and are
 // given back as they are.
-Gradient withinUnitRange(const Gradient& gradient);
+paint::Gradient withinUnitRange(const paint::Gradient& gradient);
 
 // The one color that the gradient shows everywhere, if its geometry has no extent, cannot be computed with,
 // or cannot be mapped; nothing for a proper gradient.
-std::optional<RampStop> onlyColor(const Gradient& gradient);
+std::optional<paint::RampStop> onlyColor(const paint::Gradient& gradient);
 
-} // namespace easel::paint
+} // namespace easel::exports

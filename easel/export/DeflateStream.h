@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // Where the last block of a deflate stream begins and where the stream ends, in bits from its first byte.
 struct DeflateEnd {
@@ -27,4 +27,4 @@ bool makeDeflatePart(std::vector<std::uint8_t>& stream, StreamPart part);
 // The Adler-32 sum of two pieces laid end to end, from their own sums and the length of the second.
 std::uint32_t joinedAdler32(std::uint32_t first, std::uint32_t second, std::size_t secondLength);
 
-} // namespace easel::paint
+} // namespace easel::exports

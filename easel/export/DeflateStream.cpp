@@ -1,10 +1,10 @@
 // Walks a deflate stream (RFC 1951) without unpacking it: only the lengths of its symbols are decoded.
-#include "easel/paint/DeflateStream.h"
+#include "easel/export/DeflateStream.h"
 
 #include <algorithm>
 #include <array>
 
-namespace easel::paint {
+namespace easel::exports {
 namespace {
 
 constexpr unsigned kLongestCode = 15;
@@ -272,4 +272,4 @@ std::uint32_t joinedAdler32(std::uint32_t first, std::uint32_t second, std::size
     return static_cast<std::uint32_t>(high << 16 | low);
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,6 +1,6 @@
 #include "PictureDifference.h"
 
-#include "easel/paint/PngFile.h"
+#include "easel/export/PngFile.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -70,7 +70,8 @@ std::string writePictures(const std::string& name, const Surface& one, const Sur
     std::filesystem::create_directories(folder);
     std::string problems;
     const auto write = [&](const char* which, const Surface& picture) {
-        if (const auto error = writePng(folder / (name + "-" + which + ".png"), rowsOf(picture)))
+        if (const auto error = easel::exports::writePng(folder / (name + "-" + which + ".png"),
+                                                        easel::exports::rowsOf(picture)))
             problems += error->message() + "\n";
     };
     write("one", one);

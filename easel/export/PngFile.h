@@ -1,15 +1,15 @@
 // Pictures as PNG files: 8 bits a channel, with an alpha channel only where a pixel needs it.
 #pragma once
 
+#include "easel/export/Progress.h"
 #include "easel/files/FileError.h"
 #include "easel/paint/Parallel.h"
-#include "easel/paint/Progress.h"
 #include "easel/paint/Surface.h"
 
 #include <cstdint>
 #include <vector>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // Pixels to be read, premultiplied 0xAARRGGBB; `stride` is the distance between rows in bytes.
 struct PixelRows {
@@ -20,15 +20,15 @@ struct PixelRows {
 
     const std::uint32_t* row(int y) const { return pixels + y * (stride / 4); }
 };
-PixelRows rowsOf(const Surface& surface);
+PixelRows rowsOf(const paint::Surface& surface);
 
 // The bytes of the PNG file, the same for any number of threads. Width and height are above 0. Throws
 // Cancelled.
-std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads = usefulThreads(),
+std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads = paint::usefulThreads(),
                                     const Progress& progress = {});
 
 // Replaces the file whole or, after an error, not at all. Throws Cancelled.
 [[nodiscard]] files::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
                                           const Progress& progress = {});
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,5 +1,5 @@
 // PNG files read back by a decoder that is not ours.
-#include "easel/paint/PngFile.h"
+#include "easel/export/PngFile.h"
 
 #include <gtest/gtest.h>
 #include <spng.h>
@@ -10,9 +10,9 @@
 
 namespace {
 
-using easel::paint::encodePng;
-using easel::paint::PixelRows;
-using easel::paint::rowsOf;
+using easel::exports::encodePng;
+using easel::exports::PixelRows;
+using easel::exports::rowsOf;
 using easel::paint::Surface;
 
 struct Decoded {
@@ -102,7 +102,7 @@ TEST(PngFile, RowsMayLieFartherApartThanTheyAreLong) {
 }
 
 TEST(PngFile, AFileThatCannotBeWrittenIsReportedWithItsName) {
-    const auto error = easel::paint::writePng("/no/such/folder/picture.png", rowsOf(pattern(4, 4, false)));
+    const auto error = easel::exports::writePng("/no/such/folder/picture.png", rowsOf(pattern(4, 4, false)));
     ASSERT_TRUE(error);
     EXPECT_NE(error->message().find("/no/such/folder/picture.png"), std::string::npos);
 }

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/Progress.h"
 #include "easel/paint/Painter.h"
-#include "easel/paint/Progress.h"
 
 #include <span>
 
 using cairo_t = struct _cairo;
 
-namespace easel::paint {
+namespace easel::exports {
 
 class CairoPainter {
   public:
@@ -31,12 +31,12 @@ class CairoPainter {
     bool narrow(const drawing::ClipPath& clip);
     void paintMask(const drawing::ClipPath& clip);
 
-    void setInk(const Ink& ink, double opacity);
-    void setGradient(const Gradient& gradient, double opacity);
+    void setInk(const paint::Ink& ink, double opacity);
+    void setGradient(const paint::Gradient& gradient, double opacity);
     void addPath(const drawing::Path& path);
 
     cairo_t* cairo_;
     PieceCount painted_;
 };
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,16 +1,16 @@
 // Pictures of drawings in files of other formats.
-#include "easel/paint/ExportDrawing.h"
+#include "easel/export/ExportDrawing.h"
 
+#include "easel/export/PdfFile.h"
+#include "easel/export/PngFile.h"
+#include "easel/export/SvgText.h"
 #include "easel/files/AtomicFile.h"
-#include "easel/paint/PdfFile.h"
-#include "easel/paint/PngFile.h"
 #include "easel/paint/RenderDrawing.h"
-#include "easel/paint/SvgText.h"
 
 #include <algorithm>
 #include <new>
 
-namespace easel::paint {
+namespace easel::exports {
 
 namespace {
 
@@ -35,12 +35,13 @@ FileOutcome problem(const path& file, const std::string& reason) {
     return FileError{file, reason, {}};
 }
 
-void paintInParts(const drawing::Drawing& drawing, Surface& surface, double scale, const Progress& progress) {
-    const int rows = kBandRows * kBandsAThread * static_cast<int>(usefulThreads());
+void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, double scale,
+                  const Progress& progress) {
+    const int rows = kBandRows * kBandsAThread * static_cast<int>(paint::usefulThreads());
     for (int top = 0; top < surface.height(); top += rows) {
         progress.tell(static_cast<double>(top) / surface.height());
-        renderDrawing(drawing, surface.view().clippedTo({0, top, surface.width(), top + rows}),
-                      drawing::Affine::scaling(scale, scale));
+        paint::renderDrawing(drawing, surface.view().clippedTo({0, top, surface.width(), top + rows}),
+                             drawing::Affine::scaling(scale, scale));
     }
 }
 
@@ -52,7 +53,7 @@ FileOutcome exportPng(const drawing::Drawing& drawing, const path& file, const S
     const PictureSize size = std::get<PictureSize>(result);
     if (const auto reason = memoryProblem(size, availableMemory()))
         return problem(file, *reason);
-    Surface surface(size.width, size.height);
+    paint::Surface surface(size.width, size.height);
     paintInParts(drawing, surface, size.scale, progress.part(0, kPaintingShare));
     return writePng(file, rowsOf(surface), progress.part(kPaintingShare, 1));
 }
@@ -90,4 +91,4 @@ FileOutcome exportDrawing(const drawing::Drawing& drawing, const path& file, con
     return problem(file, "the name of a picture must end in .png, .pdf or .svg");
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

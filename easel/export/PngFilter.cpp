@@ -1,10 +1,10 @@
 // The row filters of PNG. The loops are plain enough for the compiler to turn them into vector code.
-#include "easel/paint/PngFilter.h"
+#include "easel/export/PngFilter.h"
 
 #include <algorithm>
 #include <cstdlib>
 
-namespace easel::paint {
+namespace easel::exports {
 namespace {
 
 using Byte = std::uint8_t;
@@ -53,4 +53,4 @@ void filterPngRow(PngFilter filter, std::size_t bytesPerPixel, std::span<const s
     }
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,8 +1,8 @@
 // Sizes of pictures, and drawings exported as SVG and PDF.
-#include "easel/paint/ExportDrawing.h"
-#include "easel/paint/GradientRange.h"
-#include "easel/paint/PdfFile.h"
-#include "easel/paint/SvgText.h"
+#include "easel/export/ExportDrawing.h"
+#include "easel/export/GradientRange.h"
+#include "easel/export/PdfFile.h"
+#include "easel/export/SvgText.h"
 
 #include "host/Gradient.h"
 
@@ -19,6 +19,7 @@
 namespace {
 
 using namespace easel::drawing;
+using namespace easel::exports;
 using namespace easel::paint;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();

@@ -1,10 +1,10 @@
 // How large a picture of a drawing is to be, and whether there is memory for it.
-#include "easel/paint/PictureSize.h"
+#include "easel/export/PictureSize.h"
 
 #include <cmath>
 #include <fstream>
 
-namespace easel::paint {
+namespace easel::exports {
 
 namespace {
 
@@ -62,4 +62,4 @@ std::optional<std::string> memoryProblem(const PictureSize& size, std::optional<
            std::to_string(*available / kMegabyte) + " MB are free";
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,7 +1,7 @@
 // Drawings as calls of Cairo.
-#include "easel/paint/CairoPainter.h"
+#include "easel/export/CairoPainter.h"
 
-#include "easel/paint/GradientRange.h"
+#include "easel/export/GradientRange.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectInk.h"
 
@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <memory>
 
-namespace easel::paint {
+namespace easel::exports {
 
 using drawing::Object;
 using drawing::Point;
@@ -140,13 +140,13 @@ void CairoPainter::paint(const drawing::Drawing& drawing, const Progress& progre
     paintWithin(nullptr, objects);
 }
 
-void CairoPainter::paintWithin(const drawing::Group* parent, ObjectSpan objects) {
-    forEachRun(
-        parent, objects, [&](const drawing::Group& group, ObjectSpan run) { paintGroup(group, run); },
+void CairoPainter::paintWithin(const drawing::Group* parent, paint::ObjectSpan objects) {
+    paint::forEachRun(
+        parent, objects, [&](const drawing::Group& group, paint::ObjectSpan run) { paintGroup(group, run); },
         [&](const Object& object) { paintObject(object); });
 }
 
-void CairoPainter::paintGroup(const drawing::Group& group, ObjectSpan objects) {
+void CairoPainter::paintGroup(const drawing::Group& group, paint::ObjectSpan objects) {
     const double opacity = opacityOf(group.opacity);
     clipped(group.clip.get(), [&] {
         if (opacity >= 1)
@@ -216,7 +216,7 @@ void CairoPainter::paintObject(const Object& object) {
 }
 
 void CairoPainter::paintFill(const Object& object, double opacity) {
-    const HeldInk ink = HeldInk::ofFill(object);
+    const paint::HeldInk ink = paint::HeldInk::ofFill(object);
     if (!ink.visible())
         return;
     setInk(ink.ink(), opacity * opacityOf(drawing::styleOf(object).fillOpacity));
@@ -226,7 +226,7 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
 }
 
 void CairoPainter::paintStroke(const Object& object, double opacity) {
-    const HeldInk ink = HeldInk::ofStroke(object);
+    const paint::HeldInk ink = paint::HeldInk::ofStroke(object);
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
     const drawing::Affine units = drawing::unitsOf(object);
     if (!ink.visible() || !units.invertible() || !std::isfinite(stroke.width))
@@ -245,9 +245,9 @@ void CairoPainter::paintStroke(const Object& object, double opacity) {
     cairo_stroke(cairo_);
 }
 
-void CairoPainter::setInk(const Ink& ink, double opacity) {
-    if (const auto* gradient = std::get_if<const Gradient*>(&ink)) {
-        const std::optional<RampStop> only = onlyColor(**gradient);
+void CairoPainter::setInk(const paint::Ink& ink, double opacity) {
+    if (const auto* gradient = std::get_if<const paint::Gradient*>(&ink)) {
+        const std::optional<paint::RampStop> only = onlyColor(**gradient);
         if (!only)
             return setGradient(withinUnitRange(**gradient), opacity);
         return setInk(drawing::ColorPaint{only->color, only->opacity}, opacity);
@@ -257,10 +257,10 @@ void CairoPainter::setInk(const Ink& ink, double opacity) {
                           opacityOf(paint.opacity) * opacity);
 }
 
-void CairoPainter::setGradient(const Gradient& gradient, double opacity) {
+void CairoPainter::setGradient(const paint::Gradient& gradient, double opacity) {
     const Pattern pattern =
         std::visit([](const auto& geometry) { return patternOf(geometry); }, gradient.geometry);
-    for (const RampStop& stop : gradient.ramp.stops())
+    for (const paint::RampStop& stop : gradient.ramp.stops())
         cairo_pattern_add_color_stop_rgba(pattern.get(), stop.position, level(stop.color.red),
                                           level(stop.color.green), level(stop.color.blue),
                                           opacityOf(stop.opacity) * opacity);
@@ -275,4 +275,4 @@ void CairoPainter::addPath(const drawing::Path& path) {
     PathWriter(cairo_).add(path);
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

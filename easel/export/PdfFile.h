@@ -2,10 +2,10 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/Progress.h"
 #include "easel/files/FileError.h"
-#include "easel/paint/Progress.h"
 
-namespace easel::paint {
+namespace easel::exports {
 
 // A page and where on it the drawing is. All lengths are points, of which there are 72 to the inch.
 struct PdfPage {
@@ -26,4 +26,4 @@ PdfPage pageOf(const drawing::Drawing& drawing, double scale);
 // std::bad_alloc and Cancelled.
 files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress = {});
 
-} // namespace easel::paint
+} // namespace easel::exports

@@ -1,7 +1,7 @@
 // Writes PDF by way of Cairo.
-#include "easel/paint/PdfFile.h"
+#include "easel/export/PdfFile.h"
 
-#include "easel/paint/CairoPainter.h"
+#include "easel/export/CairoPainter.h"
 
 #include <cairo-pdf.h>
 #include <cairo.h>
@@ -9,7 +9,7 @@
 #include <memory>
 #include <new>
 
-namespace easel::paint {
+namespace easel::exports {
 
 namespace {
 
@@ -78,4 +78,4 @@ files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, con
     return std::move(out.bytes);
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

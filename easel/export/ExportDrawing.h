@@ -2,13 +2,13 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/PictureSize.h"
+#include "easel/export/Progress.h"
 #include "easel/files/FileError.h"
-#include "easel/paint/PictureSize.h"
-#include "easel/paint/Progress.h"
 
 #include <filesystem>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // Writes the drawing as PNG (with a transparent background), PDF or SVG, by the ending of the file's name. A
 // file that is there is replaced whole or, after an error, not at all. The error names the file and the
@@ -21,4 +21,4 @@ namespace easel::paint {
 // Whether it is nobody's fault that there is no file.
 bool wasCancelled(const files::FileError& error);
 
-} // namespace easel::paint
+} // namespace easel::exports

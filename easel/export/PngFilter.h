@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // Values are the filter's number in the file.
 enum class PngFilter : std::uint8_t { None = 0, Sub = 1, Up = 2, Paeth = 4 };
@@ -14,4 +14,4 @@ enum class PngFilter : std::uint8_t { None = 0, Sub = 1, Up = 2, Paeth = 4 };
 void filterPngRow(PngFilter filter, std::size_t bytesPerPixel, std::span<const std::uint8_t> row,
                   std::span<const std::uint8_t> above, std::span<std::uint8_t> out);
 
-} // namespace easel::paint
+} // namespace easel::exports

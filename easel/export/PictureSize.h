@@ -6,7 +6,7 @@
 #include <string>
 #include <variant>
 
-namespace easel::paint {
+namespace easel::exports {
 
 // At most one of them; none is scale 1, a pixel for each drawing unit.
 struct SizeRequest {
@@ -40,4 +40,4 @@ std::optional<std::uint64_t> availableMemory();
 // The reason why there is no memory for the picture, if there is none; `available` in bytes.
 std::optional<std::string> memoryProblem(const PictureSize& size, std::optional<std::uint64_t> available);
 
-} // namespace easel::paint
+} // namespace easel::exports

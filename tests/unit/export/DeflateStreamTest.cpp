@@ -1,5 +1,5 @@
 // Deflate streams joined from parts must unpack to the parts' bytes laid end to end.
-#include "easel/paint/DeflateStream.h"
+#include "easel/export/DeflateStream.h"
 
 #include <gtest/gtest.h>
 #include <libdeflate.h>
@@ -9,10 +9,10 @@
 
 namespace {
 
-using easel::paint::findDeflateEnd;
-using easel::paint::joinedAdler32;
-using easel::paint::makeDeflatePart;
-using easel::paint::StreamPart;
+using easel::exports::findDeflateEnd;
+using easel::exports::joinedAdler32;
+using easel::exports::makeDeflatePart;
+using easel::exports::StreamPart;
 using Bytes = std::vector<std::uint8_t>;
 
 Bytes packed(const Bytes& bytes, int level) {

@@ -5,10 +5,10 @@
 #include "OtherPictures.h"
 #include "PictureDifference.h"
 
-#include "easel/paint/CairoPainter.h"
-#include "easel/paint/PdfFile.h"
+#include "easel/export/CairoPainter.h"
+#include "easel/export/PdfFile.h"
+#include "easel/export/SvgText.h"
 #include "easel/paint/RenderDrawing.h"
-#include "easel/paint/SvgText.h"
 #include "easel/svg/Document.h"
 
 #include <cairo.h>
@@ -83,7 +83,7 @@ TEST_P(CrossCheck, LooksAsCairoPaintsItsGradientsAndStrokes) {
     const Surface one = ours(drawing);
     const Surface cairos = paintedByCairo(one.width(), one.height(), [&](cairo_t* cairo) {
         cairo_scale(cairo, kScale, kScale);
-        easel::paint::CairoPainter(cairo).paint(drawing);
+        easel::exports::CairoPainter(cairo).paint(drawing);
         EXPECT_EQ(cairo_status(cairo), CAIRO_STATUS_SUCCESS);
     });
     expectAlike(GetParam() + "-cairo", one, cairos);
@@ -91,7 +91,7 @@ TEST_P(CrossCheck, LooksAsCairoPaintsItsGradientsAndStrokes) {
 
 TEST_P(CrossCheck, ExportedAsSvgItLooksTheSame) {
     const Drawing drawing = opened(easel::svg::readFile(fileOf(GetParam())));
-    const Drawing again = opened(easel::svg::readBytes(easel::paint::encodeSvg(drawing, 1), "exported"));
+    const Drawing again = opened(easel::svg::readBytes(easel::exports::encodeSvg(drawing, 1), "exported"));
     const Surface one = ours(drawing);
     const Surface other = ours(again);
     // Nine digits of a coordinate leave the last bit of an edge to chance.
@@ -102,7 +102,7 @@ TEST_P(CrossCheck, ExportedAsSvgItLooksTheSame) {
 
 TEST_P(CrossCheck, ExportedAsPdfItHoldsNoPicture) {
     const Drawing drawing = opened(easel::svg::readFile(fileOf(GetParam())));
-    const auto bytes = easel::paint::encodePdf(drawing, easel::paint::pageOf(drawing, 1));
+    const auto bytes = easel::exports::encodePdf(drawing, easel::exports::pageOf(drawing, 1));
     const std::string text(bytes.begin(), bytes.end());
     EXPECT_EQ(text.substr(0, 5), "%PDF-");
     EXPECT_EQ(text.find("/Subtype /Image"), std::string::npos);

@@ -1,10 +1,10 @@
 // Writes PNG. The picture is cut into bands of rows that are filtered and compressed apart, each by whichever
 // thread is free, and joined into the single stream that the format asks for.
-#include "easel/paint/PngFile.h"
+#include "easel/export/PngFile.h"
 
+#include "easel/export/DeflateStream.h"
+#include "easel/export/PngFilter.h"
 #include "easel/files/AtomicFile.h"
-#include "easel/paint/DeflateStream.h"
-#include "easel/paint/PngFilter.h"
 
 #include <libdeflate.h>
 
@@ -13,7 +13,7 @@
 #include <new>
 #include <stdexcept>
 
-namespace easel::paint {
+namespace easel::exports {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -191,7 +191,7 @@ Bytes header(const PixelRows& picture, const Layout& layout) {
 
 } // namespace
 
-PixelRows rowsOf(const Surface& surface) {
+PixelRows rowsOf(const paint::Surface& surface) {
     return {surface.row(0), surface.width(), surface.height(), surface.stride()};
 }
 
@@ -200,7 +200,7 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads, 
     std::vector<Band> bands(
         static_cast<std::size_t>((picture.height + layout.bandRows - 1) / layout.bandRows));
     std::atomic<std::size_t> begun = 0;
-    forEachPiece(bands.size(), threads, [&](std::size_t i) {
+    paint::forEachPiece(bands.size(), threads, [&](std::size_t i) {
         progress.tell(static_cast<double>(begun++) / static_cast<double>(bands.size()));
         const int top = static_cast<int>(i) * layout.bandRows;
         bands[i] = packBand(picture, layout, top, std::min(picture.height, top + layout.bandRows));
@@ -228,7 +228,7 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads, 
 
 files::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
                             const Progress& progress) {
-    return files::replaceFile(file, encodePng(picture, usefulThreads(), progress));
+    return files::replaceFile(file, encodePng(picture, paint::usefulThreads(), progress));
 }
 
-} // namespace easel::paint
+} // namespace easel::exports

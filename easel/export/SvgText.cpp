@@ -1,7 +1,7 @@
 // Writes SVG: the objects in their groups, and before them the gradients and clip paths they name.
-#include "easel/paint/SvgText.h"
+#include "easel/export/SvgText.h"
 
-#include "easel/paint/GradientRange.h"
+#include "easel/export/GradientRange.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectInk.h"
 #include "easel/svg/Color.h"
@@ -13,7 +13,7 @@
 #include <cmath>
 #include <map>
 
-namespace easel::paint {
+namespace easel::exports {
 
 using drawing::Affine;
 using drawing::Object;
@@ -72,12 +72,13 @@ class SvgWriter {
         return prefix_ + std::string(kind) + std::to_string(++named_);
     }
 
-    void writeWithin(const drawing::Group* parent, ObjectSpan objects) {
-        forEachRun(
-            parent, objects, [&](const drawing::Group& group, ObjectSpan run) { writeGroup(group, run); },
+    void writeWithin(const drawing::Group* parent, paint::ObjectSpan objects) {
+        paint::forEachRun(
+            parent, objects,
+            [&](const drawing::Group& group, paint::ObjectSpan run) { writeGroup(group, run); },
             [&](const Object& object) { writeObject(object); });
     }
-    void writeGroup(const drawing::Group& group, ObjectSpan objects) {
+    void writeGroup(const drawing::Group& group, paint::ObjectSpan objects) {
         body_ += "<g" + attributeUnless(1, "opacity", opacityOf(group.opacity)) +
                  clipAttribute(group.clip.get()) + ">\n";
         writeWithin(&group, objects);
@@ -107,13 +108,13 @@ class SvgWriter {
         body_ += attributeUnless(1, "opacity", opacityOf(style.opacity)) + "/>\n";
     }
     std::string fillText(const Object& object, const Affine& toOwn) {
-        const HeldInk ink = HeldInk::ofFill(object);
+        const paint::HeldInk ink = paint::HeldInk::ofFill(object);
         if (!ink.visible())
             return attribute("fill", "none");
         return inkText("fill", ink.ink(), drawing::styleOf(object).fillOpacity, toOwn);
     }
     std::string strokeText(const Object& object, const Affine& toOwn) {
-        const HeldInk ink = HeldInk::ofStroke(object);
+        const paint::HeldInk ink = paint::HeldInk::ofStroke(object);
         if (!ink.visible())
             return {};
         const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
@@ -126,9 +127,10 @@ class SvgWriter {
                attributeUnless(0, "stroke-dashoffset", stroke.dashOffset);
     }
 
-    std::string inkText(const std::string& property, const Ink& ink, double opacity, const Affine& toOwn) {
-        if (const auto* gradient = std::get_if<const Gradient*>(&ink)) {
-            const std::optional<RampStop> only = onlyColor(**gradient);
+    std::string inkText(const std::string& property, const paint::Ink& ink, double opacity,
+                        const Affine& toOwn) {
+        if (const auto* gradient = std::get_if<const paint::Gradient*>(&ink)) {
+            const std::optional<paint::RampStop> only = onlyColor(**gradient);
             if (only)
                 return inkText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
             return attribute(property, "url(#" + gradientName(withinUnitRange(**gradient), toOwn) + ")") +
@@ -139,7 +141,7 @@ class SvgWriter {
                attributeUnless(1, property + "-opacity", opacityOf(paint.opacity) * opacityOf(opacity));
     }
     // Gradients that come out alike are written once.
-    std::string gradientName(const Gradient& gradient, const Affine& toOwn) {
+    std::string gradientName(const paint::Gradient& gradient, const Affine& toOwn) {
         const std::string element = std::holds_alternative<drawing::LinearGeometry>(gradient.geometry)
                                         ? "linearGradient"
                                         : "radialGradient";
@@ -149,7 +151,7 @@ class SvgWriter {
         if (map != Affine{})
             text += attribute("gradientTransform", svg::transformText(map));
         text += ">";
-        for (const RampStop& stop : gradient.ramp.stops())
+        for (const paint::RampStop& stop : gradient.ramp.stops())
             text += "<stop" + attribute("offset", stop.position) +
                     attribute("stop-color", svg::colorText(stop.color)) +
                     attributeUnless(1, "stop-opacity", opacityOf(stop.opacity)) + "/>";
@@ -197,4 +199,4 @@ std::string encodeSvg(const drawing::Drawing& drawing, double scale, const Progr
     return SvgWriter(drawing, progress).document(drawing.width(), drawing.height(), scale);
 }
 
-} // namespace easel::paint
+} // namespace easel::exports
