@@ -5,8 +5,8 @@
 #include "easel/exchange/SvgGradient.h"
 #include "easel/exchange/TemplateShelf.h"
 #include "easel/export/ExportDrawing.h"
-#include "easel/interface/PluginModule.h"
-#include "easel/interface/TemplateFolder.h"
+#include "easel/runtime/PluginModule.h"
+#include "easel/runtime/TemplateFolder.h"
 #include "easel/svg/Color.h"
 #include "easel/svg/Number.h"
 
@@ -50,7 +50,7 @@ template <class Action> int withShelf(const TemplatesRequest& request, Action ac
     auto places = classic::StoragePlaces::ofUser();
     if (!request.preferences.empty())
         places.preferences = fs::absolute(request.preferences);
-    const auto folder = host::templateFolder(host::PluginModule::defaultFile(), places);
+    const auto folder = runtime::templateFolder(runtime::PluginModule::defaultFile(), places);
     if (const auto* error = std::get_if<FileError>(&folder))
         return fail(*error);
     return action(TemplateShelf(std::get<fs::path>(folder), places.trash));

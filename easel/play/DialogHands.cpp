@@ -3,9 +3,9 @@
 
 #include "easel/classic/MacRoman.h"
 #include "easel/files/Utf8.h"
-#include "easel/interface/Dialog.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/ScriptedUser.h"
+#include "easel/runtime/Dialog.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,25 +19,25 @@ namespace {
 
 constexpr long kLastNumber = std::numeric_limits<std::int16_t>::max();
 
-const host::DialogItem& itemIn(const host::Dialog& dialog, Arguments& arguments) {
+const runtime::DialogItem& itemIn(const runtime::Dialog& dialog, Arguments& arguments) {
     const long number = arguments.integer("the item", 1, kLastNumber);
-    const host::DialogItem* item = dialog.item(static_cast<int>(number));
+    const runtime::DialogItem* item = dialog.item(static_cast<int>(number));
     if (item == nullptr)
         throw PlayError("the dialog has no item " + std::to_string(number));
     return *item;
 }
 
-const host::DialogItem& itemOfKind(const host::Dialog& dialog, Arguments& arguments, host::ItemKind kind,
-                                   const char* name) {
-    const host::DialogItem& item = itemIn(dialog, arguments);
+const runtime::DialogItem& itemOfKind(const runtime::Dialog& dialog, Arguments& arguments,
+                                      runtime::ItemKind kind, const char* name) {
+    const runtime::DialogItem& item = itemIn(dialog, arguments);
     if (item.kind != kind)
         throw PlayError("item " + std::to_string(item.number) + " is no " + name);
     return item;
 }
 
-void checkFocus(const host::Dialog& dialog) {
-    const host::DialogItem* item = dialog.item(dialog.focus());
-    if (item == nullptr || item->kind != host::ItemKind::EditText)
+void checkFocus(const runtime::Dialog& dialog) {
+    const runtime::DialogItem* item = dialog.item(dialog.focus());
+    if (item == nullptr || item->kind != runtime::ItemKind::EditText)
         throw PlayError("no edit field has the focus");
 }
 
@@ -45,9 +45,9 @@ paint::PixelPoint pixelAt(drawing::Point point) {
     return {static_cast<int>(point.x), static_cast<int>(point.y)};
 }
 
-bool isControl(const host::DialogItem& item) {
-    return item.kind == host::ItemKind::Button || item.kind == host::ItemKind::Popup ||
-           item.kind == host::ItemKind::Radio;
+bool isControl(const runtime::DialogItem& item) {
+    return item.kind == runtime::ItemKind::Button || item.kind == runtime::ItemKind::Popup ||
+           item.kind == runtime::ItemKind::Radio;
 }
 
 // Accents that are typed after their letters make one character with them, where the text as a whole can be
@@ -60,8 +60,8 @@ std::string composed(const std::string& utf8) {
 
 } // namespace
 
-drawing::Point pointInDialog(const host::Dialog& dialog, Arguments& arguments) {
-    const host::DialogItem* item = arguments.takeIf("item") ? &itemIn(dialog, arguments) : nullptr;
+drawing::Point pointInDialog(const runtime::Dialog& dialog, Arguments& arguments) {
+    const runtime::DialogItem* item = arguments.takeIf("item") ? &itemIn(dialog, arguments) : nullptr;
     const drawing::Point point = arguments.point();
     arguments.done();
     const auto pixel = [](double offset, int origin) {
@@ -82,7 +82,7 @@ DialogHands::Play DialogHands::playOf(const std::string& command) {
     return found == all.end() ? nullptr : found->second;
 }
 
-bool DialogHands::play(host::Dialog& dialog, const Step& step) {
+bool DialogHands::play(runtime::Dialog& dialog, const Step& step) {
     const Play known = playOf(step.words[0]);
     if (known == nullptr)
         return false;
@@ -92,52 +92,52 @@ bool DialogHands::play(host::Dialog& dialog, const Step& step) {
 }
 
 // The release is a step of its own that follows.
-void DialogHands::hit(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::hit(runtime::Dialog& dialog, Arguments& arguments) {
     const paint::PixelRect bounds = itemIn(dialog, arguments).bounds;
     arguments.done();
     pressAt(dialog,
             {std::floor((bounds.left + bounds.right) / 2.0), std::floor((bounds.top + bounds.bottom) / 2.0)});
 }
 
-void DialogHands::press(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::press(runtime::Dialog& dialog, Arguments& arguments) {
     pressAt(dialog, pointInDialog(dialog, arguments));
 }
 
-void DialogHands::pressAt(host::Dialog& dialog, drawing::Point where) {
+void DialogHands::pressAt(runtime::Dialog& dialog, drawing::Point where) {
     user_.press(where);
-    const host::DialogItem* item = dialog.itemAt(pixelAt(where));
+    const runtime::DialogItem* item = dialog.itemAt(pixelAt(where));
     if (item == nullptr)
         return;
     if (isControl(*item)) {
         pressedControl_ = item->number;
         return;
     }
-    if (item->kind == host::ItemKind::EditText) {
+    if (item->kind == runtime::ItemKind::EditText) {
         const int end = static_cast<int>(item->text.size());
         dialog.selectText(item->number, {end, end});
     }
     dialog.hit(item->number);
 }
 
-void DialogHands::move(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::move(runtime::Dialog& dialog, Arguments& arguments) {
     user_.moveTo(pointInDialog(dialog, arguments));
 }
 
-void DialogHands::release(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::release(runtime::Dialog& dialog, Arguments& arguments) {
     arguments.done();
     user_.release();
-    const host::DialogItem* pressed = dialog.item(std::exchange(pressedControl_, 0));
+    const runtime::DialogItem* pressed = dialog.item(std::exchange(pressedControl_, 0));
     if (pressed != nullptr && pressed->bounds.contains(pixelAt(user_.mouse().at)))
         dialog.hit(pressed->number);
 }
 
-void DialogHands::focus(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::focus(runtime::Dialog& dialog, Arguments& arguments) {
     const int item = itemIn(dialog, arguments).number;
     arguments.done();
     dialog.setFocus(item);
 }
 
-void DialogHands::type(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::type(runtime::Dialog& dialog, Arguments& arguments) {
     const std::string text = arguments.text("the text");
     arguments.done();
     checkFocus(dialog);
@@ -145,32 +145,32 @@ void DialogHands::type(host::Dialog& dialog, Arguments& arguments) {
         keys_.push_back(key);
 }
 
-void DialogHands::strikeKey(host::Dialog& dialog) {
+void DialogHands::strikeKey(runtime::Dialog& dialog) {
     const char32_t key = keys_.front();
     keys_.pop_front();
-    if (dialog.typeCharacter(key) == host::EditOutcome::Refused)
+    if (dialog.typeCharacter(key) == runtime::EditOutcome::Refused)
         user_.beep();
 }
 
-void DialogHands::erase(host::Dialog& dialog, Arguments& arguments) {
+void DialogHands::erase(runtime::Dialog& dialog, Arguments& arguments) {
     arguments.done();
     checkFocus(dialog);
     dialog.eraseBackward();
 }
 
-void DialogHands::set(host::Dialog& dialog, Arguments& arguments) {
-    const int item = itemOfKind(dialog, arguments, host::ItemKind::EditText, "edit field").number;
+void DialogHands::set(runtime::Dialog& dialog, Arguments& arguments) {
+    const int item = itemOfKind(dialog, arguments, runtime::ItemKind::EditText, "edit field").number;
     const std::string text = arguments.text("the text");
     arguments.done();
-    if (dialog.enterText(item, text) == host::EditOutcome::Refused)
+    if (dialog.enterText(item, text) == runtime::EditOutcome::Refused)
         user_.beep();
 }
 
-void DialogHands::choose(host::Dialog& dialog, Arguments& arguments) {
-    const int item = itemOfKind(dialog, arguments, host::ItemKind::Popup, "popup menu").number;
+void DialogHands::choose(runtime::Dialog& dialog, Arguments& arguments) {
+    const int item = itemOfKind(dialog, arguments, runtime::ItemKind::Popup, "popup menu").number;
     const auto entry = static_cast<int>(arguments.integer("the entry", 1, kLastNumber));
     arguments.done();
-    if (dialog.chooseEntry(item, entry) == host::EditOutcome::Refused)
+    if (dialog.chooseEntry(item, entry) == runtime::EditOutcome::Refused)
         throw PlayError("entry " + std::to_string(entry) + " of item " + std::to_string(item) +
                         " cannot be chosen");
 }

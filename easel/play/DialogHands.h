@@ -6,7 +6,7 @@
 
 #include <deque>
 
-namespace easel::host {
+namespace easel::runtime {
 class Dialog;
 }
 
@@ -20,28 +20,28 @@ class DialogHands {
 
     // Plays a step of the scenario in the dialog, which may hit an item or begin to type. False for a command
     // that is not one for dialogs. Throws PlayError.
-    bool play(host::Dialog& dialog, const Step& step);
+    bool play(runtime::Dialog& dialog, const Step& step);
 
     // Whether keys of an earlier step wait to be struck.
     bool isTyping() const { return !keys_.empty(); }
     // Strikes the next of them.
-    void strikeKey(host::Dialog& dialog);
+    void strikeKey(runtime::Dialog& dialog);
 
   private:
-    using Play = void (DialogHands::*)(host::Dialog&, Arguments&);
+    using Play = void (DialogHands::*)(runtime::Dialog&, Arguments&);
     static Play playOf(const std::string& command);
 
-    void hit(host::Dialog& dialog, Arguments& arguments);
-    void press(host::Dialog& dialog, Arguments& arguments);
-    void move(host::Dialog& dialog, Arguments& arguments);
-    void release(host::Dialog& dialog, Arguments& arguments);
-    void focus(host::Dialog& dialog, Arguments& arguments);
-    void type(host::Dialog& dialog, Arguments& arguments);
-    void erase(host::Dialog& dialog, Arguments& arguments);
-    void set(host::Dialog& dialog, Arguments& arguments);
-    void choose(host::Dialog& dialog, Arguments& arguments);
+    void hit(runtime::Dialog& dialog, Arguments& arguments);
+    void press(runtime::Dialog& dialog, Arguments& arguments);
+    void move(runtime::Dialog& dialog, Arguments& arguments);
+    void release(runtime::Dialog& dialog, Arguments& arguments);
+    void focus(runtime::Dialog& dialog, Arguments& arguments);
+    void type(runtime::Dialog& dialog, Arguments& arguments);
+    void erase(runtime::Dialog& dialog, Arguments& arguments);
+    void set(runtime::Dialog& dialog, Arguments& arguments);
+    void choose(runtime::Dialog& dialog, Arguments& arguments);
 
-    void pressAt(host::Dialog& dialog, drawing::Point where);
+    void pressAt(runtime::Dialog& dialog, drawing::Point where);
 
     ScriptedUser& user_;
     int pressedControl_ = 0; // a control that is hit if the button is released in it, or 0
@@ -50,6 +50,6 @@ class DialogHands {
 
 // The point that the arguments name in a dialog, in its local pixels: `H V`, or `item N H V` from the item's
 // top-left corner. Pixels are whole.
-drawing::Point pointInDialog(const host::Dialog& dialog, Arguments& arguments);
+drawing::Point pointInDialog(const runtime::Dialog& dialog, Arguments& arguments);
 
 } // namespace easel::play

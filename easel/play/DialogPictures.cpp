@@ -2,10 +2,10 @@
 #include "easel/play/DialogPictures.h"
 
 #include "easel/export/PngFile.h"
-#include "easel/interface/Dialog.h"
 #include "easel/paint/Port.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Dialog.h"
 
 #include <limits>
 
@@ -13,8 +13,8 @@ namespace easel::play {
 
 namespace {
 
-const host::Dialog& frontDialog(Session& session) {
-    const host::Dialog* dialog = session.user().questions().frontDialog();
+const runtime::Dialog& frontDialog(Session& session) {
+    const runtime::Dialog* dialog = session.user().questions().frontDialog();
     if (dialog == nullptr)
         throw PlayError("no dialog is open");
     return *dialog;
@@ -35,18 +35,18 @@ void write(Session& session, const paint::Port& port, const paint::PixelRect& ar
 } // namespace
 
 void pictureOfItem(Session& session, Arguments& arguments) {
-    const host::Dialog& dialog = frontDialog(session);
+    const runtime::Dialog& dialog = frontDialog(session);
     const long number = arguments.integer("the item", 1, std::numeric_limits<std::int16_t>::max());
     const std::string file = arguments.text("the file");
     arguments.done();
-    const host::DialogItem* item = dialog.item(static_cast<int>(number));
+    const runtime::DialogItem* item = dialog.item(static_cast<int>(number));
     if (item == nullptr)
         throw PlayError("the dialog has no item " + std::to_string(number));
     write(session, dialog.port(), item->bounds, file);
 }
 
 void pictureOfDialog(Session& session, Arguments& arguments) {
-    const host::Dialog& dialog = frontDialog(session);
+    const runtime::Dialog& dialog = frontDialog(session);
     const std::string file = arguments.text("the file");
     arguments.done();
     write(session, dialog.port(), dialog.port().bounds(), file);

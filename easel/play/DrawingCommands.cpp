@@ -1,11 +1,11 @@
 // Commands about the drawing at hand: making it, adding objects, undo and the switches.
 #include "easel/drawing/Drawing.h"
-#include "easel/interface/Host.h"
-#include "easel/interface/PickFilter.h"
 #include "easel/play/Command.h"
 #include "easel/play/NewObject.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/PickFilter.h"
 
 namespace easel::play {
 
@@ -51,12 +51,12 @@ void redo(Session& session, Arguments& arguments) {
 
 void snap(Session&, Arguments& arguments) {
     const std::string& what = arguments.text("grid or object");
-    const host::Switch state = arguments.onOff() ? host::Switch::on : host::Switch::off;
+    const runtime::Switch state = arguments.onOff() ? runtime::Switch::on : runtime::Switch::off;
     arguments.done();
     if (what == "grid")
-        host::theHost().snap.grid = state;
+        runtime::theHost().snap.grid = state;
     else if (what == "object")
-        host::theHost().snap.object = state;
+        runtime::theHost().snap.object = state;
     else
         throw PlayError("\"" + what + "\" is neither grid nor object");
 }
@@ -74,7 +74,7 @@ void filter(Session&, Arguments& arguments) {
             kinds.add(*kind);
         } while (!arguments.empty());
     arguments.done();
-    host::theHost().pickFilter = host::filterOf(kinds);
+    runtime::theHost().pickFilter = runtime::filterOf(kinds);
 }
 
 constexpr Command kCommands[] = {

@@ -1,11 +1,11 @@
 // Commands that look: prints and pictures.
-#include "easel/interface/Journal.h"
 #include "easel/play/Command.h"
 #include "easel/play/DialogPictures.h"
 #include "easel/play/Pictures.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Journal.h"
 
 #include <map>
 
@@ -14,7 +14,7 @@ namespace easel::play {
 namespace {
 
 Json printJournal(Session&, Arguments&) {
-    return {{"journal", host::hostJournal().take()}};
+    return {{"journal", runtime::hostJournal().take()}};
 }
 
 Json printDialog(Session& session, Arguments&) {

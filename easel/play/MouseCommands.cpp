@@ -1,8 +1,8 @@
 // What the user does with mouse and keys.
-#include "easel/interface/ToolCalls.h"
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/ToolCalls.h"
 
 namespace easel::play {
 
@@ -19,15 +19,15 @@ drawing::Point pointInDrawing(Arguments& arguments) {
 void press(Session& session, Arguments& arguments) {
     const drawing::Point where = pointInDrawing(arguments);
     const HostTool& tool = session.activeTool();
-    host::DrawingWindow& window = session.frontWindow();
+    runtime::DrawingWindow& window = session.frontWindow();
     // The image as it is before the button goes down is what a drag begins with.
     session.paintForPictures();
     session.user().press(where);
-    host::clickWithTool(tool, window, where);
+    runtime::clickWithTool(tool, window, where);
 }
 
 void move(Session& session, Arguments& arguments) {
-    const host::Dialog* dialog = session.user().questions().frontDialog();
+    const runtime::Dialog* dialog = session.user().questions().frontDialog();
     session.user().moveTo(dialog ? pointInDialog(*dialog, arguments) : pointInDrawing(arguments));
 }
 

@@ -1,9 +1,9 @@
 // Describes what is open in front of the drawing.
 #include "easel/play/OpenQuestions.h"
 
-#include "easel/interface/Alert.h"
-#include "easel/interface/DeletionList.h"
-#include "easel/interface/Dialog.h"
+#include "easel/runtime/Alert.h"
+#include "easel/runtime/DeletionList.h"
+#include "easel/runtime/Dialog.h"
 
 #include <algorithm>
 
@@ -11,57 +11,57 @@ namespace easel::play {
 
 namespace {
 
-const char* kindName(host::ItemKind kind) {
+const char* kindName(runtime::ItemKind kind) {
     switch (kind) {
-    case host::ItemKind::Button:
+    case runtime::ItemKind::Button:
         return "button";
-    case host::ItemKind::EditText:
+    case runtime::ItemKind::EditText:
         return "edit";
-    case host::ItemKind::UserDrawn:
+    case runtime::ItemKind::UserDrawn:
         return "user";
-    case host::ItemKind::Popup:
+    case runtime::ItemKind::Popup:
         return "popup";
-    case host::ItemKind::Radio:
+    case runtime::ItemKind::Radio:
         return "radio";
-    case host::ItemKind::StaticText:
+    case runtime::ItemKind::StaticText:
         break;
     }
     return "static";
 }
 
-Json textsOf(const host::Menu& menu) {
+Json textsOf(const runtime::Menu& menu) {
     Json texts = Json::array();
     for (int number = 1; number <= menu.count(); ++number)
         texts.push_back(menu.text(number));
     return texts;
 }
 
-Json describe(const host::DialogItem& item) {
+Json describe(const runtime::DialogItem& item) {
     const paint::PixelRect& bounds = item.bounds;
     Json json{{"item", item.number},
               {"kind", kindName(item.kind)},
               {"bounds", {bounds.top, bounds.left, bounds.bottom, bounds.right}}};
-    if (item.kind != host::ItemKind::UserDrawn && item.kind != host::ItemKind::Popup)
+    if (item.kind != runtime::ItemKind::UserDrawn && item.kind != runtime::ItemKind::Popup)
         json["text"] = item.shownText();
-    if (item.kind == host::ItemKind::EditText)
+    if (item.kind == runtime::ItemKind::EditText)
         json["selection"] = {item.selection.from, item.selection.to};
-    if (item.kind == host::ItemKind::UserDrawn)
+    if (item.kind == runtime::ItemKind::UserDrawn)
         json["invalid"] = item.invalid;
-    if (item.kind == host::ItemKind::Popup || item.kind == host::ItemKind::Radio)
+    if (item.kind == runtime::ItemKind::Popup || item.kind == runtime::ItemKind::Radio)
         json["value"] = item.value;
-    if (item.kind == host::ItemKind::Popup)
+    if (item.kind == runtime::ItemKind::Popup)
         json["menu"] = textsOf(*item.menu);
     return json;
 }
 
-Json describe(const host::Dialog* dialog) {
+Json describe(const runtime::Dialog* dialog) {
     Json items = Json::array();
-    for (const host::DialogItem& item : dialog->items())
+    for (const runtime::DialogItem& item : dialog->items())
         items.push_back(describe(item));
     return {{"id", dialog->id()}, {"items", std::move(items)}};
 }
 
-Json describe(const host::Alert* alert) {
+Json describe(const runtime::Alert* alert) {
     return {{"id", alert->id}, {"kind", "alert"}, {"text", alert->text}};
 }
 
@@ -70,7 +70,7 @@ Json describe(const ColorQuestion* question) {
     return {{"id", "color"}, {"prompt", question->prompt}, {"color", {color.red, color.green, color.blue}}};
 }
 
-Json describe(host::DeletionList* list) {
+Json describe(runtime::DeletionList* list) {
     Json rows = Json::array();
     for (int row = 0; row < list->count(); ++row)
         rows.push_back(list->text(row));
@@ -82,11 +82,11 @@ Json describe(host::DeletionList* list) {
 
 } // namespace
 
-host::Dialog* OpenQuestions::frontDialog() const {
+runtime::Dialog* OpenQuestions::frontDialog() const {
     const auto front = std::find_if(all_.rbegin(), all_.rend(), [](const Question& each) {
-        return std::holds_alternative<host::Dialog*>(each);
+        return std::holds_alternative<runtime::Dialog*>(each);
     });
-    return front == all_.rend() ? nullptr : std::get<host::Dialog*>(*front);
+    return front == all_.rend() ? nullptr : std::get<runtime::Dialog*>(*front);
 }
 
 Json OpenQuestions::describeFront() const {

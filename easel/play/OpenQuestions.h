@@ -8,11 +8,11 @@
 #include <variant>
 #include <vector>
 
-namespace easel::host {
+namespace easel::runtime {
 class DeletionList;
 class Dialog;
 struct Alert;
-} // namespace easel::host
+} // namespace easel::runtime
 
 namespace easel::play {
 
@@ -22,7 +22,8 @@ struct ColorQuestion {
     RGBColor color;
 };
 
-using Question = std::variant<host::Dialog*, const host::Alert*, const ColorQuestion*, host::DeletionList*>;
+using Question =
+    std::variant<runtime::Dialog*, const runtime::Alert*, const ColorQuestion*, runtime::DeletionList*>;
 
 class OpenQuestions {
   public:
@@ -32,7 +33,7 @@ class OpenQuestions {
     void close(Question question) noexcept { std::erase(all_, question); }
 
     // The dialog in front of the other dialogs, also while something else is open in front of it; or null.
-    host::Dialog* frontDialog() const;
+    runtime::Dialog* frontDialog() const;
     // The front one as `print dialog` writes it; null when nothing is open.
     Json describeFront() const;
 

@@ -2,9 +2,9 @@
 #include "easel/play/Pictures.h"
 
 #include "easel/export/PngFile.h"
-#include "easel/interface/Feedback.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Feedback.h"
 
 #include <algorithm>
 
@@ -24,11 +24,11 @@ paint::Surface copyOf(const paint::Surface& image) {
 void pictureOfWindow(Session& session, Arguments& arguments) {
     const std::filesystem::path file = session.resolve(arguments.text("FILE"));
     arguments.done();
-    host::DrawingWindow& window = session.frontWindow();
+    runtime::DrawingWindow& window = session.frontWindow();
     if (!session.user().holdsButton() || !window.painted())
         window.paintMarked();
     paint::Surface picture = copyOf(window.image());
-    host::drawFeedback(window.feedback(), window.view().toImage(), picture.view());
+    runtime::drawFeedback(window.feedback(), window.view().toImage(), picture.view());
     if (const files::FileOutcome error = exports::writePng(file, exports::rowsOf(picture)))
         throw PlayError(error->message());
 }

@@ -2,9 +2,9 @@
 #include "easel/play/Play.h"
 
 #include "easel/files/ScratchFolder.h"
-#include "easel/interface/PluginModule.h"
-#include "easel/interface/Storage.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/PluginModule.h"
+#include "easel/runtime/Storage.h"
 
 #include <cerrno>
 #include <cstring>
@@ -72,16 +72,16 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
         }
         scratch.emplace(std::get<files::ScratchFolder>(std::move(made)));
     }
-    host::useStorage(placesOf(request, scratch));
+    runtime::useStorage(placesOf(request, scratch));
     Session session({.script = std::move(*script),
                      .name = request.file,
                      .folder = folderOf(request.file),
-                     .plugin = request.plugin.empty() ? host::PluginModule::defaultFile() : request.plugin,
+                     .plugin = request.plugin.empty() ? runtime::PluginModule::defaultFile() : request.plugin,
                      .answers = &answers,
                      .messages = &messages});
     const bool played = session.play();
     session.unloadPlugin();
-    host::theStorage().files().settle();
+    runtime::theStorage().files().settle();
     return played ? PlayOutcome::played : PlayOutcome::failed;
 }
 

@@ -2,12 +2,12 @@
 #include "easel/play/Prints.h"
 
 #include "easel/drawing/GradientFit.h"
-#include "easel/interface/Host.h"
-#include "easel/interface/HostPoint.h"
-#include "easel/interface/PickFilter.h"
-#include "easel/interface/ToolPalette.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/HostPoint.h"
+#include "easel/runtime/PickFilter.h"
+#include "easel/runtime/ToolPalette.h"
 
 namespace easel::play {
 
@@ -47,8 +47,8 @@ Json gradientOf(Session& session, const drawing::ObjectGradient& gradient) {
     }
     return {{"type", static_cast<std::int32_t>(record.Type())},
             {"angle", jsonNumber(static_cast<double>(record.Angle()))},
-            {"start", jsonPoint(host::toPoint(record.Start()))},
-            {"end", jsonPoint(host::toPoint(record.End()))},
+            {"start", jsonPoint(runtime::toPoint(record.Start()))},
+            {"end", jsonPoint(runtime::toPoint(record.End()))},
             {"startRadius", jsonNumber(record.StartRadius())},
             {"endRadius", jsonNumber(record.EndRadius())},
             {"stops", std::move(stops)},
@@ -83,20 +83,20 @@ Json optionalNumber(std::optional<long> number) {
 
 Json filterNames() {
     Json names = Json::array();
-    const drawing::KindSet kinds = host::kindsIn(host::theHost().pickFilter);
+    const drawing::KindSet kinds = runtime::kindsIn(runtime::theHost().pickFilter);
     for (const drawing::Kind kind : drawing::kAllKinds)
         if (kinds.has(kind))
             names.push_back(std::string(kindName(kind)));
     return names;
 }
 
-const char* nameOf(host::SlotOwner owner) {
+const char* nameOf(runtime::SlotOwner owner) {
     switch (owner) {
-    case host::SlotOwner::none:
+    case runtime::SlotOwner::none:
         return "none";
-    case host::SlotOwner::host:
+    case runtime::SlotOwner::host:
         return "host";
-    case host::SlotOwner::plugin:
+    case runtime::SlotOwner::plugin:
         break;
     }
     return "plugin";
@@ -150,9 +150,9 @@ Json printFit(Session& session, Arguments& arguments) {
 Json printWindow(Session& session, Arguments&) {
     if (!session.hasWindow())
         return {{"window", nullptr}};
-    const host::DrawingWindow& window = session.frontWindow();
+    const runtime::DrawingWindow& window = session.frontWindow();
     const drawing::Drawing& drawing = window.drawing();
-    const host::SnapSwitches& snap = host::theHost().snap;
+    const runtime::SnapSwitches& snap = runtime::theHost().snap;
     return {{"window",
              {{"objects", objectsOf(drawing)},
               {"selection", selectionOf(drawing)},
@@ -161,15 +161,15 @@ Json printWindow(Session& session, Arguments&) {
               {"redoLevels", drawing.redoLevels()},
               {"cursor", optionalNumber(window.cursor())},
               {"pickFilter", filterNames()},
-              {"gridSnap", snap.grid == host::Switch::on},
-              {"objectSnap", snap.object == host::Switch::on},
+              {"gridSnap", snap.grid == runtime::Switch::on},
+              {"objectSnap", snap.object == runtime::Switch::on},
               {"beeps", session.user().beeps()},
               {"dirty", drawing.dirty()}}}};
 }
 
 Json printPalette(Session&, Arguments&) {
     Json tools = Json::array();
-    for (const HostTool& tool : host::thePalette().tools())
+    for (const HostTool& tool : runtime::thePalette().tools())
         tools.push_back(toolOf(tool));
     return {{"palette", std::move(tools)}};
 }

@@ -1,11 +1,11 @@
 // The dialogs, questions and lists that the user of a scenario answers.
-#include "easel/interface/Alert.h"
-#include "easel/interface/DeletionList.h"
-#include "easel/interface/Dialog.h"
 #include "easel/play/Command.h"
 #include "easel/play/ScriptedUser.h"
 #include "easel/play/Session.h"
 #include "easel/play/Waiting.h"
+#include "easel/runtime/Alert.h"
+#include "easel/runtime/DeletionList.h"
+#include "easel/runtime/Dialog.h"
 
 namespace easel::play {
 
@@ -20,12 +20,12 @@ Arguments argumentsOf(const Step& step) {
     return Arguments({step.words.begin() + 1, step.words.end()});
 }
 
-host::Answer answerIn(Arguments& arguments) {
+runtime::Answer answerIn(Arguments& arguments) {
     const std::string word = arguments.text("yes or no");
     arguments.done();
     if (word != "yes" && word != "no")
         throw PlayError("\"" + word + "\" is neither yes nor no");
-    return word == "yes" ? host::Answer::yes : host::Answer::no;
+    return word == "yes" ? runtime::Answer::yes : runtime::Answer::no;
 }
 
 // Nothing for a cancelled choice.
@@ -44,34 +44,34 @@ std::optional<RGBColor> colorIn(Arguments& arguments) {
     return color;
 }
 
-void selectRows(host::DeletionList& list, Arguments& arguments) {
+void selectRows(runtime::DeletionList& list, Arguments& arguments) {
     std::vector<int> rows;
     while (!arguments.empty())
         rows.push_back(static_cast<int>(arguments.integer("the row", 1, list.count())) - 1);
-    if (list.mode() == host::SelectionMode::One && rows.size() > 1)
+    if (list.mode() == runtime::SelectionMode::One && rows.size() > 1)
         throw PlayError("only one row can be selected");
     list.select(std::move(rows));
 }
 
-void giveCommand(host::DeletionList& list, Arguments& arguments) {
+void giveCommand(runtime::DeletionList& list, Arguments& arguments) {
     const std::string word = arguments.text("ok or cancel");
     arguments.done();
     if (word != "ok" && word != "cancel")
         throw PlayError("\"" + word + "\" is neither ok nor cancel");
-    list.command(word == "ok" ? host::DeletionCommand::Ok : host::DeletionCommand::Cancel);
+    list.command(word == "ok" ? runtime::DeletionCommand::Ok : runtime::DeletionCommand::Cancel);
 }
 
 } // namespace
 
-void ScriptedUser::dialogShown(host::Dialog& dialog) {
+void ScriptedUser::dialogShown(runtime::Dialog& dialog) {
     questions_.open(&dialog);
 }
 
-void ScriptedUser::dialogClosed(host::Dialog& dialog) {
+void ScriptedUser::dialogClosed(runtime::Dialog& dialog) {
     questions_.close(&dialog);
 }
 
-std::int16_t ScriptedUser::nextHit(host::Dialog& dialog) {
+std::int16_t ScriptedUser::nextHit(runtime::Dialog& dialog) {
     for (;;) {
         if (const std::optional<int> hit = dialog.takeHit())
             return static_cast<std::int16_t>(*hit);
@@ -97,18 +97,18 @@ bool ScriptedUser::movesOrLetsGo(const Step& step) {
     return true;
 }
 
-host::Answer ScriptedUser::confirm(const host::Alert& alert) {
+runtime::Answer ScriptedUser::confirm(const runtime::Alert& alert) {
     const QuestionScope open(questions_, &alert);
-    const auto answer = waitFor<host::Answer>(session_, session_.steps(), kAlertOpen,
-                                              [&](const Step& step) -> std::optional<host::Answer> {
-                                                  if (movesOrLetsGo(step))
-                                                      return std::nullopt;
-                                                  if (step.words[0] != "answer")
-                                                      throw outOfPlace(step, kAlertOpen);
-                                                  Arguments arguments = argumentsOf(step);
-                                                  return answerIn(arguments);
-                                              });
-    return answer.value_or(host::Answer::no);
+    const auto answer = waitFor<runtime::Answer>(session_, session_.steps(), kAlertOpen,
+                                                 [&](const Step& step) -> std::optional<runtime::Answer> {
+                                                     if (movesOrLetsGo(step))
+                                                         return std::nullopt;
+                                                     if (step.words[0] != "answer")
+                                                         throw outOfPlace(step, kAlertOpen);
+                                                     Arguments arguments = argumentsOf(step);
+                                                     return answerIn(arguments);
+                                                 });
+    return answer.value_or(runtime::Answer::no);
 }
 
 std::optional<RGBColor> ScriptedUser::pickColor(const std::string& prompt, const RGBColor& start) {
@@ -127,7 +127,7 @@ std::optional<RGBColor> ScriptedUser::pickColor(const std::string& prompt, const
     return choice.value_or(std::nullopt);
 }
 
-void ScriptedUser::runDeletion(host::DeletionList& list) {
+void ScriptedUser::runDeletion(runtime::DeletionList& list) {
     const QuestionScope open(questions_, &list);
     const auto closed =
         waitFor<bool>(session_, session_.steps(), kListOpen, [&](const Step& step) -> std::optional<bool> {
@@ -143,7 +143,7 @@ void ScriptedUser::runDeletion(host::DeletionList& list) {
             return list.isOpen() ? std::nullopt : std::optional<bool>(true);
         });
     if (!closed)
-        list.command(host::DeletionCommand::Cancel);
+        list.command(runtime::DeletionCommand::Cancel);
 }
 
 } // namespace easel::play

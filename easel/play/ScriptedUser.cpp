@@ -40,13 +40,13 @@ void ScriptedUser::waitForMouse() {
         letGo();
 }
 
-host::MouseState ScriptedUser::waitWhileDown() {
+runtime::MouseState ScriptedUser::waitWhileDown() {
     if (mouse_.down)
         waitForMouse();
     return mouse_;
 }
 
-host::MouseState ScriptedUser::waitForMove(drawing::Point from) {
+runtime::MouseState ScriptedUser::waitForMove(drawing::Point from) {
     if (mouse_.down && mouse_.at == from)
         waitForMouse();
     return mouse_;
@@ -63,7 +63,7 @@ bool ScriptedUser::dragBegins(drawing::Point from, double distance) {
 }
 
 bool ScriptedUser::keyIsDown(std::uint16_t code) {
-    return (code == host::kOptionKey && optionDown_) || (code == host::kShiftKey && shiftDown_);
+    return (code == runtime::kOptionKey && optionDown_) || (code == runtime::kShiftKey && shiftDown_);
 }
 
 void ScriptedUser::tell(const std::string& message) {

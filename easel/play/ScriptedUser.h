@@ -1,16 +1,16 @@
 // The user that a scenario plays.
 #pragma once
 
-#include "easel/interface/User.h"
 #include "easel/play/DialogHands.h"
 #include "easel/play/OpenQuestions.h"
 #include "easel/play/Step.h"
+#include "easel/runtime/User.h"
 
 namespace easel::play {
 
 class Session;
 
-class ScriptedUser : public host::User {
+class ScriptedUser : public runtime::User {
   public:
     explicit ScriptedUser(Session& session) : session_(session) {}
 
@@ -28,24 +28,24 @@ class ScriptedUser : public host::User {
     // What is open in front of the drawing.
     const OpenQuestions& questions() const { return questions_; }
 
-    host::MouseState mouse() override { return mouse_; }
-    host::MouseState waitWhileDown() override;
-    host::MouseState waitForMove(drawing::Point from) override;
+    runtime::MouseState mouse() override { return mouse_; }
+    runtime::MouseState waitWhileDown() override;
+    runtime::MouseState waitForMove(drawing::Point from) override;
     bool dragBegins(drawing::Point from, double distance) override;
     bool keyIsDown(std::uint16_t code) override;
-    void present(host::DrawingWindow&) override {}
-    void repaint(host::DrawingWindow&, const drawing::Box&) override {}
-    void scrollTowardsMouse(host::DrawingWindow&) override {}
-    void setCursor(host::DrawingWindow&, long) override {}
+    void present(runtime::DrawingWindow&) override {}
+    void repaint(runtime::DrawingWindow&, const drawing::Box&) override {}
+    void scrollTowardsMouse(runtime::DrawingWindow&) override {}
+    void setCursor(runtime::DrawingWindow&, long) override {}
     void setDialogCursor(long) override {}
     void beep() override { ++beeps_; }
     void tell(const std::string& message) override;
-    void dialogShown(host::Dialog& dialog) override;
-    void dialogClosed(host::Dialog& dialog) override;
-    std::int16_t nextHit(host::Dialog& dialog) override;
-    host::Answer confirm(const host::Alert& alert) override;
+    void dialogShown(runtime::Dialog& dialog) override;
+    void dialogClosed(runtime::Dialog& dialog) override;
+    std::int16_t nextHit(runtime::Dialog& dialog) override;
+    runtime::Answer confirm(const runtime::Alert& alert) override;
     std::optional<RGBColor> pickColor(const std::string& prompt, const RGBColor& start) override;
-    void runDeletion(host::DeletionList& list) override;
+    void runDeletion(runtime::DeletionList& list) override;
 
   private:
     // Plays steps up to the next move or release.
@@ -54,7 +54,7 @@ class ScriptedUser : public host::User {
     bool movesOrLetsGo(const Step& step);
 
     Session& session_;
-    host::MouseState mouse_;
+    runtime::MouseState mouse_;
     bool optionDown_ = false;
     bool shiftDown_ = false;
     long beeps_ = 0;

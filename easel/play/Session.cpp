@@ -1,12 +1,12 @@
 // Plays a scenario step by step.
 #include "easel/play/Session.h"
 
-#include "easel/interface/Host.h"
-#include "easel/interface/ToolPalette.h"
 #include "easel/play/Arguments.h"
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Waiting.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/ToolPalette.h"
 
 #include <algorithm>
 #include <limits>
@@ -44,13 +44,13 @@ bool playAtAnyTime(Session& session, const Step& step) {
 Session::Session(SessionPlan plan)
     : plan_(std::move(plan)), steps_(plan_.script), user_(*this),
       looksAtPictures_(plan_.script.find("picture") != std::string::npos) {
-    host::theHost().user = &user_;
+    runtime::theHost().user = &user_;
 }
 
 Session::~Session() {
     plugin_.reset();
     windows_.clear();
-    host::theHost().user = nullptr;
+    runtime::theHost().user = nullptr;
 }
 
 bool Session::play() {
@@ -92,11 +92,11 @@ void Session::say(const std::string& message) {
 }
 
 void Session::show(drawing::Drawing drawing) {
-    windows_.push_back(std::make_unique<host::DrawingWindow>(std::move(drawing)));
-    host::theHost().activeWindow = windows_.back().get();
+    windows_.push_back(std::make_unique<runtime::DrawingWindow>(std::move(drawing)));
+    runtime::theHost().activeWindow = windows_.back().get();
 }
 
-host::DrawingWindow& Session::frontWindow() {
+runtime::DrawingWindow& Session::frontWindow() {
     if (windows_.empty())
         throw PlayError("no drawing is open");
     return *windows_.back();
@@ -119,11 +119,11 @@ void Session::paintForPictures() {
         frontWindow().paintMarked();
 }
 
-host::PluginModule& Session::plugin() {
+runtime::PluginModule& Session::plugin() {
     if (!plugin_) {
         try {
-            plugin_ = std::make_unique<host::PluginModule>(plan_.plugin);
-        } catch (const host::PluginError& error) {
+            plugin_ = std::make_unique<runtime::PluginModule>(plan_.plugin);
+        } catch (const runtime::PluginError& error) {
             throw PlayError(error.what());
         }
         if (plugin_->resourceTrouble())
@@ -133,7 +133,7 @@ host::PluginModule& Session::plugin() {
 }
 
 const HostTool& Session::activeTool() const {
-    const auto& tools = host::thePalette().tools();
+    const auto& tools = runtime::thePalette().tools();
     if (tools.empty())
         throw PlayError("no tool is active; the scenario has to start the plug-in first");
     return tools.back();

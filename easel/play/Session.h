@@ -2,10 +2,10 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
-#include "easel/interface/DrawingWindow.h"
-#include "easel/interface/PluginModule.h"
 #include "easel/play/ScriptedUser.h"
 #include "easel/play/Steps.h"
+#include "easel/runtime/DrawingWindow.h"
+#include "easel/runtime/PluginModule.h"
 
 #include <filesystem>
 #include <iosfwd>
@@ -52,7 +52,7 @@ class Session {
     void show(drawing::Drawing drawing);
     bool hasWindow() const { return !windows_.empty(); }
     // Throws PlayError if there is none.
-    host::DrawingWindow& frontWindow();
+    runtime::DrawingWindow& frontWindow();
     // The index of an object of the front drawing: its element's id, or `@N` for index N. Throws PlayError.
     std::size_t objectIndex(const std::string& id);
 
@@ -60,7 +60,7 @@ class Session {
     void paintForPictures();
 
     // Throws PlayError if the module cannot be loaded.
-    host::PluginModule& plugin();
+    runtime::PluginModule& plugin();
     const std::filesystem::path& pluginFile() const { return plan_.plugin; }
     bool pluginLoaded() const { return plugin_ != nullptr; }
     void unloadPlugin() { plugin_.reset(); }
@@ -77,11 +77,11 @@ class Session {
     SessionPlan plan_;
     Steps steps_;
     ScriptedUser user_;
-    std::vector<std::unique_ptr<host::DrawingWindow>> windows_; // the front one last
+    std::vector<std::unique_ptr<runtime::DrawingWindow>> windows_; // the front one last
     // Held so that no address is used twice.
     std::vector<drawing::ObjectGradient> knownGradients_;
     bool looksAtPictures_;
-    std::unique_ptr<host::PluginModule> plugin_;
+    std::unique_ptr<runtime::PluginModule> plugin_;
 };
 
 // Plays `press`, `move` or `release`.

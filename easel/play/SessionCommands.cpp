@@ -1,9 +1,9 @@
 // Commands about the plug-in as a whole: start, quit, message, and what it adds to the palette.
-#include "easel/interface/Journal.h"
-#include "easel/interface/ToolCalls.h"
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Journal.h"
+#include "easel/runtime/ToolCalls.h"
 
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -14,14 +14,14 @@ namespace {
 
 void start(Session& session, Arguments& arguments) {
     arguments.done();
-    session.plugin().send(host::kStartUpMessage);
+    session.plugin().send(runtime::kStartUpMessage);
 }
 
 void quit(Session& session, Arguments& arguments) {
     arguments.done();
     if (!session.pluginLoaded())
         throw PlayError("the plug-in is not loaded");
-    session.plugin().send(host::kShutDownMessage);
+    session.plugin().send(runtime::kShutDownMessage);
     session.unloadPlugin();
 }
 
@@ -35,21 +35,21 @@ void message(Session& session, Arguments& arguments) {
 
 void options(Session& session, Arguments& arguments) {
     arguments.done();
-    host::openToolOptions(session.activeTool());
+    runtime::openToolOptions(session.activeTool());
 }
 
 void cursor(Session& session, Arguments& arguments) {
     arguments.done();
-    host::updateToolCursor(session.activeTool(), session.frontWindow());
+    runtime::updateToolCursor(session.activeTool(), session.frontWindow());
 }
 
 void switchJournal(Session&, Arguments& arguments) {
     const bool on = arguments.onOff();
     arguments.done();
     if (on)
-        host::hostJournal().switchOn();
+        runtime::hostJournal().switchOn();
     else
-        host::hostJournal().switchOff();
+        runtime::hostJournal().switchOff();
 }
 
 constexpr Command kCommands[] = {

@@ -1,10 +1,10 @@
 // Prints what the host keeps on disk: templates, defaults and open resource files.
 #include "easel/classic/MacRoman.h"
-#include "easel/interface/Storage.h"
-#include "easel/interface/TemplateFolder.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
+#include "easel/runtime/Storage.h"
+#include "easel/runtime/TemplateFolder.h"
 
 namespace easel::play {
 
@@ -56,8 +56,8 @@ Json fileOf(const classic::ListedFile& file) {
 } // namespace
 
 Json printTemplates(Session& session, Arguments&) {
-    auto& files = host::theStorage().files();
-    const auto folder = host::templateFolder(session.pluginFile(), files.places());
+    auto& files = runtime::theStorage().files();
+    const auto folder = runtime::templateFolder(session.pluginFile(), files.places());
     if (const auto* const error = std::get_if<files::FileError>(&folder))
         throw PlayError(error->message());
     files.settle();
@@ -68,14 +68,14 @@ Json printTemplates(Session& session, Arguments&) {
 }
 
 Json printDefaults(Session&, Arguments&) {
-    const auto stored = host::theStorage().defaults().read();
+    const auto stored = runtime::theStorage().defaults().read();
     if (const auto* const error = std::get_if<files::FileError>(&stored))
         throw PlayError(error->message());
     return {{"defaults", resourcesOf(std::get<classic::ResourceFork>(stored))}};
 }
 
 Json printResourceFiles(Session&, Arguments&) {
-    const auto& files = host::theStorage().resourceFiles();
+    const auto& files = runtime::theStorage().resourceFiles();
     return {{"resourceFiles", {{"current", files.current()}, {"open", files.openFiles()}}}};
 }
 

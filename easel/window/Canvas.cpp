@@ -38,7 +38,7 @@ int scrollStep(double past) {
 
 } // namespace
 
-Canvas::Canvas(host::DrawingWindow& window, DesktopUser& user, QWidget* parent)
+Canvas::Canvas(runtime::DrawingWindow& window, DesktopUser& user, QWidget* parent)
     : QAbstractScrollArea(parent), window_(window), user_(user) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
@@ -94,7 +94,7 @@ void Canvas::showMiddle() {
 }
 
 void Canvas::updateView() {
-    host::View view;
+    runtime::View view;
     view.zoom = zoom_;
     view.deviceScale = devicePixelRatioF();
     view.origin = fromQt(origin());
@@ -112,7 +112,7 @@ QRectF Canvas::page() const {
 QRectF Canvas::inViewport(const drawing::Box& box) const {
     if (box.empty())
         return {};
-    const host::View& view = window_.view();
+    const runtime::View& view = window_.view();
     const drawing::Point from = view.toWindow({box.left, box.top});
     const drawing::Point to = view.toWindow({box.right, box.bottom});
     return {toQt(from), toQt(to)};

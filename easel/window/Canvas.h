@@ -1,7 +1,7 @@
 // The drawing on the screen: shows it, scrolls and zooms it, and brings the mouse to the active tool.
 #pragma once
 
-#include "easel/interface/DrawingWindow.h"
+#include "easel/runtime/DrawingWindow.h"
 #include "easel/window/CanvasTool.h"
 #include "easel/window/PointerSurface.h"
 
@@ -24,11 +24,11 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
 
   public:
     // Neither is owned; both outlive the canvas.
-    Canvas(host::DrawingWindow& window, DesktopUser& user, QWidget* parent = nullptr);
+    Canvas(runtime::DrawingWindow& window, DesktopUser& user, QWidget* parent = nullptr);
     ~Canvas() override;
 
-    host::DrawingWindow& drawingWindow() { return window_; }
-    const host::DrawingWindow& drawingWindow() const { return window_; }
+    runtime::DrawingWindow& drawingWindow() { return window_; }
+    const runtime::DrawingWindow& drawingWindow() const { return window_; }
 
     // The tool that presses go to; not owned.
     void setTool(CanvasTool* tool);
@@ -102,7 +102,7 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     bool holdsBack(const QEvent& event);
     void handOverHeld();
 
-    host::DrawingWindow& window_;
+    runtime::DrawingWindow& window_;
     DesktopUser& user_;
     CanvasTool* tool_ = nullptr;
     double zoom_ = 1;

@@ -60,9 +60,9 @@ void strokeVisibly(QPainter& painter, const QPainterPath& path, const QColor& co
     painter.drawPath(path);
 }
 
-void drawSelection(QPainter& painter, const host::DrawingWindow& window, const QRectF& exposed,
+void drawSelection(QPainter& painter, const runtime::DrawingWindow& window, const QRectF& exposed,
                    const QColor& accent) {
-    const host::View& view = window.view();
+    const runtime::View& view = window.view();
     const drawing::Affine toWindow{
         view.zoom, 0, 0, view.zoom, -view.origin.x * view.zoom, -view.origin.y * view.zoom};
     const double reach = kOutlineWidth / view.zoom;
@@ -74,8 +74,8 @@ void drawSelection(QPainter& painter, const host::DrawingWindow& window, const Q
             strokeVisibly(painter, toPainterPath(object->outline.transformed(toWindow)), accent);
 }
 
-void drawFeedback(QPainter& painter, const host::DrawingWindow& window) {
-    for (const host::ConstructionLine& line : window.feedback()) {
+void drawFeedback(QPainter& painter, const runtime::DrawingWindow& window) {
+    for (const runtime::ConstructionLine& line : window.feedback()) {
         QPainterPath path(toQt(window.view().toWindow(line.from)));
         path.lineTo(toQt(window.view().toWindow(line.to)));
         strokeVisibly(painter, path, Qt::black);
@@ -131,7 +131,7 @@ QRect Canvas::feedbackArea() const {
     if (window_.feedback().empty())
         return {};
     drawing::Box box;
-    for (const host::ConstructionLine& line : window_.feedback()) {
+    for (const runtime::ConstructionLine& line : window_.feedback()) {
         box.add(line.from);
         box.add(line.to);
     }

@@ -9,17 +9,17 @@ namespace easel::window {
 namespace {
 
 // Buttons would take '&' for the mark of an accelerator.
-QString caption(const host::DialogItem& item) {
+QString caption(const runtime::DialogItem& item) {
     return QString::fromStdString(item.shownText()).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-Qt::Alignment alignmentOf(const host::DialogItem& item) {
+Qt::Alignment alignmentOf(const runtime::DialogItem& item) {
     switch (item.alignment) {
-    case host::TextAlignment::Center:
+    case runtime::TextAlignment::Center:
         return Qt::AlignHCenter;
-    case host::TextAlignment::Right:
+    case runtime::TextAlignment::Right:
         return Qt::AlignRight;
-    case host::TextAlignment::Left:
+    case runtime::TextAlignment::Left:
         break;
     }
     return Qt::AlignLeft;
@@ -29,45 +29,45 @@ constexpr int kEntriesInSight = 24;
 
 } // namespace
 
-ButtonItem::ButtonItem(host::Dialog& dialog, int item, QWidget* parent)
+ButtonItem::ButtonItem(runtime::Dialog& dialog, int item, QWidget* parent)
     : QPushButton(parent), dialog_(dialog), item_(item) {
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
     setDefault(item == kDefaultItem);
     connect(this, &QPushButton::clicked, this, [this] { dialog_.hit(item_); });
-    modelChanged(host::ItemChange::Text);
+    modelChanged(runtime::ItemChange::Text);
 }
 
-void ButtonItem::modelChanged(host::ItemChange) {
-    const host::DialogItem& item = *dialog_.item(item_);
+void ButtonItem::modelChanged(runtime::ItemChange) {
+    const runtime::DialogItem& item = *dialog_.item(item_);
     setText(caption(item));
     setEnabled(item.enabled);
 }
 
-LabelItem::LabelItem(host::Dialog& dialog, int item, QWidget* parent)
+LabelItem::LabelItem(runtime::Dialog& dialog, int item, QWidget* parent)
     : QLabel(parent), dialog_(dialog), item_(item) {
     setTextFormat(Qt::PlainText);
     setAlignment(alignmentOf(*dialog.item(item)) | Qt::AlignVCenter);
-    modelChanged(host::ItemChange::Text);
+    modelChanged(runtime::ItemChange::Text);
 }
 
-void LabelItem::modelChanged(host::ItemChange) {
-    const host::DialogItem& item = *dialog_.item(item_);
+void LabelItem::modelChanged(runtime::ItemChange) {
+    const runtime::DialogItem& item = *dialog_.item(item_);
     setText(QString::fromStdString(item.shownText()));
     setEnabled(item.enabled);
     setWordWrap(item.bounds.height() > 2 * fontMetrics().height());
 }
 
-RadioItem::RadioItem(host::Dialog& dialog, int item, QWidget* parent)
+RadioItem::RadioItem(runtime::Dialog& dialog, int item, QWidget* parent)
     : QRadioButton(parent), dialog_(dialog), item_(item) {
     setFocusPolicy(Qt::TabFocus);
     setAutoExclusive(false);
     connect(this, &QRadioButton::clicked, this, [this] { dialog_.hit(item_); });
-    modelChanged(host::ItemChange::Value);
+    modelChanged(runtime::ItemChange::Value);
 }
 
-void RadioItem::modelChanged(host::ItemChange) {
-    const host::DialogItem& item = *dialog_.item(item_);
+void RadioItem::modelChanged(runtime::ItemChange) {
+    const runtime::DialogItem& item = *dialog_.item(item_);
     setText(caption(item));
     setChecked(item.value != 0);
     setEnabled(item.enabled);
@@ -101,7 +101,7 @@ Qt::ItemFlags MenuModel::flags(const QModelIndex& index) const {
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
 }
 
-PopupItem::PopupItem(host::Dialog& dialog, int item, QWidget* parent)
+PopupItem::PopupItem(runtime::Dialog& dialog, int item, QWidget* parent)
     : QComboBox(parent), dialog_(dialog), item_(item),
       entries_(new MenuModel(*dialog.item(item)->menu, this)) {
     setFocusPolicy(Qt::TabFocus);
@@ -114,15 +114,15 @@ PopupItem::PopupItem(host::Dialog& dialog, int item, QWidget* parent)
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(this, &QComboBox::activated, this, [this](int row) {
         dialog_.chooseEntry(item_, row + 1);
-        modelChanged(host::ItemChange::Value);
+        modelChanged(runtime::ItemChange::Value);
     });
-    modelChanged(host::ItemChange::Value);
+    modelChanged(runtime::ItemChange::Value);
 }
 
-void PopupItem::modelChanged(host::ItemChange change) {
-    if (change == host::ItemChange::Menu)
+void PopupItem::modelChanged(runtime::ItemChange change) {
+    if (change == runtime::ItemChange::Menu)
         entries_->reload();
-    const host::DialogItem& item = *dialog_.item(item_);
+    const runtime::DialogItem& item = *dialog_.item(item_);
     setCurrentIndex(item.menu->has(item.value) ? item.value - 1 : -1);
     setEnabled(item.enabled);
 }

@@ -19,12 +19,12 @@ class ButtonItem : public QPushButton, public ItemWidget {
     Q_OBJECT
 
   public:
-    ButtonItem(host::Dialog& dialog, int item, QWidget* parent);
+    ButtonItem(runtime::Dialog& dialog, int item, QWidget* parent);
     QWidget* widget() override { return this; }
-    void modelChanged(host::ItemChange change) override;
+    void modelChanged(runtime::ItemChange change) override;
 
   private:
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     int item_;
 };
 
@@ -32,12 +32,12 @@ class LabelItem : public QLabel, public ItemWidget {
     Q_OBJECT
 
   public:
-    LabelItem(host::Dialog& dialog, int item, QWidget* parent);
+    LabelItem(runtime::Dialog& dialog, int item, QWidget* parent);
     QWidget* widget() override { return this; }
-    void modelChanged(host::ItemChange change) override;
+    void modelChanged(runtime::ItemChange change) override;
 
   private:
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     int item_;
 };
 
@@ -46,15 +46,15 @@ class RadioItem : public QRadioButton, public ItemWidget {
     Q_OBJECT
 
   public:
-    RadioItem(host::Dialog& dialog, int item, QWidget* parent);
+    RadioItem(runtime::Dialog& dialog, int item, QWidget* parent);
     QWidget* widget() override { return this; }
-    void modelChanged(host::ItemChange change) override;
+    void modelChanged(runtime::ItemChange change) override;
 
   protected:
     void nextCheckState() override {}
 
   private:
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     int item_;
 };
 
@@ -63,14 +63,14 @@ class MenuModel : public QAbstractListModel {
     Q_OBJECT
 
   public:
-    MenuModel(const host::Menu& menu, QObject* parent) : QAbstractListModel(parent), menu_(menu) {}
+    MenuModel(const runtime::Menu& menu, QObject* parent) : QAbstractListModel(parent), menu_(menu) {}
     void reload();
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
   private:
-    const host::Menu& menu_;
+    const runtime::Menu& menu_;
     int shownCount_ = menu_.count();
 };
 
@@ -80,9 +80,9 @@ class PopupItem : public QComboBox, public ItemWidget {
     Q_OBJECT
 
   public:
-    PopupItem(host::Dialog& dialog, int item, QWidget* parent);
+    PopupItem(runtime::Dialog& dialog, int item, QWidget* parent);
     QWidget* widget() override { return this; }
-    void modelChanged(host::ItemChange change) override;
+    void modelChanged(runtime::ItemChange change) override;
 
     void showPopup() override;
 
@@ -91,7 +91,7 @@ class PopupItem : public QComboBox, public ItemWidget {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     int item_;
     MenuModel* entries_;
 };

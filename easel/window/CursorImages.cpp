@@ -1,9 +1,9 @@
 // Draws cursors and icons from picture files, with the program's own reader and painter.
 #include "easel/window/CursorImages.h"
 
-#include "easel/interface/PluginResourceFile.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/paint/Surface.h"
+#include "easel/runtime/PluginResourceFile.h"
 #include "easel/svg/Document.h"
 
 #include <QPainter>
@@ -48,7 +48,7 @@ QCursor makeCursor(long id, double ratio) {
         return {Qt::ArrowCursor};
     if (id == kPlainToolCursor)
         return plainToolCursor(ratio);
-    const classic::CursorResource* resource = host::pluginResources().cursor(static_cast<int>(id));
+    const classic::CursorResource* resource = runtime::pluginResources().cursor(static_cast<int>(id));
     if (resource == nullptr)
         return {Qt::ArrowCursor};
     const QImage image = pictureFile(resource->file, {resource->width, resource->height}, ratio);

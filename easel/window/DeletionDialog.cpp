@@ -1,7 +1,7 @@
 // The list, its hint and its two buttons.
 #include "easel/window/DeletionDialog.h"
 
-#include "easel/interface/DeletionList.h"
+#include "easel/runtime/DeletionList.h"
 
 #include <QAbstractListModel>
 #include <QDialogButtonBox>
@@ -16,19 +16,19 @@ namespace {
 // Of thousands of rows only those that come into sight are asked for their text.
 class RowsModel : public QAbstractListModel {
   public:
-    RowsModel(host::DeletionList& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
+    RowsModel(runtime::DeletionList& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : list_.count(); }
     QVariant data(const QModelIndex& index, int role) const override {
         return role == Qt::DisplayRole ? QString::fromStdString(list_.text(index.row())) : QVariant();
     }
 
   private:
-    host::DeletionList& list_;
+    runtime::DeletionList& list_;
 };
 
 } // namespace
 
-DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
+DeletionDialog::DeletionDialog(runtime::DeletionList& list, QWidget* parent)
     : QDialog(parent), list_(list), view_(new QListView) {
     const QString title = QString::fromStdString(list.title());
     setWindowTitle(title);
@@ -40,7 +40,7 @@ DeletionDialog::DeletionDialog(host::DeletionList& list, QWidget* parent)
     heading->setBuddy(view_);
 
     view_->setModel(new RowsModel(list, this));
-    const bool several = list.mode() == host::SelectionMode::Several;
+    const bool several = list.mode() == runtime::SelectionMode::Several;
     view_->setSelectionMode(several ? QAbstractItemView::ExtendedSelection
                                     : QAbstractItemView::SingleSelection);
     view_->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -6,7 +6,7 @@
 class QListView;
 class QPushButton;
 
-namespace easel::host {
+namespace easel::runtime {
 class DeletionList;
 }
 
@@ -17,12 +17,12 @@ class DeletionDialog : public QDialog {
     Q_OBJECT
 
   public:
-    DeletionDialog(host::DeletionList& list, QWidget* parent);
+    DeletionDialog(runtime::DeletionList& list, QWidget* parent);
 
   private:
     void selectionChanged();
 
-    host::DeletionList& list_;
+    runtime::DeletionList& list_;
     QListView* view_;
     QPushButton* deleteButton_;
 };

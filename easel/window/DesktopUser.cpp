@@ -1,9 +1,9 @@
 // Answers the host's questions with windows, dialogs and the mouse.
 #include "easel/window/DesktopUser.h"
 
-#include "easel/interface/Alert.h"
-#include "easel/interface/DeletionList.h"
-#include "easel/interface/Dialog.h"
+#include "easel/runtime/Alert.h"
+#include "easel/runtime/DeletionList.h"
+#include "easel/runtime/Dialog.h"
 #include "easel/window/Canvas.h"
 #include "easel/window/ColorPicker.h"
 #include "easel/window/DeletionDialog.h"
@@ -22,7 +22,7 @@ namespace easel::window {
 
 // A key that is pressed while the plug-in follows the mouse is one for the dialog, once the mouse is up.
 struct DesktopUser::ShownDialog {
-    ShownDialog(host::Dialog& dialog, DesktopUser& user)
+    ShownDialog(runtime::Dialog& dialog, DesktopUser& user)
         : window(dialog, user, user.parentForDialogs()), keys(user.gate_, &window, InputGate::Hears::Keys) {}
 
     DialogWindow window;
@@ -44,7 +44,7 @@ void DesktopUser::removeCanvas(Canvas& canvas) {
     canvases_.erase(&canvas.drawingWindow());
 }
 
-Canvas* DesktopUser::canvasOf(const host::DrawingWindow& window) const {
+Canvas* DesktopUser::canvasOf(const runtime::DrawingWindow& window) const {
     const auto found = canvases_.find(&window);
     return found == canvases_.end() ? nullptr : found->second;
 }
@@ -128,30 +128,30 @@ bool DesktopUser::runDialog(QDialog& dialog) {
 
 bool DesktopUser::keyIsDown(std::uint16_t code) {
     switch (code) {
-    case host::kShiftKey:
+    case runtime::kShiftKey:
         return (modifiers_ & Qt::ShiftModifier) != 0;
-    case host::kOptionKey:
+    case runtime::kOptionKey:
         return optionIsDown();
     default:
         return false;
     }
 }
 
-void DesktopUser::present(host::DrawingWindow& window) {
+void DesktopUser::present(runtime::DrawingWindow& window) {
     if (Canvas* canvas = canvasOf(window))
         canvas->presentNow();
 }
 
-void DesktopUser::repaint(host::DrawingWindow& window, const drawing::Box&) {
+void DesktopUser::repaint(runtime::DrawingWindow& window, const drawing::Box&) {
     if (Canvas* canvas = canvasOf(window))
         canvas->marked();
 }
 
-void DesktopUser::scrollTowardsMouse(host::DrawingWindow&) {
+void DesktopUser::scrollTowardsMouse(runtime::DrawingWindow&) {
     pointer_.scrollTowardsMouse();
 }
 
-void DesktopUser::setCursor(host::DrawingWindow& window, long id) {
+void DesktopUser::setCursor(runtime::DrawingWindow& window, long id) {
     if (Canvas* canvas = canvasOf(window))
         canvas->showCursor(id);
 }
@@ -169,7 +169,7 @@ void DesktopUser::tell(const std::string& message) {
     box->deleteLater();
 }
 
-void DesktopUser::dialogShown(host::Dialog& dialog) {
+void DesktopUser::dialogShown(runtime::Dialog& dialog) {
     auto& shown = dialogs_[&dialog];
     shown = std::make_unique<ShownDialog>(dialog, *this);
     open_.emplace_back(&shown->window);
@@ -177,7 +177,7 @@ void DesktopUser::dialogShown(host::Dialog& dialog) {
     shown->window.activateWindow();
 }
 
-void DesktopUser::dialogClosed(host::Dialog& dialog) {
+void DesktopUser::dialogClosed(runtime::Dialog& dialog) {
     const auto found = dialogs_.find(&dialog);
     if (found == dialogs_.end())
         return;
@@ -187,7 +187,7 @@ void DesktopUser::dialogClosed(host::Dialog& dialog) {
         next->activateWindow();
 }
 
-std::int16_t DesktopUser::nextHit(host::Dialog& dialog) {
+std::int16_t DesktopUser::nextHit(runtime::Dialog& dialog) {
     const auto found = dialogs_.find(&dialog);
     if (found == dialogs_.end())
         return 0;
@@ -196,10 +196,10 @@ std::int16_t DesktopUser::nextHit(host::Dialog& dialog) {
     return pointer_.givenUp() ? std::int16_t{0} : static_cast<std::int16_t>(dialog.takeHit().value_or(0));
 }
 
-host::Answer DesktopUser::confirm(const host::Alert& alert) {
+runtime::Answer DesktopUser::confirm(const runtime::Alert& alert) {
     const Question question = makeQuestion(alert, parentForDialogs());
     runDialog(*question.box);
-    return question.yes() ? host::Answer::yes : host::Answer::no;
+    return question.yes() ? runtime::Answer::yes : runtime::Answer::no;
 }
 
 std::optional<RGBColor> DesktopUser::pickColor(const std::string& prompt, const RGBColor& start) {
@@ -211,10 +211,10 @@ std::optional<RGBColor> DesktopUser::pickColor(const std::string& prompt, const 
     return RGBColor{color.red, color.green, color.blue};
 }
 
-void DesktopUser::runDeletion(host::DeletionList& list) {
+void DesktopUser::runDeletion(runtime::DeletionList& list) {
     DeletionDialog dialog(list, parentForDialogs());
     while (list.isOpen() && !pointer_.givenUp())
-        list.command(runDialog(dialog) ? host::DeletionCommand::Ok : host::DeletionCommand::Cancel);
+        list.command(runDialog(dialog) ? runtime::DeletionCommand::Ok : runtime::DeletionCommand::Cancel);
     if (list.isOpen())
         list.close();
 }

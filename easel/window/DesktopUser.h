@@ -1,7 +1,7 @@
 // The person at the desktop, as the host sees it.
 #pragma once
 
-#include "easel/interface/User.h"
+#include "easel/runtime/User.h"
 #include "easel/window/InputGate.h"
 #include "easel/window/PointerTracker.h"
 
@@ -17,7 +17,7 @@ namespace easel::window {
 
 class Canvas;
 
-class DesktopUser : public QObject, public host::User {
+class DesktopUser : public QObject, public runtime::User {
     Q_OBJECT
 
   public:
@@ -58,27 +58,27 @@ class DesktopUser : public QObject, public host::User {
     // What a new dialog belongs to: the front dialog, else the front window.
     QWidget* parentForDialogs() const;
 
-    // --- host::User
-    host::MouseState mouse() override { return pointer_.mouse(); }
-    host::MouseState waitWhileDown() override { return pointer_.waitWhileDown(); }
-    host::MouseState waitForMove(drawing::Point from) override { return pointer_.waitForMove(from); }
+    // --- runtime::User
+    runtime::MouseState mouse() override { return pointer_.mouse(); }
+    runtime::MouseState waitWhileDown() override { return pointer_.waitWhileDown(); }
+    runtime::MouseState waitForMove(drawing::Point from) override { return pointer_.waitForMove(from); }
     bool dragBegins(drawing::Point from, double distance) override {
         return pointer_.dragBegins(from, distance);
     }
     bool keyIsDown(std::uint16_t code) override;
-    void present(host::DrawingWindow& window) override;
-    void repaint(host::DrawingWindow& window, const drawing::Box& area) override;
-    void scrollTowardsMouse(host::DrawingWindow& window) override;
-    void setCursor(host::DrawingWindow& window, long id) override;
+    void present(runtime::DrawingWindow& window) override;
+    void repaint(runtime::DrawingWindow& window, const drawing::Box& area) override;
+    void scrollTowardsMouse(runtime::DrawingWindow& window) override;
+    void setCursor(runtime::DrawingWindow& window, long id) override;
     void setDialogCursor(long id) override;
     void beep() override;
     void tell(const std::string& message) override;
-    void dialogShown(host::Dialog& dialog) override;
-    void dialogClosed(host::Dialog& dialog) override;
-    std::int16_t nextHit(host::Dialog& dialog) override;
-    host::Answer confirm(const host::Alert& alert) override;
+    void dialogShown(runtime::Dialog& dialog) override;
+    void dialogClosed(runtime::Dialog& dialog) override;
+    std::int16_t nextHit(runtime::Dialog& dialog) override;
+    runtime::Answer confirm(const runtime::Alert& alert) override;
     std::optional<RGBColor> pickColor(const std::string& prompt, const RGBColor& start) override;
-    void runDeletion(host::DeletionList& list) override;
+    void runDeletion(runtime::DeletionList& list) override;
 
   Q_SIGNALS:
     void becameIdle();
@@ -92,12 +92,12 @@ class DesktopUser : public QObject, public host::User {
     struct ShownDialog;
 
     void noteModifiers(const QInputEvent& event);
-    Canvas* canvasOf(const host::DrawingWindow& window) const;
+    Canvas* canvasOf(const runtime::DrawingWindow& window) const;
 
     PointerTracker pointer_;
     InputGate gate_;
-    std::map<const host::DrawingWindow*, Canvas*> canvases_;
-    std::map<const host::Dialog*, std::unique_ptr<ShownDialog>> dialogs_;
+    std::map<const runtime::DrawingWindow*, Canvas*> canvases_;
+    std::map<const runtime::Dialog*, std::unique_ptr<ShownDialog>> dialogs_;
     std::vector<QPointer<QWidget>> open_; // dialogs on the screen, the front one last
     QPointer<QWidget> frontWindow_;
     Qt::KeyboardModifiers modifiers_;

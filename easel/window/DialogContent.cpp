@@ -13,7 +13,7 @@
 
 namespace easel::window {
 
-DialogContent::DialogContent(host::Dialog& dialog, DesktopUser& user, QWidget* parent)
+DialogContent::DialogContent(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent)
     : QWidget(parent), dialog_(dialog), user_(user) {
     setFixedSize(dialog.width(), dialog.height());
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -51,7 +51,7 @@ void DialogContent::paintEvent(QPaintEvent* event) {
     painter.drawImage(QPointF(0, 0), image);
 }
 
-UserItem::UserItem(host::Dialog& dialog, int item, DialogContent& content)
+UserItem::UserItem(runtime::Dialog& dialog, int item, DialogContent& content)
     : QWidget(&content), item_(item), content_(content) {
     const paint::PixelRect& bounds = dialog.item(item)->bounds;
     mark_ = QPoint(bounds.width() / 2, bounds.height() / 2);

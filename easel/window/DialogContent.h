@@ -16,7 +16,7 @@ class DialogContent : public QWidget, public PointerSurface {
     Q_OBJECT
 
   public:
-    DialogContent(host::Dialog& dialog, DesktopUser& user, QWidget* parent);
+    DialogContent(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent);
     ~DialogContent() override;
 
     // Whole pixels, as dialogs count.
@@ -34,7 +34,7 @@ class DialogContent : public QWidget, public PointerSurface {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     DesktopUser& user_;
 };
 
@@ -45,9 +45,9 @@ class UserItem : public QWidget, public ItemWidget {
     Q_OBJECT
 
   public:
-    UserItem(host::Dialog& dialog, int item, DialogContent& content);
+    UserItem(runtime::Dialog& dialog, int item, DialogContent& content);
     QWidget* widget() override { return this; }
-    void modelChanged(host::ItemChange) override {}
+    void modelChanged(runtime::ItemChange) override {}
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

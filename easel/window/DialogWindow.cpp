@@ -26,7 +26,7 @@ QColor mixed(const QColor& a, const QColor& b, double share) {
 // How far the ground of black marks moves from a dark desktop's ground towards its text.
 constexpr double kMarkGround = 0.55;
 
-host::DialogTheme themeOf(const QPalette& palette) {
+runtime::DialogTheme themeOf(const QPalette& palette) {
     const QColor ground = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::WindowText);
     const bool dark = ground.lightness() < text.lightness();
@@ -35,33 +35,33 @@ host::DialogTheme themeOf(const QPalette& palette) {
             rgb(erased)};
 }
 
-ItemWidget* makeItemWidget(host::Dialog& dialog, const host::DialogItem& item, DesktopUser& user,
+ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item, DesktopUser& user,
                            DialogContent& content) {
     switch (item.kind) {
-    case host::ItemKind::Button:
+    case runtime::ItemKind::Button:
         return new ButtonItem(dialog, item.number, &content);
-    case host::ItemKind::StaticText:
+    case runtime::ItemKind::StaticText:
         return new LabelItem(dialog, item.number, &content);
-    case host::ItemKind::EditText:
+    case runtime::ItemKind::EditText:
         return new EditItem(dialog, item.number, user, &content);
-    case host::ItemKind::UserDrawn:
+    case runtime::ItemKind::UserDrawn:
         return new UserItem(dialog, item.number, content);
-    case host::ItemKind::Popup:
+    case runtime::ItemKind::Popup:
         return new PopupItem(dialog, item.number, &content);
-    case host::ItemKind::Radio:
+    case runtime::ItemKind::Radio:
         return new RadioItem(dialog, item.number, &content);
     }
     return nullptr;
 }
 
 // A separator is drawn like a user item but there is nothing to do with it.
-bool isSeparator(const host::DialogItem& item) {
-    return item.kind == host::ItemKind::UserDrawn && !item.enabled;
+bool isSeparator(const runtime::DialogItem& item) {
+    return item.kind == runtime::ItemKind::UserDrawn && !item.enabled;
 }
 
 } // namespace
 
-DialogWindow::DialogWindow(host::Dialog& dialog, DesktopUser& user, QWidget* parent)
+DialogWindow::DialogWindow(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), dialog_(dialog),
       user_(user), content_(new DialogContent(dialog, user, this)) {
     setWindowTitle(QString::fromStdString(dialog.title()));
@@ -69,7 +69,7 @@ DialogWindow::DialogWindow(host::Dialog& dialog, DesktopUser& user, QWidget* par
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(content_);
-    for (const host::DialogItem& item : dialog.items())
+    for (const runtime::DialogItem& item : dialog.items())
         addItem(item);
     dialog_.setObserver(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
@@ -83,7 +83,7 @@ DialogWindow::~DialogWindow() {
     dialog_.setObserver(nullptr);
 }
 
-void DialogWindow::addItem(const host::DialogItem& item) {
+void DialogWindow::addItem(const runtime::DialogItem& item) {
     ItemWidget* made = makeItemWidget(dialog_, item, user_, *content_);
     items_[item.number] = made;
     QWidget* widget = made->widget();
@@ -97,9 +97,9 @@ void DialogWindow::addItem(const host::DialogItem& item) {
     }
 }
 
-void DialogWindow::itemChanged(int item, host::ItemChange change) {
+void DialogWindow::itemChanged(int item, runtime::ItemChange change) {
     const auto found = items_.find(item);
-    if (found != items_.end() && change != host::ItemChange::Invalid)
+    if (found != items_.end() && change != runtime::ItemChange::Invalid)
         found->second->modelChanged(change);
 }
 
@@ -108,7 +108,7 @@ void DialogWindow::focusChanged() {
     if (found == items_.end() || found->second->widget()->hasFocus())
         return;
     found->second->widget()->setFocus();
-    found->second->modelChanged(host::ItemChange::Selection);
+    found->second->modelChanged(runtime::ItemChange::Selection);
 }
 
 // The Tab key or a click moved the focus on the desktop's side.

@@ -1,7 +1,7 @@
 // A real dialog of the desktop, built from the host's model of one.
 #pragma once
 
-#include "easel/interface/Dialog.h"
+#include "easel/runtime/Dialog.h"
 
 #include <QDialog>
 
@@ -15,11 +15,11 @@ class ItemWidget;
 
 // Shows the model and keeps showing it: native controls over the dialog's own image. What the user does goes
 // to the model, which turns it into hits.
-class DialogWindow : public QDialog, private host::DialogObserver {
+class DialogWindow : public QDialog, private runtime::DialogObserver {
     Q_OBJECT
 
   public:
-    DialogWindow(host::Dialog& dialog, DesktopUser& user, QWidget* parent);
+    DialogWindow(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent);
     ~DialogWindow() override;
 
     void reject() override;
@@ -31,16 +31,16 @@ class DialogWindow : public QDialog, private host::DialogObserver {
     void showEvent(QShowEvent* event) override;
 
   private:
-    void itemChanged(int item, host::ItemChange change) override;
+    void itemChanged(int item, runtime::ItemChange change) override;
     void focusChanged() override;
     void shownChanged() override {}
     void pixelsDrawn(const paint::PixelRect& area) override;
 
-    void addItem(const host::DialogItem& item);
+    void addItem(const runtime::DialogItem& item);
     void followFocus(const QWidget* now);
     void matchScreen();
 
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     DesktopUser& user_;
     DialogContent* content_;
     std::map<int, ItemWidget*> items_;

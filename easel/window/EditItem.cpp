@@ -22,17 +22,17 @@ QString firstNewCharacter(const QString& before, const QString& after) {
 
 } // namespace
 
-EditItem::EditItem(host::Dialog& dialog, int item, DesktopUser& user, QWidget* parent)
+EditItem::EditItem(runtime::Dialog& dialog, int item, DesktopUser& user, QWidget* parent)
     : QLineEdit(parent), dialog_(dialog), item_(item), user_(user) {
     connect(this, &QLineEdit::textEdited, this, &EditItem::edited);
     connect(this, &QLineEdit::selectionChanged, this, &EditItem::selectionMoved);
     connect(this, &QLineEdit::cursorPositionChanged, this, &EditItem::selectionMoved);
-    modelChanged(host::ItemChange::Text);
+    modelChanged(runtime::ItemChange::Text);
 }
 
-void EditItem::modelChanged(host::ItemChange) {
+void EditItem::modelChanged(runtime::ItemChange) {
     const QScopedValueRollback following(following_, true);
-    const host::DialogItem& item = *dialog_.item(item_);
+    const runtime::DialogItem& item = *dialog_.item(item_);
     const QString text = QString::fromStdString(item.shownText());
     if (text != this->text())
         setText(text);
@@ -45,7 +45,7 @@ void EditItem::modelChanged(host::ItemChange) {
 
 void EditItem::edited(const QString& text) {
     const int caret = cursorPosition();
-    if (dialog_.enterText(item_, text.toStdString()) == host::EditOutcome::Refused) {
+    if (dialog_.enterText(item_, text.toStdString()) == runtime::EditOutcome::Refused) {
         refuse(text);
         return;
     }
@@ -55,7 +55,7 @@ void EditItem::edited(const QString& text) {
 void EditItem::refuse(const QString& attempted) {
     const QString kept = QString::fromStdString(dialog_.item(item_)->shownText());
     const QString character = firstNewCharacter(kept, attempted);
-    modelChanged(host::ItemChange::Text);
+    modelChanged(runtime::ItemChange::Text);
     user_.beep();
     const QString reason =
         tr("\u201c%1\u201d cannot be used here: names are kept in the Mac Roman alphabet.").arg(character);

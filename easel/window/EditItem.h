@@ -15,16 +15,16 @@ class EditItem : public QLineEdit, public ItemWidget {
     Q_OBJECT
 
   public:
-    EditItem(host::Dialog& dialog, int item, DesktopUser& user, QWidget* parent);
+    EditItem(runtime::Dialog& dialog, int item, DesktopUser& user, QWidget* parent);
     QWidget* widget() override { return this; }
-    void modelChanged(host::ItemChange change) override;
+    void modelChanged(runtime::ItemChange change) override;
 
   private:
     void edited(const QString& text);
     void refuse(const QString& attempted);
     void selectionMoved();
 
-    host::Dialog& dialog_;
+    runtime::Dialog& dialog_;
     int item_;
     DesktopUser& user_;
     bool following_ = false; // taking over from the model, so nothing is to be told to it

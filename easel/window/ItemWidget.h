@@ -1,7 +1,7 @@
 // What a dialog's window needs of the control that stands for one of its items.
 #pragma once
 
-#include "easel/interface/Dialog.h"
+#include "easel/runtime/Dialog.h"
 
 class QWidget;
 
@@ -14,7 +14,7 @@ class ItemWidget {
     virtual QWidget* widget() = 0;
 
     // Takes over what the model says of the item.
-    virtual void modelChanged(host::ItemChange change) = 0;
+    virtual void modelChanged(runtime::ItemChange change) = 0;
 };
 
 } // namespace easel::window

@@ -1,7 +1,7 @@
 // Puts the window together and keeps it in step with its drawing.
 #include "easel/window/MainWindow.h"
 
-#include "easel/interface/Host.h"
+#include "easel/runtime/Host.h"
 #include "easel/window/Canvas.h"
 #include "easel/window/HelpDialogs.h"
 #include "easel/window/NoticeBar.h"
@@ -218,9 +218,9 @@ void MainWindow::zoomFit() {
 
 void MainWindow::snapChanged() {
     const auto state = [](const QAction& action) {
-        return action.isChecked() ? host::Switch::on : host::Switch::off;
+        return action.isChecked() ? runtime::Switch::on : runtime::Switch::off;
     };
-    host::theHost().snap = {state(*snapGrid_), state(*snapObject_)};
+    runtime::theHost().snap = {state(*snapGrid_), state(*snapObject_)};
 }
 
 void MainWindow::chooseAppearance(QAction* chosen) {
@@ -243,11 +243,11 @@ void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
-    host::theHost().activeWindow = &drawingWindow_;
+    runtime::theHost().activeWindow = &drawingWindow_;
     workspace_.user().setFrontWindow(this);
     // The switches belong to the program; another window may have changed them.
-    snapGrid_->setChecked(host::theHost().snap.grid == host::Switch::on);
-    snapObject_->setChecked(host::theHost().snap.object == host::Switch::on);
+    snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
+    snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -1,7 +1,7 @@
 // The window of one drawing: menus, tools, canvas and status line.
 #pragma once
 
-#include "easel/interface/DrawingWindow.h"
+#include "easel/runtime/DrawingWindow.h"
 
 #include <QMainWindow>
 #include <QString>
@@ -114,7 +114,7 @@ class MainWindow : public QMainWindow {
     QString name() const;
 
     Workspace& workspace_;
-    host::DrawingWindow drawingWindow_;
+    runtime::DrawingWindow drawingWindow_;
     QString file_;
     Canvas* canvas_;
     NoticeBar* notice_;

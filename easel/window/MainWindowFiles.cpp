@@ -1,6 +1,6 @@
 // Opening, saving, exporting and printing.
 #include "easel/export/ExportDrawing.h"
-#include "easel/interface/Alert.h"
+#include "easel/runtime/Alert.h"
 #include "easel/svg/Document.h"
 #include "easel/window/BackgroundWork.h"
 #include "easel/window/MainWindow.h"
@@ -124,7 +124,7 @@ QString MainWindow::fileForExport(const QString& suffix) {
 }
 
 bool MainWindow::mayReplace(const QString& file) {
-    host::Alert alert;
+    runtime::Alert alert;
     alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
     alert.yesButton = tr("Replace").toStdString();
     alert.noButton = tr("Cancel").toStdString();

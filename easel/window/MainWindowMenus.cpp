@@ -1,5 +1,5 @@
 // The window's menus, tool bar and tool palette.
-#include "easel/interface/Host.h"
+#include "easel/runtime/Host.h"
 #include "easel/window/Canvas.h"
 #include "easel/window/Icons.h"
 #include "easel/window/MainWindow.h"
@@ -158,8 +158,8 @@ void MainWindow::buildViewMenu() {
     snapObject_->setIcon(icon(IconName::Magnet));
     for (QAction* action : {snapGrid_, snapObject_})
         action->setCheckable(true);
-    snapGrid_->setChecked(host::theHost().snap.grid == host::Switch::on);
-    snapObject_->setChecked(host::theHost().snap.object == host::Switch::on);
+    snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
+    snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);
     menu->addActions({snapGrid_, snapObject_});
     menu->addSeparator();
     QMenu* looks = menu->addMenu(tr("&Appearance"));

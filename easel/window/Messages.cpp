@@ -1,7 +1,7 @@
 // Builds the message boxes.
 #include "easel/window/Messages.h"
 
-#include "easel/interface/Alert.h"
+#include "easel/runtime/Alert.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -19,7 +19,7 @@ QMessageBox* makeProblemMessage(const QString& message, QWidget* parent) {
     return box;
 }
 
-Question makeQuestion(const host::Alert& alert, QWidget* parent) {
+Question makeQuestion(const runtime::Alert& alert, QWidget* parent) {
     auto box = std::make_unique<QMessageBox>(parent);
     box->setIcon(QMessageBox::Question);
     box->setWindowTitle(alert.title.empty() ? QObject::tr("Easel") : QString::fromStdString(alert.title));

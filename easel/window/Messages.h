@@ -9,7 +9,7 @@ class QAbstractButton;
 class QMessageBox;
 class QWidget;
 
-namespace easel::host {
+namespace easel::runtime {
 struct Alert;
 }
 
@@ -26,7 +26,7 @@ struct Question {
     // Once the box is closed.
     bool yes() const;
 };
-Question makeQuestion(const host::Alert& alert, QWidget* parent);
+Question makeQuestion(const runtime::Alert& alert, QWidget* parent);
 
 enum class UnsavedChoice { Save, Discard, Cancel };
 struct UnsavedQuestion {

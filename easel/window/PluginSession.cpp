@@ -1,9 +1,9 @@
 // Loads the plug-in and collects its tools.
 #include "easel/window/PluginSession.h"
 
-#include "easel/interface/PluginResourceFile.h"
-#include "easel/interface/Storage.h"
-#include "easel/interface/ToolPalette.h"
+#include "easel/runtime/PluginResourceFile.h"
+#include "easel/runtime/Storage.h"
+#include "easel/runtime/ToolPalette.h"
 #include "easel/window/PictureIcon.h"
 #include "easel/window/Workspace.h"
 
@@ -11,7 +11,7 @@ namespace easel::window {
 namespace {
 
 QIcon iconOf(const HostTool& tool) {
-    const classic::IconResource* resource = host::pluginResources().icon(tool.element.icon);
+    const classic::IconResource* resource = runtime::pluginResources().icon(tool.element.icon);
     return resource == nullptr ? QIcon() : pictureIcon(resource->file);
 }
 
@@ -21,10 +21,10 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
                              Workspace& workspace)
     : workspace_(workspace) {
     if (!preferences.empty())
-        host::useStorage({preferences, classic::StoragePlaces::ofUser().trash});
+        runtime::useStorage({preferences, classic::StoragePlaces::ofUser().trash});
     try {
-        load(module.empty() ? host::PluginModule::defaultFile() : module);
-    } catch (const host::PluginError& error) {
+        load(module.empty() ? runtime::PluginModule::defaultFile() : module);
+    } catch (const runtime::PluginError& error) {
         problem_ =
             QObject::tr("%1\n\nEasel runs without this tool.").arg(QString::fromStdString(error.what()));
     }
@@ -32,13 +32,13 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
 
 void PluginSession::load(const std::filesystem::path& module) {
     module_.emplace(module);
-    if (const files::FileOutcome outcome = host::openPluginResources(module_->resourceFolder()))
-        throw host::PluginError(outcome->message());
-    module_->send(host::kStartUpMessage);
-    for (const HostTool& tool : host::thePalette().tools())
+    if (const files::FileOutcome outcome = runtime::openPluginResources(module_->resourceFolder()))
+        throw runtime::PluginError(outcome->message());
+    module_->send(runtime::kStartUpMessage);
+    for (const HostTool& tool : runtime::thePalette().tools())
         workspace_.addTool(tool, iconOf(tool));
     // Whoever starts a drawing program with one special tool most likely wants that tool.
-    if (!host::thePalette().tools().empty())
+    if (!runtime::thePalette().tools().empty())
         workspace_.activateTool(1);
 }
 
@@ -46,10 +46,10 @@ PluginSession::~PluginSession() {
     if (!module_)
         return;
     const DesktopUser::Call call(workspace_.user());
-    module_->send(host::kShutDownMessage);
+    module_->send(runtime::kShutDownMessage);
     workspace_.removeTools();
-    host::thePalette().clear();
-    host::closePluginResources();
+    runtime::thePalette().clear();
+    runtime::closePluginResources();
 }
 
 } // namespace easel::window

@@ -1,7 +1,7 @@
 // The plug-in from its loading to its unloading.
 #pragma once
 
-#include "easel/interface/PluginModule.h"
+#include "easel/runtime/PluginModule.h"
 
 #include <QString>
 
@@ -31,7 +31,7 @@ class PluginSession {
     void load(const std::filesystem::path& module);
 
     Workspace& workspace_;
-    std::optional<host::PluginModule> module_;
+    std::optional<runtime::PluginModule> module_;
     QString problem_;
 };
 

@@ -1,8 +1,8 @@
 // Calls the tool and cleans up behind a call that was cancelled.
 #include "easel/window/PluginTool.h"
 
-#include "easel/interface/Host.h"
-#include "easel/interface/ToolCalls.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/ToolCalls.h"
 #include "easel/window/Canvas.h"
 #include "easel/window/DesktopUser.h"
 
@@ -13,15 +13,15 @@ namespace easel::window {
 PluginTool::PluginTool(const HostTool& tool, DesktopUser& user) : tool_(tool), user_(user) {}
 
 void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
-    host::DrawingWindow& window = canvas.drawingWindow();
-    host::theHost().activeWindow = &window;
+    runtime::DrawingWindow& window = canvas.drawingWindow();
+    runtime::theHost().activeWindow = &window;
     user_.pointer().pressed(canvas, event.position());
     const std::size_t levels = window.drawing().undoLevels();
-    host::ToolOutcome outcome = host::ToolOutcome::declined;
+    runtime::ToolOutcome outcome = runtime::ToolOutcome::declined;
     {
         const DesktopUser::Call call(user_);
         const InputGate::Scope scope(user_.gate(), &canvas);
-        outcome = host::clickWithTool(tool_, window, canvas.toLocal(event.position()));
+        outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(event.position()));
         // A drag that was broken off has let go of the button where it stood; nothing was to come of it.
         if (user_.cancelled() && window.drawing().undoLevels() > levels)
             window.drawing().undo();
@@ -29,20 +29,20 @@ void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
     canvas.marked();
     canvas.reportChange();
     canvas.refreshCursor();
-    if (outcome == host::ToolOutcome::declined)
+    if (outcome == runtime::ToolOutcome::declined)
         Q_EMIT declined();
 }
 
 void PluginTool::updateCursor(Canvas& canvas) {
     const DesktopUser::Call call(user_);
-    host::updateToolCursor(tool_, canvas.drawingWindow());
+    runtime::updateToolCursor(tool_, canvas.drawingWindow());
 }
 
 void PluginTool::openOptions() {
     if (user_.busy())
         return;
     const DesktopUser::Call call(user_);
-    host::openToolOptions(tool_);
+    runtime::openToolOptions(tool_);
 }
 
 } // namespace easel::window

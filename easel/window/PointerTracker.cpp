@@ -59,7 +59,7 @@ bool PointerTracker::takeNews() {
     return false;
 }
 
-host::MouseState PointerTracker::mouse() const {
+runtime::MouseState PointerTracker::mouse() const {
     if (surface_ == nullptr)
         return {};
     return {surface_->toLocal(position_), down_ && !givenUp_};
@@ -69,7 +69,7 @@ bool PointerTracker::nearEdge() const {
     return surface_ != nullptr && surface_->wouldScroll(position_);
 }
 
-host::MouseState PointerTracker::waitWhileDown() {
+runtime::MouseState PointerTracker::waitWhileDown() {
     // Whoever follows the mouse asks this between hearing of a move and showing it.
     if (!down_ || givenUp_ || std::exchange(unheeded_, false))
         return mouse();
@@ -80,15 +80,15 @@ host::MouseState PointerTracker::waitWhileDown() {
     return mouse();
 }
 
-host::MouseState PointerTracker::waitForMove(drawing::Point from) {
+runtime::MouseState PointerTracker::waitForMove(drawing::Point from) {
     takeNews();
     const auto answer = [this] {
-        const host::MouseState state = mouse();
+        const runtime::MouseState state = mouse();
         unheeded_ = state.at != lastAnswer_;
         lastAnswer_ = state.at;
         return state;
     };
-    const host::MouseState now = mouse();
+    const runtime::MouseState now = mouse();
     if (!now.down)
         return answer();
     // If the point asked about is not the mouse but, say, its constrained place, then it differs always; what
@@ -107,7 +107,7 @@ host::MouseState PointerTracker::waitForMove(drawing::Point from) {
 
 bool PointerTracker::dragBegins(drawing::Point from, double distance) {
     while (true) {
-        const host::MouseState now = mouse();
+        const runtime::MouseState now = mouse();
         if (!now.down)
             return false;
         if (drawing::length(now.at - from) * surface_->pixelsPerUnit() >= distance)

@@ -1,7 +1,7 @@
 // Follows the mouse from press to release while the plug-in waits inside a host call.
 #pragma once
 
-#include "easel/interface/User.h"
+#include "easel/runtime/User.h"
 #include "easel/window/PointerSurface.h"
 
 #include <QElapsedTimer>
@@ -24,9 +24,9 @@ class PointerTracker {
     void forget(const PointerSurface& surface);
 
     // --- What the host asks; see easel/interface/User.h.
-    host::MouseState mouse() const;
-    host::MouseState waitWhileDown();
-    host::MouseState waitForMove(drawing::Point from);
+    runtime::MouseState mouse() const;
+    runtime::MouseState waitWhileDown();
+    runtime::MouseState waitForMove(drawing::Point from);
     bool dragBegins(drawing::Point from, double distance);
     void scrollTowardsMouse();
 

@@ -10,8 +10,8 @@
 #include "easel/window/Theme.h"
 #include "easel/window/Workspace.h"
 
-#include "easel/interface/Host.h"
-#include "easel/interface/Storage.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/Storage.h"
 
 #include <QFile>
 #include <QPointer>
@@ -45,7 +45,7 @@ void openFirstWindows(Workspace& workspace, const StartUp& startUp, const Plugin
     for (const std::filesystem::path& file : startUp.files)
         workspace.openFile(QFile::decodeName(file.c_str()), first);
     // Once the user looks at the window, what the gradient editor will ask for first is made ready.
-    QTimer::singleShot(kAtLeisure, [] { host::theStorage().files().prepareListing(); });
+    QTimer::singleShot(kAtLeisure, [] { runtime::theStorage().files().prepareListing(); });
     if (!plugin.problem().isEmpty())
         workspace.tell(plugin.problem());
 }
@@ -70,7 +70,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     QApplication::setStyle(new EaselStyle);
 
     DesktopUser user;
-    easel::host::theHost().user = &user;
+    easel::runtime::theHost().user = &user;
     int result = 0;
     {
         Workspace workspace(startUp.version, user);
@@ -79,6 +79,6 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
         QTimer::singleShot(0, &workspace, [&] { openFirstWindows(workspace, startUp, plugin); });
         result = QApplication::exec();
     }
-    easel::host::theHost().user = nullptr;
+    easel::runtime::theHost().user = nullptr;
     return result;
 }

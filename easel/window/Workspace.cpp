@@ -1,7 +1,7 @@
 // Opens and closes windows and keeps the tools.
 #include "easel/window/Workspace.h"
 
-#include "easel/interface/ToolPalette.h"
+#include "easel/runtime/ToolPalette.h"
 #include "easel/window/Icons.h"
 #include "easel/window/LoadDrawing.h"
 #include "easel/window/MainWindow.h"

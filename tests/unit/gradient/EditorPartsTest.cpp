@@ -4,10 +4,10 @@
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/EditorSession.h"
 #include "Gradient/editor/Swatches.h"
-#include "easel/interface/CurrentPort.h"
-#include "easel/interface/Dialog.h"
-#include "easel/interface/OpenDialogs.h"
 #include "easel/paint/Port.h"
+#include "easel/runtime/CurrentPort.h"
+#include "easel/runtime/Dialog.h"
+#include "easel/runtime/OpenDialogs.h"
 #include "tests/unit/gradient/EditorStage.h"
 
 #include <cmath>
@@ -16,7 +16,7 @@
 namespace tests {
 namespace {
 
-using easel::host::Dialog;
+using easel::runtime::Dialog;
 
 // Does one thing after the other, each once the dialog waits, and then closes it.
 class ScriptedUser : public IdleUser {
@@ -28,7 +28,9 @@ class ScriptedUser : public IdleUser {
             steps_[next_++](dialog);
         return static_cast<std::int16_t>(dialog.takeHit().value_or(kOKItem));
     }
-    easel::host::Answer confirm(const easel::host::Alert&) override { return easel::host::Answer::yes; }
+    easel::runtime::Answer confirm(const easel::runtime::Alert&) override {
+        return easel::runtime::Answer::yes;
+    }
 
   private:
     std::vector<std::function<void(Dialog&)>> steps_;
@@ -42,7 +44,7 @@ TEST(EditorParts, TheSwatchProceduresLeaveColorPenAndClipOfThePortAsTheyWere) {
     const DialogRef ref = TessGetNewDialog(kEditorDialog, nullptr, nullptr);
     ASSERT_NE(ref, nullptr);
     SetPortDialogPort(ref);
-    easel::paint::PortState& state = easel::host::currentPort().state();
+    easel::paint::PortState& state = easel::runtime::currentPort().state();
     state.foreground = {11, 22, 33};
     state.pen = {{7, 8}, {3, 2}, easel::paint::PenMode::Invert, {1, 2, 3, 4, 5, 6, 7, 8}};
     state.clip = {0, 0, 400, 300};
@@ -52,7 +54,7 @@ TEST(EditorParts, TheSwatchProceduresLeaveColorPenAndClipOfThePortAsTheyWere) {
                                           {&UpdatePreviewRect, kPreviewItem}}) {
         procedure(ref, item);
         EXPECT_EQ(state, before) << item;
-        EXPECT_EQ(&easel::host::currentPort().state(), &state) << "the dialog's port is current";
+        EXPECT_EQ(&easel::runtime::currentPort().state(), &state) << "the dialog's port is current";
     }
     gDrawingToDialog = true;
     UpdatePreviewRect(ref, kPreviewItem);
@@ -81,7 +83,7 @@ TEST(EditorParts, ATemplateDeletedSinceTheMenuWasBuiltLeavesTheGradientAndMakesT
             const std::filesystem::path header = headerOf(folder, "Gone.GRD");
             removed =
                 std::filesystem::remove(header) && std::filesystem::remove(header.parent_path() / "Gone.GRD");
-            EXPECT_EQ(editor.chooseEntry(kTemplateItem, 5), easel::host::EditOutcome::Accepted);
+            EXPECT_EQ(editor.chooseEntry(kTemplateItem, 5), easel::runtime::EditOutcome::Accepted);
         },
         [&](Dialog& editor) {
             shown = editor.item(kPositionItem)->text;
@@ -118,7 +120,7 @@ TEST(EditorParts, NoTextInThePositionFieldDoesAnyHarm) {
         for (const int item : {+kPositionItem, +kRampItem, +kPreviewItem, +kColorItem})
             steps.emplace_back([text, item](Dialog& editor) {
                 if (item == kPositionItem)
-                    EXPECT_EQ(editor.enterText(item, text), easel::host::EditOutcome::Accepted);
+                    EXPECT_EQ(editor.enterText(item, text), easel::runtime::EditOutcome::Accepted);
                 else
                     editor.hit(item);
             });
@@ -139,9 +141,9 @@ TEST(EditorParts, AnExceptionInAHandlerGivesThePortBackAndLeavesTheCallersGradie
     CGradientData gradient = gradientOf({{{1, 1, 1}, 0.0}, {{2, 2, 2}, 1.0}});
     EXPECT_THROW(ModalEditGradient(gradient), Interrupted);
     EXPECT_EQ(gradient.ColorList().front().Percent(), 0.0);
-    EXPECT_EQ(easel::host::theHost().currentPort, nullptr);
+    EXPECT_EQ(easel::runtime::theHost().currentPort, nullptr);
     // The dialog is left open, as nobody disposed of it.
-    while (Dialog* left = easel::host::openDialogs().front())
+    while (Dialog* left = easel::runtime::openDialogs().front())
         DisposeDialog(left->ref());
 }
 

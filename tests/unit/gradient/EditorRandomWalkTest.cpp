@@ -3,10 +3,10 @@
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/EditorSession.h"
 #include "Gradient/editor/Swatches.h"
-#include "easel/interface/Alert.h"
-#include "easel/interface/DeletionList.h"
-#include "easel/interface/Dialog.h"
 #include "easel/paint/Port.h"
+#include "easel/runtime/Alert.h"
+#include "easel/runtime/DeletionList.h"
+#include "easel/runtime/Dialog.h"
 #include "tests/unit/gradient/EditorStage.h"
 
 #include <algorithm>
@@ -19,9 +19,9 @@
 namespace tests {
 namespace {
 
-using easel::host::Answer;
-using easel::host::Dialog;
-using easel::host::MouseState;
+using easel::runtime::Answer;
+using easel::runtime::Dialog;
+using easel::runtime::MouseState;
 
 constexpr int kActions = 20000;
 constexpr int kNameDialog = 5206;
@@ -83,7 +83,7 @@ class RandomUser : public IdleUser {
         }
         return static_cast<std::int16_t>(*dialog.takeHit());
     }
-    Answer confirm(const easel::host::Alert&) override { return below(3) == 0 ? Answer::no : Answer::yes; }
+    Answer confirm(const easel::runtime::Alert&) override { return below(3) == 0 ? Answer::no : Answer::yes; }
     std::optional<RGBColor> pickColor(const std::string&, const RGBColor& start) override {
         EXPECT_TRUE(std::any_of(stops().begin(), stops().end(),
                                 [&](const CGradientColor& stop) { return stop.ColorRGB() == start; }));
@@ -91,15 +91,15 @@ class RandomUser : public IdleUser {
             return std::nullopt;
         return RGBColor{channel(), channel(), channel()};
     }
-    void runDeletion(easel::host::DeletionList& list) override {
+    void runDeletion(easel::runtime::DeletionList& list) override {
         while (list.isOpen()) {
             std::vector<int> rows;
             for (int row = 0; row < list.count(); ++row)
                 if (below(2) == 0)
                     rows.push_back(row);
             list.select(rows);
-            list.command(below(2) == 0 ? easel::host::DeletionCommand::Ok
-                                       : easel::host::DeletionCommand::Cancel);
+            list.command(below(2) == 0 ? easel::runtime::DeletionCommand::Ok
+                                       : easel::runtime::DeletionCommand::Cancel);
         }
     }
 
@@ -173,7 +173,7 @@ class RandomUser : public IdleUser {
         case 14:
             if (below(8) == 0 &&
                 dialog.chooseEntry(kTemplateItem, 1 + below(dialog.item(kTemplateItem)->menu->count())) ==
-                    easel::host::EditOutcome::Accepted)
+                    easel::runtime::EditOutcome::Accepted)
                 hadTwo_ = false; // a template may have one
             break;
         default:

@@ -2,9 +2,9 @@
 // user.
 #pragma once
 
-#include "easel/interface/Host.h"
-#include "easel/interface/PluginResourceFile.h"
-#include "easel/interface/Storage.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/PluginResourceFile.h"
+#include "easel/runtime/Storage.h"
 #include "host/Gradient.h"
 #include "tests/support/IdleUser.h"
 #include "tests/support/TemporaryFolder.h"
@@ -15,19 +15,19 @@ namespace tests {
 
 class EditorStage {
   public:
-    explicit EditorStage(easel::host::User& user) {
-        easel::host::useStorage(easel::classic::StoragePlaces::within(folder_.path()));
-        easel::host::theHost().user = &user;
+    explicit EditorStage(easel::runtime::User& user) {
+        easel::runtime::useStorage(easel::classic::StoragePlaces::within(folder_.path()));
+        easel::runtime::theHost().user = &user;
         const std::filesystem::path resources = folder_ / "Gradient";
         std::filesystem::copy(std::filesystem::path(SOURCE_DIR) / "Gradient" / "resources", resources);
-        const auto error = easel::host::openPluginResources(resources);
+        const auto error = easel::runtime::openPluginResources(resources);
         EXPECT_FALSE(error) << error->message();
     }
     EditorStage(const EditorStage&) = delete;
     EditorStage& operator=(const EditorStage&) = delete;
     ~EditorStage() {
-        easel::host::closePluginResources();
-        easel::host::theHost().user = nullptr;
+        easel::runtime::closePluginResources();
+        easel::runtime::theHost().user = nullptr;
     }
 
     const std::filesystem::path& folder() const { return folder_.path(); }

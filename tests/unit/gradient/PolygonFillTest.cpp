@@ -1,6 +1,6 @@
 // What reaches the host's gradient drawing when a polygon is filled.
 #include "Gradient/model/PolygonFill.h"
-#include "easel/interface/HostGraphics.h"
+#include "easel/runtime/HostGraphics.h"
 #include "host/Drawing.h"
 #include "tests/unit/gradient/Polygons.h"
 #include "tests/unit/gradient/Records.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Gradient/model/OwnedPolygon.h"
-#include "easel/interface/HostPolygon.h"
+#include "easel/runtime/HostPolygon.h"
 
 #include <cmath>
 #include <memory>

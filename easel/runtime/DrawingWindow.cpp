@@ -1,0 +1,131 @@
+// Paints a drawing into its window's image where it was marked.
+#include "easel/runtime/DrawingWindow.h"
+
+#include "easel/paint/Port.h"
+#include "easel/paint/RenderDrawing.h"
+#include "easel/paint/Surface.h"
+#include "easel/runtime/CurrentPort.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/User.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+namespace easel::runtime {
+
+namespace {
+
+constexpr std::uint32_t kWhite = 0xffffffff;
+
+// Many small marks are painted one by one; more of them than this are painted as one area.
+constexpr std::size_t kMostMarks = 16;
+
+View wholeDrawing(const drawing::Drawing& drawing) {
+    return {
+        .zoom = 1, .deviceScale = 1, .origin = {0, 0}, .width = drawing.width(), .height = drawing.height()};
+}
+
+// In pixels, each way: what fits the image formats that windows and files use.
+constexpr double kLargestImage = 32767;
+
+int imageLength(double length, double scale) {
+    const double pixels = std::max(1.0, std::ceil(length * scale));
+    if (!(pixels <= kLargestImage))
+        throw std::length_error("the window is too large to be painted");
+    return static_cast<int>(pixels);
+}
+
+// Every pixel that the area touches.
+paint::PixelBox pixelsOf(const drawing::Box& area, const drawing::Affine& toImage,
+                         const paint::Surface& image) {
+    const drawing::Point corner = toImage({area.left, area.top});
+    const drawing::Point end = toImage({area.right, area.bottom});
+    const auto pixel = [](double at, int limit) {
+        return static_cast<int>(std::clamp(at, 0.0, static_cast<double>(limit)));
+    };
+    return {pixel(std::floor(corner.x), image.width()), pixel(std::floor(corner.y), image.height()),
+            pixel(std::ceil(end.x), image.width()), pixel(std::ceil(end.y), image.height())};
+}
+
+bool encloses(const drawing::Box& outer, const drawing::Box& inner) {
+    return outer.contains({inner.left, inner.top}) && outer.contains({inner.right, inner.bottom});
+}
+
+void whiten(paint::Surface& image, const paint::PixelBox& box) {
+    for (int y = box.top; y < box.bottom; ++y)
+        std::fill(image.row(y) + box.left, image.row(y) + box.right, kWhite);
+}
+
+} // namespace
+
+DrawingWindow::DrawingWindow(drawing::Drawing drawing)
+    : port_(std::make_unique<paint::Port>(paint::PixelRect{0, 0, 1, 1}, 1.0, kWhite & 0xffffff)),
+      drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)) {
+    registerPort(*port_);
+    mark(view_.seen());
+    listen();
+}
+
+DrawingWindow::~DrawingWindow() {
+    forgetPort(*port_);
+    if (theHost().activeWindow == this)
+        theHost().activeWindow = nullptr;
+}
+
+void DrawingWindow::listen() {
+    drawing_.setChangeListener([this](const drawing::Box& area) {
+        mark(area);
+        if (User* user = theHost().user)
+            user->repaint(*this, area);
+    });
+}
+
+void DrawingWindow::setDrawing(drawing::Drawing drawing) {
+    drawing_ = std::move(drawing);
+    listen();
+    feedback_.clear();
+    setView(view_);
+}
+
+void DrawingWindow::setView(const View& view) {
+    view_ = view;
+    marks_.clear();
+    mark(view_.seen());
+}
+
+void DrawingWindow::mark(const drawing::Box& area) {
+    const drawing::Box seen = area.intersection(view_.seen());
+    if (seen.empty())
+        return;
+    // A change marks its object several times: as it was and as it is, selected and not.
+    if (std::any_of(marks_.begin(), marks_.end(), [&](const auto& one) { return encloses(one, seen); }))
+        return;
+    std::erase_if(marks_, [&](const auto& one) { return encloses(seen, one); });
+    marks_.push_back(seen);
+    if (marks_.size() <= kMostMarks)
+        return;
+    drawing::Box all;
+    for (const drawing::Box& one : marks_)
+        all.add(one);
+    marks_.assign(1, all);
+}
+
+void DrawingWindow::paintMarked() {
+    const int width = imageLength(view_.width, view_.deviceScale);
+    const int height = imageLength(view_.height, view_.deviceScale);
+    if (!image_ || image_->width() != width || image_->height() != height) {
+        image_ = std::make_unique<paint::Surface>(width, height);
+        marks_.assign(1, view_.seen());
+    }
+    for (const drawing::Box& mark : std::exchange(marks_, {})) {
+        const paint::PixelBox box = pixelsOf(mark, view_.toImage(), *image_);
+        if (box.empty())
+            continue;
+        whiten(*image_, box);
+        paint::renderDrawing(drawing_, image_->view().clippedTo(box), view_.toImage());
+    }
+}
+
+} // namespace easel::runtime

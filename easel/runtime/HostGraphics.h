@@ -1,0 +1,14 @@
+// What stands behind a graphics environment of the host interface.
+#pragma once
+
+#include "easel/paint/Port.h"
+#include "easel/runtime/DrawingWindow.h"
+
+#include <vector>
+
+// Either the image of a port, in the port's coordinates, or the feedback over a drawing window, which is made
+// of lines.
+struct HostGraphics {
+    easel::paint::Port* port = nullptr;
+    std::vector<easel::runtime::ConstructionLine> lines;
+};

@@ -1,0 +1,63 @@
+// The plug-in as a loadable module: found, loaded, sent messages, unloaded.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+struct XTNLParmBlk;
+
+namespace easel::runtime {
+
+// Why a module cannot be used, naming the file: "FILE: reason".
+class PluginError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+constexpr std::int16_t kStartUpMessage = 1;
+constexpr std::int16_t kShutDownMessage = 2;
+
+class PluginModule {
+  public:
+    // Loads the module, finds its entry and opens its resources. Throws PluginError if the file is missing,
+    // no module, or lacks the entry.
+    explicit PluginModule(const std::filesystem::path& file);
+    // Takes the plug-in's tools out of the palette and unloads the module.
+    ~PluginModule();
+    PluginModule(const PluginModule&) = delete;
+    PluginModule& operator=(const PluginModule&) = delete;
+
+    // Sends a message as it stands and returns what the entry answers.
+    std::int32_t send(std::int16_t message);
+
+    const std::filesystem::path& file() const { return file_; }
+
+    // What is wrong with the plug-in's resources, naming the file; it then runs without texts, dialogs and
+    // pictures.
+    const std::optional<std::string>& resourceTrouble() const { return resourceTrouble_; }
+
+    // The folder of the module's resources: beside the module, under its name.
+    std::filesystem::path resourceFolder() const { return resourceFolder(file_); }
+    static std::filesystem::path resourceFolder(const std::filesystem::path& file);
+
+    // Where the module of this program is: in `plugins` beside the program, else in `../lib/easel/plugins`.
+    // Gives the first of the two when neither exists, so that the error names the place where it is expected.
+    static std::filesystem::path defaultFile();
+
+  private:
+    using Entry = std::int32_t (*)(std::int16_t, XTNLParmBlk*);
+    struct Unload {
+        void operator()(void* library) const;
+    };
+
+    std::filesystem::path file_;
+    std::unique_ptr<void, Unload> library_;
+    Entry entry_ = nullptr;
+    std::optional<std::string> resourceTrouble_;
+};
+
+} // namespace easel::runtime

@@ -1,0 +1,15 @@
+// Snapping a point to the grid and to objects.
+#pragma once
+
+#include "easel/drawing/Geometry.h"
+#include "easel/runtime/Host.h"
+
+namespace easel::runtime {
+
+class DrawingWindow;
+
+// The point, in drawing coordinates, or what it snaps to: with object snap the nearest end of a side or curve
+// within a few screen pixels, else with grid snap the nearest grid point.
+drawing::Point snapped(const DrawingWindow& window, drawing::Point point, const SnapSwitches& switches);
+
+} // namespace easel::runtime

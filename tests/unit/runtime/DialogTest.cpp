@@ -1,0 +1,242 @@
+// The dialog model: what a person does to it and what its observer hears of the program's changes.
+#include "easel/runtime/Dialog.h"
+#include "easel/paint/Port.h"
+#include "easel/runtime/CurrentPort.h"
+#include "easel/runtime/Host.h"
+
+#include <gtest/gtest.h>
+
+namespace easel::runtime {
+namespace {
+
+DialogItem itemOf(int number, ItemKind kind, paint::PixelRect bounds = {}) {
+    DialogItem item;
+    item.number = number;
+    item.kind = kind;
+    item.bounds = bounds;
+    return item;
+}
+
+std::vector<int> gDrawn;
+
+void recordDrawing(OpaqueDialogPtr* dialog, short item) {
+    gDrawn.push_back(item);
+    EXPECT_EQ(theHost().currentPort, &Dialog::from(dialog).port());
+}
+
+class DialogTest : public testing::Test {
+  protected:
+    static DialogDescription description() {
+        DialogDescription made{7, "Seven", 200, 100, {}};
+        made.items = {itemOf(1, ItemKind::Button),   itemOf(2, ItemKind::Button),
+                      itemOf(3, ItemKind::EditText), itemOf(4, ItemKind::UserDrawn, {10, 10, 20, 60}),
+                      itemOf(5, ItemKind::Popup),    itemOf(6, ItemKind::UserDrawn)};
+        made.items[4].menu = std::make_shared<Menu>();
+        for (const char* text : {"First", "Second", "-", "Fourth"})
+            made.items[4].menu->append({text, true, *text == '-'});
+        return made;
+    }
+
+    const DialogItem& field() const { return *dialog_.item(3); }
+    std::vector<int> hits() {
+        std::vector<int> all;
+        while (const std::optional<int> hit = dialog_.takeHit())
+            all.push_back(*hit);
+        return all;
+    }
+    EditOutcome type(const std::u32string& text) {
+        EditOutcome last = EditOutcome::Accepted;
+        for (const char32_t letter : text)
+            last = dialog_.typeCharacter(letter);
+        return last;
+    }
+
+    Dialog dialog_{description(), {}};
+};
+
+TEST_F(DialogTest, OpensWithItsFirstEditFieldFocused) {
+    EXPECT_EQ(dialog_.focus(), 3);
+}
+
+TEST_F(DialogTest, EveryKeystrokeIsAHitAndReplacesTheSelection) {
+    dialog_.setText(3, "12.50");
+    dialog_.selectText(3, {0, 2});
+    EXPECT_EQ(type(U"78"), EditOutcome::Accepted);
+    EXPECT_EQ(field().text, "78.50");
+    EXPECT_EQ(field().selection, (TextSelection{2, 2}));
+    EXPECT_EQ(hits(), (std::vector<int>{3, 3}));
+}
+
+TEST_F(DialogTest, ACharacterThatTheHostCannotEncodeIsRefusedWithoutAHit) {
+    dialog_.setText(3, "a");
+    EXPECT_EQ(type(U"\u4e2d"), EditOutcome::Refused);
+    EXPECT_EQ(type(U"\t"), EditOutcome::Refused);
+    EXPECT_EQ(field().text, "a");
+    EXPECT_TRUE(hits().empty());
+    EXPECT_EQ(type(U"\u00e9"), EditOutcome::Accepted);
+    EXPECT_EQ(field().text, "a\x8e") << "Mac Roman has it";
+    EXPECT_EQ(field().shownText(), "a\xc3\xa9");
+}
+
+TEST_F(DialogTest, AFieldHolds255CharactersAndNoMore) {
+    dialog_.setText(3, std::string(254, 'x'));
+    EXPECT_EQ(type(U"y"), EditOutcome::Accepted);
+    EXPECT_EQ(type(U"z"), EditOutcome::Refused);
+    dialog_.selectText(3, {0, 1});
+    EXPECT_EQ(type(U"z"), EditOutcome::Accepted) << "in place of a selected one";
+    EXPECT_EQ(field().text.size(), 255u);
+    EXPECT_EQ(dialog_.enterText(3, std::string(256, 'x')), EditOutcome::Refused);
+}
+
+TEST_F(DialogTest, ErasingTakesTheSelectionOrOneCharacterAndIsAHitEvenWhenNothingIsLeft) {
+    dialog_.setText(3, "abcd");
+    dialog_.eraseBackward();
+    EXPECT_EQ(field().text, "abc");
+    dialog_.selectText(3, {0, 2});
+    dialog_.eraseBackward();
+    EXPECT_EQ(field().text, "c");
+    dialog_.eraseForward();
+    EXPECT_EQ(field().text, "");
+    dialog_.eraseBackward();
+    dialog_.eraseForward();
+    EXPECT_EQ(hits(), (std::vector<int>{3, 3, 3, 3, 3}));
+}
+
+TEST_F(DialogTest, EnteringAWholeTextIsOneHitAndRefusedAsAWhole) {
+    EXPECT_EQ(dialog_.enterText(3, "caf\xc3\xa9"), EditOutcome::Accepted);
+    EXPECT_EQ(field().text, "caf\x8e");
+    EXPECT_EQ(dialog_.enterText(3, "x\xe4\xb8\xad"), EditOutcome::Refused);
+    EXPECT_EQ(field().text, "caf\x8e");
+    EXPECT_EQ(dialog_.enterText(1, "x"), EditOutcome::Refused) << "a button is no field";
+    EXPECT_EQ(hits(), std::vector<int>{3});
+}
+
+TEST_F(DialogTest, NothingIsTypedWhileNoFieldHasTheFocus) {
+    dialog_.setFocus(1);
+    EXPECT_EQ(type(U"5"), EditOutcome::Refused);
+    EXPECT_EQ(dialog_.eraseBackward(), EditOutcome::Refused);
+    EXPECT_TRUE(hits().empty());
+}
+
+TEST_F(DialogTest, MovingTheFocusIntoAFieldSelectsItsTextWithoutAHit) {
+    dialog_.setText(3, "abc");
+    dialog_.setFocus(1);
+    dialog_.setFocus(3);
+    EXPECT_EQ(field().selection, (TextSelection{0, 3}));
+    EXPECT_TRUE(hits().empty());
+}
+
+TEST_F(DialogTest, SelectionsStayWithinTheText) {
+    dialog_.setText(3, "abc");
+    dialog_.selectText(3, {0, 32767});
+    EXPECT_EQ(field().selection, (TextSelection{0, 3}));
+    dialog_.selectText(3, {5, 1});
+    EXPECT_EQ(field().selection, (TextSelection{3, 3}));
+}
+
+TEST_F(DialogTest, ShowingSelectsTheFocusedTextUnlessTheProgramSelectedSomething) {
+    dialog_.setText(3, "50.00");
+    dialog_.show();
+    EXPECT_EQ(field().selection, (TextSelection{0, 5}));
+    Dialog other(description(), {});
+    other.setText(3, "50.00");
+    other.selectText(3, {1, 2});
+    other.show();
+    EXPECT_EQ(other.item(3)->selection, (TextSelection{1, 2}));
+}
+
+TEST_F(DialogTest, APopupTakesOnlyEntriesThatCanBeSelected) {
+    EXPECT_EQ(dialog_.chooseEntry(5, 3), EditOutcome::Refused) << "a separator";
+    EXPECT_EQ(dialog_.chooseEntry(5, 5), EditOutcome::Refused);
+    EXPECT_EQ(dialog_.chooseEntry(5, 4), EditOutcome::Accepted);
+    EXPECT_EQ(dialog_.item(5)->value, 4);
+    EXPECT_EQ(hits(), std::vector<int>{5});
+}
+
+TEST_F(DialogTest, APopupAcceptsEveryValueUpToTheCountThatItsMenuHasByThen) {
+    dialog_.setValue(5, 9);
+    EXPECT_EQ(dialog_.item(5)->value, 4);
+    for (int i = 0; i < 5000; ++i)
+        dialog_.item(5)->menu->append({"Another", true, false});
+    dialog_.setValue(5, 5004);
+    EXPECT_EQ(dialog_.item(5)->value, 5004);
+}
+
+TEST_F(DialogTest, EnterAndEscapeStandForTheItemsThatWereAgreed) {
+    dialog_.pressKey(DialogKey::Enter);
+    EXPECT_TRUE(hits().empty());
+    dialog_.setKeyItems({1, 2});
+    dialog_.pressKey(DialogKey::Escape);
+    dialog_.pressKey(DialogKey::Enter);
+    EXPECT_EQ(hits(), (std::vector<int>{2, 1}));
+}
+
+TEST_F(DialogTest, DrawsInvalidItemsOnceInTheOrderOfTheirNumbers) {
+    dialog_.setDrawProcedure(6, recordDrawing);
+    dialog_.setDrawProcedure(4, recordDrawing);
+    gDrawn.clear();
+    dialog_.drawInvalidItems();
+    EXPECT_EQ(gDrawn, (std::vector<int>{4, 6}));
+    EXPECT_EQ(theHost().currentPort, nullptr) << "as it was before";
+    dialog_.drawInvalidItems();
+    EXPECT_EQ(gDrawn, (std::vector<int>{4, 6}));
+    dialog_.invalidate(6);
+    EXPECT_TRUE(dialog_.item(6)->invalid);
+    dialog_.drawInvalidItems();
+    EXPECT_EQ(gDrawn, (std::vector<int>{4, 6, 6}));
+}
+
+TEST_F(DialogTest, AnotherScreenGivesAFreshImageAtItsResolutionAndKeepsThePortCurrent) {
+    dialog_.setDrawProcedure(4, recordDrawing);
+    dialog_.drawInvalidItems();
+    setCurrentPort(&dialog_.port());
+    dialog_.setScreen({2.0, {0x101010, 0, 0}});
+    EXPECT_EQ(theHost().currentPort, &dialog_.port());
+    EXPECT_EQ(dialog_.port().imageWidth(), 400);
+    EXPECT_EQ(dialog_.port().pixels()[0], 0xff101010u);
+    EXPECT_TRUE(dialog_.item(4)->invalid);
+    setCurrentPort(nullptr);
+}
+
+TEST_F(DialogTest, NoPortIsCurrentOnceItsDialogIsGone) {
+    {
+        Dialog other(description(), {});
+        setCurrentPort(&other.port());
+    }
+    EXPECT_EQ(theHost().currentPort, nullptr);
+}
+
+TEST_F(DialogTest, FindsTheItemUnderAPoint) {
+    EXPECT_EQ(dialog_.itemAt({10, 10}), dialog_.item(4));
+    EXPECT_EQ(dialog_.itemAt({60, 19}), nullptr);
+}
+
+struct Recorder : DialogObserver {
+    void itemChanged(int item, ItemChange change) override { changes.emplace_back(item, change); }
+    void focusChanged() override { ++focusChanges; }
+    void shownChanged() override {}
+    void pixelsDrawn(const paint::PixelRect& area) override { drawn.push_back(area); }
+
+    std::vector<std::pair<int, ItemChange>> changes;
+    std::vector<paint::PixelRect> drawn;
+    int focusChanges = 0;
+};
+
+TEST_F(DialogTest, TellsItsObserverOnceOfManyMenuChangesAndManyDrawnPixels) {
+    Recorder recorder;
+    dialog_.setObserver(&recorder);
+    dialog_.flush();
+    recorder = {};
+    for (int i = 0; i < 100; ++i)
+        dialog_.item(5)->menu->append({"Another", true, false});
+    dialog_.port().paintRect({1, 1, 3, 3});
+    dialog_.port().paintRect({5, 5, 6, 9});
+    dialog_.flush();
+    dialog_.flush();
+    EXPECT_EQ(recorder.changes, (std::vector<std::pair<int, ItemChange>>{{5, ItemChange::Menu}}));
+    EXPECT_EQ(recorder.drawn, (std::vector<paint::PixelRect>{{1, 1, 6, 9}}));
+    dialog_.setObserver(nullptr);
+}
+
+} // namespace
+} // namespace easel::runtime

@@ -1,0 +1,120 @@
+#include "easel/runtime/MemoryBlocks.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+#include <string>
+
+#include <algorithm>
+#include <limits>
+#include <random>
+#include <utility>
+#include <vector>
+
+using namespace easel::runtime;
+
+namespace {
+
+TEST(MemoryBlocks, ANewBlockHoldsItsSizeInZeroBytes) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(70);
+    ASSERT_NE(block, nullptr);
+    EXPECT_EQ(blocks.size(block), 70U);
+    EXPECT_EQ(std::vector<char>(*block, *block + 70), std::vector<char>(70));
+    EXPECT_EQ(blocks.dispose(block), BlockOutcome::Done);
+    EXPECT_EQ(blocks.live(), 0U);
+}
+
+TEST(MemoryBlocks, AnEmptyBlockIsNotNullAndHasAnAddress) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(0);
+    ASSERT_NE(block, nullptr);
+    EXPECT_NE(*block, nullptr);
+    EXPECT_EQ(blocks.size(block), 0U);
+}
+
+TEST(MemoryBlocks, ResizingKeepsTheBytes) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(3);
+    std::memcpy(*block, "abc", 3);
+    EXPECT_EQ(blocks.resize(block, 100'000), BlockOutcome::Done);
+    EXPECT_EQ(std::memcmp(*block, "abc\0", 4), 0);
+    EXPECT_EQ(blocks.resize(block, 2), BlockOutcome::Done);
+    EXPECT_EQ(blocks.resize(block, 3), BlockOutcome::Done);
+    EXPECT_EQ(std::memcmp(*block, "ab\0", 3), 0);
+}
+
+TEST(MemoryBlocks, AppendingKeepsTheBytesAndAddsOthers) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(0);
+    EXPECT_EQ(blocks.append(block, std::string("ab")), BlockOutcome::Done);
+    EXPECT_EQ(blocks.append(block, {}), BlockOutcome::Done);
+    EXPECT_EQ(blocks.append(block, std::string("cde")), BlockOutcome::Done);
+    EXPECT_EQ(blocks.size(block), 5U);
+    EXPECT_EQ(std::memcmp(*block, "abcde", 5), 0);
+    EXPECT_EQ(blocks.append(nullptr, {}), BlockOutcome::NotABlock);
+}
+
+TEST(MemoryBlocks, ALockedBlockStaysInPlace) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(64);
+    blocks.lock(block);
+    const char* const place = *block;
+    EXPECT_EQ(blocks.resize(block, 1 << 20), BlockOutcome::Locked);
+    const std::string more(1 << 20, 'x');
+    EXPECT_EQ(blocks.append(block, more), BlockOutcome::Locked);
+    EXPECT_EQ(blocks.size(block), 64U);
+    EXPECT_EQ(blocks.resize(block, 10), BlockOutcome::Done);
+    EXPECT_EQ(*block, place);
+    blocks.unlock(block);
+    EXPECT_EQ(blocks.resize(block, 1 << 20), BlockOutcome::Done);
+}
+
+TEST(MemoryBlocks, MisuseIsCaughtAndCounted) {
+    MemoryBlocks blocks;
+    char** const block = blocks.create(8);
+    EXPECT_EQ(blocks.dispose(block), BlockOutcome::Done);
+    EXPECT_EQ(blocks.dispose(block), BlockOutcome::NotABlock);
+    EXPECT_EQ(blocks.lock(block), BlockOutcome::NotABlock);
+    EXPECT_EQ(blocks.resize(nullptr, 1), BlockOutcome::NotABlock);
+    char* stray = nullptr;
+    EXPECT_EQ(blocks.size(&stray), std::nullopt);
+    EXPECT_EQ(blocks.misuses(), 4U);
+}
+
+TEST(MemoryBlocks, AnImpossibleSizeIsRefusedAndTheBlockKept) {
+    MemoryBlocks blocks;
+    constexpr auto kTooLarge = std::numeric_limits<std::size_t>::max() / 2 + 1;
+    EXPECT_EQ(blocks.create(kTooLarge), nullptr);
+    char** const block = blocks.create(5);
+    std::memcpy(*block, "hello", 5);
+    EXPECT_EQ(blocks.resize(block, kTooLarge), BlockOutcome::NoMemory);
+    EXPECT_EQ(std::memcmp(*block, "hello", 5), 0);
+    EXPECT_EQ(blocks.live(), 1U);
+}
+
+TEST(MemoryBlocks, HundredThousandRandomOperationsLeaveEveryBlockIntact) {
+    MemoryBlocks blocks;
+    std::mt19937 random(1);
+    std::vector<std::pair<char**, std::vector<char>>> expected;
+    for (int step = 0; step < 100'000; ++step) {
+        const auto size = random() % 300;
+        if (expected.empty() || random() % 3 == 0) {
+            expected.emplace_back(blocks.create(size), std::vector<char>(size));
+        } else {
+            const auto i = random() % expected.size();
+            auto& [block, bytes] = expected[i];
+            ASSERT_TRUE(std::equal(bytes.begin(), bytes.end(), *block));
+            if (random() % 3 == 0) {
+                blocks.dispose(block);
+                expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(i));
+            } else {
+                blocks.resize(block, size);
+                bytes.assign(size, static_cast<char>(step));
+                std::memset(*block, static_cast<char>(step), size);
+            }
+        }
+        ASSERT_EQ(blocks.live(), expected.size());
+    }
+}
+
+} // namespace

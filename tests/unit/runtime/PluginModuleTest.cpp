@@ -1,0 +1,53 @@
+// Loading modules that are none.
+#include "easel/runtime/PluginModule.h"
+
+#include "tests/support/TemporaryFolder.h"
+
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using easel::runtime::PluginError;
+using easel::runtime::PluginModule;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+// Why the file cannot be loaded, behind its name.
+std::string reasonFor(const std::filesystem::path& file) {
+    try {
+        const PluginModule module(file);
+    } catch (const PluginError& error) {
+        const std::string message = error.what();
+        const std::string name = file.string() + ": ";
+        EXPECT_THAT(message, StartsWith(name));
+        return message.substr(std::min(name.size(), message.size()));
+    }
+    return "it was loaded";
+}
+
+TEST(PluginModule, NamesFileAndReasonOfWhatIsNoModule) {
+    const tests::TemporaryFolder folder;
+    tests::writeContent(folder / "text.so", "this is not a module");
+    tests::writeContent(folder / "empty.so", "");
+    EXPECT_EQ(reasonFor(folder / "missing.so"), "no such file");
+    EXPECT_EQ(reasonFor(folder.path()), "not a file");
+    EXPECT_THAT(reasonFor(folder / "text.so"), HasSubstr("cannot be loaded"));
+    EXPECT_THAT(reasonFor(folder / "empty.so"), HasSubstr("cannot be loaded"));
+}
+
+TEST(PluginModule, NeedsTheEntry) {
+    // The host's own library is a module without the entry.
+    Dl_info library{};
+    ASSERT_NE(dladdr(reinterpret_cast<const void*>(&easel::runtime::PluginModule::defaultFile), &library), 0);
+    EXPECT_THAT(reasonFor(std::filesystem::absolute(library.dli_fname)), HasSubstr("MainEntry"));
+}
+
+TEST(PluginModule, IsExpectedBesideTheProgram) {
+    const std::filesystem::path file = PluginModule::defaultFile();
+    EXPECT_EQ(file.filename(), "Gradient.so");
+    EXPECT_EQ(file.parent_path().filename(), "plugins");
+}
+
+} // namespace
