@@ -7,8 +7,8 @@
 #include "easel/export/ExportDrawing.h"
 #include "easel/runtime/PluginModule.h"
 #include "easel/runtime/TemplateFolder.h"
-#include "easel/svg/Color.h"
-#include "easel/svg/Number.h"
+#include "easel/svg/style/Color.h"
+#include "easel/svg/text/Number.h"
 
 #include <CLI/CLI.hpp>
 

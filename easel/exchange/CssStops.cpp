@@ -3,7 +3,7 @@
 
 #include "easel/exchange/CssText.h"
 #include "easel/exchange/RampApproximation.h"
-#include "easel/svg/Color.h"
+#include "easel/svg/style/Color.h"
 
 #include <algorithm>
 #include <cmath>

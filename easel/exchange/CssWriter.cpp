@@ -1,7 +1,7 @@
 // Writing a CSS gradient.
 #include "easel/exchange/CssGradient.h"
-#include "easel/svg/Color.h"
-#include "easel/svg/Number.h"
+#include "easel/svg/style/Color.h"
+#include "easel/svg/text/Number.h"
 
 #include <cmath>
 

@@ -4,11 +4,11 @@
 #include "easel/export/GradientRange.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectInk.h"
-#include "easel/svg/Color.h"
-#include "easel/svg/ElementText.h"
-#include "easel/svg/GradientText.h"
-#include "easel/svg/Number.h"
-#include "easel/svg/Transform.h"
+#include "easel/svg/style/Color.h"
+#include "easel/svg/text/Number.h"
+#include "easel/svg/text/Transform.h"
+#include "easel/svg/write/ElementText.h"
+#include "easel/svg/write/GradientText.h"
 
 #include <cmath>
 #include <map>

@@ -2,7 +2,7 @@
 #include "easel/play/NewObject.h"
 
 #include "easel/play/PlayError.h"
-#include "easel/svg/PathData.h"
+#include "easel/svg/text/PathData.h"
 
 #include <limits>
 #include <memory>

@@ -1,7 +1,7 @@
 // The icons as path data on a grid of 24 units, stroked with round ends.
 #include "easel/window/Icons.h"
 
-#include "easel/svg/PathData.h"
+#include "easel/svg/text/PathData.h"
 #include "easel/window/PathConversion.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 // Colors in the forms of CSS, against values computed by hand or taken from their definitions.
-#include "easel/svg/Color.h"
+#include "easel/svg/style/Color.h"
 
 #include <gtest/gtest.h>
 

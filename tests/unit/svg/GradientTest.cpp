@@ -2,8 +2,8 @@
 #include "tests/unit/svg/ReadHelp.h"
 
 #include "easel/drawing/GradientFit.h"
-#include "easel/svg/GradientRecord.h"
-#include "easel/svg/RecordText.h"
+#include "easel/svg/read/GradientRecord.h"
+#include "easel/svg/text/RecordText.h"
 
 #include <cmath>
 #include <limits>

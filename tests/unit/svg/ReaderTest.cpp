@@ -1,7 +1,7 @@
 // Shapes, structure and style as the reader understands them.
 #include "tests/unit/svg/ReadHelp.h"
 
-#include "easel/svg/PathData.h"
+#include "easel/svg/text/PathData.h"
 
 #include <cmath>
 

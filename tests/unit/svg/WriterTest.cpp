@@ -1,7 +1,7 @@
 // Saving: what changes in the file, and that nothing else does.
 #include "tests/unit/svg/ReadHelp.h"
 
-#include "easel/svg/RecordText.h"
+#include "easel/svg/text/RecordText.h"
 
 #include <filesystem>
 #include <fstream>

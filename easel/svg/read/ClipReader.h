@@ -1,0 +1,40 @@
+// Clip paths as elements refer to them.
+#pragma once
+
+#include "easel/svg/read/Scene.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace easel::svg {
+
+class ClipReader {
+  public:
+    explicit ClipReader(const Scene& scene) : scene_(scene) {}
+
+    // The clip that the stated style asks for, in drawing coordinates; null for none. `box` is that of the
+    // element in its own units, empty if it is not known. Throws ReadError for clip paths that refer to each
+    // other in a circle.
+    std::shared_ptr<const drawing::ClipPath> clipFor(const StatedStyle& stated, const drawing::Box& box,
+                                                     const Place& place);
+
+  private:
+    using ClipPtr = std::shared_ptr<const drawing::ClipPath>;
+
+    ClipPtr read(pugi::xml_node element, const drawing::Box& box, const Place& place);
+    void addShape(drawing::ClipPath& clip, pugi::xml_node child, const Place& place);
+
+    const Scene& scene_;
+    std::vector<pugi::xml_node> open_; // clip paths that are being read
+    // The last one read: neighbours often share it.
+    pugi::xml_node lastElement_;
+    drawing::Affine lastPlace_;
+    ClipPtr last_;
+};
+
+// A clip to a rectangle, given in units that `toDrawing` maps.
+std::shared_ptr<const drawing::ClipPath> rectangleClip(const drawing::Box& box,
+                                                       const drawing::Affine& toDrawing);
+
+} // namespace easel::svg

@@ -1,0 +1,48 @@
+#include "easel/svg/read/Notes.h"
+
+namespace easel::svg {
+
+namespace {
+
+// In the order of the enumeration.
+constexpr std::array<std::string_view, kUnshownCount> kSentences = {
+    "Text is kept in the file but not shown.",
+    "Images are kept in the file but not shown.",
+    "Content in other languages than SVG is kept in the file but not shown.",
+    "Scripts are kept in the file but not run.",
+    "Animations are kept in the file but not played.",
+    "Filter effects are kept in the file but not shown.",
+    "Masks are kept in the file but not applied.",
+    "Blend modes are kept in the file but not applied.",
+    "Pattern fills are kept in the file but not shown.",
+    "Markers on lines are kept in the file but not shown.",
+    "Strokes of fixed width are drawn with a width that scales.",
+    "Clip paths other than outlines are kept in the file but not applied.",
+    "Style sheets outside the file are not read.",
+    "Content outside the file is not read.",
+};
+
+} // namespace
+
+void Notes::addElement(std::string_view svgName) {
+    if (svgName == "text" || svgName.substr(0, 4) == "flow")
+        add(Unshown::Text);
+    else if (svgName == "image" || svgName == "video" || svgName == "canvas")
+        add(Unshown::Image);
+    else if (svgName == "foreignObject")
+        add(Unshown::Foreign);
+    else if (svgName == "script")
+        add(Unshown::Script);
+    else if (svgName == "set" || svgName.substr(0, 7) == "animate")
+        add(Unshown::Animation);
+}
+
+std::vector<std::string> Notes::sentences() const {
+    std::vector<std::string> result;
+    for (std::size_t i = 0; i < kUnshownCount; ++i)
+        if (seen_[i])
+            result.emplace_back(kSentences[i]);
+    return result;
+}
+
+} // namespace easel::svg

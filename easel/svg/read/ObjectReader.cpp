@@ -1,0 +1,170 @@
+#include "easel/svg/read/ObjectReader.h"
+
+#include "easel/svg/read/GradientRecord.h"
+#include "easel/svg/text/RecordText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace easel::svg {
+
+using drawing::ColorPaint;
+using drawing::FillPattern;
+using drawing::ForeignGradient;
+using drawing::Kind;
+using drawing::NoPaint;
+using drawing::Object;
+using drawing::Paint;
+using drawing::Style;
+
+namespace {
+
+constexpr std::size_t kRecentStyles = 16;
+
+// The record that is written beside the gradient, as long as it still tells the same as the gradient itself:
+// other programs change the one and leave the other.
+std::optional<CGradientData> writtenRecord(const GradientElement& element, const ForeignGradient& placed,
+                                           const drawing::Path& outline) {
+    auto record = parseRecord(element.record);
+    if (!record)
+        return std::nullopt;
+    const auto standard = standardGradient(*record, outline);
+    if (standard && !alike(*standard, placed))
+        return std::nullopt;
+    return record;
+}
+
+Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) {
+    if (kind == PaintSpec::Kind::Color)
+        return spec.color;
+    if (kind == PaintSpec::Kind::CurrentColor)
+        return style.color;
+    return NoPaint();
+}
+
+Paint kept(PlacedPaint placed) {
+    if (auto* const foreign = std::get_if<ForeignGradient>(&placed))
+        return std::make_shared<const ForeignGradient>(std::move(*foreign));
+    if (const auto* const color = std::get_if<ColorPaint>(&placed))
+        return *color;
+    return NoPaint();
+}
+
+FillPattern patternOf(const Paint& fill) {
+    if (std::holds_alternative<NoPaint>(fill))
+        return FillPattern::None;
+    const auto* const color = std::get_if<ColorPaint>(&fill);
+    return color && *color == ColorPaint{} ? FillPattern::SolidBlack : FillPattern::Other;
+}
+
+} // namespace
+
+Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opacity, const Place& place) {
+    scene_.budget.spend(Budget::kObject + shape.outline.points().size());
+    Object object;
+    object.kind = shape.kind;
+    object.id = element.attribute("id").value();
+    object.fillRule = place.style.fillRule;
+    object.outline = placedPath(shape.outline, place.toDrawing);
+    object.units = sharedUnits(place.toDrawing);
+    const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
+    setFill(object, at, place.style);
+    // A path that is neither closed nor filled is a line; only closed shapes take a gradient.
+    if (object.kind == Kind::Path && object.fillPattern == FillPattern::None && !object.outline.closed())
+        object.kind = Kind::Polyline;
+
+    Style style;
+    style.stroke.paint = paint(place.style.stroke, at, place.style);
+    style.opacity = opacity;
+    style.fillOpacity = place.style.fillOpacity;
+    style.first = place.style.first;
+    if (!std::holds_alternative<NoPaint>(style.stroke.paint)) {
+        requireInRange(place.style.strokeWidth);
+        requireInRange(place.style.miterLimit);
+        requireInRange(place.style.dashOffset);
+        style.stroke.opacity = place.style.strokeOpacity;
+        style.stroke.width = std::max(place.style.strokeWidth, 0.0);
+        style.stroke.join = place.style.join;
+        style.stroke.cap = place.style.cap;
+        style.stroke.miterLimit = place.style.miterLimit;
+        style.stroke.dashOffset = place.style.dashOffset;
+        if (place.style.dashes)
+            style.stroke.dashes = *place.style.dashes;
+    }
+    object.style = shared(std::move(style));
+    return object;
+}
+
+void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedStyle& style) {
+    const GradientElement* const element = gradientOf(style.fill);
+    if (!element) {
+        object.fill = paintWithoutGradient(style.fill, style);
+    } else {
+        PlacedPaint placed = place(*element, at);
+        const auto* const foreign = std::get_if<ForeignGradient>(&placed);
+        if (foreign && carriesGradient(object.kind) && setGradient(object, *element, *foreign))
+            return;
+        object.fill = kept(std::move(placed));
+    }
+    object.fillPattern = patternOf(object.fill);
+}
+
+bool ObjectReader::setGradient(Object& object, const GradientElement& element,
+                               const ForeignGradient& placed) {
+    auto record = writtenRecord(element, placed, object.outline);
+    if (!record)
+        record = recordFor(placed, object.outline);
+    if (!record)
+        return false;
+    object.gradient = drawing::ObjectGradient(new CGradient(*record));
+    object.fillPattern = FillPattern::SolidBlack;
+    return true;
+}
+
+const GradientElement* ObjectReader::gradientOf(const PaintSpec& spec) const {
+    return spec.kind == PaintSpec::Kind::Server ? scene_.servers.gradient(spec.serverId) : nullptr;
+}
+
+Paint ObjectReader::paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const {
+    const GradientElement* const element = gradientOf(spec);
+    return element ? kept(place(*element, at)) : paintWithoutGradient(spec, style);
+}
+
+PlacedPaint ObjectReader::place(const GradientElement& element, const PaintPlace& at) const {
+    scene_.budget.spend(element.stops.size());
+    return placedGradient(element, at);
+}
+
+Paint ObjectReader::paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const {
+    if (spec.kind != PaintSpec::Kind::Server)
+        return plainPaint(spec.kind, spec, style);
+    if (spec.serverId.empty())
+        scene_.notes.add(Unshown::External);
+    else if (scene_.tree.svgName(scene_.tree.byId(spec.serverId)) == "pattern")
+        scene_.notes.add(Unshown::Pattern);
+    return plainPaint(spec.fallback, spec, style);
+}
+
+std::shared_ptr<const drawing::Affine> ObjectReader::sharedUnits(const drawing::Affine& units) {
+    if (units == drawing::Affine())
+        return nullptr;
+    if (!lastUnits_ || *lastUnits_ != units)
+        lastUnits_ = std::make_shared<const drawing::Affine>(units);
+    return lastUnits_;
+}
+
+ObjectReader::StylePtr ObjectReader::shared(Style style) {
+    if (style == drawing::plainStyle())
+        return nullptr;
+    for (const StylePtr& known : recent_)
+        if (*known == style)
+            return known;
+    auto made = std::make_shared<const Style>(std::move(style));
+    if (recent_.size() < kRecentStyles)
+        recent_.push_back(made);
+    else
+        recent_[nextRecent_++ % kRecentStyles] = made;
+    return made;
+}
+
+} // namespace easel::svg

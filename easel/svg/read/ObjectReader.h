@@ -1,0 +1,41 @@
+// Makes objects of shape elements.
+#pragma once
+
+#include "easel/drawing/Object.h"
+#include "easel/svg/read/Scene.h"
+#include "easel/svg/read/Shapes.h"
+
+#include <memory>
+#include <vector>
+
+namespace easel::svg {
+
+class ObjectReader {
+  public:
+    explicit ObjectReader(const Scene& scene) : scene_(scene) {}
+
+    // The object without its group. `place` is inside the element: its style and units are the element's own.
+    drawing::Object read(pugi::xml_node element, const Shape& shape, double opacity, const Place& place);
+
+  private:
+    using StylePtr = std::shared_ptr<const drawing::Style>;
+
+    void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
+    // False if no record can tell what the gradient is on the object.
+    static bool setGradient(drawing::Object& object, const GradientElement& element,
+                            const drawing::ForeignGradient& placed);
+    drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const;
+    drawing::Paint paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const;
+    // Null if the paint is no gradient of the file.
+    const GradientElement* gradientOf(const PaintSpec& spec) const;
+    PlacedPaint place(const GradientElement& element, const PaintPlace& at) const;
+    StylePtr shared(drawing::Style style);
+    std::shared_ptr<const drawing::Affine> sharedUnits(const drawing::Affine& units);
+
+    const Scene& scene_;
+    std::vector<StylePtr> recent_; // styles of the last objects: neighbours mostly look alike
+    std::size_t nextRecent_ = 0;
+    std::shared_ptr<const drawing::Affine> lastUnits_; // of the last object that has any of its own
+};
+
+} // namespace easel::svg

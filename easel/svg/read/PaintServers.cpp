@@ -1,0 +1,142 @@
+#include "easel/svg/read/PaintServers.h"
+
+#include "easel/svg/style/Color.h"
+#include "easel/svg/style/ComputedStyle.h"
+#include "easel/svg/text/RecordText.h"
+#include "easel/svg/text/Scanner.h"
+#include "easel/svg/text/Transform.h"
+
+#include <algorithm>
+#include <string>
+
+namespace easel::svg {
+
+using drawing::ColorPaint;
+using drawing::ForeignStop;
+using drawing::Spread;
+
+namespace {
+
+constexpr std::size_t kLongestChain = 1000;
+
+bool isGradient(std::string_view name) {
+    return name == "linearGradient" || name == "radialGradient";
+}
+
+std::optional<Spread> parseSpread(std::string_view text) {
+    if (text == "reflect")
+        return Spread::Reflect;
+    if (text == "repeat")
+        return Spread::Repeat;
+    return Spread::Pad;
+}
+
+// The element and those it refers to, nearest first.
+class Chain {
+  public:
+    Chain(const XmlTree& tree, pugi::xml_node element) {
+        while (element && isGradient(tree.svgName(element))) {
+            if (std::find(elements_.begin(), elements_.end(), element) != elements_.end() ||
+                elements_.size() == kLongestChain)
+                throw ReadError{Fault::Circular, "the gradient \"" +
+                                                     std::string(element.attribute("id").value()) +
+                                                     "\" refers to itself by way of others"};
+            elements_.push_back(element);
+            element = tree.byId(localId(hrefOf(element)));
+        }
+    }
+
+    const std::vector<pugi::xml_node>& elements() const { return elements_; }
+
+    // The attribute of the nearest element that has it.
+    std::string_view attribute(const char* name) const {
+        for (const pugi::xml_node element : elements_)
+            if (const pugi::xml_attribute found = element.attribute(name))
+                return trimmed(found.value());
+        return {};
+    }
+    // The same among the elements of one kind: geometry is not taken over from the other one.
+    const char* geometry(const char* name) const {
+        for (const pugi::xml_node element : elements_)
+            if (std::string_view(element.name()) == elements_.front().name())
+                if (const pugi::xml_attribute found = element.attribute(name))
+                    return found.value();
+        return "";
+    }
+
+  private:
+    std::vector<pugi::xml_node> elements_;
+};
+
+} // namespace
+
+const GradientElement* PaintServers::gradient(std::string_view id) {
+    const auto number = idNumber(id);
+    if (!number)
+        return nullptr;
+    const GradientElement*& known = byIdNumber_[*number];
+    const pugi::xml_node element = tree_.withIds()[*number].element;
+    if (!known && isGradient(tree_.svgName(element)))
+        known = &read(element);
+    return known;
+}
+
+// Shapes mostly ask for gradients in the order of the file. Trying the next one first spares large drawings a
+// look into the table of ids, which waits for memory.
+std::optional<std::size_t> PaintServers::idNumber(std::string_view id) {
+    const auto& withIds = tree_.withIds();
+    const bool isNext = nextId_ < withIds.size() && withIds[nextId_].id == id;
+    const auto number = isNext ? std::optional(nextId_) : tree_.idNumber(id);
+    if (number)
+        nextId_ = *number + 1;
+    return number;
+}
+
+const GradientElement& PaintServers::read(pugi::xml_node element) {
+    const Chain chain(tree_, element);
+    GradientElement& gradient = read_.emplace_back(&memory_);
+    if (chain.attribute("gradientUnits") == "userSpaceOnUse")
+        gradient.units = GradientUnits::UserSpaceOnUse;
+    gradient.transform = parseTransform(chain.attribute("gradientTransform")).value_or(drawing::Affine());
+    gradient.spread = parseSpread(chain.attribute("spreadMethod")).value_or(Spread::Pad);
+    const auto text = [&chain](const char* name) { return chain.geometry(name); };
+    if (tree_.svgName(element) == "linearGradient")
+        gradient.geometry = LineTexts{text("x1"), text("y1"), text("x2"), text("y2")};
+    else
+        gradient.geometry =
+            CircleTexts{text("cx"), text("cy"), text("r"), text("fx"), text("fy"), text("fr")};
+    for (const pugi::xml_node link : chain.elements()) {
+        readStops(link, gradient.stops);
+        if (!gradient.stops.empty())
+            break;
+    }
+    gradient.record = element.attribute(kRecordAttribute).value();
+    return gradient;
+}
+
+void PaintServers::readStops(pugi::xml_node element, std::pmr::vector<ForeignStop>& stops) const {
+    const auto isStop = [this](pugi::xml_node child) { return tree_.svgName(child) == "stop"; };
+    stops.reserve(static_cast<std::size_t>(std::count_if(element.begin(), element.end(), isStop)));
+    double last = 0;
+    for (const pugi::xml_node child : element.children()) {
+        if (!isStop(child))
+            continue;
+        const StatedStyle style = cascade_.of(child);
+        last = std::max(last, parseOpacity(child.attribute("offset").value(), 0));
+        const std::string_view stated = style[Property::StopColor];
+        const bool current = equalIgnoringCase(stated, "currentcolor");
+        const ColorPaint color = current ? colorAt(child) : parseColor(stated).value_or(ColorPaint{});
+        stops.push_back({last, color.color, color.opacity * parseOpacity(style[Property::StopOpacity], 1)});
+    }
+}
+
+ColorPaint PaintServers::colorAt(pugi::xml_node element) const {
+    for (; element.type() == pugi::node_element; element = element.parent()) {
+        const std::string stated(cascade_.of(element)[Property::Color]);
+        if (const auto color = parseColor(stated); color && !equalIgnoringCase(stated, "currentcolor"))
+            return *color;
+    }
+    return {};
+}
+
+} // namespace easel::svg

@@ -1,0 +1,39 @@
+// What all parts of the reader share while one file is read.
+#pragma once
+
+#include "easel/drawing/Group.h"
+#include "easel/svg/read/Notes.h"
+#include "easel/svg/read/PaintServers.h"
+#include "easel/svg/style/ComputedStyle.h"
+#include "easel/svg/text/ReadError.h"
+#include "easel/svg/text/XmlTree.h"
+
+#include <cstdint>
+
+namespace easel::svg {
+
+struct Scene {
+    const XmlTree& tree;
+    const Cascade& cascade;
+    PaintServers& servers;
+    Budget& budget;
+    Notes& notes;
+};
+
+// Where in the drawing an element is read.
+struct Place {
+    ComputedStyle style;
+    LengthContext lengths;
+    drawing::Affine toDrawing;
+    drawing::GroupPtr group;
+    std::uint32_t use = 0; // the repetition that is being read
+    int depth = 0;
+};
+
+// The path in drawing coordinates. Throws ReadError if a coordinate is beyond what is computed with.
+drawing::Path placedPath(const drawing::Path& path, const drawing::Affine& toDrawing);
+
+// Throws ReadError unless the number is one that can be computed with.
+void requireInRange(double value);
+
+} // namespace easel::svg

@@ -1,0 +1,24 @@
+// The outlines of shape elements.
+#pragma once
+
+#include "easel/drawing/Object.h"
+#include "easel/svg/text/Length.h"
+#include "easel/svg/text/XmlTree.h"
+
+#include <optional>
+#include <string_view>
+
+namespace easel::svg {
+
+struct Shape {
+    drawing::Kind kind = drawing::Kind::Path;
+    drawing::Path outline; // in the element's own units
+};
+
+bool isShape(std::string_view svgName);
+
+// Nothing if the element is no shape or its shape is empty.
+std::optional<Shape> readShape(pugi::xml_node element, std::string_view svgName,
+                               const LengthContext& lengths);
+
+} // namespace easel::svg

@@ -1,0 +1,53 @@
+// Style as elements hand it down to what they hold.
+#pragma once
+
+#include "easel/drawing/Paint.h"
+#include "easel/drawing/Path.h"
+#include "easel/drawing/Style.h"
+#include "easel/svg/style/Property.h"
+#include "easel/svg/text/Length.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace easel::svg {
+
+// A paint as it is stated: servers are looked up when the shape is known.
+struct PaintSpec {
+    enum class Kind : std::uint8_t { None, Color, CurrentColor, Server };
+    Kind kind = Kind::None;
+    Kind fallback = Kind::None; // of a server that is missing: None, Color or CurrentColor
+    drawing::ColorPaint color;  // for Color, also as the fallback
+    std::string_view serverId;
+};
+
+struct ComputedStyle {
+    PaintSpec fill{PaintSpec::Kind::Color, PaintSpec::Kind::None, {}, {}};
+    PaintSpec stroke;
+    drawing::ColorPaint color;
+    double fillOpacity = 1;
+    double strokeOpacity = 1;
+    double strokeWidth = 1;
+    double miterLimit = 4;
+    double dashOffset = 0;
+    double fontSize = 16;
+    std::shared_ptr<const std::vector<double>> dashes; // null: solid
+    drawing::FillRule fillRule = drawing::FillRule::NonZero;
+    drawing::FillRule clipRule = drawing::FillRule::NonZero;
+    drawing::LineJoin join = drawing::LineJoin::Miter;
+    drawing::LineCap cap = drawing::LineCap::Butt;
+    drawing::PaintStep first = drawing::PaintStep::Fill;
+    bool visible = true;
+
+    // The style of an element in one with this style. Font sizes in `lengths` are brought up to date.
+    ComputedStyle inherited(const StatedStyle& stated, LengthContext& lengths) const;
+};
+
+// Nothing for a paint that is not understood.
+std::optional<PaintSpec> parsePaint(std::string_view text);
+
+// 0 to 1, from a number or percentage; `otherwise` if the text is neither.
+double parseOpacity(std::string_view text, double otherwise);
+
+} // namespace easel::svg

@@ -1,0 +1,170 @@
+#include "easel/svg/style/Css.h"
+
+#include "easel/svg/text/Scanner.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace easel::svg {
+
+namespace {
+
+// Without comments and the marks that hide a sheet from very old programs.
+std::string withoutComments(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const std::size_t begin = std::min(text.find("/*"), text.size());
+        result += text.substr(0, begin);
+        if (begin == text.size())
+            break;
+        const std::size_t end = text.find("*/", begin + 2);
+        text = end == std::string_view::npos ? std::string_view() : text.substr(end + 2);
+        result += ' ';
+    }
+    for (const std::string_view mark : {"<!--", "-->"})
+        for (std::size_t at = result.find(mark); at != std::string::npos; at = result.find(mark, at))
+            result.replace(at, mark.size(), mark.size(), ' ');
+    return result;
+}
+
+// The length of the text before the first of `ends` that is not inside quotes or brackets.
+std::size_t lengthUntil(std::string_view text, std::string_view ends) {
+    char quote = 0;
+    int depth = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (quote) {
+            quote = c == quote ? '\0' : quote;
+            continue;
+        }
+        if (depth == 0 && ends.find(c) != std::string_view::npos)
+            return i;
+        if (c == '"' || c == '\'')
+            quote = c;
+        else if (c == '(' || c == '[')
+            ++depth;
+        else if ((c == ')' || c == ']') && depth > 0)
+            --depth;
+    }
+    return text.size();
+}
+
+// Takes a block, whose '{' is first, with everything inside it.
+std::string_view takeBlock(std::string_view& text) {
+    int depth = 0;
+    std::size_t at = 0;
+    while (at < text.size()) {
+        at += lengthUntil(text.substr(at), "{}");
+        if (at == text.size())
+            break;
+        depth += text[at] == '{' ? 1 : -1;
+        ++at;
+        if (depth == 0)
+            break;
+    }
+    const std::string_view block = text.substr(1, at < 2 ? 0 : at - 2);
+    text.remove_prefix(at);
+    return block;
+}
+
+// One declaration's value without its mark of importance.
+Declaration declaration(std::string_view name, std::string_view value) {
+    Declaration result{trimmed(name), trimmed(value)};
+    const std::size_t mark = result.value.rfind('!');
+    if (mark != std::string_view::npos &&
+        equalIgnoringCase(trimmed(result.value.substr(mark + 1)), "important")) {
+        result.value = trimmed(result.value.substr(0, mark));
+        result.importance = Importance::Important;
+    }
+    return result;
+}
+
+} // namespace
+
+std::vector<Declaration> parseDeclarations(std::string_view text) {
+    std::vector<Declaration> result;
+    while (!text.empty()) {
+        const std::size_t end = lengthUntil(text, ";");
+        const std::string_view part = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::size_t colon = part.find(':');
+        if (colon != std::string_view::npos)
+            result.push_back(declaration(part.substr(0, colon), part.substr(colon + 1)));
+    }
+    return result;
+}
+
+void StyleSheet::add(const std::string& text) {
+    texts_.push_back(std::make_unique<const std::string>(withoutComments(text)));
+    std::string_view rest = trimmed(*texts_.back());
+    while (!rest.empty()) {
+        const std::size_t head = lengthUntil(rest, "{;");
+        std::string_view selectors = rest.substr(0, head);
+        rest.remove_prefix(head);
+        if (rest.empty())
+            return;
+        if (rest.front() == ';') {
+            rest = trimmed(rest.substr(1));
+            continue;
+        }
+        const std::string_view block = takeBlock(rest);
+        rest = trimmed(rest);
+        if (selectors.front() == '@')
+            continue;
+        const auto declarations = std::make_shared<const std::vector<Declaration>>(parseDeclarations(block));
+        while (!selectors.empty()) {
+            const std::size_t end = lengthUntil(selectors, ",");
+            if (auto selector = parseSelector(selectors.substr(0, end)))
+                addRule(std::move(*selector), declarations);
+            selectors.remove_prefix(std::min(end + 1, selectors.size()));
+        }
+    }
+}
+
+void StyleSheet::addRule(Selector selector, std::shared_ptr<const std::vector<Declaration>> declarations) {
+    const CompoundSelector& last = selector.compounds.front();
+    const std::size_t number = rules_.size();
+    if (!last.id.empty())
+        byId_[last.id].push_back(number);
+    else if (!last.classes.empty())
+        byClass_[last.classes.front()].push_back(number);
+    else if (!last.element.empty())
+        byElement_[last.element].push_back(number);
+    else
+        others_.push_back(number);
+    rules_.push_back({std::move(selector), std::move(declarations)});
+}
+
+std::vector<Declaration> StyleSheet::declarationsFor(const SelectorSubject& subject) const {
+    std::vector<std::size_t> candidates = others_;
+    const auto addBucket = [&candidates](const Bucket& bucket, std::string_view key) {
+        if (const auto found = bucket.find(std::string(key)); found != bucket.end())
+            candidates.insert(candidates.end(), found->second.begin(), found->second.end());
+    };
+    addBucket(byElement_, subject.elementName());
+    if (const char* const id = subject.attribute("id"))
+        addBucket(byId_, id);
+    if (const char* const classes = subject.attribute("class")) {
+        std::string_view rest = trimmed(classes);
+        while (!rest.empty()) {
+            const auto* const end = std::find_if(rest.begin(), rest.end(), isSpace);
+            const auto count = static_cast<std::size_t>(end - rest.begin());
+            addBucket(byClass_, rest.substr(0, count));
+            rest = trimmed(rest.substr(count));
+        }
+    }
+    std::vector<std::tuple<std::uint32_t, std::size_t>> matching;
+    for (const std::size_t number : candidates)
+        if (rules_[number].selector.matches(subject))
+            matching.emplace_back(rules_[number].selector.specificity(), number);
+    std::sort(matching.begin(), matching.end());
+    matching.erase(std::unique(matching.begin(), matching.end()), matching.end());
+    std::vector<Declaration> result;
+    for (const auto& [specificity, number] : matching)
+        result.insert(result.end(), rules_[number].declarations->begin(), rules_[number].declarations->end());
+    return result;
+}
+
+} // namespace easel::svg

@@ -1,0 +1,53 @@
+// Style sheets with simple selectors, and the declarations of style attributes.
+#pragma once
+
+#include "easel/svg/style/CssSelector.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace easel::svg {
+
+enum class Importance : std::uint8_t { Normal, Important };
+
+// "name: value". Both point into the text they were read from.
+struct Declaration {
+    std::string_view name;
+    std::string_view value;
+    Importance importance = Importance::Normal;
+};
+
+// "name: value; name: value"
+std::vector<Declaration> parseDeclarations(std::string_view text);
+
+class StyleSheet {
+  public:
+    // Adds the rules of a sheet, which are stronger than equal ones added before. Rules with selectors of
+    // other kinds and at-rules are passed over.
+    void add(const std::string& text);
+
+    bool empty() const { return rules_.empty(); }
+    // Declarations of all rules that match, weakest first.
+    std::vector<Declaration> declarationsFor(const SelectorSubject& subject) const;
+
+  private:
+    struct Rule {
+        Selector selector;
+        std::shared_ptr<const std::vector<Declaration>> declarations;
+    };
+    using Bucket = std::unordered_map<std::string, std::vector<std::size_t>>;
+
+    void addRule(Selector selector, std::shared_ptr<const std::vector<Declaration>> declarations);
+
+    std::vector<std::unique_ptr<const std::string>> texts_; // what the declarations point into
+    std::vector<Rule> rules_;
+    // Rules by what their last compound asks first, so that an element looks at few of them.
+    Bucket byId_, byClass_, byElement_;
+    std::vector<std::size_t> others_;
+};
+
+} // namespace easel::svg

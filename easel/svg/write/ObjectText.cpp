@@ -1,0 +1,169 @@
+#include "easel/svg/write/ObjectText.h"
+
+#include "easel/svg/style/Color.h"
+#include "easel/svg/text/Number.h"
+#include "easel/svg/text/Transform.h"
+#include "easel/svg/write/ElementText.h"
+
+#include <array>
+
+namespace easel::svg {
+
+using drawing::Affine;
+using drawing::Box;
+using drawing::ColorPaint;
+using drawing::ForeignGradient;
+using drawing::Kind;
+using drawing::Object;
+using drawing::Path;
+using drawing::Point;
+using drawing::Stroke;
+using drawing::Style;
+
+namespace {
+
+std::string pointsText(const Path& path) {
+    std::string text;
+    for (const Point p : path.points()) {
+        text += text.empty() ? "" : " ";
+        text += numberText(p.x) + ',' + numberText(p.y);
+    }
+    return text;
+}
+
+struct Element {
+    std::string name;
+    std::string geometry;
+};
+
+// Nothing for outlines that the element of their kind cannot say; those become paths.
+std::optional<Element> rectangleElement(const Path& path) {
+    const Box box = path.bounds();
+    std::string geometry = attribute("x", box.left) + attribute("y", box.top) +
+                           attribute("width", box.width()) + attribute("height", box.height());
+    if (path == drawing::rectanglePath(box))
+        return Element{"rect", geometry};
+    if (path.points().size() != 17)
+        return std::nullopt;
+    const double rx = path.points()[0].x - box.left;
+    const double ry = path.points()[4].y - box.top;
+    if (path != drawing::roundedRectanglePath(box, rx, ry))
+        return std::nullopt;
+    return Element{"rect", geometry + attribute("rx", rx) + attribute("ry", ry)};
+}
+
+std::optional<Element> ellipseElement(const Path& path) {
+    if (path.points().size() != 13)
+        return std::nullopt;
+    const Point centre{path.points()[3].x, path.points()[0].y};
+    const double rx = path.points()[0].x - centre.x;
+    const double ry = path.points()[3].y - centre.y;
+    if (path != drawing::ellipsePath(centre, rx, ry))
+        return std::nullopt;
+    return Element{"ellipse", attribute("cx", centre.x) + attribute("cy", centre.y) + attribute("rx", rx) +
+                                  attribute("ry", ry)};
+}
+
+std::vector<Point> pointsOf(const Path& path) {
+    return {path.points().begin(), path.points().end()};
+}
+
+std::optional<Element> pointsElement(const char* name, const Path& path) {
+    const bool closed = path == drawing::polygonPath(pointsOf(path));
+    const bool open = path == drawing::polylinePath(pointsOf(path));
+    if (name == std::string_view("polygon") ? !closed : !open)
+        return std::nullopt;
+    return Element{name, attribute("points", pointsText(path))};
+}
+
+std::optional<Element> lineElement(const Path& path) {
+    if (path.points().size() != 2 || path != drawing::polylinePath(pointsOf(path)))
+        return std::nullopt;
+    const Point from = path.points()[0];
+    const Point to = path.points()[1];
+    return Element{"line", attribute("x1", from.x) + attribute("y1", from.y) + attribute("x2", to.x) +
+                               attribute("y2", to.y)};
+}
+
+Element elementFor(Kind kind, const Path& path) {
+    std::optional<Element> element;
+    if (kind == Kind::Rect)
+        element = rectangleElement(path);
+    else if (kind == Kind::Ellipse)
+        element = ellipseElement(path);
+    else if (kind == Kind::Polygon)
+        element = pointsElement("polygon", path);
+    else if (kind == Kind::Polyline)
+        element = pointsElement("polyline", path);
+    else if (kind == Kind::Line)
+        element = lineElement(path);
+    return element ? *element : Element{"path", attribute("d", pathText(path))};
+}
+
+std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock& gradients) {
+    static constexpr std::array<const char*, 3> kJoins = {"miter", "round", "bevel"};
+    static constexpr std::array<const char*, 3> kCaps = {"butt", "round", "square"};
+    std::string text;
+    double opacity = stroke.opacity;
+    if (const auto* const color = std::get_if<ColorPaint>(&stroke.paint)) {
+        text = attribute("stroke", colorText(color->color));
+        opacity *= color->opacity;
+    } else if (const auto* const foreign =
+                   std::get_if<std::shared_ptr<const ForeignGradient>>(&stroke.paint)) {
+        text = attribute("stroke", gradients.addForeign(**foreign, object));
+    } else {
+        return text;
+    }
+    text += attribute("stroke-width", stroke.width);
+    text += attributeUnless(1, "stroke-opacity", opacity);
+    text += attribute("stroke-linejoin", kJoins[static_cast<std::size_t>(stroke.join)]);
+    text += attribute("stroke-linecap", kCaps[static_cast<std::size_t>(stroke.cap)]);
+    text += attribute("stroke-miterlimit", stroke.miterLimit);
+    if (!stroke.dashes.empty()) {
+        std::string dashes;
+        for (const double dash : stroke.dashes) {
+            dashes += dashes.empty() ? "" : " ";
+            dashes += numberText(dash);
+        }
+        text += attribute("stroke-dasharray", dashes) + attribute("stroke-dashoffset", stroke.dashOffset);
+    }
+    return text;
+}
+
+std::string fillAttributes(const Object& object, GradientBlock& gradients) {
+    std::string fill = fillText(object, gradients);
+    double opacity = styleOf(object).fillOpacity;
+    if (const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill);
+        foreign && fill.empty())
+        fill = gradients.addForeign(**foreign, object);
+    if (const auto* const color = std::get_if<ColorPaint>(&object.fill); color && !object.showsGradient())
+        opacity *= color->opacity;
+    std::string text = attribute("fill", fill.empty() ? "none" : fill);
+    text += attributeUnless(1, "fill-opacity", opacity);
+    if (object.fillRule == drawing::FillRule::EvenOdd)
+        text += attribute("fill-rule", "evenodd");
+    return text;
+}
+
+} // namespace
+
+std::string objectText(const Object& object, const Affine& placeToDrawing, const std::string& prefix,
+                       GradientBlock& gradients) {
+    const Affine own = unitsOf(object);
+    const bool ownUnits = own.invertible();
+    const Affine units = ownUnits ? own : placeToDrawing;
+    const Path outline = units == Affine() ? object.outline : object.outline.transformed(units.inverse());
+    const Element element = elementFor(object.kind, outline);
+    const Style& style = styleOf(object);
+    std::string text = '<' + prefix + element.name;
+    text += attribute("id", object.id.text()) + element.geometry;
+    if (const Affine transform = placeToDrawing.inverse() * units; transform != Affine())
+        text += attribute("transform", transformText(transform));
+    text += fillAttributes(object, gradients) + strokeText(object, style.stroke, gradients);
+    text += attributeUnless(1, "opacity", style.opacity);
+    if (style.first == drawing::PaintStep::Stroke)
+        text += attribute("paint-order", "stroke");
+    return text + "/>";
+}
+
+} // namespace easel::svg

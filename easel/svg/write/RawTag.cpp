@@ -1,0 +1,102 @@
+#include "easel/svg/write/RawTag.h"
+
+#include "easel/svg/style/Css.h"
+#include "easel/svg/text/Scanner.h"
+#include "easel/svg/text/Tags.h"
+
+#include <algorithm>
+
+namespace easel::svg {
+
+namespace {
+
+bool endsName(char c) {
+    return isSpace(c) || c == '=' || c == '/' || c == '>' || c == '"' || c == '\'';
+}
+
+} // namespace
+
+RawTag::RawTag(std::string_view text, std::size_t begin)
+    : text_(text), begin_(begin), end_(tagEnd(text, begin)), attributesEnd_(begin) {
+    const auto nameEnd = [&](std::size_t at) {
+        while (at < end_ && !endsName(text[at]))
+            ++at;
+        return at;
+    };
+    const auto skipSpaces = [&](std::size_t at) {
+        while (at < end_ && isSpace(text[at]))
+            ++at;
+        return at;
+    };
+    std::size_t at = nameEnd(begin + 1);
+    name_ = text.substr(begin + 1, at - begin - 1);
+    attributesEnd_ = at;
+    while (true) {
+        const std::size_t from = at;
+        const std::size_t nameBegin = skipSpaces(at);
+        at = nameEnd(nameBegin);
+        const std::string_view name = text.substr(nameBegin, at - nameBegin);
+        at = skipSpaces(at);
+        if (name.empty() || at >= end_ || text[at] != '=')
+            return;
+        at = skipSpaces(at + 1);
+        if (at >= end_ || (text[at] != '"' && text[at] != '\''))
+            return;
+        const std::size_t close = std::min(text.find(text[at], at + 1), end_ - 1);
+        attributes_.push_back({name, {at + 1, close}, {from, close + 1}});
+        at = attributesEnd_ = close + 1;
+    }
+}
+
+bool RawTag::closesItself() const {
+    return svg::closesItself(text_, end_);
+}
+
+const RawAttribute* RawTag::find(std::string_view name) const {
+    const auto found = std::find_if(attributes_.begin(), attributes_.end(),
+                                    [name](const RawAttribute& attribute) { return attribute.name == name; });
+    return found == attributes_.end() ? nullptr : &*found;
+}
+
+std::string_view RawTag::value(std::string_view name) const {
+    const RawAttribute* const attribute = find(name);
+    return attribute ? text_.substr(attribute->value.begin, attribute->value.end - attribute->value.begin)
+                     : std::string_view();
+}
+
+void stateFill(Splices& splices, std::string_view text, const RawTag& tag, const std::string& fill,
+               FillStatement statement) {
+    const RawAttribute* const style = tag.find("style");
+    const std::string_view styleText = tag.value("style");
+    const std::string strong = statement == FillStatement::Style ? " !important" : "";
+    // Of several declarations the last one counts.
+    const Declaration* stated = nullptr;
+    const std::vector<Declaration> declarations = parseDeclarations(styleText);
+    for (const Declaration& declaration : declarations)
+        if (declaration.name == "fill")
+            stated = &declaration;
+    if (stated) {
+        const auto begin = static_cast<std::size_t>(stated->value.data() - text.data());
+        const bool isStrong = stated->importance == Importance::Important;
+        splices.replace(begin, begin + stated->value.size(), isStrong ? fill : fill + strong);
+        return;
+    }
+    // A style that is written by way of an entity may hold a fill, too; what comes after it is stronger.
+    const bool hidden = styleText.find('&') != std::string_view::npos;
+    if (statement == FillStatement::Style || hidden) {
+        if (!style) {
+            splices.insert(tag.attributesEnd(), " style=\"fill:" + fill + strong + '"');
+            return;
+        }
+        const std::string_view before = trimmed(styleText);
+        const std::string separator = before.empty() || before.back() == ';' ? "" : ";";
+        splices.insert(style->value.end, separator + "fill:" + fill + strong);
+        return;
+    }
+    if (const RawAttribute* const attribute = tag.find("fill"))
+        splices.replace(attribute->value.begin, attribute->value.end, fill);
+    else
+        splices.insert(tag.attributesEnd(), " fill=\"" + fill + '"');
+}
+
+} // namespace easel::svg

@@ -1,0 +1,92 @@
+#include "easel/svg/write/Repetition.h"
+
+#include "easel/svg/text/Tags.h"
+#include "easel/svg/write/RawTag.h"
+
+#include <algorithm>
+#include <array>
+
+namespace easel::svg {
+
+namespace {
+
+bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::string_view textOf(const std::string& text, Span span) {
+    return std::string_view(text).substr(span.begin, span.end - span.begin);
+}
+
+// The tag's attributes as they are written, but for some.
+std::string attributesWithout(const std::string& text, const RawTag& tag,
+                              std::initializer_list<std::string_view> left) {
+    std::string result;
+    for (const RawAttribute& attribute : tag.attributes())
+        if (!isOneOf(attribute.name, left))
+            result += textOf(text, attribute.whole);
+    return result;
+}
+
+// The tag's attributes of these names.
+std::string attributesOf(const std::string& text, const RawTag& tag,
+                         std::initializer_list<std::string_view> names) {
+    std::string result;
+    for (const RawAttribute& attribute : tag.attributes())
+        if (isOneOf(attribute.name, names))
+            result += textOf(text, attribute.whole);
+    return result;
+}
+
+// An id may stand in one place of a file only, and that is where it was.
+void removeIds(const std::string& text, std::size_t begin, std::size_t end, Splices& splices) {
+    std::size_t at = begin;
+    while ((at = text.find('<', at)) < end) {
+        const RawTag tag(text, at);
+        if (const RawAttribute* const id = tag.find("id"))
+            splices.replace(id->whole.begin, id->whole.end, "");
+        at = tag.span().end;
+    }
+}
+
+} // namespace
+
+std::string writtenOut(const std::string& text, const Repetition& repetition, const std::string& prefix,
+                       Splices& splices) {
+    const RawTag use(text, repetition.useTag);
+    const RawTag target(text, repetition.targetTag);
+    const std::size_t targetEnd = elementEnd(text, repetition.targetTag);
+    removeIds(text, repetition.targetTag, targetEnd, splices);
+    const std::string group = prefix + "g";
+    const std::string viewport = prefix + "svg";
+    const std::string open =
+        '<' + group + attributesWithout(text, use, {"href", "xlink:href", "x", "y", "width", "height"}) + '>';
+    const std::string close = "</" + group + '>';
+
+    const bool isSymbol = target.name() == prefix + "symbol";
+    if (isSymbol || target.name() == viewport) {
+        std::string tag = '<' + viewport + attributesOf(text, use, {"width", "height"});
+        // The place in the file counts for the element that stands there, the size unless `use` gives
+        // another.
+        const bool width = use.find("width") != nullptr;
+        const bool height = use.find("height") != nullptr;
+        tag += attributesWithout(text, target,
+                                 {"id", width ? "width" : "id", height ? "height" : "id", "x", "y"}) +
+               '>';
+        const std::size_t contentBegin = target.span().end;
+        const std::string content =
+            target.closesItself()
+                ? ""
+                : splices.applied(text, contentBegin, contentEnd(text, repetition.targetTag));
+        const std::string place = attributesOf(text, use, {"x", "y"});
+        return open + (place.empty() ? "" : '<' + viewport + place + " overflow=\"visible\">") + tag +
+               content + "</" + viewport + '>' + (place.empty() ? "" : "</" + viewport + '>') + close;
+    }
+    const std::string copy = splices.applied(text, repetition.targetTag, targetEnd);
+    const std::string place = attributesOf(text, use, {"x", "y"});
+    if (place.empty())
+        return open + copy + close;
+    return open + '<' + viewport + place + " overflow=\"visible\">" + copy + "</" + viewport + '>' + close;
+}
+
+} // namespace easel::svg

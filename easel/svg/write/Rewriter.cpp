@@ -1,0 +1,188 @@
+#include "easel/svg/write/Rewriter.h"
+
+#include "easel/svg/text/Tags.h"
+#include "easel/svg/write/ObjectText.h"
+#include "easel/svg/write/RawTag.h"
+#include "easel/svg/write/Repetition.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+
+namespace easel::svg {
+
+using drawing::Drawing;
+using drawing::ElementSpan;
+using drawing::FillOrigin;
+using drawing::ObjectPtr;
+
+namespace {
+
+std::string lineBreakOf(const std::string& text) {
+    const std::size_t first = text.find('\n');
+    return first != std::string::npos && first > 0 && text[first - 1] == '\r' ? "\r\n" : "\n";
+}
+
+// All that the text refers to as "#id".
+std::unordered_set<std::string> referencedIds(const std::string& text) {
+    std::unordered_set<std::string> ids;
+    for (std::size_t at = text.find('#'); at != std::string::npos; at = text.find('#', at + 1)) {
+        const std::size_t end = text.find_first_of("\"')& \t\r\n", at);
+        ids.insert(text.substr(at + 1, std::min(end, text.size()) - at - 1));
+    }
+    return ids;
+}
+
+// Removes an element together with the blanks that set it on a line of its own.
+void removeElement(Splices& splices, const std::string& text, std::size_t tag) {
+    std::size_t begin = tag;
+    while (begin > 0 && (text[begin - 1] == ' ' || text[begin - 1] == '\t'))
+        --begin;
+    const std::size_t end = elementEnd(text, tag);
+    const bool ownLine = begin > 0 && text[begin - 1] == '\n' &&
+                         (end == text.size() || text[end] == '\n' || text[end] == '\r');
+    if (ownLine)
+        begin -= begin > 1 && text[begin - 2] == '\r' ? 2 : 1;
+    splices.replace(ownLine ? begin : tag, end, "");
+}
+
+} // namespace
+
+Rewriter::Rewriter(const Drawing& drawing, const Source& source)
+    : drawing_(drawing), source_(source), text_(source.text()), lineBreak_(lineBreakOf(text_)),
+      gradients_(text_, source.prefix) {}
+
+void Rewriter::gatherChanges() {
+    std::vector<ElementSpan> present;
+    std::vector<ObjectPtr> added;
+    drawing_.forEach([&](const ObjectPtr& object) {
+        if (object->source.inFile())
+            present.push_back(object->source);
+    });
+    std::vector<ElementSpan> known = source_.objects;
+    std::sort(known.begin(), known.end());
+    std::sort(present.begin(), present.end());
+    std::vector<ElementSpan> missing;
+    std::set_difference(known.begin(), known.end(), present.begin(), present.end(),
+                        std::back_inserter(missing));
+    for (const ElementSpan& element : missing)
+        addChange(element, {});
+
+    std::set<ElementSpan> written;
+    const bool repeated = std::adjacent_find(present.begin(), present.end()) != present.end();
+    drawing_.forEach([&](const ObjectPtr& object) {
+        // Of several copies of one object the first stays in its element and the others get elements of their
+        // own.
+        const bool isFirst = !repeated || written.insert(object->source).second;
+        if (!object->source.inFile() || !isFirst)
+            newObjects_.push_back(objectText(*object, source_.rootToDrawing, source_.prefix, gradients_));
+        else if (object->fillOrigin == FillOrigin::Edited)
+            if (std::string fill = fillText(*object, gradients_); !fill.empty())
+                addChange(object->source, std::move(fill));
+    });
+}
+
+void Rewriter::addChange(const ElementSpan& element, std::string fill) {
+    changes_[element.use].push_back({element.tagBegin, std::move(fill)});
+    // A repetition with a change is written out, and so are those around it.
+    for (std::uint32_t inner = element.use; inner != 0;) {
+        const std::uint32_t outer = source_.repetitions[inner - 1].parent;
+        std::vector<std::uint32_t>& known = changedInside_[outer];
+        if (std::find(known.begin(), known.end(), inner) != known.end())
+            break;
+        known.push_back(inner);
+        inner = outer;
+    }
+}
+
+void Rewriter::applyChanges(std::uint32_t repetition, Splices& splices) const {
+    const FillStatement statement = source_.sheetsStateFill ? FillStatement::Style : FillStatement::Attribute;
+    if (const auto found = changes_.find(repetition); found != changes_.end()) {
+        for (const Change& change : found->second) {
+            if (change.fill.empty() && source_.chosen.contains(change.tag))
+                // Without it the switch would show another of its elements.
+                splices.replace(change.tag, elementEnd(text_, change.tag), '<' + source_.prefix + "g/>");
+            else if (change.fill.empty())
+                removeElement(splices, text_, change.tag);
+            else
+                stateFill(splices, text_, RawTag(text_, change.tag), change.fill, statement);
+        }
+    }
+    if (const auto found = changedInside_.find(repetition); found != changedInside_.end()) {
+        for (const std::uint32_t inner : found->second) {
+            const std::size_t use = source_.repetitions[inner - 1].useTag;
+            splices.replace(use, elementEnd(text_, use), expanded(inner));
+        }
+    }
+}
+
+std::string Rewriter::expanded(std::uint32_t repetition) const {
+    const Repetition& place = source_.repetitions[repetition - 1];
+    Splices splices;
+    applyChanges(repetition, splices);
+    return writtenOut(text_, place, source_.prefix, splices);
+}
+
+std::string Rewriter::keptGradients(const std::string& newText) const {
+    if (source_.ownBlock.empty())
+        return {};
+    const std::unordered_set<std::string> referenced = referencedIds(newText);
+    std::string kept;
+    const std::size_t end = contentEnd(text_, source_.ownBlock.begin);
+    std::size_t at = text_.find('<', RawTag(text_, source_.ownBlock.begin).span().end);
+    while (at < end) {
+        const RawTag tag(text_, at);
+        const std::size_t after = elementEnd(text_, at);
+        if (referenced.contains(std::string(tag.value("id"))))
+            kept += lineBreak_ + text_.substr(at, after - at);
+        at = text_.find('<', after);
+    }
+    return kept;
+}
+
+void Rewriter::addBlock(Splices& splices) const {
+    // The text without the block shows which of its old gradients are still needed.
+    Splices outside = splices;
+    outside.replace(source_.ownBlock.begin, source_.ownBlock.end, "");
+    const std::string kept =
+        source_.ownBlock.empty() ? "" : keptGradients(outside.applied(text_, 0, text_.size()));
+    const std::string elements = kept + gradients_.text(lineBreak_);
+    const std::string name = source_.prefix + "defs";
+    const std::string block = '<' + name + ' ' + kOwnBlockAttribute + "=\"" + kOwnBlockValue + "\">" +
+                              elements + lineBreak_ + "</" + name + '>';
+    if (source_.ownBlock.empty() && !elements.empty())
+        splices.insert(tagEnd(text_, source_.rootTag), lineBreak_ + block);
+    else if (!source_.ownBlock.empty() && elements.empty())
+        removeElement(splices, text_, source_.ownBlock.begin);
+    else if (!source_.ownBlock.empty())
+        splices.replace(source_.ownBlock.begin, source_.ownBlock.end, block);
+}
+
+void Rewriter::addNewObjects(Splices& splices) const {
+    if (newObjects_.empty())
+        return;
+    std::string content;
+    for (const std::string& object : newObjects_)
+        content += object + lineBreak_;
+    const RawTag root(text_, source_.rootTag);
+    const std::size_t rootEnd = root.span().end;
+    if (!root.closesItself()) {
+        splices.insert(contentEnd(text_, source_.rootTag), content);
+        return;
+    }
+    splices.insert(rootEnd, lineBreak_ + content + "</" + std::string(root.name()) + '>');
+    splices.replace(rootEnd - 2, rootEnd, ">");
+}
+
+std::string Rewriter::rewritten() {
+    gatherChanges();
+    if (changes_.empty() && newObjects_.empty())
+        return source_.bytes;
+    Splices splices;
+    applyChanges(0, splices);
+    addBlock(splices);
+    addNewObjects(splices);
+    return splices.applied(text_, source_.bytes, source_.encoding);
+}
+
+} // namespace easel::svg

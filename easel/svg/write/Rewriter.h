@@ -1,0 +1,50 @@
+// Carries the changes of a drawing over into the text of the file that it came from.
+#pragma once
+
+#include "easel/drawing/Drawing.h"
+#include "easel/svg/text/Source.h"
+#include "easel/svg/write/GradientText.h"
+#include "easel/svg/write/Splices.h"
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace easel::svg {
+
+class Rewriter {
+  public:
+    Rewriter(const drawing::Drawing& drawing, const Source& source);
+
+    // The bytes of the file with the changes in it; without changes those that were read.
+    std::string rewritten();
+
+  private:
+    // A change of one element, as it stands or as one repetition makes it.
+    struct Change {
+        std::size_t tag = 0;
+        std::string fill; // empty: the element goes
+    };
+
+    void gatherChanges();
+    void addChange(const drawing::ElementSpan& element, std::string fill);
+
+    // Adds what happens to the elements that one repetition made (0: that stand in the file) to the splices.
+    void applyChanges(std::uint32_t repetition, Splices& splices) const;
+    std::string expanded(std::uint32_t repetition) const;
+    void addBlock(Splices& splices) const;
+    std::string keptGradients(const std::string& newText) const;
+    void addNewObjects(Splices& splices) const;
+
+    const drawing::Drawing& drawing_;
+    const Source& source_;
+    const std::string& text_;
+    std::string lineBreak_;
+    GradientBlock gradients_;
+    std::vector<std::string> newObjects_;
+    // By repetition: changes of its own elements, and repetitions inside it that have changes.
+    std::unordered_map<std::uint32_t, std::vector<Change>> changes_;
+    std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> changedInside_;
+};
+
+} // namespace easel::svg
