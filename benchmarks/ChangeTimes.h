@@ -3,7 +3,7 @@
 
 #include "benchmarks/Timing.h"
 #include "easel/drawing/Drawing.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <vector>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "easel/drawing/Path.h"
-#include "easel/paint/Gradient.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/gradient/Gradient.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <optional>
 

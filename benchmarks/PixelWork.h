@@ -2,7 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Path.h"
-#include "easel/paint/Gradient.h"
+#include "easel/paint/gradient/Gradient.h"
 
 #include <optional>
 #include <string>

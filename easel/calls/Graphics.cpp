@@ -1,7 +1,7 @@
 // The graphics environment: filling paths with gradients, feedback lines, and small numbers and sounds beside
 // them.
-#include "easel/paint/Gradient.h"
 #include "easel/paint/Painter.h"
+#include "easel/paint/gradient/Gradient.h"
 #include "easel/runtime/Host.h"
 #include "easel/runtime/HostGraphics.h"
 #include "easel/runtime/HostPoint.h"

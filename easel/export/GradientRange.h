@@ -1,7 +1,7 @@
 // Gradients brought into the range that other formats allow: stops from 0 to 1.
 #pragma once
 
-#include "easel/paint/Gradient.h"
+#include "easel/paint/gradient/Gradient.h"
 
 #include <optional>
 

@@ -3,8 +3,8 @@
 
 #include "easel/export/Progress.h"
 #include "easel/files/FileError.h"
-#include "easel/paint/Parallel.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Parallel.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <cstdint>
 #include <vector>

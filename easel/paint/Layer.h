@@ -3,7 +3,7 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 
 namespace easel::paint {
 

@@ -3,8 +3,8 @@
 
 #include "easel/drawing/GradientFit.h"
 #include "easel/drawing/Object.h"
-#include "easel/paint/Gradient.h"
 #include "easel/paint/Painter.h"
+#include "easel/paint/gradient/Gradient.h"
 
 #include <optional>
 

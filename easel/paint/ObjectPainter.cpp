@@ -6,7 +6,7 @@
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
 #include "easel/paint/ObjectInk.h"
-#include "easel/paint/Stroker.h"
+#include "easel/paint/stroke/Stroker.h"
 
 namespace easel::paint {
 

@@ -1,10 +1,10 @@
 // The way of a fill: outline to edges, edges to rows, rows to the shader of the ink.
 #include "easel/paint/Painter.h"
 
-#include "easel/paint/FlatShader.h"
-#include "easel/paint/OutlineEdges.h"
-#include "easel/paint/PointShader.h"
-#include "easel/paint/RadialShader.h"
+#include "easel/paint/coverage/OutlineEdges.h"
+#include "easel/paint/gradient/FlatShader.h"
+#include "easel/paint/gradient/PointShader.h"
+#include "easel/paint/gradient/RadialShader.h"
 
 #include <cmath>
 

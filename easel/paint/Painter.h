@@ -3,12 +3,12 @@
 
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
-#include "easel/paint/Gradient.h"
-#include "easel/paint/LinearShader.h"
-#include "easel/paint/RadialPiece.h"
-#include "easel/paint/RampSegments.h"
-#include "easel/paint/Rasteriser.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/coverage/Rasteriser.h"
+#include "easel/paint/gradient/Gradient.h"
+#include "easel/paint/gradient/LinearShader.h"
+#include "easel/paint/gradient/RadialPiece.h"
+#include "easel/paint/gradient/RampSegments.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <span>
 #include <variant>

@@ -2,7 +2,7 @@
 // resolution.
 #pragma once
 
-#include "easel/paint/PixelGeometry.h"
+#include "easel/paint/pixels/PixelGeometry.h"
 
 #include <array>
 #include <cstdint>

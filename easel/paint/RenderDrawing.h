@@ -2,8 +2,8 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
-#include "easel/paint/Parallel.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Parallel.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <span>
 

@@ -2,7 +2,7 @@
 // behind it.
 #pragma once
 
-#include "easel/paint/PixelGeometry.h"
+#include "easel/paint/pixels/PixelGeometry.h"
 #include "easel/runtime/DialogItem.h"
 
 #include <cstdint>

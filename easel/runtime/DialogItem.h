@@ -1,7 +1,7 @@
 // One item of a dialog: what it is, where it lies and what it shows.
 #pragma once
 
-#include "easel/paint/PixelGeometry.h"
+#include "easel/paint/pixels/PixelGeometry.h"
 #include "easel/runtime/Menus.h"
 
 #include <cstddef>

@@ -3,7 +3,7 @@
 
 #include "easel/paint/Port.h"
 #include "easel/paint/RenderDrawing.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 #include "easel/runtime/CurrentPort.h"
 #include "easel/runtime/Host.h"
 #include "easel/runtime/User.h"

@@ -1,7 +1,7 @@
 // How the feedback of a drag looks.
 #pragma once
 
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 #include "easel/runtime/DrawingWindow.h"
 
 #include <vector>

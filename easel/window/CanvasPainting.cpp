@@ -1,5 +1,5 @@
 // What the canvas shows: the ground, the page with the drawing, and what lies on top of it.
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 #include "easel/window/Canvas.h"
 #include "easel/window/PathConversion.h"
 #include "easel/window/Theme.h"

@@ -2,7 +2,7 @@
 #include "easel/window/CursorImages.h"
 
 #include "easel/paint/RenderDrawing.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 #include "easel/runtime/PluginResourceFile.h"
 #include "easel/svg/Document.h"
 

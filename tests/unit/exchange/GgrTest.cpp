@@ -1,5 +1,5 @@
 #include "easel/exchange/Ggr.h"
-#include "easel/paint/Ramp.h"
+#include "easel/paint/gradient/Ramp.h"
 
 #include <cmath>
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 // Pictures of drawings made by Cairo and librsvg.
 #pragma once
 
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <filesystem>
 #include <functional>

@@ -1,7 +1,7 @@
 // Compares two pictures of one drawing made by different programs.
 #pragma once
 
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 // shortcut.
 #pragma once
 
-#include "easel/paint/Gradient.h"
+#include "easel/paint/gradient/Gradient.h"
 
 #include <algorithm>
 #include <cmath>

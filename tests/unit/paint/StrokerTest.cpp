@@ -1,5 +1,5 @@
 // Strokes against geometry: how far from the outline a point lies decides whether the pen covers it.
-#include "easel/paint/Stroker.h"
+#include "easel/paint/stroke/Stroker.h"
 #include "easel/paint/Painter.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // The image of a drawing window and the host's operations on its objects.
 #include "easel/runtime/DrawingWindow.h"
-#include "easel/paint/Surface.h"
+#include "easel/paint/pixels/Surface.h"
 #include "easel/runtime/Host.h"
 #include "easel/runtime/PickFilter.h"
 #include "easel/runtime/Snap.h"

@@ -1,0 +1,152 @@
+// Exact-area coverage: edges leave signed changes of coverage in the columns they pass, a running sum turns
+// them into coverage.
+#include "easel/paint/coverage/Rasteriser.h"
+
+#include "easel/paint/coverage/CoverageKernels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+namespace easel::paint {
+
+namespace {
+
+constexpr std::int64_t kUnit = kFullCoverage;
+constexpr double kSteepest = 1e10; // parts of a pixel per column
+
+drawing::Point atHeight(drawing::Point from, drawing::Point to, double y) {
+    return {from.x + (to.x - from.x) * ((y - from.y) / (to.y - from.y)), y};
+}
+
+} // namespace
+
+void Rasteriser::begin(const PixelBox& clip) {
+    clip_ = clip.empty() ? PixelBox{} : clip;
+    left_ = clip_.left;
+    right_ = clip_.right;
+    leftmost_ = right_;
+    rightmost_ = left_;
+    highest_ = clip_.bottom * kUnit;
+    lowest_ = clip_.top * kUnit;
+    edges_.clear();
+    active_.clear();
+}
+
+void Rasteriser::addEdge(drawing::Point from, drawing::Point to) {
+    if (!drawing::isFinite(from) || !drawing::isFinite(to) || from.y == to.y)
+        return;
+    const double top = clip_.top;
+    const double bottom = clip_.bottom;
+    if (std::max(from.y, to.y) <= top || std::min(from.y, to.y) >= bottom)
+        return;
+    const drawing::Point whole[] = {from, to};
+    const double low = std::clamp(whole[0].y, top, bottom);
+    const double high = std::clamp(whole[1].y, top, bottom);
+    if (low != from.y)
+        from = atHeight(whole[0], whole[1], low);
+    if (high != to.y)
+        to = atHeight(whole[0], whole[1], high);
+    addInside(from, to);
+}
+
+// Parts beyond the left border count as lying on it; parts beyond the right border do not matter.
+void Rasteriser::addInside(drawing::Point from, drawing::Point to) {
+    const int winding = from.y < to.y ? 1 : -1;
+    if (winding < 0)
+        std::swap(from, to);
+    const auto heightAt = [&](double x) {
+        return std::clamp(from.y + (to.y - from.y) * ((x - from.x) / (to.x - from.x)), from.y, to.y);
+    };
+    const auto beyond = [&](double x) { return x < left_ ? -1 : x > right_ ? 1 : 0; };
+    if (beyond(from.x) == 0 && beyond(to.x) == 0)
+        return addSloped(from, to, winding);
+    double cuts[] = {from.y, from.y, to.y, to.y};
+    if (beyond(from.x) != beyond(to.x)) {
+        cuts[1] = beyond(from.x) == 0 ? from.y : heightAt(from.x < left_ ? left_ : right_);
+        cuts[2] = beyond(to.x) == 0 ? to.y : heightAt(to.x < left_ ? left_ : right_);
+    }
+    const auto xAt = [&](double y) {
+        return y == from.y ? from.x : y == to.y ? to.x : atHeight(from, to, y).x;
+    };
+    for (int part = 0; part < 3; ++part) {
+        const double top = cuts[part];
+        const double bottom = cuts[part + 1];
+        if (top >= bottom)
+            continue;
+        const double x = xAt((top + bottom) / 2);
+        if (x < left_)
+            addSloped({left_, top}, {left_, bottom}, winding);
+        else if (x > right_)
+            rightmost_ = right_;
+        else
+            addSloped({std::clamp(xAt(top), left_, right_), top},
+                      {std::clamp(xAt(bottom), left_, right_), bottom}, winding);
+    }
+}
+
+void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int winding) {
+    // Heights lie within the surface, so they are never negative, and cutting off costs less than rounding.
+    // NOLINTBEGIN(bugprone-incorrect-roundings)
+    const auto top = static_cast<std::int64_t>(upper.y * kUnit + 0.5);
+    const auto bottom = static_cast<std::int64_t>(lower.y * kUnit + 0.5);
+    // NOLINTEND(bugprone-incorrect-roundings)
+    if (top >= bottom)
+        return;
+    const auto height = static_cast<double>(bottom - top);
+    const double way = lower.x - upper.x;
+    // Steeper ones stay in a column so long that their rise does not matter.
+    const double rise = std::min(height / std::abs(way), kSteepest);
+    edges_.push_back({top, bottom, upper.x, way / height, static_cast<float>(rise * winding), winding});
+    leftmost_ = std::min({leftmost_, upper.x, lower.x});
+    rightmost_ = std::max({rightmost_, upper.x, lower.x});
+    highest_ = std::min(highest_, top);
+    lowest_ = std::max(lowest_, bottom);
+}
+
+PixelBox Rasteriser::bounds() const {
+    if (edges_.empty())
+        return {};
+    return {static_cast<int>(leftmost_), static_cast<int>(highest_ / kUnit),
+            static_cast<int>(std::ceil(rightmost_)), static_cast<int>((lowest_ + kUnit - 1) / kUnit)};
+}
+
+void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {
+    // Edges leave changes up to one column right of them.
+    band_.reserve(static_cast<int>(rightmost_) + 1);
+    lists_.reserve(clip_.left, clip_.right, band_.columns());
+    std::sort(edges_.begin(), edges_.end(), [](const Edge& a, const Edge& b) { return a.top < b.top; });
+    auto next = edges_.begin();
+    for (std::int64_t top = 0; next != edges_.end() || !active_.empty(); top += kBandRows) {
+        if (active_.empty())
+            top = next->top / kUnit;
+        for (; next != edges_.end() && next->top < (top + kBandRows) * kUnit; ++next)
+            active_.push_back(*next);
+        sweepBand(top, rule, sink);
+    }
+}
+
+void Rasteriser::sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink) {
+    addEdges(active_, top, left_, right_, band_);
+    std::erase_if(active_, [](const Edge& edge) { return edge.top == edge.bottom; });
+    const std::int64_t bottom = std::min((lowest_ + kUnit - 1) / kUnit, top + kBandRows);
+    for (std::int64_t row = top; row < bottom; ++row) {
+        const RowCoverage coverage = collect(static_cast<std::size_t>(row - top), rule);
+        if (!coverage.empty())
+            sink.row(static_cast<int>(row), coverage);
+    }
+}
+
+// Forgets the changes.
+RowCoverage Rasteriser::collect(std::size_t row, drawing::FillRule rule) {
+    constexpr std::size_t kWord = TouchedBlocks::kInWord;
+    const std::size_t first = static_cast<std::size_t>(leftmost_) / kCoverageBlock / kWord * kWord;
+    const std::size_t end = ((static_cast<std::size_t>(rightmost_) + 1) / kCoverageBlock / kWord + 1) * kWord;
+    std::uint8_t* touched = band_.touched(row);
+    sumCoverage({band_.changes(row), touched, first, end}, rule, lists_);
+    std::memset(touched + first, 0, end - first);
+    return lists_.row();
+}
+
+} // namespace easel::paint

@@ -1,0 +1,163 @@
+// Rows of linear gradients.
+#include "easel/paint/gradient/LinearShader.h"
+
+#include "easel/paint/gradient/SegmentWalk.h"
+
+#include <cmath>
+#include <limits>
+
+namespace easel::paint {
+
+namespace {
+
+constexpr int kEndless = std::numeric_limits<int>::max();
+
+} // namespace
+
+// Walks along a row. Its places are the segments in the order in which the row meets them, which is backwards
+// where the parameter falls to the right.
+class LinearShader::Track {
+  public:
+    Track(const LinearShader& shader, int y)
+        : shader_(shader), segments_(shader.segments_.all().data()), last_(shader.segments_.all().size() - 1),
+          perPixel_(shader.perPixel_), pixelsPerUnit_(shader.pixelsPerUnit_),
+          first_(shader.origin_ + shader.perRow_ * y), left_(shader.surface_.clip().left - 1),
+          right_(shader.surface_.clip().right), y_(y + 0.5) {}
+
+    double parameter(int x) const { return first_ + perPixel_ * x; }
+    std::size_t place() const { return place_; }
+    std::size_t index() const { return rises() ? place_ : last_ - place_; }
+    // The first pixel beyond the present place.
+    int end() const { return end_; }
+
+    // Goes to the place of a pixel, which is likely to be near that where the row before began.
+    void enter(int x) {
+        if (level()) {
+            const std::size_t segment = shader_.segments_.find(first_);
+            place_ = rises() ? segment : last_ - segment;
+            end_ = kEndless;
+            return;
+        }
+        place_ = shader_.firstPlace_;
+        // No further than the pixel before, since rounding decides which place has this one.
+        while (place_ > 0 && !reaches(parameter(x - 1), border(place_ - 1)))
+            --place_;
+        end_ = endOf(place_);
+        while (end_ <= x)
+            next();
+    }
+    // The next place may have no pixels.
+    void next() { end_ = endOf(++place_); }
+
+  private:
+    // The whole row has one color.
+    bool level() const { return !std::isfinite(pixelsPerUnit_); }
+    bool rises() const { return perPixel_ >= 0; }
+    // Where the next place begins.
+    const RampSegment& border(std::size_t place) const {
+        return segments_[rises() ? place + 1 : last_ - place];
+    }
+    bool reaches(double parameter, const RampSegment& border) const {
+        return (parameter >= border.start) == rises();
+    }
+    int endOf(std::size_t place) const { return place == last_ ? kEndless : pixelBeyond(border(place)); }
+    // The first pixel on the far side of a segment's start.
+    int pixelBeyond(const RampSegment& segment) const {
+        const double crossing = std::min(std::max((segment.start - first_) * pixelsPerUnit_, left_), right_);
+        // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
+        const int whole = static_cast<int>(crossing);
+        const int near = whole + (crossing > whole ? 1 : 0);
+        if (!segment.sharp)
+            return near;
+        if (beyond(segment, near - 1))
+            return near - 1;
+        return beyond(segment, near) ? near : near + 1;
+    }
+    bool beyond(const RampSegment& segment, int x) const {
+        return reaches(shader_.map_.at({x + 0.5, y_}), segment);
+    }
+
+    const LinearShader& shader_;
+    const RampSegment* segments_;
+    std::size_t last_; // segment
+    double perPixel_;
+    double pixelsPerUnit_;
+    double first_; // parameter at the centre of the row's pixel 0
+    double left_;
+    double right_;
+    double y_;
+    std::size_t place_ = 0;
+    int end_ = 0;
+};
+
+LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, const RampSegments& segments,
+                           double opacity, LinearScratch& scratch)
+    : surface_(surface), map_(map), segments_(segments), opacity_(opacity),
+      perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared),
+      perRow_(dot(map.toGradient.direction({0, 1}), map.axis) / map.lengthSquared),
+      origin_(map.at({0.5, 0.5})), pixelsPerUnit_(1 / perPixel_), pieces_(scratch.pieces),
+      stretches_(scratch.stretches) {
+    stretches_.resize(segments_.all().size());
+    pieces_.clear();
+    for (const RampSegment& segment : segments_.all()) {
+        pieces_.emplace_back(segment, perPixel_);
+        (hides(segment) ? anyHides_ : anyMixes_) = true;
+    }
+}
+
+void LinearShader::row(int y, const RowCoverage& coverage) {
+    std::uint32_t* pixels = surface_.row(y);
+    Track track(*this, y);
+    if (anyHides_) {
+        layOut(track, coverage.extent());
+        if (!coverage.full.empty())
+            fillLinear(pixels, coverage.full, stretches_.data());
+        if (!coverage.partial.empty())
+            blendLinear(pixels, coverage.partial, stretches_.data(), coverage.coverage);
+    }
+    if (anyMixes_) {
+        mix(pixels, coverage.full, track, [](int) { return std::uint32_t{kFullCoverage}; });
+        mix(pixels, coverage.partial, track, [&](int x) { return coverage.coverage[x]; });
+    }
+}
+
+bool LinearShader::hides(const RampSegment& segment) const {
+    return opacity_ == 1 && segment.opaque();
+}
+
+void LinearShader::layOut(Track& track, const PixelSpan& extent) {
+    track.enter(extent.begin);
+    firstPlace_ = track.place();
+    LinearStretch* stretch = stretches_.data();
+    for (int x = extent.begin;; track.next()) {
+        const int end = std::min(track.end(), extent.end);
+        if (end <= x)
+            continue;
+        const std::size_t index = track.index();
+        pieces_[index].layOut(x, end, track.parameter(x), *stretch);
+        if (anyMixes_ && !hides(segments_.all()[index]))
+            stretch->steps = nullptr;
+        if (end == extent.end)
+            return;
+        ++stretch;
+        x = end;
+    }
+}
+
+// Pixel by pixel where what is below shows through.
+template <class CoverageOf>
+void LinearShader::mix(std::uint32_t* pixels, std::span<const PixelSpan> spans, Track& track,
+                       const CoverageOf& coverageOf) const {
+    if (spans.empty())
+        return;
+    BlendQueue queue(pixels);
+    const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
+    const auto paint = [&](int begin, int end, const PixelSpan&) {
+        if (!hides(present()))
+            for (int x = begin; x < end; ++x)
+                queue.add(present(), x, track.parameter(x), shareOf(coverageOf(x), opacity_));
+    };
+    walkSegments(spans, track, paint, [&] { queue.flush(present()); });
+}
+
+} // namespace easel::paint

@@ -1,0 +1,54 @@
+// Paints linear gradients: each row is cut where the ramp reaches a stop, and each piece is an arithmetic
+// progression.
+#pragma once
+
+#include "easel/paint/coverage/Coverage.h"
+#include "easel/paint/gradient/LinearPiece.h"
+#include "easel/paint/gradient/ParameterMap.h"
+#include "easel/paint/gradient/RampSegments.h"
+#include "easel/paint/pixels/Surface.h"
+
+#include <vector>
+
+namespace easel::paint {
+
+// Memory that is kept from one shader to the next.
+struct LinearScratch {
+    std::vector<LinearPiece> pieces;
+    std::vector<LinearStretch> stretches;
+};
+
+class LinearShader : public CoverageSink {
+  public:
+    // `segments` covers the parameters of every pixel that will be painted; it and `scratch` must outlive the
+    // shader.
+    LinearShader(const SurfaceView& surface, const LinearMap& map, const RampSegments& segments,
+                 double opacity, LinearScratch& scratch);
+    void row(int y, const RowCoverage& coverage) override;
+
+  private:
+    class Track;
+
+    bool hides(const RampSegment& segment) const;
+    void layOut(Track& track, const PixelSpan& extent);
+    template <class CoverageOf>
+    void mix(std::uint32_t* pixels, std::span<const PixelSpan> spans, Track& track,
+             const CoverageOf& coverageOf) const;
+
+    SurfaceView surface_;
+    LinearMap map_;
+    const RampSegments& segments_;
+    double opacity_;
+    double perPixel_; // change of the parameter from a pixel to its right neighbor
+    double perRow_;   // and to the one below
+    double origin_;   // the parameter at the centre of pixel (0, 0)
+    double pixelsPerUnit_;
+    std::size_t firstPlace_ = 0; // where the row before began
+    // Whether there are segments that hide what is below, and others.
+    bool anyHides_ = false;
+    bool anyMixes_ = false;
+    std::vector<LinearPiece>& pieces_;      // of the segments
+    std::vector<LinearStretch>& stretches_; // of the present row
+};
+
+} // namespace easel::paint

@@ -1,0 +1,61 @@
+// Whole-number form of a segment.
+#include "easel/paint/gradient/RadialPiece.h"
+
+#include <cmath>
+
+namespace easel::paint {
+
+namespace {
+
+// Ways and slopes of 16 bits, with some room for rounding, share the 2 to the 15 units between them.
+constexpr double kUnitsALevel = 256 * 32768.0 / 32704.0;
+constexpr double kWholeWay = 32768;
+
+// Nine significant bits, so that its products with the numbers of pixels in a row are exact in single
+// precision.
+double fewBits(double value) {
+    int exponent = 0;
+    const double fraction = std::frexp(value, &exponent);
+    return std::ldexp(std::nearbyint(fraction * 512) / 512, exponent);
+}
+
+// Nothing where a segment is so steep that its numbers overflow; it is not painted from them then.
+std::uint32_t half(double value) {
+    if (!(std::abs(value) <= 0xFFFF))
+        return 0;
+    return static_cast<std::uint32_t>(static_cast<std::int64_t>(std::floor(value + 0.5))) & 0xFFFF;
+}
+
+} // namespace
+
+RadialPiece::RadialPiece(const RadialRows& rows, const RampSegment& segment)
+    : circle_(rows.circle(segment.start)), flat_(segment.flat()) {
+    middle_ = segment.anchor + segment.reach / 2;
+    if (!flat_) {
+        step_ = fewBits(segment.steepest * kUnitsALevel * rows.scale());
+        toUnits_ = step_ / rows.scale();
+    }
+    std::array<std::uint32_t, 3> color;
+    std::array<std::uint32_t, 3> slope{};
+    const Channels middle = segment.at(middle_);
+    for (std::size_t i = 0; i < color.size(); ++i) {
+        color[i] = half(middle[i] * 256 + 128);
+        if (!flat_)
+            slope[i] = half(segment.slope[i] * 256 / toUnits_ * kWholeWay);
+    }
+    colors_ = {color[2] << 16 | color[0], 0xFF000000 | color[1], slope[2] << 16 | slope[0], slope[1]};
+}
+
+void RadialPiece::paint(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
+    if (flat_) {
+        const std::uint32_t blueRed = colors_.blueRed >> 8 & 0xFF00FF;
+        std::fill_n(pixels, end - begin, blueRed | (colors_.greenAlpha & 0xFF00FF00));
+        return;
+    }
+    const RadialRun run{(begin - row.lowest) * step_, row.height * step_ * step_, row.lean,
+                        (row.base - middle_) * toUnits_, step_};
+    const bool near = unitsAcross(row, begin, end) <= kMostUnitsInSinglePrecision;
+    (near ? fillRadial : fillRadialFar)(pixels, end - begin, room, run, colors_);
+}
+
+} // namespace easel::paint

@@ -1,0 +1,109 @@
+// Rows of radial gradients.
+#include "easel/paint/gradient/RadialShader.h"
+
+#include "easel/paint/gradient/SegmentWalk.h"
+
+#include <limits>
+
+namespace easel::paint {
+
+namespace {
+
+constexpr int kEndless = std::numeric_limits<int>::max();
+} // namespace
+
+// Down through the segments until the row comes no nearer to the start circle, then up again.
+class RadialShader::Track {
+  public:
+    Track(const RadialShader& shader, const RadialRow& row, int y)
+        : shader_(shader), row_(row), segments_(shader.segments_.all()), y_(y + 0.5) {}
+
+    double parameter(int x) const { return shader_.map_.at({x + 0.5, y_}); }
+    std::size_t index() const { return index_; }
+    int end() const { return end_; }
+
+    void enter(int x) {
+        index_ = shader_.segments_.find(parameter(x));
+        falling_ = true;
+        end_ = x;
+        findEnd();
+    }
+    void next() {
+        index_ += falling_ ? static_cast<std::size_t>(-1) : 1;
+        findEnd();
+    }
+
+  private:
+    void findEnd() {
+        if (falling_ && index_ > 0) {
+            const PixelInterval inner = row_.inside(shader_.pieces_[index_].circle());
+            if (inner.begin < inner.end) {
+                const int begin = std::max(end_, settled(inner.begin, segments_[index_], -1));
+                if (settled(inner.end, segments_[index_], 1) > begin) {
+                    end_ = begin;
+                    return;
+                }
+            }
+        }
+        falling_ = false;
+        const std::size_t outer = index_ + 1;
+        if (outer == segments_.size())
+            end_ = kEndless;
+        else
+            end_ = std::max(end_,
+                            settled(row_.inside(shader_.pieces_[outer].circle()).end, segments_[outer], 1));
+    }
+    // The first pixel inside a segment's start (side -1) or outside of it again (side 1).
+    int settled(double crossing, const RampSegment& segment, int side) const {
+        const PixelBox& clip = shader_.surface_.clip();
+        crossing = std::clamp<double>(crossing, clip.left - 1, clip.right);
+        // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
+        const int whole = static_cast<int>(crossing);
+        const int near = whole + (crossing > whole ? 1 : 0);
+        if (!segment.sharp)
+            return near;
+        const auto beyond = [&](int x) { return (parameter(x) >= segment.start) == (side > 0); };
+        if (beyond(near - 1))
+            return near - 1;
+        return beyond(near) ? near : near + 1;
+    }
+
+    const RadialShader& shader_;
+    const RadialRow& row_;
+    std::span<const RampSegment> segments_;
+    double y_;
+    std::size_t index_ = 0;
+    int end_ = 0;
+    bool falling_ = true;
+};
+
+bool RadialShader::handles(const RadialMap& map) {
+    return map.radiusStep > 0 && length(map.centreStep) < map.radiusStep * (1 - 1e-9);
+}
+
+RadialShader::RadialShader(const SurfaceView& surface, const RadialMap& map, const RampSegments& segments,
+                           double opacity, std::vector<RadialPiece>& pieces)
+    : surface_(surface), map_(map), rows_(map), segments_(segments), opacity_(opacity), pieces_(pieces) {
+    pieces_.clear();
+    for (const RampSegment& segment : segments_.all())
+        pieces_.emplace_back(rows_, segment);
+}
+
+void RadialShader::row(int y, std::span<const CoverageRun> runs) {
+    std::uint32_t* pixels = surface_.row(y);
+    const RadialRow row(rows_, y);
+    BlendQueue queue(pixels);
+    Track track(*this, row, y);
+    const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
+    const auto paint = [&](int begin, int end, const CoverageRun& run) {
+        const RampSegment& segment = present();
+        const RadialPiece& piece = pieces_[track.index()];
+        if (hidingOf(segment, run, opacity_) == Hiding::Full && piece.suits(row, begin, end))
+            return piece.paint(pixels + begin, begin, end, run.end - begin, row);
+        for (int x = begin; x < end; ++x)
+            queue.add(segment, x, track.parameter(x), shareOf(run, opacity_));
+    };
+    walkSegments(runs, track, paint, [&] { queue.flush(present()); });
+}
+
+} // namespace easel::paint

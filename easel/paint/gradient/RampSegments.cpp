@@ -1,0 +1,146 @@
+// Laying out of ramps, once for pad and period by period for repeat and reflect.
+#include "easel/paint/gradient/RampSegments.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace easel::paint {
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kMostSegments = 20000;
+// So far out the periods themselves would be inexact.
+constexpr double kFarthestPeriod = 1e6;
+// Segments shorter than this (in the parameter) count as sharp.
+constexpr double kSharpReach = 1e-5;
+// In levels; smaller than any rounding can show.
+constexpr double kVisibleJump = 1e-6;
+
+BlendColor blendColorOf(const Channels& color, const Channels& slope) {
+    const auto narrow = [](double value) { return static_cast<float>(value); };
+    return {{narrow(color[0]), narrow(color[1]), narrow(color[2]), 255},
+            {narrow(slope[0]), narrow(slope[1]), narrow(slope[2]), 0},
+            narrow(color[3]),
+            narrow(slope[3])};
+}
+
+Channels channelsOf(const RampColor& color) {
+    return {color.blue, color.green, color.red, color.opacity};
+}
+
+} // namespace
+
+Channels RampSegment::at(double parameter) const {
+    const double way = wayTo(parameter);
+    Channels result;
+    for (std::size_t i = 0; i < result.size(); ++i)
+        result[i] = color[i] + slope[i] * way;
+    return result;
+}
+
+RampSegments::Outcome RampSegments::layOut(const Ramp& ramp, drawing::Spread spread, double lowest,
+                                           double highest) {
+    segments_.clear();
+    if (spread == drawing::Spread::Pad) {
+        addPart(ramp, -kInfinity, kInfinity, 0, Direction::Forward);
+        return Outcome::Ready;
+    }
+    const double first = std::floor(lowest);
+    const double last = std::floor(highest);
+    const double perPeriod = static_cast<double>(ramp.stops().size()) + 2;
+    if (!((last - first + 1) * perPeriod < kMostSegments) || !(std::abs(first) < kFarthestPeriod))
+        return Outcome::TooMany;
+    for (double period = first; period <= last; ++period) {
+        if (spread == drawing::Spread::Reflect && std::fmod(period, 2) != 0)
+            addPart(ramp, 0, 1, period + 1, Direction::Backward);
+        else
+            addPart(ramp, 0, 1, period, Direction::Forward);
+    }
+    segments_.front().start = -kInfinity;
+    return Outcome::Ready;
+}
+
+void RampSegments::layOut(const RampColor& color) {
+    segments_.clear();
+    add(-kInfinity, color);
+}
+
+std::size_t RampSegments::find(double parameter) const {
+    const auto after =
+        std::upper_bound(segments_.begin() + 1, segments_.end(), parameter,
+                         [](double value, const RampSegment& segment) { return value < segment.start; });
+    return static_cast<std::size_t>(after - segments_.begin()) - 1;
+}
+
+void RampSegments::addPart(const Ramp& ramp, double from, double to, double offset, Direction direction) {
+    const std::vector<RampStop>& stops = ramp.stops();
+    RampStop before = stops.front();
+    RampStop behind = stops.back();
+    before.position = -kInfinity;
+    behind.position = kInfinity;
+    const auto knot = [&](std::size_t i) -> const RampStop& {
+        return i == 0 ? before : i == stops.size() + 1 ? behind : stops[i - 1];
+    };
+    for (std::size_t i = 0; i <= stops.size(); ++i) {
+        const std::size_t pair = direction == Direction::Forward ? i : stops.size() - i;
+        const RampStop& low = knot(pair);
+        const RampStop& high = knot(pair + 1);
+        if (low.position == high.position || high.position <= from || low.position >= to)
+            continue;
+        if (direction == Direction::Forward)
+            addForward(low, high, from, offset);
+        else
+            addBackward(low, high, to, offset);
+    }
+}
+
+// A stop at infinity is never reached, so its neighbor's color holds.
+void RampSegments::addForward(const RampStop& low, const RampStop& high, double from, double offset) {
+    const double start = offset + std::max(low.position, from);
+    if (std::isinf(low.position) || std::isinf(high.position))
+        return add(start, colorOf(std::isinf(low.position) ? high : low));
+    add(start, offset + low.position, high.position - low.position, colorOf(low), colorOf(high));
+}
+
+void RampSegments::addBackward(const RampStop& low, const RampStop& high, double to, double offset) {
+    // The stop itself has the color that follows it on the ramp, which here comes first.
+    const double start = std::nextafter(offset - std::min(high.position, to), kInfinity);
+    if (std::isinf(low.position) || std::isinf(high.position))
+        return add(start, colorOf(std::isinf(low.position) ? high : low));
+    add(start, offset - high.position, high.position - low.position, colorOf(high), colorOf(low));
+}
+
+void RampSegments::add(double start, const RampColor& color) {
+    append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false, {}, 0});
+}
+
+void RampSegments::add(double start, double anchor, double reach, const RampColor& from,
+                       const RampColor& to) {
+    const Channels low = channelsOf(from);
+    const Channels high = channelsOf(to);
+    if (low == high)
+        return add(start, from);
+    RampSegment segment{start, anchor, reach, low, {}, reach < kSharpReach, {}, 0};
+    for (std::size_t i = 0; i < low.size(); ++i)
+        segment.slope[i] = (high[i] - low[i]) / reach;
+    append(segment);
+}
+
+void RampSegments::append(RampSegment segment) {
+    if (!segments_.empty()) {
+        const RampSegment& previous = segments_.back();
+        const Channels left = previous.at(segment.start);
+        const Channels right = segment.at(segment.start);
+        segment.sharp |= !previous.flat() && previous.reach < kSharpReach;
+        for (std::size_t i = 0; i < left.size(); ++i)
+            segment.sharp |= std::abs(left[i] - right[i]) > kVisibleJump;
+    }
+    segment.blend = blendColorOf(segment.color, segment.slope);
+    for (std::size_t i = 0; i < 3; ++i)
+        segment.steepest = std::max(segment.steepest, std::abs(segment.slope[i]));
+    segments_.push_back(segment);
+}
+
+} // namespace easel::paint

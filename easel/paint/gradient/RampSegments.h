@@ -1,0 +1,69 @@
+// A ramp as the chain of straight pieces that painting walks along, spread out over the parameters that
+// occur.
+#pragma once
+
+#include "easel/drawing/Paint.h"
+#include "easel/paint/gradient/Ramp.h"
+#include "easel/paint/pixels/PixelKernels.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <vector>
+
+namespace easel::paint {
+
+// Blue, green, red (0 to 255) and opacity (0 to 1), or their change per unit.
+using Channels = std::array<double, 4>;
+
+// The colors from `start` up to the next segment's start.
+struct RampSegment {
+    double start;  // minus infinity for the first
+    double anchor; // where the color is `color`; finite
+    double reach;  // the color changes up to this far beyond the anchor
+    Channels color;
+    Channels slope; // per unit of the parameter
+    // The color jumps at the start, or changes so fast that it must begin at the right pixel.
+    bool sharp;
+    BlendColor blend; // the same color in single precision
+    double steepest;  // the largest of the color channels' slopes, without sign
+
+    // How far along the segment a parameter is.
+    double wayTo(double parameter) const { return std::clamp(parameter - anchor, 0.0, reach); }
+    Channels at(double parameter) const;
+    bool flat() const { return reach == 0; }
+    bool opaque() const { return color[3] == 1 && slope[3] == 0; }
+};
+
+// Keeps its memory from one ramp to the next.
+class RampSegments {
+  public:
+    enum class Outcome { Ready, TooMany };
+
+    // Lays out the segments for the parameters from `lowest` to `highest`; beyond them only pad is right. Too
+    // many are the segments of a ramp that repeats so often that there would be more of them than are worth
+    // walking.
+    Outcome layOut(const Ramp& ramp, drawing::Spread spread, double lowest, double highest);
+    // One color everywhere.
+    void layOut(const RampColor& color);
+
+    // Ascending; at least one.
+    std::span<const RampSegment> all() const { return segments_; }
+    // The index of the segment that a parameter lies in.
+    std::size_t find(double parameter) const;
+
+  private:
+    enum class Direction { Forward, Backward };
+
+    // The part of the ramp between two positions, put at `offset` plus the position or `offset` minus it.
+    void addPart(const Ramp& ramp, double from, double to, double offset, Direction direction);
+    void addForward(const RampStop& low, const RampStop& high, double from, double offset);
+    void addBackward(const RampStop& low, const RampStop& high, double to, double offset);
+    void add(double start, const RampColor& color);
+    void add(double start, double anchor, double reach, const RampColor& from, const RampColor& to);
+    void append(RampSegment segment);
+
+    std::vector<RampSegment> segments_;
+};
+
+} // namespace easel::paint

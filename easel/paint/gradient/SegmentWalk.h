@@ -1,0 +1,79 @@
+// Walks the runs of a row and the segments of a ramp side by side, and paints what both agree on.
+#pragma once
+
+#include "easel/paint/coverage/Coverage.h"
+#include "easel/paint/gradient/RampSegments.h"
+#include "easel/paint/pixels/PixelKernels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+namespace easel::paint {
+
+// Track tells which segment a row is in: `enter(x)` finds the segment of a first pixel, `end()` is the first
+// pixel after the present segment, and `next()` goes on to the segment that begins there, which may be empty.
+// `paint(begin, end, run)` paints pixels of one run in the present segment, and `leave()` is called at its
+// end.
+template <class Run, class Track, class Paint, class Leave>
+void walkSegments(std::span<const Run> runs, Track& track, const Paint& paint, const Leave& leave) {
+    track.enter(runs.front().begin);
+    for (const Run& run : runs) {
+        for (int x = run.begin; x < run.end;) {
+            if (track.end() <= x) {
+                leave();
+                do
+                    track.next();
+                while (track.end() <= x);
+            }
+            const int end = std::min(run.end, track.end());
+            paint(x, end, run);
+            x = end;
+        }
+    }
+    leave();
+}
+
+// Whether a segment hides what is below it wherever a shape covers the pixel fully.
+enum class Hiding { Full, Partial };
+
+inline Hiding hidingOf(const RampSegment& segment, const CoverageRun& run, double opacity) {
+    return run.coverage == kFullCoverage && opacity == 1 && segment.opaque() ? Hiding::Full : Hiding::Partial;
+}
+
+inline float shareOf(std::uint32_t coverage, double opacity) {
+    return static_cast<float>(coverage * (opacity / kFullCoverage));
+}
+inline float shareOf(const CoverageRun& run, double opacity) {
+    return shareOf(static_cast<std::uint32_t>(run.coverage), opacity);
+}
+
+// Without opacity: the pixel is opaque.
+inline std::uint32_t opaquePixel(const Channels& color) {
+    const auto level = [&](std::size_t i) { return static_cast<std::uint32_t>(std::nearbyint(color[i])); };
+    return 0xFF000000 | level(2) << 16 | level(1) << 8 | level(0);
+}
+
+// Collects the pixels of a segment that have to be blended, so that they are handed over many at a time.
+class BlendQueue {
+  public:
+    explicit BlendQueue(std::uint32_t* row) : row_(row) {}
+
+    void add(const RampSegment& segment, int x, double parameter, float share) {
+        if (count_ == points_.size())
+            flush(segment);
+        points_[count_++] = {x, static_cast<float>(segment.wayTo(parameter)), share};
+    }
+    void flush(const RampSegment& segment) {
+        if (count_ > 0)
+            blendPoints(row_, segment.blend, {points_.data(), count_});
+        count_ = 0;
+    }
+
+  private:
+    std::uint32_t* row_;
+    std::size_t count_ = 0;
+    std::array<BlendPoint, 64> points_;
+};
+
+} // namespace easel::paint
