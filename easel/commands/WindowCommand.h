@@ -1,7 +1,7 @@
 // Starts the desktop window, which lives in a library of its own so that the other commands need not load it.
 #pragma once
 
-#include "easel/window/RunWindow.h"
+#include "easel/window/main/RunWindow.h"
 
 namespace CLI {
 class App;

@@ -1,0 +1,230 @@
+// View, scrolling and zooming of the canvas.
+#include "easel/window/canvas/Canvas.h"
+
+#include "easel/window/look/PathConversion.h"
+#include "easel/window/main/DesktopUser.h"
+
+#include <QScrollBar>
+#include <QVariantAnimation>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace easel::window {
+namespace {
+
+constexpr double kSmallestZoom = 0.02;
+constexpr double kLargestZoom = 64;
+// The ground that stays in sight around the page, in pixels.
+constexpr double kMargin = 28;
+// How fast dragging past the edge scrolls: pixels a frame for each pixel beyond.
+constexpr double kScrollShare = 0.35;
+constexpr double kLongestScroll = 60;
+constexpr double kEdge = 2;
+// How far the outline of a selected object reaches beyond the object, in pixels.
+constexpr int kOutlineReach = 4;
+
+double pastEdge(double at, double size) {
+    if (at < kEdge)
+        return at - kEdge;
+    return at > size - kEdge ? at - (size - kEdge) : 0;
+}
+
+int scrollStep(double past) {
+    const double step = std::clamp(std::abs(past) * kScrollShare, 4.0, kLongestScroll);
+    return past == 0 ? 0 : static_cast<int>(std::copysign(step, past));
+}
+
+} // namespace
+
+Canvas::Canvas(runtime::DrawingWindow& window, DesktopUser& user, QWidget* parent)
+    : QAbstractScrollArea(parent), window_(window), user_(user) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Drawing"));
+    viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    user_.addCanvas(*this);
+    connect(&user_, &DesktopUser::becameIdle, this, &Canvas::handOverHeld);
+}
+
+Canvas::~Canvas() {
+    user_.removeCanvas(*this);
+}
+
+void Canvas::setTool(CanvasTool* tool) {
+    tool_ = tool;
+    refreshCursor();
+}
+
+// The scroll bars' values are the pixels of the zoomed page that lie in the middle of the view, so that
+// whatever is under the pointer can stay there while the zoom changes.
+QPointF Canvas::origin() const {
+    const double ratio = devicePixelRatioF();
+    const auto along = [&](int viewSize, const QScrollBar& bar) {
+        const double pixels = bar.value() - viewSize / 2.0;
+        // On whole pixels of the screen, so that scrolling moves the picture and does not change it.
+        return std::round(pixels * ratio) / ratio / zoom_;
+    };
+    return {along(viewport()->width(), *horizontalScrollBar()),
+            along(viewport()->height(), *verticalScrollBar())};
+}
+
+void Canvas::updateScrollBars() {
+    const drawing::Drawing& drawing = window_.drawing();
+    const auto adjust = [this](QScrollBar& bar, double pageSize, int viewSize) {
+        bar.setRange(0, static_cast<int>(std::ceil(pageSize * zoom_)));
+        bar.setPageStep(viewSize);
+        bar.setSingleStep(std::max(1, viewSize / 12));
+    };
+    adjust(*horizontalScrollBar(), drawing.width(), viewport()->width());
+    adjust(*verticalScrollBar(), drawing.height(), viewport()->height());
+    const bool fits = drawing.width() * zoom_ + 2 * kMargin <= width() &&
+                      drawing.height() * zoom_ + 2 * kMargin <= height();
+    const auto policy = fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded;
+    setHorizontalScrollBarPolicy(policy);
+    setVerticalScrollBarPolicy(policy);
+    updateView();
+}
+
+void Canvas::showMiddle() {
+    horizontalScrollBar()->setValue(horizontalScrollBar()->maximum() / 2);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum() / 2);
+}
+
+void Canvas::updateView() {
+    runtime::View view;
+    view.zoom = zoom_;
+    view.deviceScale = devicePixelRatioF();
+    view.origin = fromQt(origin());
+    view.width = viewport()->width();
+    view.height = viewport()->height();
+    window_.setView(view);
+    viewport()->update();
+}
+
+QRectF Canvas::page() const {
+    const drawing::Drawing& drawing = window_.drawing();
+    return inViewport({0, 0, drawing.width(), drawing.height()});
+}
+
+QRectF Canvas::inViewport(const drawing::Box& box) const {
+    if (box.empty())
+        return {};
+    const runtime::View& view = window_.view();
+    const drawing::Point from = view.toWindow({box.left, box.top});
+    const drawing::Point to = view.toWindow({box.right, box.bottom});
+    return {toQt(from), toQt(to)};
+}
+
+void Canvas::zoomAbout(QPointF place, double zoom) {
+    zoom = std::clamp(zoom, kSmallestZoom, kLargestZoom);
+    if (zoom == zoom_)
+        return;
+    const drawing::Point kept = toLocal(place);
+    zoom_ = zoom;
+    updateScrollBars();
+    const QPointF fromMiddle = place - QRectF(viewport()->rect()).center();
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(kept.x * zoom_ - fromMiddle.x())));
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(kept.y * zoom_ - fromMiddle.y())));
+    updateView();
+    Q_EMIT zoomChanged(zoom_);
+}
+
+void Canvas::zoomAboutMiddle(double zoom) {
+    zoomAbout(QRectF(viewport()->rect()).center(), zoom);
+}
+
+void Canvas::fit() {
+    const drawing::Drawing& drawing = window_.drawing();
+    const double horizontal = (width() - 2 * kMargin) / drawing.width();
+    const double vertical = (height() - 2 * kMargin) / drawing.height();
+    zoomAboutMiddle(std::min(horizontal, vertical));
+    showMiddle();
+}
+
+void Canvas::resizeEvent(QResizeEvent*) {
+    updateScrollBars();
+    if (everSized_ || !isVisible())
+        return;
+    everSized_ = true;
+    showAnew();
+}
+
+void Canvas::showAnew() {
+    zoomAboutMiddle(1);
+    updateScrollBars();
+    if (page().width() + 2 * kMargin > width() || page().height() + 2 * kMargin > height())
+        fit();
+    showMiddle();
+}
+
+void Canvas::scrollContentsBy(int, int) {
+    updateView();
+}
+
+drawing::Point Canvas::toLocal(QPointF position) const {
+    return window_.view().toDrawing(fromQt(position));
+}
+
+bool Canvas::wouldScroll(QPointF position) const {
+    const auto can = [](const QScrollBar& bar, double past) {
+        return (past < 0 && bar.value() > bar.minimum()) || (past > 0 && bar.value() < bar.maximum());
+    };
+    return can(*horizontalScrollBar(), pastEdge(position.x(), viewport()->width())) ||
+           can(*verticalScrollBar(), pastEdge(position.y(), viewport()->height()));
+}
+
+void Canvas::scrollTowards(QPointF position) {
+    const auto scroll = [](QScrollBar& bar, double past) { bar.setValue(bar.value() + scrollStep(past)); };
+    scroll(*horizontalScrollBar(), pastEdge(position.x(), viewport()->width()));
+    scroll(*verticalScrollBar(), pastEdge(position.y(), viewport()->height()));
+}
+
+// Many changes may come at once, and the regions of all of them together are found only once.
+void Canvas::marked() {
+    if (std::exchange(updateDue_, true))
+        return;
+    const auto update = [this] {
+        updateDue_ = false;
+        viewport()->update(markedRegion());
+    };
+    QMetaObject::invokeMethod(this, update, Qt::QueuedConnection);
+}
+
+QRegion Canvas::markedRegion() const {
+    QRegion region;
+    for (const drawing::Box& mark : window_.marks())
+        region += inViewport(mark).toAlignedRect().adjusted(-kOutlineReach, -kOutlineReach, kOutlineReach,
+                                                            kOutlineReach);
+    return region & viewport()->rect();
+}
+
+void Canvas::presentNow() {
+    viewport()->repaint(markedRegion() + shownFeedback_ + feedbackArea());
+}
+
+void Canvas::showMarquee(std::optional<QRectF> marquee) {
+    const auto touch = [this](const std::optional<QRectF>& rect) {
+        if (rect)
+            viewport()->update(rect->toAlignedRect().adjusted(-1, -1, 1, 1));
+    };
+    touch(marquee_);
+    touch(marquee);
+    marquee_ = marquee;
+}
+
+void Canvas::flash() {
+    auto* fade = new QVariantAnimation(this);
+    fade->setStartValue(1.0);
+    fade->setEndValue(0.0);
+    fade->setDuration(350);
+    connect(fade, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        flash_ = value.toDouble();
+        viewport()->update();
+    });
+    fade->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+} // namespace easel::window

@@ -1,0 +1,120 @@
+// The drawing on the screen: shows it, scrolls and zooms it, and brings the mouse to the active tool.
+#pragma once
+
+#include "easel/runtime/DrawingWindow.h"
+#include "easel/window/canvas/CanvasTool.h"
+#include "easel/window/waiting/PointerSurface.h"
+
+#include <QAbstractScrollArea>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QNativeGestureEvent;
+
+namespace easel::window {
+
+class DesktopUser;
+
+class Canvas : public QAbstractScrollArea, public PointerSurface {
+    Q_OBJECT
+
+  public:
+    // Neither is owned; both outlive the canvas.
+    Canvas(runtime::DrawingWindow& window, DesktopUser& user, QWidget* parent = nullptr);
+    ~Canvas() override;
+
+    runtime::DrawingWindow& drawingWindow() { return window_; }
+    const runtime::DrawingWindow& drawingWindow() const { return window_; }
+
+    // The tool that presses go to; not owned.
+    void setTool(CanvasTool* tool);
+
+    double zoom() const { return zoom_; }
+    // Keeps the drawing point at this place of the viewport where it is.
+    void zoomAbout(QPointF place, double zoom);
+    void zoomAboutMiddle(double zoom);
+    void fit();
+    // A drawing opens at its own size, or whole if that is too large for the window. To be called when the
+    // window has been given another drawing.
+    void showAnew();
+
+    // What of the drawing is marked for painting is repainted when there is time, and so is what is marked
+    // until then.
+    void marked();
+    // The drawing, its selection or its history changed.
+    void reportChange() { Q_EMIT changed(); }
+    // Shows at once what the window's image and feedback now hold.
+    void presentNow();
+    // Shows the cursor with this resource id while the pointer is over the canvas.
+    void showCursor(long id);
+    // Asks the tool for its cursor again.
+    void refreshCursor();
+    // A rectangle in viewport coordinates that is being dragged open; none to take it away.
+    void showMarquee(std::optional<QRectF> marquee);
+    // Flashes the edge of the canvas, where nobody hears a beep.
+    void flash();
+
+    // --- PointerSurface, for positions in the viewport
+    drawing::Point toLocal(QPointF position) const override;
+    double pixelsPerUnit() const override { return zoom_; }
+    void scrollTowards(QPointF position) override;
+    bool wouldScroll(QPointF position) const override;
+
+  Q_SIGNALS:
+    void changed();
+    void zoomChanged(double zoom);
+    void pointerAt(QPointF inDrawing);
+    void pointerLeft();
+
+  protected:
+    bool viewportEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    // The second click of two quick ones is as good as any.
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    bool panning() const { return panFrom_.has_value(); }
+    void startPan(QPointF from);
+    void endPan();
+    void updateScrollBars();
+    void showMiddle();
+    void updateView();
+    QPointF origin() const;
+    QRectF page() const;
+    QRectF inViewport(const drawing::Box& box) const;
+    QRegion markedRegion() const;
+    QRect feedbackArea() const;
+    void pinch(const QNativeGestureEvent& event);
+    bool holdsBack(const QEvent& event);
+    void handOverHeld();
+
+    runtime::DrawingWindow& window_;
+    DesktopUser& user_;
+    CanvasTool* tool_ = nullptr;
+    double zoom_ = 1;
+    bool everSized_ = false;
+    std::optional<QPointF> panFrom_;
+    QPoint panStart_;
+    bool spaceDown_ = false;
+    std::optional<QRectF> marquee_;
+    QRect shownFeedback_;
+    double flash_ = 0;
+    bool updateDue_ = false;
+    std::vector<std::unique_ptr<QMouseEvent>> held_; // the next gesture's, in the order of their coming
+};
+
+} // namespace easel::window

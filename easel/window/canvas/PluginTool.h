@@ -1,0 +1,34 @@
+// A tool that a plug-in registered, on the canvas.
+#pragma once
+
+#include "easel/window/canvas/CanvasTool.h"
+
+#include <QObject>
+
+struct HostTool;
+
+namespace easel::window {
+
+class DesktopUser;
+
+class PluginTool : public QObject, public CanvasTool {
+    Q_OBJECT
+
+  public:
+    // Neither is owned; both outlive the tool.
+    PluginTool(const HostTool& tool, DesktopUser& user);
+
+    void press(Canvas& canvas, const QMouseEvent& event) override;
+    void updateCursor(Canvas& canvas) override;
+    void openOptions();
+
+  Q_SIGNALS:
+    // The click found nothing that the tool could work on.
+    void declined();
+
+  private:
+    const HostTool& tool_;
+    DesktopUser& user_;
+};
+
+} // namespace easel::window

@@ -1,0 +1,28 @@
+// The host's own tool: a click selects, Shift adds and removes, a drag on empty ground selects what it
+// encloses.
+#pragma once
+
+#include "easel/drawing/Drawing.h"
+#include "easel/window/canvas/CanvasTool.h"
+
+#include <optional>
+
+namespace easel::window {
+
+class SelectTool : public CanvasTool {
+  public:
+    void press(Canvas& canvas, const QMouseEvent& event) override;
+    void move(Canvas& canvas, const QMouseEvent& event) override;
+    void release(Canvas& canvas, const QMouseEvent& event) override;
+    void updateCursor(Canvas& canvas) override;
+
+  private:
+    std::optional<QPointF> marqueeFrom_;
+};
+
+void selectAll(drawing::Drawing& drawing);
+
+// Deletes the selected objects as one step for undo.
+void deleteSelection(drawing::Drawing& drawing);
+
+} // namespace easel::window

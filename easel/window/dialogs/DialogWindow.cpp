@@ -1,0 +1,162 @@
+// Builds the controls of a dialog and keeps them in step with its model.
+#include "easel/window/dialogs/DialogWindow.h"
+
+#include "easel/window/dialogs/ControlItems.h"
+#include "easel/window/dialogs/DialogContent.h"
+#include "easel/window/dialogs/EditItem.h"
+#include "easel/window/main/DesktopUser.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace easel::window {
+namespace {
+
+std::uint32_t rgb(const QColor& color) {
+    return color.rgb() & 0xffffffU;
+}
+
+QColor mixed(const QColor& a, const QColor& b, double share) {
+    const auto channel = [share](int from, int to) { return static_cast<int>(from + (to - from) * share); };
+    return {channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue())};
+}
+
+// How far the ground of black marks moves from a dark desktop's ground towards its text.
+constexpr double kMarkGround = 0.55;
+
+runtime::DialogTheme themeOf(const QPalette& palette) {
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    const bool dark = ground.lightness() < text.lightness();
+    const QColor erased = dark ? mixed(ground, text, kMarkGround) : ground;
+    return {rgb(ground), rgb(mixed(ground, text, 0.18)), rgb(mixed(ground, QColor(Qt::black), 0.24)),
+            rgb(erased)};
+}
+
+ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item, DesktopUser& user,
+                           DialogContent& content) {
+    switch (item.kind) {
+    case runtime::ItemKind::Button:
+        return new ButtonItem(dialog, item.number, &content);
+    case runtime::ItemKind::StaticText:
+        return new LabelItem(dialog, item.number, &content);
+    case runtime::ItemKind::EditText:
+        return new EditItem(dialog, item.number, user, &content);
+    case runtime::ItemKind::UserDrawn:
+        return new UserItem(dialog, item.number, content);
+    case runtime::ItemKind::Popup:
+        return new PopupItem(dialog, item.number, &content);
+    case runtime::ItemKind::Radio:
+        return new RadioItem(dialog, item.number, &content);
+    }
+    return nullptr;
+}
+
+// A separator is drawn like a user item but there is nothing to do with it.
+bool isSeparator(const runtime::DialogItem& item) {
+    return item.kind == runtime::ItemKind::UserDrawn && !item.enabled;
+}
+
+} // namespace
+
+DialogWindow::DialogWindow(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), dialog_(dialog),
+      user_(user), content_(new DialogContent(dialog, user, this)) {
+    setWindowTitle(QString::fromStdString(dialog.title()));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(content_);
+    for (const runtime::DialogItem& item : dialog.items())
+        addItem(item);
+    dialog_.setObserver(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
+    matchScreen();
+    focusChanged();
+}
+
+DialogWindow::~DialogWindow() {
+    // Controls that go away hand the focus on; nobody is to follow it any more.
+    disconnect(qApp, nullptr, this, nullptr);
+    dialog_.setObserver(nullptr);
+}
+
+void DialogWindow::addItem(const runtime::DialogItem& item) {
+    ItemWidget* made = makeItemWidget(dialog_, item, user_, *content_);
+    items_[item.number] = made;
+    QWidget* widget = made->widget();
+    widget->setGeometry(item.bounds.left, item.bounds.top, item.bounds.width(), item.bounds.height());
+    widget->setToolTip(QString::fromStdString(item.tooltip));
+    if (!item.accessibleName.empty())
+        widget->setAccessibleName(QString::fromStdString(item.accessibleName));
+    if (isSeparator(item)) {
+        widget->setFocusPolicy(Qt::NoFocus);
+        widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+}
+
+void DialogWindow::itemChanged(int item, runtime::ItemChange change) {
+    const auto found = items_.find(item);
+    if (found != items_.end() && change != runtime::ItemChange::Invalid)
+        found->second->modelChanged(change);
+}
+
+void DialogWindow::focusChanged() {
+    const auto found = items_.find(dialog_.focus());
+    if (found == items_.end() || found->second->widget()->hasFocus())
+        return;
+    found->second->widget()->setFocus();
+    found->second->modelChanged(runtime::ItemChange::Selection);
+}
+
+// The Tab key or a click moved the focus on the desktop's side.
+void DialogWindow::followFocus(const QWidget* now) {
+    for (const auto& [number, item] : items_)
+        if (item->widget() == now && dialog_.focus() != number)
+            dialog_.setFocus(number);
+}
+
+void DialogWindow::pixelsDrawn(const paint::PixelRect& area) {
+    content_->update(QRect(area.left, area.top, area.width(), area.height()).adjusted(-1, -1, 1, 1));
+}
+
+// Escape, and the window's own close button, are a hit of the Cancel item.
+void DialogWindow::reject() {
+    dialog_.hit(kCancelItem);
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        dialog_.hit(kDefaultItem);
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void DialogWindow::matchScreen() {
+    dialog_.setScreen({devicePixelRatioF(), themeOf(palette())});
+    dialog_.drawInvalidItems();
+    content_->update();
+}
+
+bool DialogWindow::event(QEvent* event) {
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::ScreenChangeInternal)
+        matchScreen();
+    return handled;
+}
+
+void DialogWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        matchScreen();
+}
+
+void DialogWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    matchScreen();
+}
+
+} // namespace easel::window

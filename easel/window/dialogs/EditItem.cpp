@@ -1,0 +1,75 @@
+// Keeps the line editor and the model's text and selection in step.
+#include "easel/window/dialogs/EditItem.h"
+
+#include "easel/window/main/DesktopUser.h"
+
+#include <QScopedValueRollback>
+#include <QToolTip>
+
+namespace easel::window {
+namespace {
+
+// The first character that is in one text and not at the same place of the other, as the user typed or pasted
+// it.
+QString firstNewCharacter(const QString& before, const QString& after) {
+    qsizetype at = 0;
+    while (at < before.size() && at < after.size() && before[at] == after[at])
+        ++at;
+    if (at >= after.size())
+        return {};
+    return after[at].isHighSurrogate() ? after.mid(at, 2) : QString(after[at]);
+}
+
+} // namespace
+
+EditItem::EditItem(runtime::Dialog& dialog, int item, DesktopUser& user, QWidget* parent)
+    : QLineEdit(parent), dialog_(dialog), item_(item), user_(user) {
+    connect(this, &QLineEdit::textEdited, this, &EditItem::edited);
+    connect(this, &QLineEdit::selectionChanged, this, &EditItem::selectionMoved);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &EditItem::selectionMoved);
+    modelChanged(runtime::ItemChange::Text);
+}
+
+void EditItem::modelChanged(runtime::ItemChange) {
+    const QScopedValueRollback following(following_, true);
+    const runtime::DialogItem& item = *dialog_.item(item_);
+    const QString text = QString::fromStdString(item.shownText());
+    if (text != this->text())
+        setText(text);
+    setEnabled(item.enabled);
+    if (item.selection.from == item.selection.to)
+        setCursorPosition(item.selection.to);
+    else
+        setSelection(item.selection.from, item.selection.to - item.selection.from);
+}
+
+void EditItem::edited(const QString& text) {
+    const int caret = cursorPosition();
+    if (dialog_.enterText(item_, text.toStdString()) == runtime::EditOutcome::Refused) {
+        refuse(text);
+        return;
+    }
+    dialog_.selectText(item_, {caret, caret});
+}
+
+void EditItem::refuse(const QString& attempted) {
+    const QString kept = QString::fromStdString(dialog_.item(item_)->shownText());
+    const QString character = firstNewCharacter(kept, attempted);
+    modelChanged(runtime::ItemChange::Text);
+    user_.beep();
+    const QString reason =
+        tr("\u201c%1\u201d cannot be used here: names are kept in the Mac Roman alphabet.").arg(character);
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), reason, this, {}, 5000);
+    setAccessibleDescription(reason);
+}
+
+void EditItem::selectionMoved() {
+    if (following_)
+        return;
+    const int from = hasSelectedText() ? static_cast<int>(selectionStart()) : cursorPosition();
+    const int to = hasSelectedText() ? static_cast<int>(selectionEnd()) : cursorPosition();
+    const QScopedValueRollback following(following_, true);
+    dialog_.selectText(item_, {from, to});
+}
+
+} // namespace easel::window

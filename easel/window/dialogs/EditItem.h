@@ -1,0 +1,33 @@
+// The edit field of a dialog.
+#pragma once
+
+#include "easel/window/dialogs/ItemWidget.h"
+
+#include <QLineEdit>
+
+namespace easel::window {
+
+class DesktopUser;
+
+// A line editor that changes only what the model accepts: text that the host's encoding lacks is turned back
+// with a beep and a word of explanation.
+class EditItem : public QLineEdit, public ItemWidget {
+    Q_OBJECT
+
+  public:
+    EditItem(runtime::Dialog& dialog, int item, DesktopUser& user, QWidget* parent);
+    QWidget* widget() override { return this; }
+    void modelChanged(runtime::ItemChange change) override;
+
+  private:
+    void edited(const QString& text);
+    void refuse(const QString& attempted);
+    void selectionMoved();
+
+    runtime::Dialog& dialog_;
+    int item_;
+    DesktopUser& user_;
+    bool following_ = false; // taking over from the model, so nothing is to be told to it
+};
+
+} // namespace easel::window

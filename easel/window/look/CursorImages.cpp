@@ -1,0 +1,87 @@
+// Draws cursors and icons from picture files, with the program's own reader and painter.
+#include "easel/window/look/CursorImages.h"
+
+#include "easel/paint/RenderDrawing.h"
+#include "easel/paint/pixels/Surface.h"
+#include "easel/runtime/PluginResourceFile.h"
+#include "easel/svg/Document.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+#include <cmath>
+#include <map>
+#include <utility>
+
+namespace easel::window {
+namespace {
+
+constexpr long kArrow = 0;
+constexpr long kPlainToolCursor = 606;
+constexpr int kPlainSize = 32;
+constexpr int kPlainHotSpot = 15;
+
+// A cross that shows on any ground, with its middle left free.
+QCursor plainToolCursor(double ratio) {
+    QImage image(QSize(kPlainSize, kPlainSize) * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath cross;
+    for (const QPointF direction : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)}) {
+        const QPointF middle(kPlainHotSpot + 0.5, kPlainHotSpot + 0.5);
+        cross.moveTo(middle + direction * 3);
+        cross.lineTo(middle + direction * 10);
+    }
+    painter.setPen(QPen(Qt::white, 3, Qt::SolidLine, Qt::SquareCap));
+    painter.drawPath(cross);
+    painter.setPen(QPen(Qt::black, 1, Qt::SolidLine, Qt::SquareCap));
+    painter.drawPath(cross);
+    painter.end();
+    return QCursor(QPixmap::fromImage(image), kPlainHotSpot, kPlainHotSpot);
+}
+
+QCursor makeCursor(long id, double ratio) {
+    if (id == kArrow)
+        return {Qt::ArrowCursor};
+    if (id == kPlainToolCursor)
+        return plainToolCursor(ratio);
+    const classic::CursorResource* resource = runtime::pluginResources().cursor(static_cast<int>(id));
+    if (resource == nullptr)
+        return {Qt::ArrowCursor};
+    const QImage image = pictureFile(resource->file, {resource->width, resource->height}, ratio);
+    if (image.isNull())
+        return {Qt::ArrowCursor};
+    return QCursor(QPixmap::fromImage(image), resource->hotH, resource->hotV);
+}
+
+} // namespace
+
+QImage pictureFile(const std::filesystem::path& file, QSize size, double ratio) {
+    const svg::ReadResult result = svg::readFile(file);
+    const auto* drawing = std::get_if<drawing::Drawing>(&result);
+    if (drawing == nullptr)
+        return {};
+    const auto pixels = [ratio](int length) { return static_cast<int>(std::ceil(length * ratio)); };
+    paint::Surface surface(pixels(size.width()), pixels(size.height()));
+    const drawing::Affine toSurface = drawing::Affine::scaling(size.width() * ratio / drawing->width(),
+                                                               size.height() * ratio / drawing->height());
+    paint::renderDrawing(*drawing, surface.view(), toSurface, 1);
+    QImage image = QImage(reinterpret_cast<const uchar*>(surface.row(0)), surface.width(), surface.height(),
+                          surface.stride(), QImage::Format_ARGB32_Premultiplied)
+                       .copy();
+    image.setDevicePixelRatio(ratio);
+    return image;
+}
+
+QCursor cursorWithId(long id, double ratio) {
+    static std::map<std::pair<long, double>, QCursor> made;
+    const auto [at, isNew] = made.try_emplace({id, ratio});
+    if (isNew)
+        at->second = makeCursor(id, ratio);
+    return at->second;
+}
+
+} // namespace easel::window

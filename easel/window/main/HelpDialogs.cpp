@@ -1,0 +1,93 @@
+// Builds the list of shortcuts from the menus themselves, so that it cannot fall behind.
+#include "easel/window/main/HelpDialogs.h"
+
+#include "easel/window/main/DesktopUser.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <array>
+#include <utility>
+
+namespace easel::window {
+namespace {
+
+QString withoutMnemonic(QString text) {
+    return text.remove(QLatin1Char('&'));
+}
+
+void addMenu(QTreeWidget& list, const QMenu& menu) {
+    auto* group = new QTreeWidgetItem(&list, {withoutMnemonic(menu.title())});
+    group->setFirstColumnSpanned(true);
+    for (const QAction* action : menu.actions())
+        if (!action->shortcut().isEmpty())
+            new QTreeWidgetItem(group, {withoutMnemonic(action->text()),
+                                        action->shortcut().toString(QKeySequence::NativeText)});
+}
+
+void addMouse(QTreeWidget& list) {
+    const std::array lines{
+        std::pair{QObject::tr("Give a shape the current gradient"), QObject::tr("Click")},
+        std::pair{QObject::tr("Turn a linear gradient"), QObject::tr("Drag (Shift: in steps of 15\u00b0)")},
+        std::pair{QObject::tr("Move the center of a radial gradient"), QObject::tr("Press")},
+        std::pair{QObject::tr("Edit the gradient of a shape"), QObject::tr("Alt-click or Ctrl-click")},
+        std::pair{QObject::tr("Edit the current gradient"), QObject::tr("Double-click the tool")},
+        std::pair{QObject::tr("Zoom about the pointer"), QObject::tr("Ctrl and wheel")},
+        std::pair{QObject::tr("Move the view"), QObject::tr("Wheel, middle button, or Space and drag")},
+        std::pair{QObject::tr("Break off a drag"), QObject::tr("Escape")},
+    };
+    auto* group = new QTreeWidgetItem(&list, {QObject::tr("Mouse")});
+    group->setFirstColumnSpanned(true);
+    for (const auto& [what, how] : lines)
+        new QTreeWidgetItem(group, {what, how});
+}
+
+} // namespace
+
+void showShortcuts(const QMainWindow& window, DesktopUser& user) {
+    QDialog dialog(user.parentForDialogs());
+    dialog.setWindowTitle(QObject::tr("Shortcuts"));
+    auto* list = new QTreeWidget;
+    list->setColumnCount(2);
+    list->setHeaderHidden(true);
+    list->setRootIsDecorated(false);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setAccessibleName(QObject::tr("Shortcuts"));
+    addMouse(*list);
+    for (const QAction* action : window.menuBar()->actions())
+        addMenu(*list, *action->menu());
+    list->expandAll();
+    list->setItemsExpandable(false);
+    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(list);
+    layout->addWidget(buttons);
+    dialog.resize(560, 620);
+    user.runDialog(dialog);
+}
+
+void showAbout(const std::string& version, DesktopUser& user) {
+    QMessageBox box(user.parentForDialogs());
+    box.setWindowTitle(QObject::tr("About Easel"));
+    box.setIconPixmap(QApplication::windowIcon().pixmap(64));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QObject::tr("Easel %1").arg(QString::fromStdString(version)));
+    box.setInformativeText(
+        QObject::tr("Draws with gradients on SVG files.\n\nThe gradient tool is a plug-in; Easel "
+                    "is the host that it runs in."));
+    box.setStandardButtons(QMessageBox::Close);
+    user.runDialog(box);
+}
+
+} // namespace easel::window

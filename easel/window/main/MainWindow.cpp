@@ -1,0 +1,263 @@
+// Puts the window together and keeps it in step with its drawing.
+#include "easel/window/main/MainWindow.h"
+
+#include "easel/runtime/Host.h"
+#include "easel/window/canvas/Canvas.h"
+#include "easel/window/canvas/SelectTool.h"
+#include "easel/window/look/Theme.h"
+#include "easel/window/main/HelpDialogs.h"
+#include "easel/window/main/NoticeBar.h"
+#include "easel/window/main/Workspace.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace easel::window {
+namespace {
+
+constexpr double kZoomStep = 1.25;
+constexpr int kMessageTime = 4000; // milliseconds
+constexpr QSize kWindowSize{1120, 760};
+
+QString joined(const std::vector<std::string>& notes) {
+    QStringList lines;
+    for (const std::string& note : notes)
+        lines << QString::fromStdString(note);
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString titleOf(const QString& drawing) {
+    return QObject::tr("%1[*] \u2014 Easel").arg(drawing);
+}
+
+} // namespace
+
+MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QString& file)
+    : workspace_(workspace), drawingWindow_(std::move(drawing)), file_(file), notice_(new NoticeBar) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    canvas_ = new Canvas(drawingWindow_, workspace_.user());
+    auto* middle = new QWidget;
+    auto* layout = new QVBoxLayout(middle);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(notice_);
+    layout->addWidget(canvas_, 1);
+    setCentralWidget(middle);
+    resize(kWindowSize);
+    setAcceptDrops(true);
+
+    buildActions();
+    buildStatusBar();
+    connect(canvas_, &Canvas::changed, this, &MainWindow::drawingChanged);
+    connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
+    connect(&workspace_, &Workspace::activeToolChanged, this, &MainWindow::toolChanged);
+    connect(&workspace_.user(), &DesktopUser::optionKeyChanged, canvas_, &Canvas::refreshCursor);
+    connect(&workspace_.user(), &DesktopUser::becameIdle, this, [this] {
+        if (std::exchange(closeWhenIdle_, false))
+            QTimer::singleShot(0, this, &QWidget::close);
+    });
+    notice_->tell(joined(drawingWindow_.drawing().notes()));
+    toolChanged();
+    drawingChanged();
+    showZoom(canvas_->zoom());
+    canvas_->setFocus();
+}
+
+MainWindow::~MainWindow() {
+    // The canvas speaks of the drawing until it is gone.
+    delete canvas_;
+    workspace_.windowClosed(*this);
+}
+
+QString MainWindow::name() const {
+    return file_.isEmpty() ? tr("Untitled") : QFileInfo(file_).fileName();
+}
+
+bool MainWindow::isPristine() const {
+    const drawing::Drawing& drawing = drawingWindow_.drawing();
+    return file_.isEmpty() && !drawing.dirty() && drawing.undoLevels() == 0 && drawing.redoLevels() == 0;
+}
+
+void MainWindow::setDrawing(drawing::Drawing drawing, const QString& file) {
+    drawingWindow_.setDrawing(std::move(drawing));
+    file_ = file;
+    notice_->tell(joined(drawingWindow_.drawing().notes()));
+    // The canvas has to have its place beside the notice before it fits the drawing in.
+    centralWidget()->layout()->activate();
+    drawingChanged();
+    canvas_->showAnew();
+}
+
+MainWindow::Awaiting::Awaiting(MainWindow& window, const QString& file) : window_(window) {
+    window_.canvas_->setEnabled(false);
+    window_.setWindowTitle(titleOf(QFileInfo(file).fileName()));
+}
+
+MainWindow::Awaiting::~Awaiting() {
+    window_.canvas_->setEnabled(true);
+    window_.canvas_->setFocus();
+    window_.drawingChanged();
+}
+
+void MainWindow::buildStatusBar() {
+    message_ = new QLabel;
+    pointer_ = new QLabel;
+    // Of a fixed size, as the status bar is laid out anew for any other label that changes.
+    pointer_->setFixedSize(pointer_->fontMetrics().boundingRect(QStringLiteral("-00000, -00000")).size() +
+                           QSize(4, 4));
+    pointer_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    pointer_->setToolTip(tr("Pointer, from the drawing's top-left corner"));
+    connect(canvas_, &Canvas::pointerAt, this, [this](QPointF at) {
+        pointer_->setText(QStringLiteral("%1, %2").arg(std::floor(at.x())).arg(std::floor(at.y())));
+    });
+    connect(canvas_, &Canvas::pointerLeft, pointer_, &QLabel::clear);
+
+    zoomButton_ = new QToolButton;
+    zoomButton_->setPopupMode(QToolButton::InstantPopup);
+    zoomButton_->setAutoRaise(true);
+    zoomButton_->setToolTip(tr("Zoom"));
+    zoomButton_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 %")) + 24);
+    auto* levels = new QMenu(zoomButton_);
+    for (const int percent : {25, 50, 75, 100, 150, 200, 400, 800})
+        levels->addAction(tr("%1 %").arg(percent), this,
+                          [this, percent] { canvas_->zoomAboutMiddle(percent / 100.0); });
+    levels->addSeparator();
+    levels->addAction(zoomFit_);
+    zoomButton_->setMenu(levels);
+
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->setContentsMargins(8, 0, 4, 0);
+    statusBar()->addWidget(message_, 1);
+    statusBar()->addPermanentWidget(pointer_);
+    statusBar()->addPermanentWidget(zoomButton_);
+}
+
+void MainWindow::drawingChanged() {
+    const drawing::Drawing& drawing = drawingWindow_.drawing();
+    undo_->setEnabled(drawing.undoLevels() > 0);
+    redo_->setEnabled(drawing.redoLevels() > 0);
+    delete_->setEnabled(drawing.hasSelection());
+    setWindowTitle(titleOf(name()));
+    setWindowModified(drawing.dirty());
+    setWindowFilePath(file_);
+    canvas_->marked();
+}
+
+void MainWindow::toolChanged() {
+    const PaletteTool& tool = workspace_.activeTool();
+    for (QAction* action : toolActions_->actions())
+        action->setChecked(action->data().toULongLong() ==
+                           static_cast<qulonglong>(&tool - workspace_.tools().data()));
+    canvas_->setTool(tool.tool);
+    message_->setText(tool.plugin == nullptr
+                          ? tr("Click to select, Shift-click to add, drag to select several")
+                          : tr("Click or drag on a shape; hold Alt or Ctrl and click to edit its colors"));
+}
+
+void MainWindow::nothingToPaint() {
+    if (isActiveWindow())
+        canvas_->flash();
+    statusBar()->showMessage(tr("There is no shape here that can carry a gradient"), kMessageTime);
+}
+
+void MainWindow::showZoom(double zoom) {
+    zoomButton_->setText(tr("%1 %").arg(std::lround(zoom * 100)));
+}
+
+void MainWindow::undo() {
+    drawingWindow_.drawing().undo();
+    drawingChanged();
+}
+
+void MainWindow::redo() {
+    drawingWindow_.drawing().redo();
+    drawingChanged();
+}
+
+void MainWindow::deleteSelected() {
+    deleteSelection(drawingWindow_.drawing());
+    drawingChanged();
+}
+
+void MainWindow::selectAllObjects() {
+    selectAll(drawingWindow_.drawing());
+    drawingChanged();
+}
+
+void MainWindow::openOptions() {
+    for (const PaletteTool& tool : workspace_.tools())
+        if (tool.plugin != nullptr &&
+            (&tool == &workspace_.activeTool() || workspace_.activeTool().plugin == nullptr)) {
+            tool.plugin->openOptions();
+            return;
+        }
+}
+
+void MainWindow::zoomIn() {
+    canvas_->zoomAboutMiddle(canvas_->zoom() * kZoomStep);
+}
+void MainWindow::zoomOut() {
+    canvas_->zoomAboutMiddle(canvas_->zoom() / kZoomStep);
+}
+void MainWindow::zoomActual() {
+    canvas_->zoomAboutMiddle(1);
+}
+void MainWindow::zoomFit() {
+    canvas_->fit();
+}
+
+void MainWindow::snapChanged() {
+    const auto state = [](const QAction& action) {
+        return action.isChecked() ? runtime::Switch::on : runtime::Switch::off;
+    };
+    runtime::theHost().snap = {state(*snapGrid_), state(*snapObject_)};
+}
+
+void MainWindow::chooseAppearance(QAction* chosen) {
+    const auto appearance = static_cast<Appearance>(chosen->data().toInt());
+    storeAppearance(appearance);
+    applyAppearance(appearance);
+}
+
+void MainWindow::showShortcuts() {
+    window::showShortcuts(*this, workspace_.user());
+}
+void MainWindow::showAbout() {
+    window::showAbout(workspace_.version(), workspace_.user());
+}
+void MainWindow::quit() {
+    workspace_.quit();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    runtime::theHost().activeWindow = &drawingWindow_;
+    workspace_.user().setFrontWindow(this);
+    // The switches belong to the program; another window may have changed them.
+    snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
+    snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (workspace_.user().busy()) {
+        closeWhenIdle_ = true;
+        workspace_.user().cancelAll();
+        event->ignore();
+        return;
+    }
+    event->setAccepted(settleChanges() == Saved::Yes);
+}
+
+} // namespace easel::window

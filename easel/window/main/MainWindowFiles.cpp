@@ -1,0 +1,182 @@
+// Opening, saving, exporting and printing.
+#include "easel/export/ExportDrawing.h"
+#include "easel/runtime/Alert.h"
+#include "easel/svg/Document.h"
+#include "easel/window/dialogs/Messages.h"
+#include "easel/window/main/BackgroundWork.h"
+#include "easel/window/main/MainWindow.h"
+#include "easel/window/main/PrintDrawing.h"
+#include "easel/window/main/Workspace.h"
+
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
+
+namespace easel::window {
+namespace {
+
+constexpr int kMessageTime = 4000; // milliseconds
+
+QString svgFilter() {
+    return QObject::tr("SVG drawings (*.svg);;All files (*)");
+}
+
+QStringList localFiles(const QMimeData& data) {
+    QStringList files;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            files << url.toLocalFile();
+    return files;
+}
+
+bool isPictureName(const QString& file) {
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    return suffix == QLatin1String("png") || suffix == QLatin1String("pdf") || suffix == QLatin1String("svg");
+}
+
+} // namespace
+
+void MainWindow::newDrawing() {
+    workspace_.newDrawing();
+}
+
+void MainWindow::open() {
+    QFileDialog dialog(this, tr("Open"), QFileInfo(file_).path(), svgFilter());
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    if (!workspace_.user().runDialog(dialog))
+        return;
+    workspace_.openFiles(dialog.selectedFiles(), this);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!localFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    // Where the files come from waits for the answer to the drop; opening them can take its time.
+    QTimer::singleShot(0, this,
+                       [this, files = localFiles(*event->mimeData())] { workspace_.openFiles(files, this); });
+}
+
+QString MainWindow::baseName() const {
+    return file_.isEmpty() ? tr("Untitled") : QFileInfo(file_).completeBaseName();
+}
+
+QString MainWindow::chosenFile(const QString& title, const QString& name, const QString& filter) {
+    QFileDialog dialog(this, title, QFileInfo(file_).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QFileInfo(name).suffix());
+    dialog.selectFile(name);
+    return workspace_.user().runDialog(dialog) ? dialog.selectedFiles().value(0) : QString();
+}
+
+MainWindow::Saved MainWindow::save() {
+    return file_.isEmpty() ? saveAs() : saveTo(file_);
+}
+
+MainWindow::Saved MainWindow::saveAs() {
+    const QString file = chosenFile(tr("Save As"), baseName() + QStringLiteral(".svg"), svgFilter());
+    return file.isEmpty() ? Saved::No : saveTo(file);
+}
+
+MainWindow::Saved MainWindow::saveTo(const QString& file) {
+    const auto failure = svg::saveFile(drawingWindow_.drawing(), QFile::encodeName(file).toStdString());
+    if (failure) {
+        workspace_.user().tell(failure->message);
+        drawingChanged();
+        return Saved::No;
+    }
+    file_ = QFileInfo(file).absoluteFilePath();
+    workspace_.recentFiles().add(file_);
+    drawingChanged();
+    statusBar()->showMessage(tr("Saved %1").arg(name()), kMessageTime);
+    return Saved::Yes;
+}
+
+QString MainWindow::fileForExport(const QString& suffix) {
+    const QString ending = QLatin1Char('.') + suffix;
+    // An export holds less than the drawing's own file, so it is not to take its place.
+    const QString copy = ending == QLatin1String(".svg") ? tr(" exported") : QString();
+    QString file = chosenFile(tr("Export as %1").arg(suffix.toUpper()), baseName() + copy + ending,
+                              tr("%1 files (*.%2)").arg(suffix.toUpper(), suffix));
+    if (file.isEmpty())
+        return {};
+    if (!isPictureName(file)) {
+        file += ending;
+        if (QFileInfo::exists(file) && !mayReplace(file))
+            return {};
+    }
+    if (!file_.isEmpty() && QFileInfo(file) == QFileInfo(file_)) {
+        workspace_.tell(
+            tr("%1: this is the drawing itself. Export it under another name, or save it.").arg(file));
+        return {};
+    }
+    return file;
+}
+
+bool MainWindow::mayReplace(const QString& file) {
+    runtime::Alert alert;
+    alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
+    alert.yesButton = tr("Replace").toStdString();
+    alert.noButton = tr("Cancel").toStdString();
+    const Question question = makeQuestion(alert, this);
+    workspace_.user().runDialog(*question.box);
+    return question.yes();
+}
+
+void MainWindow::exportAs(const QString& suffix) {
+    const QString file = fileForExport(suffix);
+    if (file.isEmpty())
+        return;
+    const std::filesystem::path path = QFile::encodeName(file).toStdString();
+    files::FileOutcome error;
+    workBeside(workspace_.user(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
+               [&](const exports::Progress& progress) {
+                   error = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
+               });
+    if (error && !exports::wasCancelled(*error))
+        workspace_.user().tell(error->message());
+    else if (!error)
+        statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
+}
+
+void MainWindow::print() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(name());
+    turnPage(drawingWindow_.drawing(), printer);
+    QPrintDialog dialog(&printer, this);
+    if (!workspace_.user().runDialog(dialog))
+        return;
+    if (printDrawing(drawingWindow_.drawing(), printer, workspace_.user(), this) == Printed::Yes)
+        statusBar()->showMessage(tr("Printed %1").arg(name()), kMessageTime);
+}
+
+// Asks what is to become of unsaved changes; No if the user would rather go on.
+MainWindow::Saved MainWindow::settleChanges() {
+    if (!drawingWindow_.drawing().dirty())
+        return Saved::Yes;
+    raise();
+    activateWindow();
+    const UnsavedQuestion question = makeUnsavedQuestion(name(), this);
+    workspace_.user().runDialog(*question.box);
+    switch (question.choice()) {
+    case UnsavedChoice::Save:
+        return save();
+    case UnsavedChoice::Discard:
+        return Saved::Yes;
+    case UnsavedChoice::Cancel:
+        break;
+    }
+    return Saved::No;
+}
+
+} // namespace easel::window

@@ -1,0 +1,109 @@
+// Paints a page.
+#include "easel/window/main/PrintDrawing.h"
+
+#include "easel/drawing/Drawing.h"
+#include "easel/export/PdfFile.h"
+#include "easel/files/AtomicFile.h"
+#include "easel/paint/RenderDrawing.h"
+#include "easel/window/main/BackgroundWork.h"
+#include "easel/window/main/DesktopUser.h"
+
+#include <QFile>
+#include <QImage>
+#include <QObject>
+#include <QPainter>
+#include <QPrinter>
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+#include <new>
+
+namespace easel::window {
+namespace {
+
+// Finer than this no printer shows a gradient, and the picture grows with the square.
+constexpr double kPrintResolution = 300; // dots an inch
+constexpr double kPointsAnInch = 72;
+
+exports::PdfPage pageFor(const drawing::Drawing& drawing, const QPrinter& printer) {
+    const QPageLayout layout = printer.pageLayout();
+    const QRectF paper = layout.fullRect(QPageLayout::Point);
+    const QRectF printable = layout.paintRect(QPageLayout::Point);
+    const double points = std::min(
+        {exports::kPointsAUnit, printable.width() / drawing.width(), printable.height() / drawing.height()});
+    const QPointF from = printable.center() - QPointF(drawing.width(), drawing.height()) * points / 2;
+    return {paper.width(), paper.height(), from.x(), from.y(), points};
+}
+
+QImage pictureOf(const drawing::Drawing& drawing, double scale, const exports::Progress& progress) {
+    const auto pixels = [scale](double length) {
+        return std::max(1, static_cast<int>(std::ceil(length * scale)));
+    };
+    QImage image(pixels(drawing.width()), pixels(drawing.height()), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        throw std::bad_alloc();
+    image.fill(Qt::white);
+    const paint::SurfaceView view(reinterpret_cast<std::uint32_t*>(image.bits()), image.width(),
+                                  image.height(), image.bytesPerLine());
+    paint::renderDrawing(drawing, view, drawing::Affine::scaling(scale, scale));
+    progress.tell(1);
+    return image;
+}
+
+// The reason why there is no paper, or nothing.
+QString paintPage(const drawing::Drawing& drawing, const exports::PdfPage& page, const QImage& image,
+                  QPrinter& printer) {
+    // Positions count from the paper's corner.
+    printer.setFullPage(true);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return QObject::tr("The printer cannot be started.");
+    const double dots = printer.resolution() / kPointsAnInch;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(page.left * dots, page.top * dots, drawing.width() * page.pointsAUnit * dots,
+                             drawing.height() * page.pointsAUnit * dots),
+                      image);
+    return {};
+}
+
+} // namespace
+
+void turnPage(const drawing::Drawing& drawing, QPrinter& printer) {
+    printer.setPageOrientation(drawing.width() > drawing.height() ? QPageLayout::Landscape
+                                                                  : QPageLayout::Portrait);
+}
+
+Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, DesktopUser& user, QWidget* over) {
+    const exports::PdfPage page = pageFor(drawing, printer);
+    const bool asPdf =
+        printer.outputFormat() == QPrinter::PdfFormat && printer.colorMode() == QPrinter::Color;
+    const std::filesystem::path file = QFile::encodeName(printer.outputFileName()).toStdString();
+    files::FileOutcome failure;
+    QImage image;
+    QString problem;
+    try {
+        workBeside(user, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
+                   [&](const exports::Progress& progress) {
+                       if (asPdf)
+                           failure = files::replaceFile(file, encodePdf(drawing, page, progress));
+                       else
+                           image = pictureOf(drawing, page.pointsAUnit * kPrintResolution / kPointsAnInch,
+                                             progress);
+                   });
+        if (failure)
+            problem = QString::fromStdString(failure->message());
+        else if (!asPdf)
+            problem = paintPage(drawing, page, image, printer);
+    } catch (const exports::Cancelled&) {
+        return Printed::Cancelled;
+    } catch (const std::bad_alloc&) {
+        problem = QObject::tr("There is not enough memory to print this drawing.");
+    }
+    if (problem.isEmpty())
+        return Printed::Yes;
+    user.tell(problem.toStdString());
+    return Printed::No;
+}
+
+} // namespace easel::window

@@ -1,0 +1,84 @@
+// Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
+#include "easel/window/main/RunWindow.h"
+
+#include "easel/window/look/EaselStyle.h"
+#include "easel/window/look/Theme.h"
+#include "easel/window/main/Application.h"
+#include "easel/window/main/DesktopUser.h"
+#include "easel/window/main/MainWindow.h"
+#include "easel/window/main/PluginSession.h"
+#include "easel/window/main/Workspace.h"
+#include "easel/window/waiting/TerminationSignals.h"
+
+#include "easel/runtime/Host.h"
+#include "easel/runtime/Storage.h"
+
+#include <QFile>
+#include <QPointer>
+#include <QSettings>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace easel::window {
+namespace {
+
+constexpr std::chrono::milliseconds kAtLeisure{150};
+
+// Qt ends the program when it cannot reach the display; it is to say so plainly and leave no core behind.
+void reportMessages(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr,
+                     "easel: no window can be opened: %s\n"
+                     "The commands play, render and templates work without a display; see easel --help.\n",
+                     qUtf8Printable(text.section(QLatin1Char('\n'), 0, 0)));
+        std::_Exit(2);
+    }
+    if (type == QtCriticalMsg)
+        std::fprintf(stderr, "easel: %s\n", qUtf8Printable(text));
+}
+
+void openFirstWindows(Workspace& workspace, const StartUp& startUp, const PluginSession& plugin) {
+    // The first window is there before its drawing is read, and shows itself if that takes a while.
+    const QPointer<MainWindow> first = &workspace.newDrawing();
+    for (const std::filesystem::path& file : startUp.files)
+        workspace.openFile(QFile::decodeName(file.c_str()), first);
+    // Once the user looks at the window, what the gradient editor will ask for first is made ready.
+    QTimer::singleShot(kAtLeisure, [] { runtime::theStorage().files().prepareListing(); });
+    if (!plugin.problem().isEmpty())
+        workspace.tell(plugin.problem());
+}
+
+} // namespace
+} // namespace easel::window
+
+int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv) {
+    using namespace easel::window;
+    qInstallMessageHandler(reportMessages);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const Application application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("kestrad"));
+    QCoreApplication::setApplicationName(QStringLiteral("easel"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Easel"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("easel"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    if (!startUp.preferences.empty())
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           QFile::decodeName(startUp.preferences.c_str()));
+    applyAppearance(storedAppearance());
+    QApplication::setStyle(new EaselStyle);
+
+    DesktopUser user;
+    easel::runtime::theHost().user = &user;
+    int result = 0;
+    {
+        Workspace workspace(startUp.version, user);
+        PluginSession plugin(startUp.plugin, startUp.preferences, workspace);
+        const TerminationSignals signals([&workspace] { workspace.quit(); });
+        QTimer::singleShot(0, &workspace, [&] { openFirstWindows(workspace, startUp, plugin); });
+        result = QApplication::exec();
+    }
+    easel::runtime::theHost().user = nullptr;
+    return result;
+}
