@@ -31,27 +31,37 @@ using ControlRef = OpaqueControlRef*;
 }
 
 /// Makes the dialog with that resource id, hidden. `storage` is null: the host finds its own. Null if there
-/// is no such dialog. The caller ends it with DisposeDialog.
+/// is no such dialog. The caller ends it with DisposeDialog. Dialogs can be open on top of each other.
 [[nodiscard]] DialogRef TessGetNewDialog(short id, void* storage, OpaqueWindowPtr* behind);
 void DisposeDialog(DialogRef dialog);
-/// Makes the dialog's port the current one.
+/// Makes the dialog's port the current one. It stays so while the dialog runs, hits included; the port that
+/// was current before is put back by the caller.
 void SetPortDialogPort(DialogRef dialog);
 [[nodiscard]] OpaqueWindowPtr* GetDialogWindow(DialogRef dialog);
 
 /// A filter that sees the events of a modal dialog first; true if it dealt with one and set the item hit.
 using ModalFilterUPP = bool (*)(DialogRef dialog, EventRecord* event, short* itemHit);
-/// The host's filter: Return and Enter stand for item 1, Escape for item 2.
+/// The host's filter: Return and Enter stand for item 1, Escape for item 2. Plug-ins hand it to ModalDialog
+/// and do not call it, so a host that knows these keys by other means may give it any value.
 extern ModalFilterUPP const StdDlogFilterUPP;
-/// Runs the front dialog until an enabled item is hit and gives the item's number. For buttons that is a
-/// press and release in them; for user items the press, with the button still held; for edit items each
-/// change of the text.
+/// Runs the front dialog until an enabled item is hit and gives the item's number. A hit is:
+/// - of a button, a press and release in it, or its key;
+/// - of a radio button, a press and release in it. Its value stays; the plug-in sets it;
+/// - of a popup, the choice of an entry, which it then shows, also if it is the one that it showed before;
+/// - of a user item, the press, with the button still held;
+/// - of an edit item, each keystroke into it and each click in it, once the field has taken it, whether or
+///   not its text has changed. Keys that stand for a button or move the focus are no keystrokes into it.
+///
+/// Whether a static item can be hit is the host's choice. Hits are given one by one, in the order in which
+/// they happened. The item is 2 if nobody can answer the dialog any more, as when the program is ending.
 void ModalDialog(ModalFilterUPP filter, short* itemHit);
 /// Draws the parts of the dialog that are marked for redrawing and lie in the region; null means all of them.
 void UpdateDialog(DialogRef dialog, OpaqueRgnHandle* region);
 
-/// The procedure that draws a user item on the current port, which is the dialog's.
+/// The procedure that draws a user item on the current port, which is the dialog's. Plug-ins also call their
+/// own while they track the mouse; what is drawn is then to be seen at the next call that waits.
 using UserItemUPP = void (*)(DialogRef dialog, short item);
-/// The handle of a drawing procedure: the procedure itself.
+/// The handle of a drawing procedure: the procedure itself. Called while a module is being loaded.
 [[nodiscard]] UserItemUPP NewUserItemUPP(UserItemUPP procedure);
 /// Draws a thin line along the middle of its item.
 extern UserItemUPP const UpdateSeparatorUPP;
@@ -60,10 +70,11 @@ void SetUserDrawProc(DialogRef dialog, short item, TRect<short>& box, UserItemUP
 
 /// An item's bounds in the dialog's local pixels.
 [[nodiscard]] TRect<short> GetDialogItemBounds(DialogRef dialog, short item);
-/// Marks an item for redrawing.
+/// Marks an item for redrawing, which ModalDialog and UpdateDialog do, and a call that waits for the mouse
+/// may do.
 void InvalDLogItem(DialogRef dialog, short item);
 
-/// Texts of edit items. Setting a text is not a hit of the item.
+/// Texts of edit items. Setting a text is not a hit of the item, nor is SelectDLOGText.
 void SetDLOGText(DialogRef dialog, short item, CStr255 const& text);
 void GetDLOGText(DialogRef dialog, short item, CStr255& text);
 /// Gives an edit item the keyboard and selects its characters from `start` up to, not including, `end`; 0 to
@@ -77,7 +88,8 @@ void SetItemCtlValue(DialogRef dialog, short item, short value);
 [[nodiscard]] short GetPopMenuSelectedItem(DialogRef dialog, short item);
 /// The control of an item; null if it has none. The result is 0 or an error.
 short GetDialogItemAsControl(DialogRef dialog, short item, ControlRef* control);
-/// Tag of a popup's menu, as an OpaqueMenuRef*.
+/// Tag of a popup's menu, as an OpaqueMenuRef*. Every dialog has a menu of its own for each popup, made from
+/// the resource when the dialog is and gone with it; a reference to it is good for as long.
 inline constexpr OSType kControlPopupButtonMenuHandleTag = FourCC("mhan");
 /// Reads a piece of a control's data: at most `size` bytes into `data`, and the size it has into `actualSize`
 /// unless that is null. The result is 0 or an error; `data` is then left as it was.

@@ -4,7 +4,9 @@
 // Coordinates are local pixels of the current port unless said otherwise. A rectangle covers the pixels from
 // its top left corner up to, not including, its bottom and right edges; a frame lies inside its rectangle;
 // the pen hangs below and to the right of the points it goes through; a painted polygon leaves out the pixels
-// on its right and bottom edge.
+// on its right and bottom edge. Coordinates in double precision become those of the nearest pixel.
+//
+// There may be no current port; what is drawn then is nowhere to be seen.
 #pragma once
 
 #include "host/Geometry.h"
@@ -42,7 +44,7 @@ struct PenState {
     Pattern pattern{};
 };
 
-/// A 16.16 fixed-point number as a double.
+/// A 16.16 fixed-point number as a double. This one and the next are called while a module is being loaded.
 [[nodiscard]] double Fix2X(std::int32_t fixed);
 /// A whole number as a 16.16 fixed-point number; beyond what fits, the nearest that does.
 [[nodiscard]] std::int32_t Long2Fix(std::int32_t number);
@@ -55,7 +57,7 @@ void SetIDCursor(long cursorId);
 /// The classic drawing calls, on the current port.
 namespace QD {
 void SetPort(OpaqueGrafPtr* port);
-/// The mouse in the current port's local coordinates. Never waits.
+/// The mouse in the current port's local coordinates. Never waits by itself.
 void GetMouse(TPoint<short>& where);
 
 void GetForeColor(RGBColor* color);
@@ -101,8 +103,8 @@ class CGraphicsEnvironment {
 
     /// Fills the path's interior with a gradient whose start, end and radii are absolute, in the
     /// environment's coordinates. The color is interpolated between adjacent stops along the line from start
-    /// to end (type 1) or between start circle and end circle (any other type). Degenerate or non-finite
-    /// geometry draws something.
+    /// to end (type 1) or between start circle and end circle (any other type); beyond them it is that of the
+    /// outermost stop. Degenerate or non-finite geometry draws something.
     void CGContextDrawGradient(CGPath const* path, CGradientData const& gradient);
 
     /// The state, for the host's own use.
@@ -145,7 +147,8 @@ class CSimplePixMap {
     std::unique_ptr<State> state_;
 };
 
-/// Saves the current port and makes it current again at the end of the scope.
+/// Saves the current port, or that there is none, and makes it current again at the end of the scope. If the
+/// port is gone by then, none is current.
 class StGrafPortSaver {
   public:
     StGrafPortSaver();

@@ -122,7 +122,8 @@ template <typename T> struct TLine {
     TLine() = default;
     TLine(TPoint<T> const& from, TPoint<T> const& to) : start(from), end(to) {}
 
-    /// Direction from start to end in degrees, above -180 up to 180; 0 for a line of no length.
+    /// Direction from start to end in degrees, above -180 up to 180; 0 for a line of no length. Clockwise as
+    /// seen on the screen, since the vertical axis points down: 90 for a line straight down.
     [[nodiscard]] double Angle() const {
         auto const dh = static_cast<double>(end.h - start.h);
         auto const dv = static_cast<double>(end.v - start.v);

@@ -44,10 +44,15 @@ class CGradientColor {
 
 /// A gradient as it is stored: independent of any shape.
 ///
-/// Linear: the angle is its direction in degrees, start and end are not used. Radial: start and end are the
-/// centres of the inner and outer circle as fractions of the shape's bounds, from the top-left corner (0, 0)
-/// to the bottom-right (1, 1). In a record handed to CGContextDrawGradient, start, end and radii are absolute
-/// instead. The color list is kept in ascending order of position.
+/// Linear: the angle is its direction in degrees, counter-clockwise as seen on the screen, so that colors
+/// rise along (cos a, -sin a), written (horizontal, vertical) with the vertical axis pointing down: the
+/// opposite sign of TLine<double>::Angle(). Start and end are not used. Radial: start and end are the centres
+/// of the inner and outer circle as fractions of the shape's bounds, from the top-left corner (0, 0) to the
+/// bottom-right (1, 1), and may lie outside; radii are not used. docs/host-interface.md says how such a
+/// record is drawn.
+///
+/// In a record handed to CGContextDrawGradient, start, end and radii are absolute instead, and the angle is
+/// not used. The color list is kept in ascending order of position.
 class CGradientData {
   public:
     /// The host's default record: linear, angle 0, start and end (0.5, 0.5), radii 0, and at least one stop,
@@ -123,11 +128,13 @@ class CGradient final : public CHashBase {
     CGradientData const data_;
 };
 
-/// Number of object kinds that can carry a gradient, and their ids.
+/// Number of object kinds that can carry a gradient, and their ids: kinds as TessObject::WhatObject gives
+/// them, here in 32 bits.
 extern std::int32_t const kNumGradObjIDs;
 extern std::int32_t const kGradObjIDs[];
 
-/// True if objects of that kind can carry a gradient; false for 0, the kind of an empty object.
+/// True if objects of that kind can carry a gradient, which are those in kGradObjIDs; false for 0, the kind
+/// of an empty object. A kind is widened without a sign.
 [[nodiscard]] bool IsGradientCapable(long kind);
 
 /// The gradient as self-contained bytes, in a new block that the caller owns; null if it cannot be made.

@@ -41,7 +41,7 @@ class TessObject {
     TessObject() = default;
     explicit TessObject(std::shared_ptr<HostObject> state) : state_(std::move(state)) {}
 
-    /// The object's kind, 0 for an empty object.
+    /// The object's kind, 0 for an empty object. Kinds are the host's numbers, 1 to 255.
     [[nodiscard]] short WhatObject() const;
     /// The smallest rectangle around the object's outline itself, in drawing coordinates, stroke not counted.
     [[nodiscard]] TRect<double> BBox() const;
@@ -50,7 +50,8 @@ class TessObject {
     void SetGradient(SharedResourcePtr<CGradient> const& gradient);
     void SetFillPattern(SharedResourcePtr<CPatRecord> const& pattern);
 
-    /// The state, null for an empty object; for the host's own use.
+    /// The state, null for an empty object; for the host's own use. The reference is to a member: copy the
+    /// pointer where this object is a temporary, as the result of CTessObjList's operator[] is.
     [[nodiscard]] std::shared_ptr<HostObject> const& State() const { return state_; }
 
   private:
@@ -71,15 +72,16 @@ class CTessObjList {
     /// The object at an index; an empty object if there is none.
     [[nodiscard]] TessObject operator[](long index) const;
 
-    /// The state, null for a list of no drawing; for the host's own use.
+    /// The state, null for a list of no drawing; for the host's own use. The reference is to a member, as
+    /// that of TessObject::State() is.
     [[nodiscard]] std::shared_ptr<HostObjectList> const& State() const { return state_; }
 
   private:
     std::shared_ptr<HostObjectList> state_;
 };
 
-/// Which object kinds a pick may return: one bit for each kind, kind 0 being the lowest bit of the first
-/// word.
+/// Which object kinds a pick may return: one bit for each of the kinds 0 to 255, kind 0 being the lowest bit
+/// of the first word.
 struct SelDescrimT {
     std::array<std::uint32_t, 8> kinds{};
 
@@ -88,16 +90,17 @@ struct SelDescrimT {
 
 /// The filter that admits no kind.
 extern SelDescrimT const descrimAllOff;
-/// Reads and replaces the pick filter in force.
+/// Reads and replaces the pick filter in force, which admits every kind until a plug-in changes it.
 void GetSelDescrim(SelDescrimT& filter);
 void SetSelDescrim(SelDescrimT filter);
-/// Admits one more kind.
+/// Admits one more kind. A number that no kind can have changes nothing.
 void SetOneSelDescrim(short kind);
 
-/// True if an object that the filter admits lies under the point (drawing coordinates); `list` and `index`
-/// then tell which, the front-most if there are several. Otherwise both are left as they were.
+/// True if an object that the filter admits lies under the point (drawing coordinates; inside the object or
+/// as near to its outline as the host allows); `list` and `index` then tell which, the front-most if there
+/// are several. Otherwise both are left as they were.
 [[nodiscard]] bool PickObj(DWindow* window, TPoint<double> where, long& index, CTessObjList& list);
-/// Makes `clone` a full, independent copy of the object that belongs to no drawing.
+/// Makes `clone` a full, independent copy of the object that belongs to no drawing; empty if the object is.
 void CloneItem(TessObject const* object, TessObject& clone);
 /// Removes the object at the index from its drawing, recording it for undo.
 void DeleteUObj(long index, CTessObjList const& list);

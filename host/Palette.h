@@ -9,7 +9,8 @@
 
 #pragma GCC visibility push(default)
 
-/// Parameters of a message to a plug-in; the host's.
+/// Parameters of a message to a plug-in; the host's. Plug-ins of this interface read none, so a host may pass
+/// null.
 struct XTNLParmBlk;
 /// A window of the toolbox; the host's.
 struct OpaqueWindowPtr;
@@ -18,8 +19,11 @@ class TPalette;
 class DWindow;
 struct EventRecord;
 
-/// What a plug-in exports as `MainEntry`. Message 1 is sent after loading, message 2 before unloading; the
-/// plug-in's callbacks are called between the two only. The result is 0.
+/// What a plug-in exports as `MainEntry`, with C linkage. Message 1 is sent after loading, once the plug-in's
+/// resources can be read, message 2 before unloading; the plug-in's callbacks are called between the two
+/// only. Other messages do nothing. The result is 0. A plug-in takes back nothing of what it registered:
+/// after message 2 the host removes the tool, whose callbacks are code of the module, and only then unloads
+/// the module.
 using XTNLEntry = std::int32_t (*)(std::int16_t message, XTNLParmBlk* block);
 
 /// A tool's place in the palette. Only the icon has to be understood; a host with a layout of its own may
@@ -38,15 +42,21 @@ struct PaletteElement {
 /// A callback whose form this interface does not know.
 using ToolProc = void (*)();
 /// The mouse was pressed in a drawing window, at `where` in drawing coordinates, with the tool active; the
-/// button is usually still held. True if the tool made use of the press.
+/// button is usually still held, and may be held or released when this returns. True if the tool made use of
+/// the press. The tool reads modifier keys by NorvU::KeyIsDown and not from the event.
+///
+/// On entry to this and the other two any port may be current, or none; the one that is current is so again
+/// on return.
 using ToolClickProc = bool (*)(DWindow* window, EventRecord const& event, TPoint<double> const& where);
-/// The user asked for the tool's options.
+/// The user asked for the tool's options, which a modal dialog may show before this returns.
 using ToolOptionsProc = void (*)();
-/// The pointer is over a drawing window with the tool active: set that window's cursor.
+/// The pointer is over a drawing window with the tool active: set that window's cursor. To be called when the
+/// pointer enters the window or moves in it, and when a modifier key changes meanwhile.
 using ToolCursorProc = void (*)(DWindow* window);
 
-/// The callbacks of a tool, eight slots in a fixed order; null means none. The host fills them before it
-/// hands the record out, and calls nothing through a slot that the plug-in cleared.
+/// The callbacks of a tool, eight slots in a fixed order; null means none. The host fills them, with null or
+/// with what it does itself, before it hands the record out, and calls nothing through a slot that the
+/// plug-in cleared.
 struct ToolMethodRec {
     ToolProc slot1;
     ToolClickProc click;
@@ -76,9 +86,10 @@ class ToolRec {
     HostTool* tool_;
 };
 
-/// The window that holds the host's tool palette.
+/// The window that holds the host's tool palette. Read when message 1 is handled; only handed back to
+/// GetTPaletteFromWindowRef.
 extern OpaqueWindowPtr* roloPalette;
-/// The palette in a window.
+/// The palette in a window; null if it holds none.
 [[nodiscard]] TPalette* GetTPaletteFromWindowRef(OpaqueWindowPtr* window);
 /// Adds a tool. `row` is where the palette put it, `toolNumber` the number it got. The result is 0 unless the
 /// tool could not be added.

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int kBitsInWord = 32;
+constexpr short kLargestKind = 255;
 constexpr SelDescrimT kEveryKind{
     {0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF}};
 
@@ -91,7 +92,9 @@ void SetSelDescrim(SelDescrimT filter) {
 }
 
 void SetOneSelDescrim(short kind) {
-    PickFilter().kinds[static_cast<std::size_t>(kind / kBitsInWord)] |= 1U << (kind % kBitsInWord);
+    if (kind >= 0 && kind <= kLargestKind) {
+        PickFilter().kinds[static_cast<std::size_t>(kind / kBitsInWord)] |= 1U << (kind % kBitsInWord);
+    }
 }
 
 bool PickObj(DWindow* window, TPoint<double> where, long& index, CTessObjList& list) {
