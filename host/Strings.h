@@ -74,7 +74,8 @@ class CStr32 : public CPString {
     ~CStr32() = default;
 };
 
-/// Reads string `index` (from 1) of string list `listId`; empty if there is no such string.
+/// Reads string `index` (from 1) of string list `listId` of the plug-in's resources; empty if there is no
+/// such string. Asked for by message 1 already.
 void GetIndString(CStr255& out, short listId, short index);
 /// As above, by value.
 [[nodiscard]] CStr255 GetIndString(short listId, short index);
