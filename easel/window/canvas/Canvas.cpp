@@ -2,7 +2,7 @@
 #include "easel/window/canvas/Canvas.h"
 
 #include "easel/window/look/PathConversion.h"
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QScrollBar>
 #include <QVariantAnimation>
@@ -38,19 +38,21 @@ int scrollStep(double past) {
 
 } // namespace
 
-Canvas::Canvas(runtime::DrawingWindow& window, DesktopUser& user, QWidget* parent)
-    : QAbstractScrollArea(parent), window_(window), user_(user) {
+Canvas::Canvas(runtime::DrawingWindow& window, Interaction& interaction, OpenCanvases& canvases,
+               QWidget* parent)
+    : QAbstractScrollArea(parent), window_(window), interaction_(interaction),
+      entry_(canvases, window, *this) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Drawing"));
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-    user_.addCanvas(*this);
-    connect(&user_, &DesktopUser::becameIdle, this, &Canvas::handOverHeld);
+    connect(&interaction_.waiting, &Waiting::becameIdle, this, &Canvas::handOverHeld);
+    connect(&interaction_.keys, &ModifierKeys::optionChanged, this, &Canvas::refreshCursor);
 }
 
 Canvas::~Canvas() {
-    user_.removeCanvas(*this);
+    interaction_.pointer.forget(*this);
 }
 
 void Canvas::setTool(CanvasTool* tool) {

@@ -3,10 +3,10 @@
 
 #include "easel/runtime/DrawingWindow.h"
 #include "easel/window/canvas/CanvasTool.h"
+#include "easel/window/canvas/OpenCanvases.h"
 #include "easel/window/waiting/PointerSurface.h"
 
 #include <QAbstractScrollArea>
-#include <QElapsedTimer>
 #include <QMouseEvent>
 
 #include <memory>
@@ -17,14 +17,15 @@ class QNativeGestureEvent;
 
 namespace easel::window {
 
-class DesktopUser;
+struct Interaction;
 
 class Canvas : public QAbstractScrollArea, public PointerSurface {
     Q_OBJECT
 
   public:
-    // Neither is owned; both outlive the canvas.
-    Canvas(runtime::DrawingWindow& window, DesktopUser& user, QWidget* parent = nullptr);
+    // None of them is owned; all outlive the canvas.
+    Canvas(runtime::DrawingWindow& window, Interaction& interaction, OpenCanvases& canvases,
+           QWidget* parent = nullptr);
     ~Canvas() override;
 
     runtime::DrawingWindow& drawingWindow() { return window_; }
@@ -103,7 +104,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void handOverHeld();
 
     runtime::DrawingWindow& window_;
-    DesktopUser& user_;
+    Interaction& interaction_;
+    OpenCanvases::Entry entry_;
     CanvasTool* tool_ = nullptr;
     double zoom_ = 1;
     bool everSized_ = false;

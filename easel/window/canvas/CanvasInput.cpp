@@ -2,7 +2,7 @@
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/look/CursorImages.h"
 #include "easel/window/look/PathConversion.h"
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -19,12 +19,12 @@ namespace {
 
 // One notch of a wheel, in the units of wheel events.
 constexpr double kNotch = 120;
-constexpr double kZoomANotch = 1.2;
+constexpr double kZoomPerNotch = 1.2;
 
 } // namespace
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
-    if (user_.busy())
+    if (interaction_.waiting.busy())
         return;
     const bool pans =
         event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && spaceDown_);
@@ -42,8 +42,8 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         verticalScrollBar()->setValue(panStart_.y() - static_cast<int>(by.y()));
         return;
     }
-    if (user_.busy()) {
-        user_.pointer().moved(event->position());
+    if (interaction_.waiting.busy()) {
+        interaction_.pointer.moved(event->position());
         return;
     }
     if (tool_ == nullptr)
@@ -60,8 +60,8 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event) {
     }
     if (event->button() != Qt::LeftButton)
         return;
-    if (user_.busy())
-        user_.pointer().released(event->position());
+    if (interaction_.waiting.busy())
+        interaction_.pointer.released(event->position());
     else if (tool_ != nullptr)
         tool_->release(*this, *event);
 }
@@ -74,7 +74,7 @@ bool Canvas::holdsBack(const QEvent& event) {
     const bool follows = type == QEvent::MouseMove || type == QEvent::MouseButtonRelease;
     if (!presses && !(follows && !held_.empty()))
         return false;
-    if (!user_.busy() || !user_.pointer().over())
+    if (!interaction_.waiting.busy() || !interaction_.pointer.over())
         return false;
     held_.emplace_back(static_cast<const QMouseEvent&>(event).clone());
     return true;
@@ -101,7 +101,7 @@ void Canvas::endPan() {
 
 void Canvas::wheelEvent(QWheelEvent* event) {
     if ((event->modifiers() & Qt::ControlModifier) != 0) {
-        zoomAbout(event->position(), zoom_ * std::pow(kZoomANotch, event->angleDelta().y() / kNotch));
+        zoomAbout(event->position(), zoom_ * std::pow(kZoomPerNotch, event->angleDelta().y() / kNotch));
         event->accept();
         return;
     }
@@ -120,9 +120,9 @@ void Canvas::pinch(const QNativeGestureEvent& event) {
 }
 
 void Canvas::keyPressEvent(QKeyEvent* event) {
-    if (user_.busy()) {
+    if (interaction_.waiting.busy()) {
         if (event->key() == Qt::Key_Escape)
-            user_.cancelAll();
+            interaction_.waiting.cancelAll();
         return;
     }
     if (event->key() == Qt::Key_Space) {
@@ -152,7 +152,7 @@ void Canvas::focusOutEvent(QFocusEvent* event) {
 
 // While the plug-in follows the mouse, no key is a command.
 bool Canvas::event(QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride && user_.busy()) {
+    if (event->type() == QEvent::ShortcutOverride && interaction_.waiting.busy()) {
         event->accept();
         return true;
     }
@@ -172,7 +172,7 @@ bool Canvas::viewportEvent(QEvent* event) {
 }
 
 void Canvas::refreshCursor() {
-    if (tool_ != nullptr && !user_.busy() && !panning() && !spaceDown_)
+    if (tool_ != nullptr && !interaction_.waiting.busy() && !panning() && !spaceDown_)
         tool_->updateCursor(*this);
 }
 

@@ -4,26 +4,27 @@
 #include "easel/runtime/Host.h"
 #include "easel/runtime/ToolCalls.h"
 #include "easel/window/canvas/Canvas.h"
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QMouseEvent>
 
 namespace easel::window {
 
-PluginTool::PluginTool(const HostTool& tool, DesktopUser& user) : tool_(tool), user_(user) {}
+PluginTool::PluginTool(const HostTool& tool, Interaction& interaction)
+    : tool_(tool), interaction_(interaction) {}
 
 void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
     runtime::DrawingWindow& window = canvas.drawingWindow();
     runtime::theHost().activeWindow = &window;
-    user_.pointer().pressed(canvas, event.position());
+    interaction_.pointer.pressed(canvas, event.position());
     const std::size_t levels = window.drawing().undoLevels();
     runtime::ToolOutcome outcome = runtime::ToolOutcome::declined;
     {
-        const DesktopUser::Call call(user_);
-        const InputGate::Scope scope(user_.gate(), &canvas);
+        const Waiting::Call call(interaction_.waiting);
+        const InputGate::Scope scope(interaction_.gate, &canvas);
         outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(event.position()));
         // A drag that was broken off has let go of the button where it stood; nothing was to come of it.
-        if (user_.cancelled() && window.drawing().undoLevels() > levels)
+        if (interaction_.waiting.cancelled() && window.drawing().undoLevels() > levels)
             window.drawing().undo();
     }
     canvas.marked();
@@ -34,14 +35,14 @@ void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
 }
 
 void PluginTool::updateCursor(Canvas& canvas) {
-    const DesktopUser::Call call(user_);
+    const Waiting::Call call(interaction_.waiting);
     runtime::updateToolCursor(tool_, canvas.drawingWindow());
 }
 
 void PluginTool::openOptions() {
-    if (user_.busy())
+    if (interaction_.waiting.busy())
         return;
-    const DesktopUser::Call call(user_);
+    const Waiting::Call call(interaction_.waiting);
     runtime::openToolOptions(tool_);
 }
 

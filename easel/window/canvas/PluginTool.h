@@ -9,14 +9,14 @@ struct HostTool;
 
 namespace easel::window {
 
-class DesktopUser;
+struct Interaction;
 
 class PluginTool : public QObject, public CanvasTool {
     Q_OBJECT
 
   public:
     // Neither is owned; both outlive the tool.
-    PluginTool(const HostTool& tool, DesktopUser& user);
+    PluginTool(const HostTool& tool, Interaction& interaction);
 
     void press(Canvas& canvas, const QMouseEvent& event) override;
     void updateCursor(Canvas& canvas) override;
@@ -28,7 +28,7 @@ class PluginTool : public QObject, public CanvasTool {
 
   private:
     const HostTool& tool_;
-    DesktopUser& user_;
+    Interaction& interaction_;
 };
 
 } // namespace easel::window

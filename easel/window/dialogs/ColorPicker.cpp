@@ -1,6 +1,8 @@
 // Keeps the color dialog and the 16-bit fields in step.
 #include "easel/window/dialogs/ColorPicker.h"
 
+#include "easel/window/waiting/DialogStack.h"
+
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -103,6 +105,11 @@ void ColorPicker::showChannels() {
         const QSignalBlocker quiet(channels_[i]);
         channels_[i]->setValue(values[i]);
     }
+}
+
+std::optional<ExactColor> askForColor(const QString& prompt, const ExactColor& start, DialogStack& dialogs) {
+    ColorPicker picker(prompt, start, dialogs.parentForNext());
+    return dialogs.run(picker) ? std::optional(picker.color()) : std::nullopt;
 }
 
 } // namespace easel::window

@@ -6,11 +6,14 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 class QColorDialog;
 class QSpinBox;
 
 namespace easel::window {
+
+class DialogStack;
 
 struct ExactColor {
     std::uint16_t red = 0;
@@ -42,5 +45,8 @@ class ColorPicker : public QDialog {
     QColorDialog* dialog_;
     std::array<QSpinBox*, 3> channels_;
 };
+
+// Lets the user pick a color; empty when cancelled.
+std::optional<ExactColor> askForColor(const QString& prompt, const ExactColor& start, DialogStack& dialogs);
 
 } // namespace easel::window

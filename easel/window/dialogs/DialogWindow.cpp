@@ -4,7 +4,7 @@
 #include "easel/window/dialogs/ControlItems.h"
 #include "easel/window/dialogs/DialogContent.h"
 #include "easel/window/dialogs/EditItem.h"
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/dialogs/UserItem.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -35,15 +35,14 @@ runtime::DialogTheme themeOf(const QPalette& palette) {
             rgb(erased)};
 }
 
-ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item, DesktopUser& user,
-                           DialogContent& content) {
+ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item, DialogContent& content) {
     switch (item.kind) {
     case runtime::ItemKind::Button:
         return new ButtonItem(dialog, item.number, &content);
     case runtime::ItemKind::StaticText:
         return new LabelItem(dialog, item.number, &content);
     case runtime::ItemKind::EditText:
-        return new EditItem(dialog, item.number, user, &content);
+        return new EditItem(dialog, item.number, &content);
     case runtime::ItemKind::UserDrawn:
         return new UserItem(dialog, item.number, content);
     case runtime::ItemKind::Popup:
@@ -61,9 +60,9 @@ bool isSeparator(const runtime::DialogItem& item) {
 
 } // namespace
 
-DialogWindow::DialogWindow(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent)
+DialogWindow::DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), dialog_(dialog),
-      user_(user), content_(new DialogContent(dialog, user, this)) {
+      content_(new DialogContent(dialog, pointer, this)) {
     setWindowTitle(QString::fromStdString(dialog.title()));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -84,7 +83,7 @@ DialogWindow::~DialogWindow() {
 }
 
 void DialogWindow::addItem(const runtime::DialogItem& item) {
-    ItemWidget* made = makeItemWidget(dialog_, item, user_, *content_);
+    ItemWidget* made = makeItemWidget(dialog_, item, *content_);
     items_[item.number] = made;
     QWidget* widget = made->widget();
     widget->setGeometry(item.bounds.left, item.bounds.top, item.bounds.width(), item.bounds.height());

@@ -9,9 +9,9 @@
 
 namespace easel::window {
 
-class DesktopUser;
 class DialogContent;
 class ItemWidget;
+class PointerTracker;
 
 // Shows the model and keeps showing it: native controls over the dialog's own image. What the user does goes
 // to the model, which turns it into hits.
@@ -19,7 +19,8 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
     Q_OBJECT
 
   public:
-    DialogWindow(runtime::Dialog& dialog, DesktopUser& user, QWidget* parent);
+    // The model and the tracker outlive the window.
+    DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, QWidget* parent);
     ~DialogWindow() override;
 
     void reject() override;
@@ -41,7 +42,6 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
     void matchScreen();
 
     runtime::Dialog& dialog_;
-    DesktopUser& user_;
     DialogContent* content_;
     std::map<int, ItemWidget*> items_;
 };

@@ -1,8 +1,7 @@
 // Keeps the line editor and the model's text and selection in step.
 #include "easel/window/dialogs/EditItem.h"
 
-#include "easel/window/main/DesktopUser.h"
-
+#include <QApplication>
 #include <QScopedValueRollback>
 #include <QToolTip>
 
@@ -22,8 +21,8 @@ QString firstNewCharacter(const QString& before, const QString& after) {
 
 } // namespace
 
-EditItem::EditItem(runtime::Dialog& dialog, int item, DesktopUser& user, QWidget* parent)
-    : QLineEdit(parent), dialog_(dialog), item_(item), user_(user) {
+EditItem::EditItem(runtime::Dialog& dialog, int item, QWidget* parent)
+    : QLineEdit(parent), dialog_(dialog), item_(item) {
     connect(this, &QLineEdit::textEdited, this, &EditItem::edited);
     connect(this, &QLineEdit::selectionChanged, this, &EditItem::selectionMoved);
     connect(this, &QLineEdit::cursorPositionChanged, this, &EditItem::selectionMoved);
@@ -56,7 +55,7 @@ void EditItem::refuse(const QString& attempted) {
     const QString kept = QString::fromStdString(dialog_.item(item_)->shownText());
     const QString character = firstNewCharacter(kept, attempted);
     modelChanged(runtime::ItemChange::Text);
-    user_.beep();
+    QApplication::beep();
     const QString reason =
         tr("\u201c%1\u201d cannot be used here: names are kept in the Mac Roman alphabet.").arg(character);
     QToolTip::showText(mapToGlobal(rect().bottomLeft()), reason, this, {}, 5000);

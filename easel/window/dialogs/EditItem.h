@@ -7,15 +7,13 @@
 
 namespace easel::window {
 
-class DesktopUser;
-
 // A line editor that changes only what the model accepts: text that the host's encoding lacks is turned back
 // with a beep and a word of explanation.
 class EditItem : public QLineEdit, public ItemWidget {
     Q_OBJECT
 
   public:
-    EditItem(runtime::Dialog& dialog, int item, DesktopUser& user, QWidget* parent);
+    EditItem(runtime::Dialog& dialog, int item, QWidget* parent);
     QWidget* widget() override { return this; }
     void modelChanged(runtime::ItemChange change) override;
 
@@ -26,7 +24,6 @@ class EditItem : public QLineEdit, public ItemWidget {
 
     runtime::Dialog& dialog_;
     int item_;
-    DesktopUser& user_;
     bool following_ = false; // taking over from the model, so nothing is to be told to it
 };
 

@@ -1,7 +1,7 @@
 // Builds the list of shortcuts from the menus themselves, so that it cannot fall behind.
 #include "easel/window/main/HelpDialogs.h"
 
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/DialogStack.h"
 
 #include <QAction>
 #include <QApplication>
@@ -52,8 +52,8 @@ void addMouse(QTreeWidget& list) {
 
 } // namespace
 
-void showShortcuts(const QMainWindow& window, DesktopUser& user) {
-    QDialog dialog(user.parentForDialogs());
+void showShortcuts(const QMainWindow& window, DialogStack& dialogs) {
+    QDialog dialog(dialogs.parentForNext());
     dialog.setWindowTitle(QObject::tr("Shortcuts"));
     auto* list = new QTreeWidget;
     list->setColumnCount(2);
@@ -74,11 +74,11 @@ void showShortcuts(const QMainWindow& window, DesktopUser& user) {
     layout->addWidget(list);
     layout->addWidget(buttons);
     dialog.resize(560, 620);
-    user.runDialog(dialog);
+    dialogs.run(dialog);
 }
 
-void showAbout(const std::string& version, DesktopUser& user) {
-    QMessageBox box(user.parentForDialogs());
+void showAbout(const std::string& version, DialogStack& dialogs) {
+    QMessageBox box(dialogs.parentForNext());
     box.setWindowTitle(QObject::tr("About Easel"));
     box.setIconPixmap(QApplication::windowIcon().pixmap(64));
     box.setTextFormat(Qt::PlainText);
@@ -87,7 +87,7 @@ void showAbout(const std::string& version, DesktopUser& user) {
         QObject::tr("Draws with gradients on SVG files.\n\nThe gradient tool is a plug-in; Easel "
                     "is the host that it runs in."));
     box.setStandardButtons(QMessageBox::Close);
-    user.runDialog(box);
+    dialogs.run(box);
 }
 
 } // namespace easel::window

@@ -7,11 +7,11 @@ class QMainWindow;
 
 namespace easel::window {
 
-class DesktopUser;
+class DialogStack;
 
 // Lists the keys of the window's menus and what the mouse does.
-void showShortcuts(const QMainWindow& window, DesktopUser& user);
+void showShortcuts(const QMainWindow& window, DialogStack& dialogs);
 
-void showAbout(const std::string& version, DesktopUser& user);
+void showAbout(const std::string& version, DialogStack& dialogs);
 
 } // namespace easel::window

@@ -2,8 +2,8 @@
 #include "easel/window/main/LoadDrawing.h"
 
 #include "easel/files/AtomicFile.h"
-#include "easel/window/main/BackgroundWork.h"
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/BackgroundWork.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -19,11 +19,11 @@ constexpr qint64 kFrame = 33;
 
 } // namespace
 
-svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* over) {
-    const DesktopUser::Call call(user);
+svg::ReadResult loadDrawing(const QString& file, Interaction& interaction, QWidget* over) {
+    const Waiting::Call call(interaction.waiting);
     const auto dialog =
         makeProgressDialog(QObject::tr("Opening %1 \u2026").arg(QFileInfo(file).fileName()), over);
-    const InputGate::Scope scope(user.gate(), dialog.get());
+    const InputGate::Scope scope(interaction.gate, dialog.get());
     QElapsedTimer sinceShown;
     sinceShown.start();
     svg::ReadOptions options;
@@ -34,7 +34,7 @@ svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* ove
             showProgress(*dialog, done);
             sinceShown.restart();
         }
-        return !dialog->wasCanceled() && !user.cancelled();
+        return !dialog->wasCanceled() && !interaction.waiting.cancelled();
     };
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     // What a save of this drawing left when the program was killed goes now.

@@ -8,9 +8,9 @@ class QWidget;
 
 namespace easel::window {
 
-class DesktopUser;
+struct Interaction;
 
 // What takes longer than half a second shows its progress and can be cancelled.
-svg::ReadResult loadDrawing(const QString& file, DesktopUser& user, QWidget* over);
+svg::ReadResult loadDrawing(const QString& file, Interaction& interaction, QWidget* over);
 
 } // namespace easel::window

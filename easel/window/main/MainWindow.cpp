@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -43,9 +42,10 @@ QString titleOf(const QString& drawing) {
 } // namespace
 
 MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QString& file)
-    : workspace_(workspace), drawingWindow_(std::move(drawing)), file_(file), notice_(new NoticeBar) {
+    : workspace_(workspace), drawingWindow_(std::move(drawing)), file_(file), notice_(new NoticeBar),
+      closing_(workspace.interaction().waiting, [this] { close(); }) {
     setAttribute(Qt::WA_DeleteOnClose);
-    canvas_ = new Canvas(drawingWindow_, workspace_.user());
+    canvas_ = new Canvas(drawingWindow_, workspace_.interaction(), workspace_.canvases());
     auto* middle = new QWidget;
     auto* layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -61,11 +61,6 @@ MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QSt
     connect(canvas_, &Canvas::changed, this, &MainWindow::drawingChanged);
     connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
     connect(&workspace_, &Workspace::activeToolChanged, this, &MainWindow::toolChanged);
-    connect(&workspace_.user(), &DesktopUser::optionKeyChanged, canvas_, &Canvas::refreshCursor);
-    connect(&workspace_.user(), &DesktopUser::becameIdle, this, [this] {
-        if (std::exchange(closeWhenIdle_, false))
-            QTimer::singleShot(0, this, &QWidget::close);
-    });
     notice_->tell(joined(drawingWindow_.drawing().notes()));
     toolChanged();
     drawingChanged();
@@ -230,10 +225,10 @@ void MainWindow::chooseAppearance(QAction* chosen) {
 }
 
 void MainWindow::showShortcuts() {
-    window::showShortcuts(*this, workspace_.user());
+    window::showShortcuts(*this, workspace_.interaction().dialogs);
 }
 void MainWindow::showAbout() {
-    window::showAbout(workspace_.version(), workspace_.user());
+    window::showAbout(workspace_.version(), workspace_.interaction().dialogs);
 }
 void MainWindow::quit() {
     workspace_.quit();
@@ -244,16 +239,14 @@ void MainWindow::changeEvent(QEvent* event) {
     if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
     runtime::theHost().activeWindow = &drawingWindow_;
-    workspace_.user().setFrontWindow(this);
+    workspace_.interaction().dialogs.setFrontWindow(this);
     // The switches belong to the program; another window may have changed them.
     snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
     snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (workspace_.user().busy()) {
-        closeWhenIdle_ = true;
-        workspace_.user().cancelAll();
+    if (closing_.hasToWait()) {
         event->ignore();
         return;
     }

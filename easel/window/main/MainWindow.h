@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/runtime/DrawingWindow.h"
+#include "easel/window/waiting/CancelFirst.h"
 
 #include <QMainWindow>
 #include <QString>
@@ -118,7 +119,7 @@ class MainWindow : public QMainWindow {
     QString file_;
     Canvas* canvas_;
     NoticeBar* notice_;
-    bool closeWhenIdle_ = false;
+    CancelFirst closing_;
 
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;

@@ -2,16 +2,16 @@
 #include "easel/export/ExportDrawing.h"
 #include "easel/runtime/Alert.h"
 #include "easel/svg/Document.h"
-#include "easel/window/dialogs/Messages.h"
-#include "easel/window/main/BackgroundWork.h"
+#include "easel/window/dialogs/Questions.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/PrintDrawing.h"
 #include "easel/window/main/Workspace.h"
+#include "easel/window/waiting/BackgroundWork.h"
+#include "easel/window/waiting/TellProblem.h"
 
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -50,7 +50,7 @@ void MainWindow::newDrawing() {
 void MainWindow::open() {
     QFileDialog dialog(this, tr("Open"), QFileInfo(file_).path(), svgFilter());
     dialog.setFileMode(QFileDialog::ExistingFiles);
-    if (!workspace_.user().runDialog(dialog))
+    if (!workspace_.interaction().dialogs.run(dialog))
         return;
     workspace_.openFiles(dialog.selectedFiles(), this);
 }
@@ -76,7 +76,7 @@ QString MainWindow::chosenFile(const QString& title, const QString& name, const 
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QFileInfo(name).suffix());
     dialog.selectFile(name);
-    return workspace_.user().runDialog(dialog) ? dialog.selectedFiles().value(0) : QString();
+    return workspace_.interaction().dialogs.run(dialog) ? dialog.selectedFiles().value(0) : QString();
 }
 
 MainWindow::Saved MainWindow::save() {
@@ -91,7 +91,7 @@ MainWindow::Saved MainWindow::saveAs() {
 MainWindow::Saved MainWindow::saveTo(const QString& file) {
     const auto failure = svg::saveFile(drawingWindow_.drawing(), QFile::encodeName(file).toStdString());
     if (failure) {
-        workspace_.user().tell(failure->message);
+        tellProblem(failure->message, workspace_.interaction().dialogs);
         drawingChanged();
         return Saved::No;
     }
@@ -128,9 +128,7 @@ bool MainWindow::mayReplace(const QString& file) {
     alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
     alert.yesButton = tr("Replace").toStdString();
     alert.noButton = tr("Cancel").toStdString();
-    const Question question = makeQuestion(alert, this);
-    workspace_.user().runDialog(*question.box);
-    return question.yes();
+    return ask(alert, this, workspace_.interaction().dialogs) == runtime::Answer::yes;
 }
 
 void MainWindow::exportAs(const QString& suffix) {
@@ -139,12 +137,12 @@ void MainWindow::exportAs(const QString& suffix) {
         return;
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     files::FileOutcome error;
-    workBeside(workspace_.user(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
+    workBeside(workspace_.interaction(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
                [&](const exports::Progress& progress) {
                    error = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
                });
     if (error && !exports::wasCancelled(*error))
-        workspace_.user().tell(error->message());
+        tellProblem(error->message(), workspace_.interaction().dialogs);
     else if (!error)
         statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
 }
@@ -154,9 +152,9 @@ void MainWindow::print() {
     printer.setDocName(name());
     turnPage(drawingWindow_.drawing(), printer);
     QPrintDialog dialog(&printer, this);
-    if (!workspace_.user().runDialog(dialog))
+    if (!workspace_.interaction().dialogs.run(dialog))
         return;
-    if (printDrawing(drawingWindow_.drawing(), printer, workspace_.user(), this) == Printed::Yes)
+    if (printDrawing(drawingWindow_.drawing(), printer, workspace_.interaction(), this) == Printed::Yes)
         statusBar()->showMessage(tr("Printed %1").arg(name()), kMessageTime);
 }
 
@@ -166,9 +164,7 @@ MainWindow::Saved MainWindow::settleChanges() {
         return Saved::Yes;
     raise();
     activateWindow();
-    const UnsavedQuestion question = makeUnsavedQuestion(name(), this);
-    workspace_.user().runDialog(*question.box);
-    switch (question.choice()) {
+    switch (askAboutUnsaved(name(), this, workspace_.interaction().dialogs)) {
     case UnsavedChoice::Save:
         return save();
     case UnsavedChoice::Discard:

@@ -45,7 +45,7 @@ void PluginSession::load(const std::filesystem::path& module) {
 PluginSession::~PluginSession() {
     if (!module_)
         return;
-    const DesktopUser::Call call(workspace_.user());
+    const Waiting::Call call(workspace_.interaction().waiting);
     module_->send(runtime::kShutDownMessage);
     workspace_.removeTools();
     runtime::thePalette().clear();

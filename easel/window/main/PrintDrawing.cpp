@@ -5,8 +5,9 @@
 #include "easel/export/PdfFile.h"
 #include "easel/files/AtomicFile.h"
 #include "easel/paint/RenderDrawing.h"
-#include "easel/window/main/BackgroundWork.h"
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/BackgroundWork.h"
+#include "easel/window/waiting/Interaction.h"
+#include "easel/window/waiting/TellProblem.h"
 
 #include <QFile>
 #include <QImage>
@@ -23,8 +24,8 @@ namespace easel::window {
 namespace {
 
 // Finer than this no printer shows a gradient, and the picture grows with the square.
-constexpr double kPrintResolution = 300; // dots an inch
-constexpr double kPointsAnInch = 72;
+constexpr double kPrintResolution = 300; // dots per inch
+constexpr double kPointsPerInch = 72;
 
 exports::PdfPage pageFor(const drawing::Drawing& drawing, const QPrinter& printer) {
     const QPageLayout layout = printer.pageLayout();
@@ -59,7 +60,7 @@ QString paintPage(const drawing::Drawing& drawing, const exports::PdfPage& page,
     QPainter painter;
     if (!painter.begin(&printer))
         return QObject::tr("The printer cannot be started.");
-    const double dots = printer.resolution() / kPointsAnInch;
+    const double dots = printer.resolution() / kPointsPerInch;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(page.left * dots, page.top * dots, drawing.width() * page.pointsAUnit * dots,
                              drawing.height() * page.pointsAUnit * dots),
@@ -74,7 +75,8 @@ void turnPage(const drawing::Drawing& drawing, QPrinter& printer) {
                                                                   : QPageLayout::Portrait);
 }
 
-Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, DesktopUser& user, QWidget* over) {
+Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Interaction& interaction,
+                     QWidget* over) {
     const exports::PdfPage page = pageFor(drawing, printer);
     const bool asPdf =
         printer.outputFormat() == QPrinter::PdfFormat && printer.colorMode() == QPrinter::Color;
@@ -83,12 +85,12 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Desktop
     QImage image;
     QString problem;
     try {
-        workBeside(user, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
+        workBeside(interaction, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
                    [&](const exports::Progress& progress) {
                        if (asPdf)
                            failure = files::replaceFile(file, encodePdf(drawing, page, progress));
                        else
-                           image = pictureOf(drawing, page.pointsAUnit * kPrintResolution / kPointsAnInch,
+                           image = pictureOf(drawing, page.pointsAUnit * kPrintResolution / kPointsPerInch,
                                              progress);
                    });
         if (failure)
@@ -102,7 +104,7 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Desktop
     }
     if (problem.isEmpty())
         return Printed::Yes;
-    user.tell(problem.toStdString());
+    tellProblem(problem.toStdString(), interaction.dialogs);
     return Printed::No;
 }
 

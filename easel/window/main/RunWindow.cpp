@@ -1,6 +1,7 @@
 // Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
 #include "easel/window/main/RunWindow.h"
 
+#include "easel/window/canvas/OpenCanvases.h"
 #include "easel/window/look/EaselStyle.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/Application.h"
@@ -69,11 +70,13 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     applyAppearance(storedAppearance());
     QApplication::setStyle(new EaselStyle);
 
-    DesktopUser user;
+    Interaction interaction;
+    OpenCanvases canvases;
+    DesktopUser user(interaction, canvases);
     easel::runtime::theHost().user = &user;
     int result = 0;
     {
-        Workspace workspace(startUp.version, user);
+        Workspace workspace(startUp.version, interaction, canvases);
         PluginSession plugin(startUp.plugin, startUp.preferences, workspace);
         const TerminationSignals signals([&workspace] { workspace.quit(); });
         QTimer::singleShot(0, &workspace, [&] { openFirstWindows(workspace, startUp, plugin); });

@@ -5,10 +5,10 @@
 #include "easel/window/look/Icons.h"
 #include "easel/window/main/LoadDrawing.h"
 #include "easel/window/main/MainWindow.h"
+#include "easel/window/waiting/TellProblem.h"
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <optional>
@@ -24,12 +24,10 @@ constexpr QPoint kCascade{28, 28};
 
 } // namespace
 
-Workspace::Workspace(std::string version, DesktopUser& user) : version_(std::move(version)), user_(user) {
+Workspace::Workspace(std::string version, Interaction& interaction, OpenCanvases& canvases)
+    : version_(std::move(version)), interaction_(interaction), canvases_(canvases),
+      quitting_(interaction.waiting, [this] { quit(); }) {
     tools_.push_back({tr("Select"), icon(IconName::Select), &selectTool_, nullptr});
-    connect(&user_, &DesktopUser::becameIdle, this, [this] {
-        if (std::exchange(quitWhenIdle_, false))
-            QTimer::singleShot(0, this, &Workspace::quit);
-    });
 }
 
 Workspace::~Workspace() {
@@ -38,7 +36,7 @@ Workspace::~Workspace() {
 }
 
 void Workspace::addTool(const HostTool& tool, const QIcon& icon) {
-    pluginTools_.push_back(std::make_unique<PluginTool>(tool, user_));
+    pluginTools_.push_back(std::make_unique<PluginTool>(tool, interaction_));
     PluginTool* made = pluginTools_.back().get();
     tools_.push_back({QString::fromStdString(tool.name), icon, made, made});
 }
@@ -81,10 +79,10 @@ bool Workspace::openFile(const QString& file, QWidget* over) {
     std::optional<MainWindow::Awaiting> awaiting;
     if (place != nullptr)
         awaiting.emplace(*place, file);
-    svg::ReadResult result = loadDrawing(file, user_, over);
+    svg::ReadResult result = loadDrawing(file, interaction_, over);
     if (const auto* failure = std::get_if<svg::Failure>(&result)) {
         if (failure->fault != svg::Fault::Cancelled)
-            user_.tell(failure->message);
+            tellProblem(failure->message, interaction_.dialogs);
         if (!QFileInfo::exists(file))
             recentFiles_.remove(file);
         return false;
@@ -114,8 +112,12 @@ MainWindow& Workspace::show(drawing::Drawing drawing, const QString& file) {
         window->move(last->pos() + kCascade);
     window->show();
     window->activateWindow();
-    user_.setFrontWindow(window);
+    interaction_.dialogs.setFrontWindow(window);
     return *window;
+}
+
+void Workspace::tell(const QString& message) {
+    tellProblem(message.toStdString(), interaction_.dialogs);
 }
 
 void Workspace::windowClosed(MainWindow& window) {
@@ -125,11 +127,8 @@ void Workspace::windowClosed(MainWindow& window) {
 }
 
 void Workspace::quit() {
-    if (user_.busy()) {
-        quitWhenIdle_ = true;
-        user_.cancelAll();
+    if (quitting_.hasToWait())
         return;
-    }
     for (const QPointer<MainWindow>& window : std::vector(windows_))
         if (window != nullptr && !window->close())
             return;

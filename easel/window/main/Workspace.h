@@ -4,8 +4,9 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/window/canvas/PluginTool.h"
 #include "easel/window/canvas/SelectTool.h"
-#include "easel/window/main/DesktopUser.h"
 #include "easel/window/main/RecentFiles.h"
+#include "easel/window/waiting/CancelFirst.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QIcon>
 #include <QObject>
@@ -21,6 +22,7 @@ struct HostTool;
 namespace easel::window {
 
 class MainWindow;
+class OpenCanvases;
 
 // A tool as the palette shows it.
 struct PaletteTool {
@@ -34,10 +36,11 @@ class Workspace : public QObject {
     Q_OBJECT
 
   public:
-    Workspace(std::string version, DesktopUser& user);
+    Workspace(std::string version, Interaction& interaction, OpenCanvases& canvases);
     ~Workspace() override;
 
-    DesktopUser& user() { return user_; }
+    Interaction& interaction() { return interaction_; }
+    OpenCanvases& canvases() { return canvases_; }
     RecentFiles& recentFiles() { return recentFiles_; }
     const std::string& version() const { return version_; }
 
@@ -61,7 +64,7 @@ class Workspace : public QObject {
     void quit();
 
     // Shows a message box; "FILE: reason" or a sentence.
-    void tell(const QString& message) { user_.tell(message.toStdString()); }
+    void tell(const QString& message);
 
   Q_SIGNALS:
     void activeToolChanged();
@@ -71,14 +74,15 @@ class Workspace : public QObject {
     MainWindow* windowShowing(const QString& file) const;
 
     std::string version_;
-    DesktopUser& user_;
+    Interaction& interaction_;
+    OpenCanvases& canvases_;
     RecentFiles recentFiles_;
     SelectTool selectTool_;
     std::vector<std::unique_ptr<PluginTool>> pluginTools_;
     std::vector<PaletteTool> tools_;
     std::size_t active_ = 0;
     std::vector<QPointer<MainWindow>> windows_;
-    bool quitWhenIdle_ = false;
+    CancelFirst quitting_;
 };
 
 } // namespace easel::window

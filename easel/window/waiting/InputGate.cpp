@@ -33,7 +33,7 @@ bool isKey(QEvent::Type type) {
 
 } // namespace
 
-InputGate::InputGate(QObject* parent) : QObject(parent) {
+InputGate::InputGate() {
     qApp->installEventFilter(this);
 }
 
@@ -48,15 +48,14 @@ bool InputGate::admits(const QWidget& widget) const {
     // Only what is admitted can open a menu or a list of completions, and not all of them name a parent.
     if (widget.window()->windowType() == Qt::Popup)
         return true;
-    for (const QWidget* at = &widget; at != nullptr; at = at->parentWidget())
+    for (const QWidget* at = &widget; at; at = at->parentWidget())
         if (at == admitted_.back().widget)
             return true;
     return false;
 }
 
 bool InputGate::eventFilter(QObject* receiver, QEvent* event) {
-    if (admitted_.empty() || admitted_.back().widget == nullptr || !receiver->isWidgetType() ||
-        !isInput(event->type()))
+    if (admitted_.empty() || !admitted_.back().widget || !receiver->isWidgetType() || !isInput(event->type()))
         return false;
     if (admits(*static_cast<QWidget*>(receiver)))
         return admitted_.back().hears == Hears::Keys && !isKey(event->type());

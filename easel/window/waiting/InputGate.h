@@ -24,7 +24,8 @@ class InputGate : public QObject {
     };
 
   public:
-    explicit InputGate(QObject* parent = nullptr);
+    // Hears all events of the application from here on.
+    InputGate();
 
     // While it lives, and no later one does, only this widget and what it contains or opens hears the user.
     class Scope {

@@ -1,10 +1,9 @@
 // The waits of mouse tracking, as sleeps during which events are handled.
 #include "easel/window/waiting/PointerTracker.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace easel::window {
@@ -62,7 +61,7 @@ bool PointerTracker::takeNews() {
 runtime::MouseState PointerTracker::mouse() const {
     if (surface_ == nullptr)
         return {};
-    return {surface_->toLocal(position_), down_ && !givenUp_};
+    return {surface_->toLocal(position_), down_ && !waiting_.cancelled()};
 }
 
 bool PointerTracker::nearEdge() const {
@@ -71,10 +70,10 @@ bool PointerTracker::nearEdge() const {
 
 runtime::MouseState PointerTracker::waitWhileDown() {
     // Whoever follows the mouse asks this between hearing of a move and showing it.
-    if (!down_ || givenUp_ || std::exchange(unheeded_, false))
+    if (!down_ || waiting_.cancelled() || std::exchange(unheeded_, false))
         return mouse();
     if (!takeNews()) {
-        sleep(kFrame);
+        waiting_.sleep(kFrame);
         takeNews();
     }
     return mouse();
@@ -98,8 +97,8 @@ runtime::MouseState PointerTracker::waitForMove(drawing::Point from) {
         const bool brief = known || nearEdge();
         const QDeadlineTimer end = brief ? QDeadlineTimer(kFrame) : QDeadlineTimer(QDeadlineTimer::Forever);
         keysChanged_ = false;
-        while (!takeNews() && !givenUp_ && !keysChanged_ && !end.hasExpired())
-            sleep(brief ? std::optional(kFrame) : std::nullopt);
+        while (!takeNews() && !waiting_.cancelled() && !keysChanged_ && !end.hasExpired())
+            waiting_.sleep(brief ? std::optional(kFrame) : std::nullopt);
         scrollTowardsMouse();
     }
     return answer();
@@ -113,7 +112,7 @@ bool PointerTracker::dragBegins(drawing::Point from, double distance) {
         if (drawing::length(now.at - from) * surface_->pixelsPerUnit() >= distance)
             return true;
         if (!takeNews())
-            sleep();
+            waiting_.sleep();
     }
 }
 
@@ -122,17 +121,6 @@ void PointerTracker::scrollTowardsMouse() {
         return;
     surface_->scrollTowards(position_);
     sinceScroll_.restart();
-}
-
-// Returns after some events have been handled, or after the time is over.
-void PointerTracker::sleep(std::optional<std::chrono::milliseconds> atMost) {
-    QTimer timer;
-    if (atMost) {
-        timer.setTimerType(Qt::PreciseTimer);
-        timer.setSingleShot(true);
-        timer.start(*atMost);
-    }
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 } // namespace easel::window

@@ -1,7 +1,8 @@
 // The list, its hint and its two buttons.
-#include "easel/window/dialogs/DeletionDialog.h"
+#include "easel/window/dialogs/DeletionWindow.h"
 
 #include "easel/runtime/DeletionList.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QAbstractListModel>
 #include <QDialogButtonBox>
@@ -28,7 +29,7 @@ class RowsModel : public QAbstractListModel {
 
 } // namespace
 
-DeletionDialog::DeletionDialog(runtime::DeletionList& list, QWidget* parent)
+DeletionWindow::DeletionWindow(runtime::DeletionList& list, QWidget* parent)
     : QDialog(parent), list_(list), view_(new QListView) {
     const QString title = QString::fromStdString(list.title());
     setWindowTitle(title);
@@ -48,7 +49,7 @@ DeletionDialog::DeletionDialog(runtime::DeletionList& list, QWidget* parent)
     view_->setAlternatingRowColors(true);
     view_->setAccessibleName(title);
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &DeletionDialog::selectionChanged);
+            &DeletionWindow::selectionChanged);
 
     auto* hint = new QLabel(tr("Choose several with Shift or Ctrl. What is deleted goes to the trash."));
     hint->setForegroundRole(QPalette::PlaceholderText);
@@ -73,13 +74,22 @@ DeletionDialog::DeletionDialog(runtime::DeletionList& list, QWidget* parent)
     selectionChanged();
 }
 
-void DeletionDialog::selectionChanged() {
+void DeletionWindow::selectionChanged() {
     std::vector<int> rows;
     for (const QModelIndex& index : view_->selectionModel()->selectedIndexes())
         rows.push_back(index.row());
     list_.select(std::move(rows));
     deleteButton_->setEnabled(list_.canConfirm());
     deleteButton_->setDefault(list_.canConfirm());
+}
+
+void runDeletionWindow(runtime::DeletionList& list, Interaction& interaction) {
+    DeletionWindow dialog(list, interaction.dialogs.parentForNext());
+    while (list.isOpen() && !interaction.waiting.cancelled())
+        list.command(interaction.dialogs.run(dialog) ? runtime::DeletionCommand::Ok
+                                                     : runtime::DeletionCommand::Cancel);
+    if (list.isOpen())
+        list.close();
 }
 
 } // namespace easel::window

@@ -1,7 +1,7 @@
 // One thread works, the other handles events.
-#include "easel/window/main/BackgroundWork.h"
+#include "easel/window/waiting/BackgroundWork.h"
 
-#include "easel/window/main/DesktopUser.h"
+#include "easel/window/waiting/Interaction.h"
 
 #include <QCoreApplication>
 #include <QProgressDialog>
@@ -46,11 +46,11 @@ void showProgress(QProgressDialog& dialog, double done) {
         dialog.setValue(static_cast<int>(done * (kSteps - 1)));
 }
 
-void workBeside(DesktopUser& user, const QString& text, QWidget* over,
+void workBeside(Interaction& interaction, const QString& text, QWidget* over,
                 const std::function<void(const exports::Progress& progress)>& work) {
-    const DesktopUser::Call call(user);
+    const Waiting::Call call(interaction.waiting);
     const std::unique_ptr<QProgressDialog> dialog = makeProgressDialog(text, over);
-    const InputGate::Scope scope(user.gate(), dialog.get());
+    const InputGate::Scope scope(interaction.gate, dialog.get());
 
     std::atomic<double> done = 0;
     std::atomic<bool> wanted = true;
@@ -76,7 +76,7 @@ void workBeside(DesktopUser& user, const QString& text, QWidget* over,
     frames.start(kFrame);
     while (!finished) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        if (dialog->wasCanceled() || user.cancelled())
+        if (dialog->wasCanceled() || interaction.waiting.cancelled())
             wanted = false;
     }
     worker.join();

@@ -1,4 +1,4 @@
-// Shows a list from which any number of rows can be chosen for deletion.
+// The list from which rows are chosen for deletion, as a dialog.
 #pragma once
 
 #include <QDialog>
@@ -12,12 +12,14 @@ class DeletionList;
 
 namespace easel::window {
 
+struct Interaction;
+
 // Accepted means that the rows selected in the list are to be deleted. The list has to outlive the dialog.
-class DeletionDialog : public QDialog {
+class DeletionWindow : public QDialog {
     Q_OBJECT
 
   public:
-    DeletionDialog(runtime::DeletionList& list, QWidget* parent);
+    DeletionWindow(runtime::DeletionList& list, QWidget* parent);
 
   private:
     void selectionChanged();
@@ -26,5 +28,8 @@ class DeletionDialog : public QDialog {
     QListView* view_;
     QPushButton* deleteButton_;
 };
+
+// Shows the list until it is closed, which cancelling all waiting does too.
+void runDeletionWindow(runtime::DeletionList& list, Interaction& interaction);
 
 } // namespace easel::window

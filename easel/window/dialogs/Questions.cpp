@@ -1,0 +1,48 @@
+// Builds the message boxes and reads the answers off them.
+#include "easel/window/dialogs/Questions.h"
+
+#include "easel/runtime/Alert.h"
+#include "easel/window/waiting/DialogStack.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace easel::window {
+
+runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs) {
+    QMessageBox box(over);
+    box.setIcon(QMessageBox::Question);
+    box.setWindowTitle(alert.title.empty() ? QObject::tr("Easel") : QString::fromStdString(alert.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(alert.text));
+    box.setInformativeText(QString::fromStdString(alert.detail));
+    const auto caption = [](const std::string& text) {
+        return QString::fromStdString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+    };
+    QPushButton* yes = box.addButton(caption(alert.yesButton), QMessageBox::AcceptRole);
+    QPushButton* no = box.addButton(caption(alert.noButton), QMessageBox::RejectRole);
+    box.setDefaultButton(yes);
+    box.setEscapeButton(no);
+    dialogs.run(box);
+    return box.clickedButton() == yes ? runtime::Answer::yes : runtime::Answer::no;
+}
+
+UnsavedChoice askAboutUnsaved(const QString& drawingName, QWidget* over, DialogStack& dialogs) {
+    QMessageBox box(over);
+    box.setIcon(QMessageBox::Question);
+    box.setWindowTitle(QObject::tr("Easel"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QObject::tr("Save the changes to \u201c%1\u201d?").arg(drawingName));
+    box.setInformativeText(QObject::tr("Without saving, the changes since the last save are lost."));
+    box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Save);
+    dialogs.run(box);
+    const QAbstractButton* clicked = box.clickedButton();
+    if (clicked && clicked == box.button(QMessageBox::Save))
+        return UnsavedChoice::Save;
+    if (clicked && clicked == box.button(QMessageBox::Discard))
+        return UnsavedChoice::Discard;
+    return UnsavedChoice::Cancel;
+}
+
+} // namespace easel::window

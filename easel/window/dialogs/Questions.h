@@ -1,0 +1,21 @@
+// Questions that the user answers with a button.
+#pragma once
+
+#include "easel/runtime/User.h"
+
+class QString;
+class QWidget;
+
+namespace easel::window {
+
+class DialogStack;
+
+// Return is yes, Escape is no, and so is the end of all waiting. The box belongs to `over`.
+runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs);
+
+enum class UnsavedChoice { Save, Discard, Cancel };
+
+// What is to become of the changes to the drawing of this name. Escape, and the end of all waiting, cancel.
+UnsavedChoice askAboutUnsaved(const QString& drawingName, QWidget* over, DialogStack& dialogs);
+
+} // namespace easel::window
