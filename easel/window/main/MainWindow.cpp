@@ -7,7 +7,7 @@
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/HelpDialogs.h"
 #include "easel/window/main/NoticeBar.h"
-#include "easel/window/main/Workspace.h"
+#include "easel/window/main/SharedParts.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -41,11 +41,11 @@ QString titleOf(const QString& drawing) {
 
 } // namespace
 
-MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QString& file)
-    : workspace_(workspace), drawingWindow_(std::move(drawing)), file_(file), notice_(new NoticeBar),
-      closing_(workspace.interaction().waiting, [this] { close(); }) {
+MainWindow::MainWindow(SharedParts& shared, drawing::Drawing drawing, const QString& file)
+    : shared_(shared), drawingWindow_(std::move(drawing)), file_(file), notice_(new NoticeBar),
+      closing_(shared.interaction.waiting, [this] { close(); }) {
     setAttribute(Qt::WA_DeleteOnClose);
-    canvas_ = new Canvas(drawingWindow_, workspace_.interaction(), workspace_.canvases());
+    canvas_ = new Canvas(drawingWindow_, shared_.interaction, shared_.canvases);
     auto* middle = new QWidget;
     auto* layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -60,7 +60,7 @@ MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QSt
     buildStatusBar();
     connect(canvas_, &Canvas::changed, this, &MainWindow::drawingChanged);
     connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
-    connect(&workspace_, &Workspace::activeToolChanged, this, &MainWindow::toolChanged);
+    connect(&shared_.tools, &ToolChoice::activeChanged, this, &MainWindow::toolChanged);
     notice_->tell(joined(drawingWindow_.drawing().notes()));
     toolChanged();
     drawingChanged();
@@ -71,7 +71,7 @@ MainWindow::MainWindow(Workspace& workspace, drawing::Drawing drawing, const QSt
 MainWindow::~MainWindow() {
     // The canvas speaks of the drawing until it is gone.
     delete canvas_;
-    workspace_.windowClosed(*this);
+    Q_EMIT closed();
 }
 
 QString MainWindow::name() const {
@@ -149,10 +149,9 @@ void MainWindow::drawingChanged() {
 }
 
 void MainWindow::toolChanged() {
-    const PaletteTool& tool = workspace_.activeTool();
+    const PaletteTool& tool = shared_.tools.active();
     for (QAction* action : toolActions_->actions())
-        action->setChecked(action->data().toULongLong() ==
-                           static_cast<qulonglong>(&tool - workspace_.tools().data()));
+        action->setChecked(action->data().toULongLong() == shared_.tools.activeIndex());
     canvas_->setTool(tool.tool);
     message_->setText(tool.plugin == nullptr
                           ? tr("Click to select, Shift-click to add, drag to select several")
@@ -190,9 +189,9 @@ void MainWindow::selectAllObjects() {
 }
 
 void MainWindow::openOptions() {
-    for (const PaletteTool& tool : workspace_.tools())
+    for (const PaletteTool& tool : shared_.tools.tools())
         if (tool.plugin != nullptr &&
-            (&tool == &workspace_.activeTool() || workspace_.activeTool().plugin == nullptr)) {
+            (&tool == &shared_.tools.active() || shared_.tools.active().plugin == nullptr)) {
             tool.plugin->openOptions();
             return;
         }
@@ -225,21 +224,17 @@ void MainWindow::chooseAppearance(QAction* chosen) {
 }
 
 void MainWindow::showShortcuts() {
-    window::showShortcuts(*this, workspace_.interaction().dialogs);
+    window::showShortcuts(*this, shared_.interaction.dialogs);
 }
 void MainWindow::showAbout() {
-    window::showAbout(workspace_.version(), workspace_.interaction().dialogs);
+    window::showAbout(shared_.version, shared_.interaction.dialogs);
 }
-void MainWindow::quit() {
-    workspace_.quit();
-}
-
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
     runtime::theHost().activeWindow = &drawingWindow_;
-    workspace_.interaction().dialogs.setFrontWindow(this);
+    shared_.interaction.dialogs.setFrontWindow(this);
     // The switches belong to the program; another window may have changed them.
     snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
     snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);

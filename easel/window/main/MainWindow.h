@@ -20,14 +20,14 @@ namespace easel::window {
 
 class Canvas;
 class NoticeBar;
-class Workspace;
+struct SharedParts;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
   public:
-    // An empty file name stands for a drawing that was never saved.
-    MainWindow(Workspace& workspace, drawing::Drawing drawing, const QString& file);
+    // An empty file name stands for a drawing that was never saved. The parts outlive the window.
+    MainWindow(SharedParts& shared, drawing::Drawing drawing, const QString& file);
     ~MainWindow() override;
 
     const QString& file() const { return file_; }
@@ -48,6 +48,13 @@ class MainWindow : public QMainWindow {
       private:
         MainWindow& window_;
     };
+
+  Q_SIGNALS:
+    void newDrawingWanted();
+    void filesWanted(const QStringList& files);
+    void quitWanted();
+    // The window goes away.
+    void closed();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -72,7 +79,6 @@ class MainWindow : public QMainWindow {
                         void (MainWindow::*slot)());
 
     // MainWindowFiles.cpp
-    void newDrawing();
     void open();
     Saved save();
     Saved saveAs();
@@ -106,7 +112,6 @@ class MainWindow : public QMainWindow {
     void chooseAppearance(QAction* chosen);
     void showShortcuts();
     void showAbout();
-    void quit();
     void buildStatusBar();
     void drawingChanged();
     void toolChanged();
@@ -114,7 +119,7 @@ class MainWindow : public QMainWindow {
     void nothingToPaint();
     QString name() const;
 
-    Workspace& workspace_;
+    SharedParts& shared_;
     runtime::DrawingWindow drawingWindow_;
     QString file_;
     Canvas* canvas_;

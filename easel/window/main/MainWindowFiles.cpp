@@ -5,7 +5,7 @@
 #include "easel/window/dialogs/Questions.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/PrintDrawing.h"
-#include "easel/window/main/Workspace.h"
+#include "easel/window/main/SharedParts.h"
 #include "easel/window/waiting/BackgroundWork.h"
 #include "easel/window/waiting/TellProblem.h"
 
@@ -43,16 +43,12 @@ bool isPictureName(const QString& file) {
 
 } // namespace
 
-void MainWindow::newDrawing() {
-    workspace_.newDrawing();
-}
-
 void MainWindow::open() {
     QFileDialog dialog(this, tr("Open"), QFileInfo(file_).path(), svgFilter());
     dialog.setFileMode(QFileDialog::ExistingFiles);
-    if (!workspace_.interaction().dialogs.run(dialog))
+    if (!shared_.interaction.dialogs.run(dialog))
         return;
-    workspace_.openFiles(dialog.selectedFiles(), this);
+    Q_EMIT filesWanted(dialog.selectedFiles());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -64,7 +60,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     // Where the files come from waits for the answer to the drop; opening them can take its time.
     QTimer::singleShot(0, this,
-                       [this, files = localFiles(*event->mimeData())] { workspace_.openFiles(files, this); });
+                       [this, files = localFiles(*event->mimeData())] { Q_EMIT filesWanted(files); });
 }
 
 QString MainWindow::baseName() const {
@@ -76,7 +72,7 @@ QString MainWindow::chosenFile(const QString& title, const QString& name, const 
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QFileInfo(name).suffix());
     dialog.selectFile(name);
-    return workspace_.interaction().dialogs.run(dialog) ? dialog.selectedFiles().value(0) : QString();
+    return shared_.interaction.dialogs.run(dialog) ? dialog.selectedFiles().value(0) : QString();
 }
 
 MainWindow::Saved MainWindow::save() {
@@ -91,12 +87,12 @@ MainWindow::Saved MainWindow::saveAs() {
 MainWindow::Saved MainWindow::saveTo(const QString& file) {
     const auto failure = svg::saveFile(drawingWindow_.drawing(), QFile::encodeName(file).toStdString());
     if (failure) {
-        tellProblem(failure->message, workspace_.interaction().dialogs);
+        tellProblem(failure->message, shared_.interaction.dialogs);
         drawingChanged();
         return Saved::No;
     }
     file_ = QFileInfo(file).absoluteFilePath();
-    workspace_.recentFiles().add(file_);
+    shared_.recentFiles.add(file_);
     drawingChanged();
     statusBar()->showMessage(tr("Saved %1").arg(name()), kMessageTime);
     return Saved::Yes;
@@ -116,8 +112,9 @@ QString MainWindow::fileForExport(const QString& suffix) {
             return {};
     }
     if (!file_.isEmpty() && QFileInfo(file) == QFileInfo(file_)) {
-        workspace_.tell(
-            tr("%1: this is the drawing itself. Export it under another name, or save it.").arg(file));
+        const QString problem =
+            tr("%1: this is the drawing itself. Export it under another name, or save it.").arg(file);
+        tellProblem(problem.toStdString(), shared_.interaction.dialogs);
         return {};
     }
     return file;
@@ -128,7 +125,7 @@ bool MainWindow::mayReplace(const QString& file) {
     alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
     alert.yesButton = tr("Replace").toStdString();
     alert.noButton = tr("Cancel").toStdString();
-    return ask(alert, this, workspace_.interaction().dialogs) == runtime::Answer::yes;
+    return ask(alert, this, shared_.interaction.dialogs) == runtime::Answer::yes;
 }
 
 void MainWindow::exportAs(const QString& suffix) {
@@ -137,12 +134,12 @@ void MainWindow::exportAs(const QString& suffix) {
         return;
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     files::FileOutcome error;
-    workBeside(workspace_.interaction(), tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
+    workBeside(shared_.interaction, tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
                [&](const exports::Progress& progress) {
                    error = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
                });
     if (error && !exports::wasCancelled(*error))
-        tellProblem(error->message(), workspace_.interaction().dialogs);
+        tellProblem(error->message(), shared_.interaction.dialogs);
     else if (!error)
         statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
 }
@@ -152,9 +149,9 @@ void MainWindow::print() {
     printer.setDocName(name());
     turnPage(drawingWindow_.drawing(), printer);
     QPrintDialog dialog(&printer, this);
-    if (!workspace_.interaction().dialogs.run(dialog))
+    if (!shared_.interaction.dialogs.run(dialog))
         return;
-    if (printDrawing(drawingWindow_.drawing(), printer, workspace_.interaction(), this) == Printed::Yes)
+    if (printDrawing(drawingWindow_.drawing(), printer, shared_.interaction, this) == Printed::Yes)
         statusBar()->showMessage(tr("Printed %1").arg(name()), kMessageTime);
 }
 
@@ -164,7 +161,7 @@ MainWindow::Saved MainWindow::settleChanges() {
         return Saved::Yes;
     raise();
     activateWindow();
-    switch (askAboutUnsaved(name(), this, workspace_.interaction().dialogs)) {
+    switch (askAboutUnsaved(name(), this, shared_.interaction.dialogs)) {
     case UnsavedChoice::Save:
         return save();
     case UnsavedChoice::Discard:

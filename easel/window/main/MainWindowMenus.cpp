@@ -4,7 +4,7 @@
 #include "easel/window/look/Icons.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/MainWindow.h"
-#include "easel/window/main/Workspace.h"
+#include "easel/window/main/SharedParts.h"
 
 #include <QActionGroup>
 #include <QEvent>
@@ -63,7 +63,7 @@ void MainWindow::buildActions() {
 
 void MainWindow::buildFileMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
-    new_ = makeAction(tr("&New"), tr("New drawing"), QKeySequence::New, &MainWindow::newDrawing);
+    new_ = makeAction(tr("&New"), tr("New drawing"), QKeySequence::New, &MainWindow::newDrawingWanted);
     new_->setIcon(icon(IconName::New));
     open_ = makeAction(tr("&Open\u2026"), tr("Open a drawing"), QKeySequence::Open, &MainWindow::open);
     open_->setIcon(icon(IconName::Open));
@@ -91,15 +91,15 @@ void MainWindow::buildFileMenu() {
     connect(close, &QAction::triggered, this, &QWidget::close);
     menu->addAction(close);
     menu->addAction(makeAction(tr("&Quit"), tr("Close all drawings"), QKeySequence(Qt::CTRL | Qt::Key_Q),
-                               &MainWindow::quit));
+                               &MainWindow::quitWanted));
 }
 
 void MainWindow::fillRecentMenu() {
     recentMenu_->clear();
-    const QStringList files = workspace_.recentFiles().files();
+    const QStringList files = shared_.recentFiles.files();
     for (const QString& file : files) {
         QAction* action = recentMenu_->addAction(verbatim(distinctName(file, files)), this,
-                                                 [this, file] { workspace_.openFile(file, this); });
+                                                 [this, file] { Q_EMIT filesWanted({file}); });
         action->setStatusTip(file);
     }
     if (recentMenu_->isEmpty()) {
@@ -107,7 +107,7 @@ void MainWindow::fillRecentMenu() {
         return;
     }
     recentMenu_->addSeparator();
-    recentMenu_->addAction(tr("Clear"), this, [this] { workspace_.recentFiles().clear(); });
+    recentMenu_->addAction(tr("Clear"), this, [this] { shared_.recentFiles.clear(); });
 }
 
 void MainWindow::buildEditMenu() {
@@ -128,7 +128,7 @@ void MainWindow::buildEditMenu() {
     options_ = makeAction(tr("&Gradient Options\u2026"), tr("Edit the current gradient"),
                           QKeySequence(Qt::CTRL | Qt::Key_G), &MainWindow::openOptions);
     options_->setIcon(icon(IconName::Options));
-    options_->setEnabled(workspace_.tools().size() > 1);
+    options_->setEnabled(shared_.tools.tools().size() > 1);
     menu->addAction(options_);
 }
 
@@ -208,7 +208,7 @@ void MainWindow::buildToolPalette() {
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     toolActions_ = new QActionGroup(this);
-    const std::vector<PaletteTool>& tools = workspace_.tools();
+    const std::vector<PaletteTool>& tools = shared_.tools.tools();
     for (std::size_t i = 0; i < tools.size(); ++i) {
         auto* action = new QAction(tools[i].icon, verbatim(tools[i].name), toolActions_);
         action->setCheckable(true);
@@ -219,7 +219,7 @@ void MainWindow::buildToolPalette() {
         action->setToolTip(tools[i].plugin == nullptr
                                ? tr("%1 (%2)").arg(tools[i].name, keys)
                                : tr("%1 (%2); double-click for its options").arg(tools[i].name, keys));
-        connect(action, &QAction::triggered, this, [this, i] { workspace_.activateTool(i); });
+        connect(action, &QAction::triggered, this, [this, i] { shared_.tools.activate(i); });
         bar->addAction(action);
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
         button->setMinimumWidth(kPaletteWidth);

@@ -5,7 +5,8 @@
 #include "easel/runtime/Storage.h"
 #include "easel/runtime/ToolPalette.h"
 #include "easel/window/look/PictureIcon.h"
-#include "easel/window/main/Workspace.h"
+#include "easel/window/main/ToolChoice.h"
+#include "easel/window/waiting/Waiting.h"
 
 namespace easel::window {
 namespace {
@@ -18,8 +19,8 @@ QIcon iconOf(const HostTool& tool) {
 } // namespace
 
 PluginSession::PluginSession(const std::filesystem::path& module, const std::filesystem::path& preferences,
-                             Workspace& workspace)
-    : workspace_(workspace) {
+                             ToolChoice& tools, Waiting& waiting)
+    : tools_(tools), waiting_(waiting) {
     if (!preferences.empty())
         runtime::useStorage({preferences, classic::StoragePlaces::ofUser().trash});
     try {
@@ -36,18 +37,18 @@ void PluginSession::load(const std::filesystem::path& module) {
         throw runtime::PluginError(outcome->message());
     module_->send(runtime::kStartUpMessage);
     for (const HostTool& tool : runtime::thePalette().tools())
-        workspace_.addTool(tool, iconOf(tool));
+        tools_.add(tool, iconOf(tool));
     // Whoever starts a drawing program with one special tool most likely wants that tool.
     if (!runtime::thePalette().tools().empty())
-        workspace_.activateTool(1);
+        tools_.activate(1);
 }
 
 PluginSession::~PluginSession() {
     if (!module_)
         return;
-    const Waiting::Call call(workspace_.interaction().waiting);
+    const Waiting::Call call(waiting_);
     module_->send(runtime::kShutDownMessage);
-    workspace_.removeTools();
+    tools_.removePluginTools();
     runtime::thePalette().clear();
     runtime::closePluginResources();
 }

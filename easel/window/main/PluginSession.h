@@ -10,16 +10,17 @@
 
 namespace easel::window {
 
-class Workspace;
+class ToolChoice;
+class Waiting;
 
-// Loads the plug-in, sends it the start-up message and hands its tools to the workspace; at the end sends the
-// shut-down message and unloads it. Without a usable plug-in there are no tools of its, and a problem to
-// tell.
+// Loads the plug-in, sends it the start-up message and adds its tools to those of the palette; at the end
+// sends the shut-down message and unloads it. Without a usable plug-in there are no tools of its, and a
+// problem to tell.
 class PluginSession {
   public:
     // Empty paths stand for the usual places.
     PluginSession(const std::filesystem::path& module, const std::filesystem::path& preferences,
-                  Workspace& workspace);
+                  ToolChoice& tools, Waiting& waiting);
     ~PluginSession();
     PluginSession(const PluginSession&) = delete;
     PluginSession& operator=(const PluginSession&) = delete;
@@ -30,7 +31,8 @@ class PluginSession {
   private:
     void load(const std::filesystem::path& module);
 
-    Workspace& workspace_;
+    ToolChoice& tools_;
+    Waiting& waiting_;
     std::optional<runtime::PluginModule> module_;
     QString problem_;
 };

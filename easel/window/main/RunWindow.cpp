@@ -1,18 +1,18 @@
 // Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
 #include "easel/window/main/RunWindow.h"
 
-#include "easel/window/canvas/OpenCanvases.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/Storage.h"
 #include "easel/window/look/EaselStyle.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/Application.h"
 #include "easel/window/main/DesktopUser.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/PluginSession.h"
+#include "easel/window/main/SharedParts.h"
 #include "easel/window/main/Workspace.h"
+#include "easel/window/waiting/TellProblem.h"
 #include "easel/window/waiting/TerminationSignals.h"
-
-#include "easel/runtime/Host.h"
-#include "easel/runtime/Storage.h"
 
 #include <QFile>
 #include <QPointer>
@@ -40,15 +40,13 @@ void reportMessages(QtMsgType type, const QMessageLogContext&, const QString& te
         std::fprintf(stderr, "easel: %s\n", qUtf8Printable(text));
 }
 
-void openFirstWindows(Workspace& workspace, const StartUp& startUp, const PluginSession& plugin) {
+void openFirstWindows(Workspace& workspace, const StartUp& startUp) {
     // The first window is there before its drawing is read, and shows itself if that takes a while.
     const QPointer<MainWindow> first = &workspace.newDrawing();
     for (const std::filesystem::path& file : startUp.files)
         workspace.openFile(QFile::decodeName(file.c_str()), first);
     // Once the user looks at the window, what the gradient editor will ask for first is made ready.
     QTimer::singleShot(kAtLeisure, [] { runtime::theStorage().files().prepareListing(); });
-    if (!plugin.problem().isEmpty())
-        workspace.tell(plugin.problem());
 }
 
 } // namespace
@@ -70,16 +68,19 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     applyAppearance(storedAppearance());
     QApplication::setStyle(new EaselStyle);
 
-    Interaction interaction;
-    OpenCanvases canvases;
-    DesktopUser user(interaction, canvases);
+    SharedParts shared(startUp.version);
+    DesktopUser user(shared.interaction, shared.canvases);
     easel::runtime::theHost().user = &user;
     int result = 0;
     {
-        Workspace workspace(startUp.version, interaction, canvases);
-        PluginSession plugin(startUp.plugin, startUp.preferences, workspace);
+        Workspace workspace(shared);
+        PluginSession plugin(startUp.plugin, startUp.preferences, shared.tools, shared.interaction.waiting);
         const TerminationSignals signals([&workspace] { workspace.quit(); });
-        QTimer::singleShot(0, &workspace, [&] { openFirstWindows(workspace, startUp, plugin); });
+        QTimer::singleShot(0, &workspace, [&] {
+            openFirstWindows(workspace, startUp);
+            if (!plugin.problem().isEmpty())
+                tellProblem(plugin.problem().toStdString(), shared.interaction.dialogs);
+        });
         result = QApplication::exec();
     }
     easel::runtime::theHost().user = nullptr;

@@ -1,10 +1,9 @@
-// Opens and closes windows and keeps the tools.
+// Makes windows and answers what they ask of the program.
 #include "easel/window/main/Workspace.h"
 
-#include "easel/runtime/ToolPalette.h"
-#include "easel/window/look/Icons.h"
 #include "easel/window/main/LoadDrawing.h"
 #include "easel/window/main/MainWindow.h"
+#include "easel/window/main/SharedParts.h"
 #include "easel/window/waiting/TellProblem.h"
 
 #include <QApplication>
@@ -24,34 +23,12 @@ constexpr QPoint kCascade{28, 28};
 
 } // namespace
 
-Workspace::Workspace(std::string version, Interaction& interaction, OpenCanvases& canvases)
-    : version_(std::move(version)), interaction_(interaction), canvases_(canvases),
-      quitting_(interaction.waiting, [this] { quit(); }) {
-    tools_.push_back({tr("Select"), icon(IconName::Select), &selectTool_, nullptr});
-}
+Workspace::Workspace(SharedParts& shared)
+    : shared_(shared), quitting_(shared.interaction.waiting, [this] { quit(); }) {}
 
 Workspace::~Workspace() {
     for (const QPointer<MainWindow>& window : std::vector(windows_))
         delete window.data();
-}
-
-void Workspace::addTool(const HostTool& tool, const QIcon& icon) {
-    pluginTools_.push_back(std::make_unique<PluginTool>(tool, interaction_));
-    PluginTool* made = pluginTools_.back().get();
-    tools_.push_back({QString::fromStdString(tool.name), icon, made, made});
-}
-
-void Workspace::removeTools() {
-    active_ = 0;
-    tools_.resize(1);
-    pluginTools_.clear();
-}
-
-void Workspace::activateTool(std::size_t index) {
-    if (index == active_ || index >= tools_.size())
-        return;
-    active_ = index;
-    Q_EMIT activeToolChanged();
 }
 
 MainWindow& Workspace::newDrawing() {
@@ -67,11 +44,11 @@ MainWindow* Workspace::windowShowing(const QString& file) const {
     return found == windows_.end() ? nullptr : found->data();
 }
 
-bool Workspace::openFile(const QString& file, QWidget* over) {
+void Workspace::openFile(const QString& file, QWidget* over) {
     if (MainWindow* window = windowShowing(file)) {
         window->raise();
         window->activateWindow();
-        return true;
+        return;
     }
     auto* place = qobject_cast<MainWindow*>(over);
     if (place != nullptr && !place->isPristine())
@@ -79,13 +56,13 @@ bool Workspace::openFile(const QString& file, QWidget* over) {
     std::optional<MainWindow::Awaiting> awaiting;
     if (place != nullptr)
         awaiting.emplace(*place, file);
-    svg::ReadResult result = loadDrawing(file, interaction_, over);
+    svg::ReadResult result = loadDrawing(file, shared_.interaction, over);
     if (const auto* failure = std::get_if<svg::Failure>(&result)) {
         if (failure->fault != svg::Fault::Cancelled)
-            tellProblem(failure->message, interaction_.dialogs);
+            tellProblem(failure->message, shared_.interaction.dialogs);
         if (!QFileInfo::exists(file))
-            recentFiles_.remove(file);
-        return false;
+            shared_.recentFiles.remove(file);
+        return;
     }
     auto& drawing = std::get<drawing::Drawing>(result);
     const QString path = QFileInfo(file).absoluteFilePath();
@@ -93,8 +70,7 @@ bool Workspace::openFile(const QString& file, QWidget* over) {
         place->setDrawing(std::move(drawing), path);
     else
         show(std::move(drawing), path);
-    recentFiles_.add(path);
-    return true;
+    shared_.recentFiles.add(path);
 }
 
 void Workspace::openFiles(const QStringList& files, QWidget* over) {
@@ -106,21 +82,22 @@ void Workspace::openFiles(const QStringList& files, QWidget* over) {
 
 MainWindow& Workspace::show(drawing::Drawing drawing, const QString& file) {
     const MainWindow* last = windows_.empty() ? nullptr : windows_.back().data();
-    auto* window = new MainWindow(*this, std::move(drawing), file);
+    auto* window = new MainWindow(shared_, std::move(drawing), file);
     windows_.emplace_back(window);
+    connect(window, &MainWindow::newDrawingWanted, this, [this] { newDrawing(); });
+    connect(window, &MainWindow::filesWanted, this,
+            [this, window](const QStringList& files) { openFiles(files, window); });
+    connect(window, &MainWindow::quitWanted, this, &Workspace::quit);
+    connect(window, &MainWindow::closed, this, [this, window] { windowClosed(*window); });
     if (last != nullptr)
         window->move(last->pos() + kCascade);
     window->show();
     window->activateWindow();
-    interaction_.dialogs.setFrontWindow(window);
+    shared_.interaction.dialogs.setFrontWindow(window);
     return *window;
 }
 
-void Workspace::tell(const QString& message) {
-    tellProblem(message.toStdString(), interaction_.dialogs);
-}
-
-void Workspace::windowClosed(MainWindow& window) {
+void Workspace::windowClosed(const MainWindow& window) {
     std::erase(windows_, &window);
     if (windows_.empty())
         QCoreApplication::quit();
