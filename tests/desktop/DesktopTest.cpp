@@ -15,7 +15,7 @@ std::unique_ptr<Screen> DesktopTest::screen_;
 
 void DesktopTest::SetUpTestSuite() {
     fs::create_directories(TEST_OUTPUT_DIR);
-    if (screen_ == nullptr)
+    if (!screen_)
         screen_ = std::make_unique<Screen>(TEST_OUTPUT_DIR);
 }
 

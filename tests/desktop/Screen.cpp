@@ -55,7 +55,7 @@ int ignoreError(Display*, XErrorEvent*) {
 Screen::Screen(const std::string& outputFolder) : name_(startServer(server_, outputFolder + "/xvfb.log")) {
     XSetErrorHandler(ignoreError);
     display_ = XOpenDisplay(name_.c_str());
-    if (display_ == nullptr)
+    if (!display_)
         throw std::runtime_error("cannot connect to " + name_);
     int opcode = 0;
     int error = 0;
@@ -80,7 +80,7 @@ void Screen::waitForManager() const {
         int count = 0;
         Atom* properties = XListProperties(display_, trial, &count);
         const bool found = std::find(properties, properties + count, state) != properties + count;
-        if (properties != nullptr)
+        if (properties)
             XFree(properties);
         return found;
     };
@@ -100,7 +100,7 @@ void Screen::waitForManager() const {
 }
 
 Screen::~Screen() {
-    if (display_ != nullptr)
+    if (display_)
         XCloseDisplay(display_);
 }
 

@@ -31,7 +31,7 @@ Property property(Display* display, ::Window window, Atom name) {
     constexpr long kMost = 1 << 20;
     if (XGetWindowProperty(display, window, name, 0, kMost, False, AnyPropertyType, &type, &format, &items,
                            &left, &data) != Success ||
-        data == nullptr)
+        !data)
         return {};
     const std::size_t size = format == 8 ? 1 : (format == 16 ? sizeof(short) : sizeof(long));
     Property result{std::string(reinterpret_cast<char*>(data), items * size), items};
@@ -124,7 +124,7 @@ bool Screen::popupAt(Spot spot) const {
                 attributes.override_redirect != 0 && attributes.map_state == IsViewable &&
                 attributes.c_class == InputOutput && contentOf(display_, children[i]).contains(spot);
     }
-    if (children != nullptr)
+    if (children)
         XFree(children);
     return found;
 }

@@ -18,7 +18,7 @@ constexpr double kSmallestZoom = 0.02;
 constexpr double kLargestZoom = 64;
 // The ground that stays in sight around the page, in pixels.
 constexpr double kMargin = 28;
-// How fast dragging past the edge scrolls: pixels a frame for each pixel beyond.
+// How fast dragging past the edge scrolls: pixels per frame for each pixel beyond.
 constexpr double kScrollShare = 0.35;
 constexpr double kLongestScroll = 60;
 constexpr double kEdge = 2;

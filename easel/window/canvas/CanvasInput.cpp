@@ -30,7 +30,7 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && spaceDown_);
     if (pans)
         startPan(event->position());
-    else if (event->button() == Qt::LeftButton && tool_ != nullptr)
+    else if (event->button() == Qt::LeftButton && tool_)
         tool_->press(*this, *event);
 }
 
@@ -46,7 +46,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         interaction_.pointer.moved(event->position());
         return;
     }
-    if (tool_ == nullptr)
+    if (!tool_)
         return;
     tool_->move(*this, *event);
     if (event->buttons() == Qt::NoButton)
@@ -62,7 +62,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event) {
         return;
     if (interaction_.waiting.busy())
         interaction_.pointer.released(event->position());
-    else if (tool_ != nullptr)
+    else if (tool_)
         tool_->release(*this, *event);
 }
 
@@ -172,7 +172,7 @@ bool Canvas::viewportEvent(QEvent* event) {
 }
 
 void Canvas::refreshCursor() {
-    if (tool_ != nullptr && !interaction_.waiting.busy() && !panning() && !spaceDown_)
+    if (tool_ && !interaction_.waiting.busy() && !panning() && !spaceDown_)
         tool_->updateCursor(*this);
 }
 

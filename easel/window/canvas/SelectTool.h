@@ -1,5 +1,4 @@
-// The host's own tool: a click selects, Shift adds and removes, a drag on empty ground selects what it
-// encloses.
+// The host's own tool, which selects.
 #pragma once
 
 #include "easel/drawing/Drawing.h"
@@ -9,6 +8,7 @@
 
 namespace easel::window {
 
+// A click selects, Shift adds and removes, a drag on empty ground selects what it encloses.
 class SelectTool : public CanvasTool {
   public:
     void press(Canvas& canvas, const QMouseEvent& event) override;

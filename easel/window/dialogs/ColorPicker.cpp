@@ -95,7 +95,7 @@ void ColorPicker::typedChannels() {
     // A color of its palette draws the keyboard there, in the middle of a number.
     QWidget* typing = focusWidget();
     dialog_->setCurrentColor(toScreen(color_));
-    if (typing != nullptr)
+    if (typing)
         typing->setFocus();
 }
 

@@ -23,8 +23,8 @@ struct ExactColor {
     friend bool operator==(const ExactColor&, const ExactColor&) = default;
 };
 
-// Qt's color dialog knows 8 bits a channel. A channel keeps all its bits as long as the user does not change
-// it there; a changed one is the dialog's value times 257. The three fields take and show all 16 bits.
+// Qt's color dialog knows 8 bits per channel. A channel keeps all its bits as long as the user does not
+// change it there; a changed one is the dialog's value times 257. The three fields take and show all 16 bits.
 class ColorPicker : public QDialog {
     Q_OBJECT
 

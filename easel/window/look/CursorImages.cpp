@@ -1,16 +1,13 @@
-// Draws cursors and icons from picture files, with the program's own reader and painter.
+// Makes each cursor once for every resolution.
 #include "easel/window/look/CursorImages.h"
 
-#include "easel/paint/RenderDrawing.h"
-#include "easel/paint/pixels/Surface.h"
 #include "easel/runtime/PluginResourceFile.h"
-#include "easel/svg/Document.h"
+#include "easel/window/look/PictureFile.h"
 
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 
-#include <cmath>
 #include <map>
 #include <utility>
 
@@ -49,7 +46,7 @@ QCursor makeCursor(long id, double ratio) {
     if (id == kPlainToolCursor)
         return plainToolCursor(ratio);
     const classic::CursorResource* resource = runtime::pluginResources().cursor(static_cast<int>(id));
-    if (resource == nullptr)
+    if (!resource)
         return {Qt::ArrowCursor};
     const QImage image = pictureFile(resource->file, {resource->width, resource->height}, ratio);
     if (image.isNull())
@@ -58,23 +55,6 @@ QCursor makeCursor(long id, double ratio) {
 }
 
 } // namespace
-
-QImage pictureFile(const std::filesystem::path& file, QSize size, double ratio) {
-    const svg::ReadResult result = svg::readFile(file);
-    const auto* drawing = std::get_if<drawing::Drawing>(&result);
-    if (drawing == nullptr)
-        return {};
-    const auto pixels = [ratio](int length) { return static_cast<int>(std::ceil(length * ratio)); };
-    paint::Surface surface(pixels(size.width()), pixels(size.height()));
-    const drawing::Affine toSurface = drawing::Affine::scaling(size.width() * ratio / drawing->width(),
-                                                               size.height() * ratio / drawing->height());
-    paint::renderDrawing(*drawing, surface.view(), toSurface, 1);
-    QImage image = QImage(reinterpret_cast<const uchar*>(surface.row(0)), surface.width(), surface.height(),
-                          surface.stride(), QImage::Format_ARGB32_Premultiplied)
-                       .copy();
-    image.setDevicePixelRatio(ratio);
-    return image;
-}
 
 QCursor cursorWithId(long id, double ratio) {
     static std::map<std::pair<long, double>, QCursor> made;

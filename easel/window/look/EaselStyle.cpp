@@ -56,7 +56,7 @@ void drawHairline(const QStyleOption& option, QPainter& painter, Qt::Edge edge) 
 bool EaselStyle::desktopHasStyle() {
     // A desktop's theme plug-in names its style before any window shows; "fusion" means that none did.
     const EaselStyle probe;
-    return probe.baseStyle() != nullptr && probe.baseStyle()->name() != QLatin1String("fusion");
+    return probe.baseStyle() && probe.baseStyle()->name() != QLatin1String("fusion");
 }
 
 void EaselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -81,7 +81,7 @@ void EaselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 // The arrow of a button that opens a menu stands beside its text and not in the corner below.
 void EaselStyle::drawMenuArrow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const {
     QStyleOption placed(option);
-    if (qobject_cast<const QToolButton*>(widget) != nullptr)
+    if (qobject_cast<const QToolButton*>(widget))
         placed.rect.moveCenter({option.rect.center().x() - 3, widget->rect().center().y() + 1});
     QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, &placed, &painter, widget);
 }
@@ -94,7 +94,7 @@ void EaselStyle::drawControl(ControlElement element, const QStyleOption* option,
     }
     painter->fillRect(option->rect, option->palette.window());
     const auto* bar = qstyleoption_cast<const QStyleOptionToolBar*>(option);
-    if (bar != nullptr)
+    if (bar)
         drawHairline(*option, *painter,
                      bar->toolBarArea == Qt::LeftToolBarArea ? Qt::RightEdge : Qt::BottomEdge);
 }

@@ -1,11 +1,11 @@
-// Small refinements on top of the desktop's own widget style: flat tool buttons, quiet bars, keyboard focus
-// that shows.
+// Small refinements of the desktop's own widget style.
 #pragma once
 
 #include <QProxyStyle>
 
 namespace easel::window {
 
+// Flat tool buttons, quiet bars, keyboard focus that shows.
 class EaselStyle : public QProxyStyle {
     Q_OBJECT
 

@@ -1,5 +1,4 @@
-// The application's own icons: line drawings that take the color of the text beside them and are sharp at any
-// size.
+// The application's own icons.
 #pragma once
 
 #include <QIcon>
@@ -22,6 +21,7 @@ enum class IconName {
     Options,
 };
 
+// A line drawing that takes the color of the text beside it and is sharp at any size.
 QIcon icon(IconName name);
 
 } // namespace easel::window

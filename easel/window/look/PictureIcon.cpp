@@ -1,7 +1,7 @@
 // Keeps the file's name and the sizes drawn so far.
 #include "easel/window/look/PictureIcon.h"
 
-#include "easel/window/look/CursorImages.h"
+#include "easel/window/look/PictureFile.h"
 
 #include <QIconEngine>
 #include <QPainter>

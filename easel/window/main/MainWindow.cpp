@@ -153,9 +153,9 @@ void MainWindow::toolChanged() {
     for (QAction* action : toolActions_->actions())
         action->setChecked(action->data().toULongLong() == shared_.tools.activeIndex());
     canvas_->setTool(tool.tool);
-    message_->setText(tool.plugin == nullptr
-                          ? tr("Click to select, Shift-click to add, drag to select several")
-                          : tr("Click or drag on a shape; hold Alt or Ctrl and click to edit its colors"));
+    message_->setText(tool.plugin
+                          ? tr("Click or drag on a shape; hold Alt or Ctrl and click to edit its colors")
+                          : tr("Click to select, Shift-click to add, drag to select several"));
 }
 
 void MainWindow::nothingToPaint() {
@@ -190,8 +190,7 @@ void MainWindow::selectAllObjects() {
 
 void MainWindow::openOptions() {
     for (const PaletteTool& tool : shared_.tools.tools())
-        if (tool.plugin != nullptr &&
-            (&tool == &shared_.tools.active() || shared_.tools.active().plugin == nullptr)) {
+        if (tool.plugin && (&tool == &shared_.tools.active() || !shared_.tools.active().plugin)) {
             tool.plugin->openOptions();
             return;
         }

@@ -141,8 +141,8 @@ void MainWindow::buildViewMenu() {
     zoomOut_ = makeAction(tr("Zoom &Out"), tr("Zoom out"), QKeySequence(Qt::CTRL | Qt::Key_Minus),
                           &MainWindow::zoomOut);
     zoomOut_->setIcon(icon(IconName::ZoomOut));
-    zoomActual_ = makeAction(tr("&100 %"), tr("One drawing unit a pixel"), QKeySequence(Qt::CTRL | Qt::Key_1),
-                             &MainWindow::zoomActual);
+    zoomActual_ = makeAction(tr("&100 %"), tr("One drawing unit per pixel"),
+                             QKeySequence(Qt::CTRL | Qt::Key_1), &MainWindow::zoomActual);
     zoomActual_->setIcon(icon(IconName::ActualSize));
     zoomFit_ = makeAction(tr("&Fit"), tr("Show the whole drawing"), QKeySequence(Qt::CTRL | Qt::Key_0),
                           &MainWindow::zoomFit);
@@ -216,15 +216,15 @@ void MainWindow::buildToolPalette() {
         action->setShortcut(i == 0 ? QKeySequence(Qt::Key_V)
                                    : QKeySequence(Qt::Key_G + static_cast<int>(i) - 1));
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        action->setToolTip(tools[i].plugin == nullptr
-                               ? tr("%1 (%2)").arg(tools[i].name, keys)
-                               : tr("%1 (%2); double-click for its options").arg(tools[i].name, keys));
+        action->setToolTip(tools[i].plugin
+                               ? tr("%1 (%2); double-click for its options").arg(tools[i].name, keys)
+                               : tr("%1 (%2)").arg(tools[i].name, keys));
         connect(action, &QAction::triggered, this, [this, i] { shared_.tools.activate(i); });
         bar->addAction(action);
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
         button->setMinimumWidth(kPaletteWidth);
         button->setAccessibleName(tools[i].name);
-        if (tools[i].plugin != nullptr) {
+        if (tools[i].plugin) {
             button->installEventFilter(this);
             connect(tools[i].plugin, &PluginTool::declined, this, &MainWindow::nothingToPaint);
         }

@@ -13,7 +13,7 @@ namespace {
 
 QIcon iconOf(const HostTool& tool) {
     const classic::IconResource* resource = runtime::pluginResources().icon(tool.element.icon);
-    return resource == nullptr ? QIcon() : pictureIcon(resource->file);
+    return resource ? pictureIcon(resource->file) : QIcon();
 }
 
 } // namespace

@@ -39,7 +39,7 @@ MainWindow* Workspace::windowShowing(const QString& file) const {
     const QFileInfo wanted(file);
     const auto found =
         std::find_if(windows_.begin(), windows_.end(), [&](const QPointer<MainWindow>& window) {
-            return window != nullptr && !window->file().isEmpty() && QFileInfo(window->file()) == wanted;
+            return window && !window->file().isEmpty() && QFileInfo(window->file()) == wanted;
         });
     return found == windows_.end() ? nullptr : found->data();
 }
@@ -51,10 +51,10 @@ void Workspace::openFile(const QString& file, QWidget* over) {
         return;
     }
     auto* place = qobject_cast<MainWindow*>(over);
-    if (place != nullptr && !place->isPristine())
+    if (place && !place->isPristine())
         place = nullptr;
     std::optional<MainWindow::Awaiting> awaiting;
-    if (place != nullptr)
+    if (place)
         awaiting.emplace(*place, file);
     svg::ReadResult result = loadDrawing(file, shared_.interaction, over);
     if (const auto* failure = std::get_if<svg::Failure>(&result)) {
@@ -66,7 +66,7 @@ void Workspace::openFile(const QString& file, QWidget* over) {
     }
     auto& drawing = std::get<drawing::Drawing>(result);
     const QString path = QFileInfo(file).absoluteFilePath();
-    if (place != nullptr)
+    if (place)
         place->setDrawing(std::move(drawing), path);
     else
         show(std::move(drawing), path);
@@ -89,7 +89,7 @@ MainWindow& Workspace::show(drawing::Drawing drawing, const QString& file) {
             [this, window](const QStringList& files) { openFiles(files, window); });
     connect(window, &MainWindow::quitWanted, this, &Workspace::quit);
     connect(window, &MainWindow::closed, this, [this, window] { windowClosed(*window); });
-    if (last != nullptr)
+    if (last)
         window->move(last->pos() + kCascade);
     window->show();
     window->activateWindow();
@@ -107,7 +107,7 @@ void Workspace::quit() {
     if (quitting_.hasToWait())
         return;
     for (const QPointer<MainWindow>& window : std::vector(windows_))
-        if (window != nullptr && !window->close())
+        if (window && !window->close())
             return;
 }
 

@@ -1,5 +1,4 @@
-// What cannot be done while something is waited for, such as closing a window: all waiting is cancelled
-// first.
+// Cancels all waiting before what cannot be done in the middle of it, such as closing a window.
 #pragma once
 
 #include "easel/window/waiting/Waiting.h"

@@ -59,13 +59,13 @@ bool PointerTracker::takeNews() {
 }
 
 runtime::MouseState PointerTracker::mouse() const {
-    if (surface_ == nullptr)
+    if (!surface_)
         return {};
     return {surface_->toLocal(position_), down_ && !waiting_.cancelled()};
 }
 
 bool PointerTracker::nearEdge() const {
-    return surface_ != nullptr && surface_->wouldScroll(position_);
+    return surface_ && surface_->wouldScroll(position_);
 }
 
 runtime::MouseState PointerTracker::waitWhileDown() {

@@ -51,7 +51,7 @@ QString titleOf(const QObject& window) {
 std::unique_ptr<TimingJournal> TimingJournal::ofEnvironment() {
     const QByteArray name = qgetenv("EASEL_TIMES");
     std::FILE* file = name.isEmpty() ? nullptr : std::fopen(name.constData(), "w");
-    return file == nullptr ? nullptr : std::unique_ptr<TimingJournal>(new TimingJournal(file));
+    return file ? std::unique_ptr<TimingJournal>(new TimingJournal(file)) : nullptr;
 }
 
 TimingJournal::~TimingJournal() {
@@ -67,7 +67,7 @@ void TimingJournal::begins(QObject& receiver, const QEvent& event) {
     }
     // Events reach a window before they reach its widgets.
     const char* const input = inputName(event.type());
-    if (input == nullptr || !receiver.isWindowType())
+    if (!input || !receiver.isWindowType())
         return;
     const auto sent = static_cast<unsigned long long>(static_cast<const QInputEvent&>(event).timestamp());
     std::fprintf(file_, "%lld %s %llu %s\n", microseconds(), input, sent, qUtf8Printable(titleOf(receiver)));

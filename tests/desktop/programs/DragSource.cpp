@@ -1,5 +1,4 @@
-// A small window from which the files named on the command line can be dragged, as from a file manager. It
-// stays until it is killed: whoever takes the files asks it for them after the drop.
+// A small window from which the files named on the command line can be dragged, as from a file manager.
 #include <QApplication>
 #include <QDrag>
 #include <QMimeData>
@@ -9,6 +8,7 @@
 
 namespace {
 
+// Stays until it is killed: whoever takes the files asks it for them after the drop.
 class Source : public QWidget {
   public:
     explicit Source(const QStringList& files) {
