@@ -1,6 +1,7 @@
 // The dialog that asks for a template's name.
 #include "Gradient/TemplateUtil/TemplateNameDialog.h"
 
+#include "Gradient/ModalDialogs.h"
 #include "host/Dialogs.h"
 #include "host/Drawing.h"
 #include "host/Windows.h"
@@ -8,10 +9,7 @@
 namespace {
 
 constexpr short kNameDialog = 5206;
-constexpr short kOKItem = 1;
-constexpr short kCancelItem = 2;
 constexpr short kNameItem = 4;
-constexpr long kWholeText = 32767;
 constexpr std::size_t kLongestName = 20;
 
 void CutName(DialogRef dialog) {
@@ -44,7 +42,7 @@ bool ModalGetTemplateName(std::string& name) {
     }
     SetPortDialogPort(dialog);
     SetDLOGText(dialog, kNameItem, name);
-    SelectDLOGText(dialog, kNameItem, 0, kWholeText);
+    SelectWholeText(dialog, kNameItem);
     ShowWindow(GetDialogWindow(dialog));
     bool const confirmed = RunLoop(dialog) == kOKItem;
     if (confirmed) {

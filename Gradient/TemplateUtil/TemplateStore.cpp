@@ -20,15 +20,15 @@ constexpr short kReplaceAlert = 9320;
 FSSpec gTemplateSpec{};
 
 /// Makes the resource file current again, at the end of a scope, that is current at its start.
-class CurrentResourceFile {
+class StCurrentResFile {
   public:
-    CurrentResourceFile() : refNum_(CurResFile()) {}
-    CurrentResourceFile(CurrentResourceFile const&) = delete;
-    CurrentResourceFile& operator=(CurrentResourceFile const&) = delete;
-    ~CurrentResourceFile() { UseResFile(refNum_); }
+    StCurrentResFile() : mRefNum(CurResFile()) {}
+    StCurrentResFile(StCurrentResFile const&) = delete;
+    StCurrentResFile& operator=(StCurrentResFile const&) = delete;
+    ~StCurrentResFile() { UseResFile(mRefNum); }
 
   private:
-    short refNum_;
+    short mRefNum;
 };
 
 OSErr ResolveTemplate(CStr255 const& fileName, FSSpec& spec) {
@@ -49,7 +49,7 @@ void InitTemplates(CStr255 const& folderName) {
 }
 
 void SaveTemplate(Handle data, std::string const& fileName, unsigned long fileType) {
-    CurrentResourceFile const current;
+    StCurrentResFile const current;
     FSSpec spec{};
     // A name that cannot be resolved is asked about like one that is taken.
     if (ResolveTemplate(fileName, spec) != kFileNotFoundErr && !Confirm(kReplaceAlert)) {
@@ -64,7 +64,7 @@ void SaveTemplate(Handle data, std::string const& fileName, unsigned long fileTy
 }
 
 Handle LoadTemplate(std::string const& fileName) {
-    CurrentResourceFile const current;
+    StCurrentResFile const current;
     FSSpec spec{};
     if (ResolveTemplate(fileName, spec) != kNoErr) {
         return nullptr;
@@ -79,7 +79,7 @@ Handle LoadTemplate(std::string const& fileName) {
 
 std::vector<std::string> GetTemplateList(unsigned long fileType) {
     std::vector<std::string> names;
-    OwnedBlock const block(NewHandle(0));
+    StOwnedBlock const block(NewHandle(0));
     auto* const list = reinterpret_cast<FSSpec**>(block.get());
     EnumerShell(gTemplateSpec.vRefNum, gTemplateSpec.parID, fileType, list);
     long const last = LastDAIndex(list);

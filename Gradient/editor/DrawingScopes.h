@@ -10,25 +10,25 @@
 }
 
 /// Sets the foreground color at the end of a scope to what it is, or was before.
-class ForeColorScope {
+class StForeColor {
   public:
-    explicit ForeColorScope(RGBColor const& color = CurrentForeColor()) : color_(color) {}
-    ForeColorScope(ForeColorScope const&) = delete;
-    ForeColorScope& operator=(ForeColorScope const&) = delete;
-    ~ForeColorScope() { QD::RGBForeColor(&color_); }
+    explicit StForeColor(RGBColor const& color = CurrentForeColor()) : mColor(color) {}
+    StForeColor(StForeColor const&) = delete;
+    StForeColor& operator=(StForeColor const&) = delete;
+    ~StForeColor() { QD::RGBForeColor(&mColor); }
 
   private:
-    RGBColor color_;
+    RGBColor mColor;
 };
 
 /// Saves the pen and restores it at the end of a scope.
-class PenScope {
+class StPenState {
   public:
-    PenScope() { QD::GetPenState(&state_); }
-    PenScope(PenScope const&) = delete;
-    PenScope& operator=(PenScope const&) = delete;
-    ~PenScope() { QD::SetPenState(&state_); }
+    StPenState() { QD::GetPenState(&mState); }
+    StPenState(StPenState const&) = delete;
+    StPenState& operator=(StPenState const&) = delete;
+    ~StPenState() { QD::SetPenState(&mState); }
 
   private:
-    PenState state_;
+    PenState mState;
 };

@@ -6,8 +6,6 @@
 
 inline constexpr short kEditorDialog = 5000;
 
-inline constexpr short kOKItem = 1;
-inline constexpr short kCancelItem = 2;
 inline constexpr short kRampItem = 4;
 inline constexpr short kPositionItem = 5;
 inline constexpr short kColorItem = 6;
@@ -21,7 +19,8 @@ inline constexpr short kLowerSeparatorItem = 12;
 /// The entry of the template popup that it shows when no template is chosen.
 inline constexpr short kNoTemplateEntry = 4;
 
-/// Where enabling of items would follow the gradient. Every item keeps the state that its resource gives it.
+/// Called after every change that enabling of items could depend on. Every item keeps the state that its
+/// resource gives it, so this does nothing; it is kept as the one place where rules would go.
 void EnableAppropriateControls(DialogRef dialog, CGradientData& gradient);
 
 /// Marks ramp, preview and color swatch for redrawing.

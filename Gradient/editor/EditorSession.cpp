@@ -1,6 +1,7 @@
 // The gradient editor: a modal dialog on one gradient.
 #include "Gradient/editor/EditorSession.h"
 
+#include "Gradient/ModalDialogs.h"
 #include "Gradient/TemplateUtil/TemplateMenu.h"
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/KindAndDirection.h"
@@ -10,7 +11,6 @@
 #include "Gradient/editor/Swatches.h"
 #include "Gradient/editor/TemplateHits.h"
 #include "host/Drawing.h"
-#include "host/TypeCodes.h"
 #include "host/Windows.h"
 
 namespace {
@@ -93,7 +93,7 @@ void InitGradientDialog(DialogRef dialog, CGradientData& gradient, ActiveStop& a
     SyncActiveElementInfo(active);
     SetPercent(dialog, active->Percent());
     ResetTemplatePopup(dialog);
-    BuildTemplateMenu(GetDialogMenu(dialog, kTemplateItem), FourCC("GTMP"));
+    BuildTemplateMenu(GetDialogMenu(dialog, kTemplateItem), kTemplateFileType);
     EnableAppropriateControls(dialog, gradient);
     ShowKind(dialog, gradient);
 }

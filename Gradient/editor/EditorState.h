@@ -13,7 +13,8 @@ extern CGradientData gDialogActiveGradient;
 /// Color and position of the active stop, as last synchronised.
 extern RGBColor gDialogActiveEditColor;
 extern double gDialogActivePercent;
-/// True while the preview is being drawn. Nothing reads it; code that draws may, to know what it draws for.
+/// True while the preview is being drawn. Nothing reads it; it is kept for code that draws, which can tell by
+/// it that it draws in the editor.
 extern bool gDrawingToDialog;
 
 /// Copies color and position of the active stop to the variables above.

@@ -63,7 +63,7 @@ TLine<double> TrackDialogLine(TPoint<double> const& anchor, TRect<short> const& 
     StThemeDrawingState const drawingState;
     StClipRgnState const clipState;
     TLine<double> line(anchor, anchor);
-    SnappingOff const snappingOff(SnapSwitches::Current());
+    StSnappingOff const snappingOff(CSnapSwitches::Current());
     QD::RGBForeColor(&kBlackRGBColor);
     QD::ClipRect(clip);
     QD::PenMode(kPatternXor);

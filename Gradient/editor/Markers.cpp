@@ -23,7 +23,7 @@ short Offset(short coordinate, int by) {
 }
 
 void DrawActiveMarker(TPoint<short> const& apex) {
-    DrawTriangleTick(apex, kMarkerSize, kBlackRGBColor, true);
+    DrawTriangleTick(apex, kMarkerSize, kBlackRGBColor, kFilledTick);
     short const underline = Offset(apex.v, kUnderlineDrop);
     QD::MoveTo(Offset(apex.h, -kMarkerSize), underline);
     QD::LineTo(Offset(apex.h, kMarkerSize), underline);
@@ -37,19 +37,19 @@ void DrawTicks(TPoint<short> const& origin, std::int32_t width, CGradientData co
     QD::EraseRect(band);
     band.Inset(kEraseMargin, 0);
 
-    ForeColorScope const foreColor;
-    PenScope const pen;
+    StForeColor const foreColor;
+    StPenState const pen;
     QD::RGBForeColor(&kBlackRGBColor);
     QD::PenSize(1, 1);
     for (CGradientColor const& stop : gradient.ColorList()) {
-        DrawTriangleTick(ApexAt(band, stop.Percent()), kMarkerSize, kBlackRGBColor, false);
+        DrawTriangleTick(ApexAt(band, stop.Percent()), kMarkerSize, kBlackRGBColor, kOpenTick);
     }
     DrawActiveMarker(ApexAt(band, gDialogActivePercent));
 }
 
-void DrawTriangleTick(TPoint<short> const& apex, short size, RGBColor const& color, bool fill) {
-    ForeColorScope const foreColor;
-    PenScope const pen;
+void DrawTriangleTick(TPoint<short> const& apex, short size, RGBColor const& color, KTickFill fill) {
+    StForeColor const foreColor;
+    StPenState const pen;
     QD::RGBForeColor(&color);
     QD::PenSize(1, 1);
     QD::PenMode(kPatternCopy);
@@ -62,7 +62,7 @@ void DrawTriangleTick(TPoint<short> const& apex, short size, RGBColor const& col
     QD::LineTo(Offset(apex.h, -size), base);
     QD::LineTo(apex.h, apex.v);
     QD::ClosePoly();
-    if (fill) {
+    if (fill == kFilledTick) {
         QD::PaintPoly(triangle);
     }
     QD::FramePoly(triangle);

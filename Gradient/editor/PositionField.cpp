@@ -1,6 +1,7 @@
 // The field that shows the active stop's position in percent.
 #include "Gradient/editor/PositionField.h"
 
+#include "Gradient/ModalDialogs.h"
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/StopEditing.h"
 #include "Gradient/model/DecimalNumber.h"
@@ -10,7 +11,6 @@ namespace {
 
 constexpr double kPercentScale = 100.0;
 constexpr short kDecimals = 2;
-constexpr long kWholeText = 32767;
 
 void ShowSelected(DialogRef dialog, double fraction) {
     SetPercent(dialog, fraction);
@@ -26,7 +26,7 @@ void SetPercent(DialogRef dialog, double fraction) {
 }
 
 void SelectPercent(DialogRef dialog) {
-    SelectDLOGText(dialog, kPositionItem, 0, kWholeText);
+    SelectWholeText(dialog, kPositionItem);
 }
 
 void GetActivePercent(DialogRef dialog, double& fraction) {

@@ -4,30 +4,30 @@
 #include "host/Mouse.h"
 
 /// The two snapping switches as they stand at a moment.
-struct SnapSwitches {
+struct CSnapSwitches {
     bool grid;
     bool object;
 
-    [[nodiscard]] static SnapSwitches Current() {
+    [[nodiscard]] static CSnapSwitches Current() {
         bool const grid = GetGridSnap();
         return {grid, GetObjectSnap()};
     }
 };
 
 /// Switches snapping off for a scope and sets the switches to `before` at its end.
-class SnappingOff {
+class StSnappingOff {
   public:
-    explicit SnappingOff(SnapSwitches const& before) : before_(before) {
+    explicit StSnappingOff(CSnapSwitches const& before) : mBefore(before) {
         SetGridSnap(false);
         SetObjectSnap(false);
     }
-    SnappingOff(SnappingOff const&) = delete;
-    SnappingOff& operator=(SnappingOff const&) = delete;
-    ~SnappingOff() {
-        SetGridSnap(before_.grid);
-        SetObjectSnap(before_.object);
+    StSnappingOff(StSnappingOff const&) = delete;
+    StSnappingOff& operator=(StSnappingOff const&) = delete;
+    ~StSnappingOff() {
+        SetGridSnap(mBefore.grid);
+        SetObjectSnap(mBefore.object);
     }
 
   private:
-    SnapSwitches before_;
+    CSnapSwitches mBefore;
 };

@@ -1,6 +1,7 @@
 // Adding and removing color stops, and choosing a stop's color.
 #include "Gradient/editor/StopEditing.h"
 
+#include "Gradient/PluginStrings.h"
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/model/ColorInterpolation.h"
 #include "Gradient/model/StopOrder.h"
@@ -34,7 +35,7 @@ void HandleColorPick(DialogRef dialog, ActiveStop& active) {
 
 bool ChooseColor(RGBColor& color) {
     unsigned char prompt[256] = {};
-    GetIndString(prompt, 5000, 3);
+    GetIndString(prompt, kPluginStrings, kColorPromptString);
     RGBColor chosen;
     if (!GetColor(TPoint<short>(), prompt, &color, &chosen)) {
         return false;

@@ -27,7 +27,7 @@ void ComposeFramed(CSimplePixMap& image, CFPolygonRef polygon, TRect<short> cons
 void UpdateColorRect(DialogRef dialog, short item) {
     TRect<short> const rect = GetDialogItemBounds(dialog, item);
     DrawDropShadow(rect);
-    ForeColorScope const foreColor;
+    StForeColor const foreColor;
     QD::RGBForeColor(&gDialogActiveEditColor);
     QD::PaintRect(rect);
     QD::RGBForeColor(&kBlackRGBColor);
@@ -45,8 +45,8 @@ void UpdateGradientRect(DialogRef dialog, short item) {
 
     RGBColor const saved = CurrentForeColor();
     CSimplePixMap image(ramp, kImageDepth);
-    ForeColorScope const foreColor(saved);
-    OwnedPolygon const polygon(FRectToFPoly(TRect<double>(ramp)));
+    StForeColor const foreColor(saved);
+    StOwnedPolygon const polygon(FRectToFPoly(TRect<double>(ramp)));
     ComposeFramed(image, polygon.Get(), ramp, gradient);
     image.CopyFrom();
     DrawTicks(ramp.BottomLeft(), ramp.Width(), gradient);
@@ -55,8 +55,10 @@ void UpdateGradientRect(DialogRef dialog, short item) {
 void UpdatePreviewRect(DialogRef dialog, short item) {
     TRect<short> const rect = GetDialogItemBounds(dialog, item);
     CSimplePixMap image(rect, kImageDepth);
+    CFPolygonRef const rectangle = FRectToFPoly(TRect<double>(rect));
     StValueChanger<bool> const drawingToDialog(gDrawingToDialog, true);
-    OwnedPolygon const polygon(FRectToFPoly(TRect<double>(rect)));
+    // Taken over after the flag is raised, so that the polygon is freed before the flag is put back.
+    StOwnedPolygon const polygon(rectangle);
     ComposeFramed(image, polygon.Get(), rect, gDialogActiveGradient);
     image.CopyFrom();
 }

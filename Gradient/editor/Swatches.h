@@ -24,5 +24,8 @@ extern UserItemUPP UpdatePreviewRectUPP;
 /// `origin` is the ramp's bottom left corner, `width` its width.
 void DrawTicks(TPoint<short> const& origin, std::int32_t width, CGradientData const& gradient);
 
+/// How a marker is drawn: its frame alone, or filled as well.
+enum KTickFill : bool { kOpenTick = false, kFilledTick = true };
+
 /// Draws a triangle that points upwards to `apex`, `size` high and twice as wide.
-void DrawTriangleTick(TPoint<short> const& apex, short size, RGBColor const& color, bool fill);
+void DrawTriangleTick(TPoint<short> const& apex, short size, RGBColor const& color, KTickFill fill);

@@ -8,15 +8,15 @@
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/model/GradientBlock.h"
 #include "host/Menus.h"
-#include "host/TypeCodes.h"
 
 namespace {
 
 constexpr short kSaveEntry = 1;
 constexpr short kDeleteEntry = 2;
+constexpr char const* kSuffix = ".GRD";
 
 void RebuildPopup(DialogRef dialog) {
-    BuildTemplateMenu(GetDialogMenu(dialog, kTemplateItem), FourCC("GTMP"));
+    BuildTemplateMenu(GetDialogMenu(dialog, kTemplateItem), kTemplateFileType);
     ResetTemplatePopup(dialog);
 }
 
@@ -33,7 +33,7 @@ void HandleTemplateMenuHit(DialogRef dialog, CGradientData& gradient, ActiveStop
         }
         break;
     case kDeleteEntry:
-        ModalDeleteTemplate(FourCC("GTMP"));
+        ModalDeleteTemplate(kTemplateFileType);
         RebuildPopup(dialog);
         break;
     case kNoTemplateEntry:
@@ -48,17 +48,17 @@ void HandleTemplateMenuHit(DialogRef dialog, CGradientData& gradient, ActiveStop
 }
 
 void SaveGradientTemplate(CGradientData const& gradient, std::string const& name) {
-    OwnedBlock const block(MakeGradientData(gradient));
-    if (block) {
-        SaveTemplate(block.get(), name + ".GRD", FourCC("GTMP"));
+    StOwnedBlock const block(MakeGradientData(gradient));
+    if (block != nullptr) {
+        SaveTemplate(block.get(), name + kSuffix, kTemplateFileType);
     }
 }
 
 void LoadGradientTemplate(DialogRef dialog, short item, CGradientData& gradient) {
     CStr255 fileName;
     GetMenuItemText(GetDialogMenu(dialog, kTemplateItem), item, fileName);
-    OwnedBlock const block(LoadTemplate(fileName.Text()));
-    if (block) {
+    StOwnedBlock const block(LoadTemplate(fileName.Text()));
+    if (block != nullptr) {
         ReadGradient(block.get(), gradient);
     }
 }

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 void FindLinearGradientRange(CFPolygonRef polygon, double angle, TPoint<double>& start, TPoint<double>& end) {
-    OwnedPolygon const turned(CFPolygonRef(polygon, true));
+    StOwnedPolygon const turned(CFPolygonRef(polygon, true));
     TPoint<double> const centre = turned.Get().Bounds().MidPt();
     RotateFPoly(turned.Get(), angle, centre);
 

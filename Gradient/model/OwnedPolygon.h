@@ -1,18 +1,19 @@
-// A polygon that is freed at the end of its scope.
+// Owning polygons.
 #pragma once
 
 #include "host/Geometry.h"
 
-class OwnedPolygon {
+/// Frees a polygon at the end of its scope.
+class StOwnedPolygon {
   public:
     /// Takes over a polygon that was just made.
-    explicit OwnedPolygon(CFPolygonRef polygon) : polygon_(polygon) {}
-    OwnedPolygon(OwnedPolygon const&) = delete;
-    OwnedPolygon& operator=(OwnedPolygon const&) = delete;
-    ~OwnedPolygon() { KillFPoly(polygon_); }
+    explicit StOwnedPolygon(CFPolygonRef polygon) : mPolygon(polygon) {}
+    StOwnedPolygon(StOwnedPolygon const&) = delete;
+    StOwnedPolygon& operator=(StOwnedPolygon const&) = delete;
+    ~StOwnedPolygon() { KillFPoly(mPolygon); }
 
-    [[nodiscard]] CFPolygonRef Get() const { return polygon_; }
+    [[nodiscard]] CFPolygonRef Get() const { return mPolygon; }
 
   private:
-    CFPolygonRef polygon_;
+    CFPolygonRef mPolygon;
 };

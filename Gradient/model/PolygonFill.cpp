@@ -8,10 +8,12 @@
 
 namespace {
 
-struct PathReleaser {
+/// How a path is given back.
+struct CPathReleaser {
     void operator()(CGPath const* path) const { CGPathRelease(path); }
 };
-using OwnedPath = std::unique_ptr<CGPath const, PathReleaser>;
+/// A path that is released at the end of its scope.
+using StOwnedPath = std::unique_ptr<CGPath const, CPathReleaser>;
 
 void FitLinear(CFPolygonRef polygon, CGradientData& gradient) {
     TPoint<double> start;
@@ -51,7 +53,7 @@ void FillGradientPoly(CGraphicsEnvironment* environment, CFPolygonRef polygon,
     TRect<double> const bounds = polygon.Bounds();
     CGradientData fitted(gradient);
     CompleteRamp(fitted.ColorList());
-    OwnedPath const path(CreatePolyPath(CFPolygonRef(polygon, false)));
+    StOwnedPath const path(CreatePolyPath(CFPolygonRef(polygon, false)));
     if (fitted.Type() == kLinearGradient) {
         FitLinear(polygon, fitted);
     } else {

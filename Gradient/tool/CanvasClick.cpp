@@ -15,25 +15,25 @@ namespace {
 constexpr long kUndoKind = 3;
 
 /// Lets picks return only kinds that can carry a gradient, for a scope.
-class GradientKindsOnly {
+class StGradientKindsOnly {
   public:
-    GradientKindsOnly() {
-        GetSelDescrim(saved_);
+    StGradientKindsOnly() {
+        GetSelDescrim(mSaved);
         SetSelDescrim(descrimAllOff);
         for (std::int32_t index = 0; index < kNumGradObjIDs; ++index) {
             SetOneSelDescrim(static_cast<short>(kGradObjIDs[index]));
         }
     }
-    GradientKindsOnly(GradientKindsOnly const&) = delete;
-    GradientKindsOnly& operator=(GradientKindsOnly const&) = delete;
-    ~GradientKindsOnly() { SetSelDescrim(saved_); }
+    StGradientKindsOnly(StGradientKindsOnly const&) = delete;
+    StGradientKindsOnly& operator=(StGradientKindsOnly const&) = delete;
+    ~StGradientKindsOnly() { SetSelDescrim(mSaved); }
 
   private:
-    SelDescrimT saved_;
+    SelDescrimT mSaved;
 };
 
 bool PickAndOperate(DWindow* window, TPoint<double> const& where) {
-    GradientKindsOnly const filter;
+    StGradientKindsOnly const filter;
     CTessObjList list;
     long index = 0;
     if (!PickObj(window, where, index, list)) {

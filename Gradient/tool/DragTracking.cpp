@@ -4,6 +4,7 @@
 #include "Gradient/editor/SnappingOff.h"
 #include "Gradient/model/Colors.h"
 #include "Gradient/tool/ObjectGradient.h"
+#include "Gradient/tool/Tool.h"
 #include "host/Drawing.h"
 #include "host/Gradient.h"
 #include "host/Mouse.h"
@@ -13,7 +14,6 @@
 namespace {
 
 constexpr double kPolygonTolerance = 0.07;
-constexpr short kTrackCursor = 606;
 
 /// The point as fractions of the rectangle. A rectangle without extent gives coordinates that are not finite,
 /// on purpose.
@@ -44,7 +44,7 @@ bool TrackGradientObjFlow(TPoint<double> const& where, TessObject* object) {
     CGradientData data = gradient->GetGradientData();
     if (data.Type() != kLinearGradient) {
         MoveCentre(where, object, data);
-    } else if (BreakHysteresis(where, kTrackCursor)) {
+    } else if (BreakHysteresis(where, kToolCursor)) {
         ReflowGradientObj(TrackLine(where), object, data);
     }
     return true;
@@ -53,10 +53,10 @@ bool TrackGradientObjFlow(TPoint<double> const& where, TessObject* object) {
 TLine<double> TrackLine(TPoint<double> const& start) {
     StThemeDrawingState const drawingState;
     TPoint<double> current = start;
-    SnapSwitches const snaps = SnapSwitches::Current();
+    CSnapSwitches const snaps = CSnapSwitches::Current();
     CSyncronizedBuffer buffer(ActiveDrawingWindow(), true);
     QD::RGBForeColor(&kBlackRGBColor);
-    SnappingOff const snappingOff(snaps);
+    StSnappingOff const snappingOff(snaps);
     do {
         ActiveDrawingWindow()->ScrollWDiag(false);
         buffer.RefreshAndBeginDrawing();

@@ -1,6 +1,7 @@
 // What happens when the host starts the plug-in and shuts it down.
 #include "Gradient/tool/Lifecycle.h"
 
+#include "Gradient/PluginStrings.h"
 #include "Gradient/TemplateUtil/TemplateStore.h"
 #include "Gradient/tool/StoredGradient.h"
 #include "Gradient/tool/Tool.h"
@@ -11,7 +12,7 @@ void Init() {
     InitTool();
     InitDefaults();
     CStr255 folderName;
-    GetIndString(folderName, 5000, 2);
+    GetIndString(folderName, kPluginStrings, kTemplateFolderString);
     InitTemplates(folderName);
 }
 

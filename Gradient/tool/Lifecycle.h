@@ -7,6 +7,8 @@ void Init();
 /// Saves the current gradient. The tool stays registered.
 void CleanUp();
 
-/// Hooks for object kinds that need something at start-up or shut-down; none does.
+/// Hooks for what an object kind may need before the first and after the last click. No kind needs anything;
+/// they are kept, empty, as the one place for it. Shutting down runs the second, starting up does not run the
+/// first.
 void InitGradientMethods();
 void CleanupMethods();

@@ -14,8 +14,8 @@ constexpr short kDefaultsId = 10001;
 } // namespace
 
 void InitDefaults() {
-    OwnedBlock const block(GetDefaultsResource(kDefaultsType, kDefaultsId));
-    if (block) {
+    StOwnedBlock const block(GetDefaultsResource(kDefaultsType, kDefaultsId));
+    if (block != nullptr) {
         ReadGradient(block.get(), gCurrentGradient);
     } else {
         gCurrentGradient = CGradientData();
@@ -23,8 +23,8 @@ void InitDefaults() {
 }
 
 void SaveDefaults() {
-    OwnedBlock const block(MakeGradientData(gCurrentGradient));
-    if (block) {
+    StOwnedBlock const block(MakeGradientData(gCurrentGradient));
+    if (block != nullptr) {
         SetDefaultsResource(block.get(), kDefaultsType, kDefaultsId, "Gradient Default");
     }
 }

@@ -3,6 +3,9 @@
 
 class DWindow;
 
+/// The host's plain cursor for tools: what the tool shows unless Option is down, and during a drag.
+inline constexpr short kToolCursor = 606;
+
 /// Adds the tool to the palette and installs its callbacks.
 void InitTool();
 

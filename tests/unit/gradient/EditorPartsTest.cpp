@@ -1,67 +1,21 @@
-// Parts of the editor that scenarios cannot get at: the port's state around drawing, files that vanish, odd
-// numbers.
+// Parts of the editor that scenarios cannot get at: files that come and go behind its back, odd numbers,
+// exceptions.
+#include "Gradient/ModalDialogs.h"
 #include "Gradient/TemplateUtil/TemplateStore.h"
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/EditorSession.h"
-#include "Gradient/editor/Swatches.h"
-#include "easel/paint/Port.h"
-#include "easel/runtime/CurrentPort.h"
 #include "easel/runtime/Dialog.h"
 #include "easel/runtime/OpenDialogs.h"
 #include "tests/unit/gradient/EditorStage.h"
+#include "tests/unit/gradient/ScriptedUser.h"
 
+#include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace tests {
 namespace {
 
 using easel::runtime::Dialog;
-
-// Does one thing after the other, each once the dialog waits, and then closes it.
-class ScriptedUser : public IdleUser {
-  public:
-    explicit ScriptedUser(std::vector<std::function<void(Dialog&)>> steps) : steps_(std::move(steps)) {}
-
-    std::int16_t nextHit(Dialog& dialog) override {
-        while (!dialog.hasHit() && next_ < steps_.size())
-            steps_[next_++](dialog);
-        return static_cast<std::int16_t>(dialog.takeHit().value_or(kOKItem));
-    }
-    easel::runtime::Answer confirm(const easel::runtime::Alert&) override {
-        return easel::runtime::Answer::yes;
-    }
-
-  private:
-    std::vector<std::function<void(Dialog&)>> steps_;
-    std::size_t next_ = 0;
-};
-
-TEST(EditorParts, TheSwatchProceduresLeaveColorPenAndClipOfThePortAsTheyWere) {
-    IdleUser user;
-    const EditorStage stage(user);
-    gDialogActiveGradient = gradientOf({{{1, 2, 3}, 0.0}, {{4, 5, 6}, 1.0}});
-    const DialogRef ref = TessGetNewDialog(kEditorDialog, nullptr, nullptr);
-    ASSERT_NE(ref, nullptr);
-    SetPortDialogPort(ref);
-    easel::paint::PortState& state = easel::runtime::currentPort().state();
-    state.foreground = {11, 22, 33};
-    state.pen = {{7, 8}, {3, 2}, easel::paint::PenMode::Invert, {1, 2, 3, 4, 5, 6, 7, 8}};
-    state.clip = {0, 0, 400, 300};
-    const easel::paint::PortState before = state;
-    for (const auto& [procedure, item] : {std::pair{&UpdateColorRect, kColorItem},
-                                          {&UpdateGradientRect, kRampItem},
-                                          {&UpdatePreviewRect, kPreviewItem}}) {
-        procedure(ref, item);
-        EXPECT_EQ(state, before) << item;
-        EXPECT_EQ(&easel::runtime::currentPort().state(), &state) << "the dialog's port is current";
-    }
-    gDrawingToDialog = true;
-    UpdatePreviewRect(ref, kPreviewItem);
-    EXPECT_TRUE(gDrawingToDialog) << "as it was, not off";
-    gDrawingToDialog = false;
-    DisposeDialog(ref);
-}
 
 std::filesystem::path headerOf(const std::filesystem::path& folder, const std::string& name) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
@@ -102,6 +56,48 @@ TEST(EditorParts, ATemplateDeletedSinceTheMenuWasBuiltLeavesTheGradientAndMakesT
     EXPECT_EQ(shown, "25.00") << "the first stop's position is shown instead";
 }
 
+std::vector<std::string> entriesOf(const Dialog& editor) {
+    const auto& menu = *editor.item(kTemplateItem)->menu;
+    std::vector<std::string> entries;
+    for (int number = 5; number <= menu.count(); ++number)
+        entries.push_back(menu.text(number));
+    return entries;
+}
+
+TEST(EditorParts, OnlyARebuildShowsFilesThatCameAndWentBehindTheEditorsBack) {
+    std::filesystem::path folder;
+    const auto expectEntries = [](const Dialog& editor, std::vector<std::string> expected) {
+        EXPECT_EQ(entriesOf(editor), expected);
+    };
+    ScriptedUser user({
+        [](Dialog& editor) { editor.chooseEntry(kTemplateItem, 1); },
+        [](Dialog& name) { name.enterText(4, "B"); },
+        [](Dialog& name) { name.hit(kOKItem); },
+        [&](Dialog& editor) {
+            expectEntries(editor, {"B.GRD"});
+            const std::filesystem::path header = headerOf(folder, "B.GRD");
+            for (const char* const prefix : {"", "._"})
+                std::filesystem::rename(header.parent_path() / (prefix + std::string("B.GRD")),
+                                        header.parent_path() / (prefix + std::string("A.GRD")));
+            editor.chooseEntry(kTemplateItem, 5);
+        },
+        [&](Dialog& editor) {
+            expectEntries(editor, {"B.GRD"});
+            editor.hit(kRadialItem);
+        },
+        [&](Dialog& editor) {
+            expectEntries(editor, {"B.GRD"});
+            editor.chooseEntry(kTemplateItem, 2);
+        },
+        [&](Dialog& editor) { expectEntries(editor, {"A.GRD"}); },
+    });
+    const EditorStage stage(user);
+    folder = stage.folder();
+    InitTemplates("Renamed");
+    CGradientData gradient;
+    EXPECT_TRUE(ModalEditGradient(gradient));
+}
+
 TEST(EditorParts, NoTextInThePositionFieldDoesAnyHarm) {
     const std::vector<std::string> texts{"nan",
                                          "inf",
@@ -130,6 +126,9 @@ TEST(EditorParts, NoTextInThePositionFieldDoesAnyHarm) {
     CGradientData gradient = gradientOf({{{1, 1, 1}, 0.0}, {{2, 2, 2}, 0.5}, {{3, 3, 3}, 1.0}});
     EXPECT_TRUE(ModalEditGradient(gradient));
     EXPECT_GE(gradient.ColorList().size(), 3u);
+    EXPECT_TRUE(std::is_sorted(gradient.ColorList().begin(), gradient.ColorList().end()));
+    for (const CGradientColor& stop : gradient.ColorList())
+        EXPECT_TRUE(std::isfinite(stop.Percent()));
 }
 
 TEST(EditorParts, AnExceptionInAHandlerGivesThePortBackAndLeavesTheCallersGradient) {

@@ -1,4 +1,5 @@
 // A user who does anything at all in the editor, and what must hold whatever is done.
+#include "Gradient/ModalDialogs.h"
 #include "Gradient/TemplateUtil/TemplateStore.h"
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/EditorSession.h"

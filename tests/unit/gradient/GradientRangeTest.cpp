@@ -38,8 +38,8 @@ std::pair<double, double> PlacesAlong(Range const& range, CFPolygonRef polygon) 
     return {least, largest};
 }
 
-OwnedPolygon RectPolygon(double left, double top, double right, double bottom) {
-    return OwnedPolygon(FRectToFPoly({top, left, bottom, right}));
+StOwnedPolygon RectPolygon(double left, double top, double right, double bottom) {
+    return StOwnedPolygon(FRectToFPoly({top, left, bottom, right}));
 }
 
 struct Radii {
@@ -56,14 +56,14 @@ Radii RadialRadii(CFPolygonRef polygon, TPoint<double> start, TPoint<double> end
 } // namespace
 
 TEST(LinearRange, AtAngleZeroRunsFromTheLeftToTheRightEdgeAtMidHeight) {
-    OwnedPolygon const polygon = RectPolygon(10, 20, 110, 70);
+    StOwnedPolygon const polygon = RectPolygon(10, 20, 110, 70);
     Range const range = LinearRange(polygon.Get(), 0.0);
     EXPECT_EQ(range.start, TPoint<double>(10, 45));
     EXPECT_EQ(range.end, TPoint<double>(110, 45));
 }
 
 TEST(LinearRange, OnASquareReachesTheExtremeCornersAlongItsDirection) {
-    OwnedPolygon const square = RectPolygon(-50, -50, 50, 50);
+    StOwnedPolygon const square = RectPolygon(-50, -50, 50, 50);
     for (double const angle : {15.0, 30.0, 45.0, 60.0, 75.0}) {
         // The farthest corner along a direction in a quadrant is the one in that quadrant.
         double const radians = angle * std::numbers::pi / 180.0;
@@ -80,7 +80,7 @@ TEST(LinearRange, EnclosesAnyPolygonAndTouchesItAtBothEnds) {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> anyAngle(-720.0, 720.0);
     for (int round = 0; round < 5000; ++round) {
-        OwnedPolygon const polygon = RandomPolygon(random);
+        StOwnedPolygon const polygon = RandomPolygon(random);
         double const angle = anyAngle(random);
         auto const [least, largest] = PlacesAlong(LinearRange(polygon.Get(), angle), polygon.Get());
         ASSERT_NEAR(least, 0.0, 1e-6) << "round " << round << ", angle " << angle;
@@ -92,7 +92,7 @@ TEST(LinearRange, RunsAlongTheLineThatWasDraggedForAnyShapeAndDirection) {
     std::mt19937 random(2);
     std::uniform_real_distribution<double> place(-500.0, 500.0);
     for (int round = 0; round < 5000; ++round) {
-        OwnedPolygon const polygon = RandomPolygon(random);
+        StOwnedPolygon const polygon = RandomPolygon(random);
         TLine<double> const dragged({place(random), place(random)}, {place(random), place(random)});
         // The tool keeps the negated angle in single precision.
         auto const stored = static_cast<float>(-dragged.Angle());
@@ -108,33 +108,33 @@ TEST(LinearRange, RunsAlongTheLineThatWasDraggedForAnyShapeAndDirection) {
 
 TEST(LinearRange, LeavesThePolygonAsItWas) {
     std::mt19937 random(3);
-    OwnedPolygon const polygon = RandomPolygon(random);
+    StOwnedPolygon const polygon = RandomPolygon(random);
     auto const before = polygon.Get().Storage()->vertices;
     LinearRange(polygon.Get(), 77.0);
     EXPECT_EQ(polygon.Get().Storage()->vertices, before);
 }
 
 TEST(LinearRange, OfAPolygonWithoutExtentIsOnePoint) {
-    OwnedPolygon const point = PolygonOf({{7, 9}, {7, 9}, {7, 9}});
+    StOwnedPolygon const point = PolygonOf({{7, 9}, {7, 9}, {7, 9}});
     Range const range = LinearRange(point.Get(), 33.0);
     EXPECT_EQ(range.start, TPoint<double>(7, 9));
     EXPECT_EQ(range.end, TPoint<double>(7, 9));
 }
 
 TEST(RadialRange, ReachesTheFarthestCornerFromTheMiddle) {
-    OwnedPolygon const polygon = RectPolygon(0, 0, 100, 50);
+    StOwnedPolygon const polygon = RectPolygon(0, 0, 100, 50);
     Radii const radii = RadialRadii(polygon.Get(), {50, 25}, {50, 25});
     EXPECT_EQ(radii.start, 0.0);
     EXPECT_NEAR(radii.end, std::sqrt(3125.0), 1e-12);
 }
 
 TEST(RadialRange, FromACornerReachesTheOppositeOne) {
-    OwnedPolygon const polygon = RectPolygon(0, 0, 100, 50);
+    StOwnedPolygon const polygon = RectPolygon(0, 0, 100, 50);
     EXPECT_NEAR(RadialRadii(polygon.Get(), {0, 0}, {0, 0}).end, 111.8034, 5e-5);
 }
 
 TEST(RadialRange, DoesNotDependOnTheStartPoint) {
-    OwnedPolygon const polygon = RectPolygon(0, 0, 100, 50);
+    StOwnedPolygon const polygon = RectPolygon(0, 0, 100, 50);
     double const expected = RadialRadii(polygon.Get(), {20, 10}, {20, 10}).end;
     EXPECT_EQ(RadialRadii(polygon.Get(), {-400, 900}, {20, 10}).end, expected);
 }
@@ -143,7 +143,7 @@ TEST(RadialRange, EnclosesTheBoundsOfAnyPolygonAndTouchesThem) {
     std::mt19937 random(4);
     std::uniform_real_distribution<double> place(-3000.0, 3000.0);
     for (int round = 0; round < 5000; ++round) {
-        OwnedPolygon const polygon = RandomPolygon(random);
+        StOwnedPolygon const polygon = RandomPolygon(random);
         TPoint<double> const centre(place(random), place(random));
         double const radius = RadialRadii(polygon.Get(), centre, centre).end;
         TRect<double> const bounds = polygon.Get().Bounds();

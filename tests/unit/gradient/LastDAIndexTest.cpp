@@ -8,7 +8,7 @@
 namespace {
 
 long LastIndexOfBytes(long size) {
-    OwnedBlock const block(NewHandle(size));
+    StOwnedBlock const block(NewHandle(size));
     return LastDAIndex(reinterpret_cast<FSSpec**>(block.get()));
 }
 

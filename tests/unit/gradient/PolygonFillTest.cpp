@@ -2,6 +2,7 @@
 #include "Gradient/model/PolygonFill.h"
 #include "easel/runtime/HostGraphics.h"
 #include "host/Drawing.h"
+#include "tests/unit/gradient/DrawnGradient.h"
 #include "tests/unit/gradient/Polygons.h"
 #include "tests/unit/gradient/Records.h"
 
@@ -9,13 +10,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <optional>
 
 using testing::ElementsAre;
 
 namespace {
-
-std::optional<CGradientData> gDrawn;
 
 /// Fills the polygon and returns the record that was drawn.
 CGradientData DrawnRecord(CFPolygonRef polygon, CGradientData const& gradient) {
@@ -23,11 +21,11 @@ CGradientData DrawnRecord(CFPolygonRef polygon, CGradientData const& gradient) {
     HostGraphics state;
     CGraphicsEnvironment environment(state);
     FillGradientPoly(&environment, polygon, gradient);
-    return gDrawn.value();
+    return gDrawn.value().record;
 }
 
 CGradientData DrawnOnRect(TRect<double> const& rect, CGradientData const& gradient) {
-    OwnedPolygon const polygon(FRectToFPoly(rect));
+    StOwnedPolygon const polygon(FRectToFPoly(rect));
     return DrawnRecord(polygon.Get(), gradient);
 }
 
@@ -39,13 +37,8 @@ TRect<double> WideRect() {
 
 } // namespace
 
-// Takes the place of the host's drawing in this program.
-void CGraphicsEnvironment::CGContextDrawGradient(CGPath const* /*path*/, CGradientData const& gradient) {
-    gDrawn = gradient;
-}
-
 TEST(PolygonFill, ExtendsTheRampFlatToBothEndsInACopy) {
-    CGradientData const gradient = RecordWith({{0.2, kRed}, {0.7, kBlue}});
+    CGradientData gradient = RecordWith({{0.2, kRed}, {0.7, kBlue}});
     CGradientData const drawn = DrawnOnRect(WideRect(), gradient);
     EXPECT_THAT(StopsOf(drawn.ColorList()),
                 ElementsAre(Stop{0.0, kRed}, Stop{0.2, kRed}, Stop{0.7, kBlue}, Stop{1.0, kBlue}));
@@ -119,7 +112,7 @@ TEST(PolygonFill, TreatsEveryTypeButLinearAsRadial) {
 
 TEST(PolygonFill, LeavesRecordAndPolygonAsTheyWere) {
     std::mt19937 random(8);
-    OwnedPolygon const polygon = RandomPolygon(random);
+    StOwnedPolygon const polygon = RandomPolygon(random);
     auto const vertices = polygon.Get().Storage()->vertices;
     CGradientData gradient;
     gradient.SetType(kRadialGradient);

@@ -9,14 +9,14 @@
 #include <random>
 #include <vector>
 
-inline OwnedPolygon PolygonOf(std::vector<TPoint<double>> vertices) {
+inline StOwnedPolygon PolygonOf(std::vector<TPoint<double>> vertices) {
     auto storage = std::make_unique<FPolygon>();
     storage->vertices = std::move(vertices);
-    return OwnedPolygon(CFPolygonRef(storage.release()));
+    return StOwnedPolygon(CFPolygonRef(storage.release()));
 }
 
 /// A polygon of 3 to 12 vertices anywhere in a drawing, from a pixel to some thousands across.
-inline OwnedPolygon RandomPolygon(std::mt19937& random) {
+inline StOwnedPolygon RandomPolygon(std::mt19937& random) {
     std::uniform_real_distribution<double> place(-2000.0, 2000.0);
     std::uniform_real_distribution<double> logSize(0.0, 3.5);
     double const size = std::pow(10.0, logSize(random));

@@ -1,0 +1,137 @@
+// What the editor's drawing procedures do to the port, to its pixels and to the flag of the preview.
+#include "Gradient/editor/DrawingScopes.h"
+#include "Gradient/editor/EditorItems.h"
+#include "Gradient/editor/EditorState.h"
+#include "Gradient/editor/Swatches.h"
+#include "easel/runtime/CurrentPort.h"
+#include "easel/runtime/Dialog.h"
+#include "easel/paint/Port.h"
+#include "tests/unit/gradient/DrawnGradient.h"
+#include "tests/unit/gradient/EditorStage.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace tests {
+namespace {
+
+using easel::paint::PixelRect;
+using easel::paint::Port;
+using easel::paint::PortState;
+using testing::ElementsAre;
+
+class SwatchProcedures : public testing::Test {
+  protected:
+    SwatchProcedures() : stage_(user_), dialog_(TessGetNewDialog(kEditorDialog, nullptr, nullptr)) {
+        gDialogActiveGradient = gradientOf({{{1, 2, 3}, 0.0}, {{4, 5, 6}, 1.0}});
+        gDialogActivePercent = 0.0;
+        SetPortDialogPort(dialog_);
+        PortState& state = port().state();
+        state.foreground = {11, 22, 33};
+        state.pen = {{7, 8}, {3, 2}, easel::paint::PenMode::Invert, {1, 2, 3, 4, 5, 6, 7, 8}};
+        state.clip = {0, 0, 400, 399};
+        gPolygonEvents.clear();
+    }
+    ~SwatchProcedures() override { DisposeDialog(dialog_); }
+
+    Port& port() const { return easel::runtime::Dialog::from(dialog_).port(); }
+
+    template <typename Draw> void expectThePortKept(Draw draw, const char* what) const {
+        const PortState before = port().state();
+        draw();
+        EXPECT_EQ(port().state(), before) << what;
+        EXPECT_EQ(&easel::runtime::currentPort(), &port()) << what;
+    }
+
+    IdleUser user_;
+    EditorStage stage_;
+    DialogRef dialog_;
+};
+
+TEST_F(SwatchProcedures, EachOfThemLeavesColorPenAndClipOfThePortAsTheyWere) {
+    // Each on its own, since those that call others would put back what those left.
+    expectThePortKept([&] { DrawTriangleTick({50, 50}, 5, {9, 9, 9}, kOpenTick); }, "open marker");
+    expectThePortKept([&] { DrawTriangleTick({50, 50}, 5, {9, 9, 9}, kFilledTick); }, "filled marker");
+    expectThePortKept([&] { DrawTicks({16, 128}, 200, gDialogActiveGradient); }, "row of markers");
+    expectThePortKept([&] { UpdateColorRect(dialog_, kColorItem); }, "color");
+    expectThePortKept([&] { UpdateGradientRect(dialog_, kRampItem); }, "ramp");
+    expectThePortKept([&] { UpdatePreviewRect(dialog_, kPreviewItem); }, "preview");
+}
+
+TEST_F(SwatchProcedures, ThePortIsAsItWasAlsoWhenDrawingFails) {
+    const FailingDrawing failing;
+    expectThePortKept([&] { EXPECT_THROW(UpdateGradientRect(dialog_, kRampItem), DrawingFailed); }, "ramp");
+    EXPECT_THROW(UpdatePreviewRect(dialog_, kPreviewItem), DrawingFailed);
+    EXPECT_FALSE(gDrawingToDialog);
+}
+
+TEST_F(SwatchProcedures, TheFlagIsRaisedWhileThePreviewIsDrawnAndForNothingElse) {
+    UpdatePreviewRect(dialog_, kPreviewItem);
+    EXPECT_TRUE(gDrawn.value().drawingToDialog);
+    EXPECT_FALSE(gDrawingToDialog);
+    UpdateGradientRect(dialog_, kRampItem);
+    EXPECT_FALSE(gDrawn.value().drawingToDialog);
+    const StValueChanger<bool> raised(gDrawingToDialog, true);
+    UpdatePreviewRect(dialog_, kPreviewItem);
+    EXPECT_TRUE(gDrawingToDialog) << "as it was, not off";
+}
+
+TEST_F(SwatchProcedures, ThePreviewsPolygonIsMadeBeforeTheFlagIsRaisedAndFreedBeforeItIsPutBack) {
+    gDialogActiveGradient.SetType(kRadialGradient); // a linear one needs polygons of its own
+    UpdatePreviewRect(dialog_, kPreviewItem);
+    EXPECT_THAT(gPolygonEvents, ElementsAre(PolygonEvent{PolygonEvent::What::Made, false},
+                                            PolygonEvent{PolygonEvent::What::Freed, true}));
+}
+
+TEST_F(SwatchProcedures, TheRampIsDrawnLinearAtAngleZeroAndThePreviewAsTheGradientIs) {
+    gDialogActiveGradient.SetType(kRadialGradient);
+    gDialogActiveGradient.SetAngle(33.0F);
+    UpdateGradientRect(dialog_, kRampItem);
+    EXPECT_EQ(gDrawn.value().record.Type(), kLinearGradient);
+    EXPECT_EQ(gDrawn.value().record.Angle(), 0.0F);
+    UpdatePreviewRect(dialog_, kPreviewItem);
+    EXPECT_EQ(gDrawn.value().record.Type(), kRadialGradient);
+    EXPECT_EQ(gDrawn.value().record.Angle(), 33.0F);
+}
+
+// The smallest rectangle around the pixels that are not `color`.
+PixelRect changedPixels(Port& port, std::uint32_t color) {
+    PixelRect changed{port.imageHeight(), port.imageWidth(), 0, 0};
+    for (int y = 0; y < port.imageHeight(); ++y)
+        for (int x = 0; x < port.imageWidth(); ++x)
+            if (port.pixels()[y * port.imageWidth() + x] != color)
+                changed = {std::min(changed.top, y), std::min(changed.left, x),
+                           std::max(changed.bottom, y + 1), std::max(changed.right, x + 1)};
+    return changed;
+}
+
+TEST_F(SwatchProcedures, TheBandOfTheMarkersIsErasedFromOneBelowTheRampToTwelveBelowIt) {
+    constexpr std::uint32_t kPainted = 0xff123456;
+    std::fill_n(port().pixels(), port().imageWidth() * port().imageHeight(), kPainted);
+    port().state().clip = port().bounds();
+    gDialogActivePercent = 0.5;
+    DrawTicks({16, 128}, 200, gradientOf({{{0, 0, 0}, 0.5}}));
+    EXPECT_EQ(changedPixels(port(), kPainted), (PixelRect{129, 9, 140, 223}));
+}
+
+TEST(DrawingScopes, AForegroundColorComesBackWhateverWasSetMeanwhile) {
+    IdleUser user;
+    const EditorStage stage(user);
+    const DialogRef dialog = TessGetNewDialog(kEditorDialog, nullptr, nullptr);
+    SetPortDialogPort(dialog);
+    const RGBColor before{1, 2, 3};
+    const RGBColor other{4, 5, 6};
+    QD::RGBForeColor(&before);
+    {
+        const StForeColor color;
+        QD::RGBForeColor(&other);
+    }
+    EXPECT_EQ(CurrentForeColor(), before);
+    { const StForeColor color(other); }
+    EXPECT_EQ(CurrentForeColor(), other);
+    DisposeDialog(dialog);
+}
+
+} // namespace
+} // namespace tests
