@@ -35,8 +35,8 @@ struct PaletteElement {
     std::int16_t position;
     std::int32_t attributes;
     std::int16_t available;
-    /// For the host; a plug-in leaves them alone.
-    std::int16_t hostData[4];
+    /// For the host, which gives them their values; a plug-in leaves them alone.
+    std::int16_t hostData[4] = {};
 };
 
 /// A callback whose form this interface does not know.

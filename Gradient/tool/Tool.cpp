@@ -1,6 +1,7 @@
 // The tool in the host's palette: its registration, its options and its cursor.
 #include "Gradient/tool/Tool.h"
 
+#include "Gradient/PluginStrings.h"
 #include "Gradient/editor/EditorSession.h"
 #include "Gradient/tool/CanvasClick.h"
 #include "Gradient/tool/Globals.h"
@@ -12,12 +13,13 @@
 namespace {
 
 constexpr short kPluginToolNames = 1024;
+constexpr short kToolIcon = 5100;
 constexpr long kEditCursor = 5000;
-constexpr long kTrackCursor = 606;
 
 PaletteElement GradientPaletteElement() {
-    PaletteElement element{};
-    element.icon = 5100;
+    // The members that are not named here are the host's.
+    PaletteElement element;
+    element.icon = kToolIcon;
     element.group = 0;
     element.position = 13;
     element.attributes = 2;
@@ -37,7 +39,7 @@ void InstallMethods(ToolMethodRec& methods) {
 
 void InitTool() {
     CStr255 name;
-    GetIndString(name, 5000, 1);
+    GetIndString(name, kPluginStrings, kToolNameString);
     TPalette* const palette = GetTPaletteFromWindowRef(roloPalette);
     short row = 0;
     short toolNumber = 0;
@@ -53,5 +55,5 @@ void GradientOptions() {
 }
 
 void GradientCursor(DWindow* window) {
-    window->SetIDCursor(NorvU::KeyIsDown(NorvU::kOptionKey) ? kEditCursor : kTrackCursor);
+    window->SetIDCursor(NorvU::KeyIsDown(NorvU::kOptionKey) ? kEditCursor : kToolCursor);
 }
