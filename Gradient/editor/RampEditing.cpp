@@ -4,18 +4,16 @@
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/PositionField.h"
 #include "Gradient/editor/StopEditing.h"
+#include "Gradient/editor/StopSearch.h"
 #include "Gradient/editor/Swatches.h"
 #include "Gradient/model/StopOrder.h"
 #include "host/Drawing.h"
 #include "host/Mouse.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace {
 
-constexpr double kSelectPixels = 10.0;
 constexpr double kDragPixels = 4.0;
 constexpr int kPullOffPixels = 2;
 
@@ -23,72 +21,56 @@ double PositionAt(TPoint<short> const& mouse, TRect<short> const& ramp) {
     return static_cast<double>(mouse.h - ramp.left) / ramp.Width();
 }
 
-struct NearestStop {
-    ActiveStop stop;
-    double distance;
-};
-
-NearestStop FindNearest(std::list<CGradientColor>& colors, double position) {
-    NearestStop nearest{colors.begin(), std::numeric_limits<double>::max()};
-    for (auto stop = colors.begin(); stop != colors.end(); ++stop) {
-        double const distance = std::abs(stop->Percent() - position);
-        if (distance < nearest.distance) {
-            nearest = {stop, distance};
-        }
-    }
-    return nearest;
-}
-
 /// A stop that is being dragged: on the ramp, or pulled off it with its color kept.
-class StopDrag {
+class CStopDrag {
   public:
-    StopDrag(DialogRef dialog, TRect<short> const& ramp, CGradientData& gradient, ActiveStop& active)
-        : dialog_(dialog), ramp_(ramp), gradient_(gradient), active_(active) {}
+    CStopDrag(DialogRef dialog, TRect<short> const& ramp, CGradientData& gradient, ActiveStop& active)
+        : mDialog(dialog), mRamp(ramp), mGradient(gradient), mActive(active) {}
 
     void MoveTo(TPoint<short> const& mouse) {
-        double const position = std::max(std::min(PositionAt(mouse, ramp_), 1.0), 0.0);
-        if (!pulledOff_) {
+        double const position = std::max(std::min(PositionAt(mouse, mRamp), 1.0), 0.0);
+        if (!mPulledOff) {
             SetPosition(position);
         }
-        bool const below = mouse.v >= ramp_.bottom + kPullOffPixels;
-        if (below && !pulledOff_ && gradient_.ColorList().size() > kFewestStops) {
+        bool const below = mouse.v >= mRamp.bottom + kPullOffPixels;
+        if (below && !mPulledOff && mGradient.ColorList().size() > kFewestStops) {
             PullOff();
         }
-        if (!below && pulledOff_) {
+        if (!below && mPulledOff) {
             PutBack(position);
         }
-        SortGradients(gradient_.ColorList());
-        UpdateGradientRect(dialog_, kRampItem);
-        UpdatePreviewRect(dialog_, kPreviewItem);
+        SortGradients(mGradient.ColorList());
+        UpdateGradientRect(mDialog, kRampItem);
+        UpdatePreviewRect(mDialog, kPreviewItem);
     }
 
   private:
     void SetPosition(double position) {
-        active_->SetPercent(static_cast<float>(position));
-        SyncActiveElementInfo(active_);
-        SetPercent(dialog_, position);
-        SelectPercent(dialog_);
+        mActive->SetPercent(static_cast<float>(position));
+        SyncActiveElementInfo(mActive);
+        SetPercent(mDialog, position);
+        SelectPercent(mDialog);
     }
 
     void PullOff() {
-        color_ = active_->ColorRGB();
-        DeleteGradientElement(dialog_, gradient_, active_);
-        pulledOff_ = true;
+        mColor = mActive->ColorRGB();
+        DeleteGradientElement(mDialog, mGradient, mActive);
+        mPulledOff = true;
     }
 
     void PutBack(double position) {
-        AddGradientElement(dialog_, position, gradient_, active_);
+        AddGradientElement(mDialog, position, mGradient, mActive);
         // The shared state keeps the color of the ramp at this position until the mouse moves on.
-        active_->SetColor(color_);
-        pulledOff_ = false;
+        mActive->SetColor(mColor);
+        mPulledOff = false;
     }
 
-    DialogRef dialog_;
-    TRect<short> ramp_;
-    CGradientData& gradient_;
-    ActiveStop& active_;
-    bool pulledOff_ = false;
-    RGBColor color_;
+    DialogRef mDialog;
+    TRect<short> mRamp;
+    CGradientData& mGradient;
+    ActiveStop& mActive;
+    bool mPulledOff = false;
+    RGBColor mColor;
 };
 
 } // namespace
@@ -101,9 +83,9 @@ void HandleGradClick(DialogRef dialog, CGradientData& gradient, ActiveStop& acti
 
     // Not clamped: a press in the margin can make a stop slightly outside the ramp.
     double const position = PositionAt(mouse, ramp);
-    NearestStop const nearest = FindNearest(gradient.ColorList(), position);
-    if (kSelectPixels / ramp.Width() >= nearest.distance) {
-        active = nearest.stop;
+    ActiveStop const nearest = FindStopNear(gradient.ColorList(), position, ramp.Width());
+    if (nearest != gradient.ColorList().end()) {
+        active = nearest;
     } else {
         AddGradientElement(dialog, position, gradient, active);
     }
@@ -117,7 +99,7 @@ void HandleGradClick(DialogRef dialog, CGradientData& gradient, ActiveStop& acti
 
 void TrackColorPtDrag(DialogRef dialog, TPoint<short> const& click, TRect<short> const& ramp,
                       CGradientData& gradient, ActiveStop& active) {
-    StopDrag drag(dialog, ramp, gradient, active);
+    CStopDrag drag(dialog, ramp, gradient, active);
     bool moved = false;
     TPoint<short> last = click;
     while (StillDown()) {

@@ -21,6 +21,10 @@ TEST(EditorStops, AClickTenPixelsFromAStopSelectsItAndElevenPixelsAwayAddsOne) {
     const json added = stopsAfter(kTwoStops, "click item 4 " + onRamp(11) + "\n");
     ASSERT_EQ(added.size(), 3u);
     EXPECT_EQ(added[1][0], 11 / 400.0) << "a stop that is added is not narrowed";
+    for (const int pixels : {390, 190, 210})
+        EXPECT_EQ(stopsAfter(kThreeStops, "click item 4 " + onRamp(pixels) + "\n").size(), 3u) << pixels;
+    for (const int pixels : {389, 189, 211})
+        EXPECT_EQ(stopsAfter(kThreeStops, "click item 4 " + onRamp(pixels) + "\n").size(), 4u) << pixels;
 }
 
 TEST(EditorStops, OfTwoStopsEquallyNearTheEarlierOneIsSelected) {
