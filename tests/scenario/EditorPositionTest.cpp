@@ -35,6 +35,13 @@ TEST(EditorPosition, LettersReadAsZeroAndStayInTheField) {
     EXPECT_EQ(stopsAfter(kThreeStops, kSelectMiddle + "set 5 \"abc\"\n")[1], json({0.0, 65535, 0, 0}));
 }
 
+TEST(EditorPosition, InfinityIsMoreThanAHundredAndNotANumberIsLetters) {
+    EXPECT_EQ(positionAfter(kThreeStops, "set 5 \"inf\"\n"), "100.00");
+    EXPECT_EQ(positionAfter(kThreeStops, "set 5 \"-inf\"\n"), "0.00");
+    EXPECT_EQ(positionAfter(kThreeStops, kSelectMiddle + "set 5 \"nan\"\n"), "nan");
+    EXPECT_EQ(stopsAfter(kThreeStops, kSelectMiddle + "set 5 \"nan\"\n")[1], json({0.0, 65535, 0, 0}));
+}
+
 TEST(EditorPosition, ANumberInRangeStaysAsItWasTyped) {
     for (const std::string text : {"12.5", "7", " 33", "1e1", "25%", "0", "100"})
         EXPECT_EQ(positionAfter(kThreeStops, "set 5 \"" + text + "\"\n"), text);
@@ -96,7 +103,7 @@ TEST(EditorPosition, AClickInTheFieldTakesThePositionThatItShows) {
     EXPECT_EQ(stopsAfter("1 0 0.5 0.5 0.5 0.5 0.3333333:0,0,0 1:1,1,1", "hit 5\n")[0][0], narrowed(0.3333));
 }
 
-TEST(EditorPosition, OnlyThePointSeparatesDecimalsWhateverTheDesktopsLanguage) {
+TEST(EditorPosition, OnlyThePointSeparatesDecimals) {
     EXPECT_EQ(stopsAfter(kTwoStops, "set 5 \"12,5\"\n")[0][0], narrowed(0.12));
     EXPECT_EQ(stopsAfter(kTwoStops, "set 5 \"12.5\"\n")[0][0], 0.125);
 }
