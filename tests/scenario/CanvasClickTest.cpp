@@ -72,6 +72,15 @@ TEST(CanvasClick, OnEmptyCanvasBeepsOnceAndLeavesNothingSelected) {
     EXPECT_EQ(windows[1]["undoKind"], 3);
 }
 
+TEST(CanvasClick, WithACancelledEditorChangesNothingYetCountsAsHandled) {
+    const Played played = clickOn("click 225 125\nprint object linear\nkey option down\nclick 50 120\nhit 2\n"
+                                  "key option up\nprint object linear\nprint window\n");
+    EXPECT_EQ(played.answers[1], played.answers[0]);
+    EXPECT_EQ(played["window"]["selection"], json::array()) << "deselected before the editor opened";
+    EXPECT_EQ(played["window"]["undoLevels"], 1) << "that of the first click";
+    EXPECT_EQ(played["window"]["beeps"], 0);
+}
+
 TEST(CanvasClick, OnAnOpenObjectBeeps) {
     const Played played = clickOn("click 340 20\nprint object open\nprint window\n");
     EXPECT_EQ(played["gradient"], nullptr);
@@ -91,13 +100,21 @@ print window
 filter all
 click 225 125
 print window
+filter rect
+key option down
+click 50 30
+hit 2
+print window
+click 50 30
+hit 1
+print window
 )");
     std::vector<json> filters;
     for (const json& window : played.all("window"))
         filters.push_back(window["pickFilter"]);
     const json all = {"rect", "ellipse", "polygon", "path", "polyline", "line"};
     EXPECT_THAT(filters, testing::ElementsAre(json({"ellipse", "line"}), json({"ellipse", "line"}),
-                                              json::array(), all));
+                                              json::array(), all, json({"rect"}), json({"rect"})));
 }
 
 TEST(CanvasClick, PicksTheFrontMostObjectAndKeepsItsPlace) {

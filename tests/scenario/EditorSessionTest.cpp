@@ -60,9 +60,29 @@ TEST(EditorSession, TheOptionsEditTheCurrentGradientItself) {
 }
 
 TEST(EditorSession, AnObjectWithoutGradientIsEditedStartingFromTheCurrentOne) {
-    const Played played = playWithTool("add rect a 10 10 50 50\nkey option down\nclick 30 30\nkey option up\n"
-                                       "set 5 \"25\"\nhit 1\nprint object a\n");
-    EXPECT_EQ(played["gradient"]["stops"], json({{0.25, 0, 0, 0}, {1.0, 65535, 65535, 65535}}));
+    // A current gradient that is not the default one.
+    const Played played =
+        playWithTool("add rect a 10 10 50 50\noptions\nhit 11\nset 5 \"50\"\nhit 1\n"
+                     "key option down\nclick 30 30\nkey option up\nprint dialog\nhit 1\nprint object a\n");
+    EXPECT_EQ(itemOf(played["dialog"], kPosition)["text"], "50.00");
+    EXPECT_EQ(itemOf(played["dialog"], kRadial)["value"], 1);
+    EXPECT_EQ(played["fillPattern"], "solid-black");
+    EXPECT_EQ(played["gradient"]["type"], 2);
+    EXPECT_EQ(played["gradient"]["stops"], json({{0.5, 0, 0, 0}, {1.0, 65535, 65535, 65535}}));
+}
+
+TEST(EditorSession, EditingAnObjectLeavesTheCurrentGradientAsItWas) {
+    const Played played =
+        playWithTool("add rect a 10 10 50 50\nadd rect b 110 10 50 50\nadd rect c 210 10 50 50\n"
+                     "gradient c " +
+                     kThreeStops +
+                     "\noptions\nset 5 \"50\"\nhit 1\nkey option down\n"
+                     "click 30 30\nset 5 \"25\"\nhit 11\nhit 1\n"
+                     "click 230 30\nset 5 \"10\"\nhit 1\n"
+                     "key option up\nclick 130 30\nprint object a\nprint object b\n");
+    EXPECT_EQ(played.all("gradient")[0]["stops"][0][0], 0.25);
+    EXPECT_EQ(played.all("gradient")[1]["stops"], json({{0.5, 0, 0, 0}, {1.0, 65535, 65535, 65535}}));
+    EXPECT_EQ(played.all("gradient")[1]["type"], 1);
 }
 
 TEST(EditorSession, OpensOnTheFirstStopInTheOrderOfTheList) {

@@ -135,6 +135,21 @@ TEST_F(TemplateMenu, NamesAreShownCharacterForCharacter) {
     EXPECT_THAT(entries(), testing::UnorderedElementsAreArray(expected));
 }
 
+// The host reads menu syntax in the text that is appended, or may.
+TEST_F(TemplateMenu, NamesAreSetAndNotAppended) {
+    const Played played = edit(save("a;b") + save("(c") + "journal on\n" + save("d") + "print journal\n");
+    const std::vector<std::string> journal = played["journal"];
+    std::vector<std::string> rebuild;
+    for (const std::string& call : journal)
+        if (call.find("Menu") != std::string::npos && !call.starts_with("GetPopMenu"))
+            rebuild.push_back(call);
+    EXPECT_THAT(rebuild, testing::ElementsAre(
+                             "CountMenuItems()", "DeleteMenuItem(5)", "DeleteMenuItem(5)",
+                             "AppendMenu(\"Temp\")", "CountMenuItems()", "SetMenuItemText(5, \"(c.GRD\")",
+                             "AppendMenu(\"Temp\")", "CountMenuItems()", "SetMenuItemText(6, \"a;b.GRD\")",
+                             "AppendMenu(\"Temp\")", "CountMenuItems()", "SetMenuItemText(7, \"d.GRD\")"));
+}
+
 TEST_F(TemplateMenu, AnEmptyNameSavesNothing) {
     const Played played = edit("choose 9 1\nhit 1\nprint dialog\nprint templates\n");
     EXPECT_EQ(played["templates"], json::array());
@@ -260,15 +275,6 @@ TEST_F(TemplateMenu, AnEmptyListHasNoRowsToAskFor) {
     const Played played = edit("choose 9 2\nprint dialog\ncommand ok\ncommand cancel\nprint dialog\n");
     EXPECT_EQ(played.all("dialog")[0]["rows"], json::array());
     EXPECT_EQ(popupIn(played.all("dialog")[1]), 4);
-}
-
-TEST_F(TemplateMenu, OnlyARebuildShowsFilesThatCameAndWentBehindTheEditorsBack) {
-    edit(save("A"));
-    const std::filesystem::path header = onlyHeaderFile();
-    const std::filesystem::path folder = header.parent_path();
-    std::filesystem::copy_file(header, folder / "._B.GRD");
-    std::filesystem::copy_file(folder / "A.GRD", folder / "B.GRD");
-    EXPECT_THAT(entries(), testing::UnorderedElementsAre("A.GRD", "B.GRD"));
 }
 
 TEST_F(TemplateMenu, AListOfOneRowAtATimeCannotNameRowsThatAreNotThere) {

@@ -106,22 +106,24 @@ TEST(TemplateStore, AnEmptyFolderListsNothing) {
     EXPECT_EQ(played["templates"], json::array());
 }
 
-TEST(TemplateStore, LoadingANameThatIsNotThereOpensNothing) {
+TEST(TemplateStore, LoadingOpensTheFileForReadingAndDetachesItsResource) {
     const Player player;
     player.playToEnd(inEditor(saveAs("Sunset")));
     const auto played =
-        player.playToEnd("start\nnew 9 9\noptions\n"
-                         "journal on\nchoose 9 5\nprint journal\nprint resourcefiles\nhit 2\n");
+        player.playToEnd("start\nnew 9 9\noptions\njournal on\nchoose 9 5\nprint journal\nhit 2\n");
     EXPECT_THAT(storeCalls(played["journal"]),
                 ElementsAre("CurResFile()", "FSMakeFSSpec(-1, 3, \"Sunset.GRD\")", "FSpOpenResFile(1)",
                             "UseResFile(2)", "GetResource(1414352972, 0)", "DetachResource()",
                             "CloseResFile(2)", "UseResFile(1)"));
-    // The other template is deleted between the listing and the choice.
-    const auto gone = player.playToEnd("start\nnew 9 9\noptions\n" + saveAs("Dawn") +
-                                       "choose 9 2\nselect 1\ncommand ok\nanswer yes\n" +
-                                       "journal on\nchoose 9 5\nprint journal\nhit 2\n");
-    EXPECT_THAT(gone["journal"].get<std::vector<std::string>>(),
-                testing::Contains("FSMakeFSSpec(-1, 3, \"Sunset.GRD\")"));
+}
+
+TEST(TemplateStore, ADeclinedSaveMakesTheFileCurrentAgainThatWasAndDoesNothingElse) {
+    const Player player;
+    const auto played = player.playToEnd(
+        inEditor(saveAs("Sunset") + "journal on\n" + saveAs("Sunset") + "answer no\nprint journal\n"));
+    EXPECT_THAT(storeCalls(played["journal"]),
+                ElementsAre("CurResFile()", "FSMakeFSSpec(-1, 3, \"Sunset.GRD\")", "Confirm(9320)",
+                            "UseResFile(1)", "EnumerShell(-1, 3, 1196707152)"));
 }
 
 TEST(TemplateStore, TheListingHoldsEveryTemplateFileUnderItsFullNameAndNoOther) {
@@ -151,7 +153,7 @@ TEST(TemplateStore, AFileDroppedInByHandShowsAtTheNextRebuild) {
               json({{0.0, 0, 0, 0}, {0.25, 65535, 0, 0}, {1.0, 65535, 65535, 65535}}));
 }
 
-TEST(TemplateStore, TheCurrentResourceFileIsTheSameAfterSavingLoadingListingAndDeleting) {
+TEST(TemplateStore, NoResourceFileStaysOpenAfterSavingLoadingListingAndDeleting) {
     const Player player;
     const auto played =
         player.playToEnd("print resourcefiles\n" + inEditor(saveAs("a") +
@@ -160,7 +162,7 @@ TEST(TemplateStore, TheCurrentResourceFileIsTheSameAfterSavingLoadingListingAndD
                                                             saveAs("a") + "answer no\nprint resourcefiles\n" +
                                                             deleteRows("1") + "print resourcefiles\n"));
     for (const auto& files : played.all("resourceFiles"))
-        EXPECT_EQ(files, json({{"current", 1}, {"open", {1}}}));
+        EXPECT_EQ(files["open"], json({1}));
 }
 
 TEST(TemplateStore, AFileWithoutTheResourceLeavesTheGradientAsItWas) {

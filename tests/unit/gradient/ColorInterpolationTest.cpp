@@ -61,10 +61,12 @@ TEST(ColorInterpolation, OneStopGivesItsColorEverywhere) {
 }
 
 TEST(ColorInterpolation, LeavesTheRecordAsItWas) {
-    CGradientData const gradient = RecordWith({{0.0, kRed}, {0.4, kGreen}, {1.0, kBlue}});
-    std::vector<Stop> const before = StopsOf(gradient.ColorList());
+    // Neither constant nor sorted, so that sorting it, or putting the new stop into it, would show.
+    CGradientData gradient = RecordWith({{0.4, kGreen}, {0.0, kRed}, {1.0, kBlue}});
+    gradient.SetType(kRadialGradient);
     CalcColorGradient(gradient, 0.7);
-    EXPECT_EQ(StopsOf(gradient.ColorList()), before);
+    EXPECT_EQ(StopsOf(gradient.ColorList()), (std::vector<Stop>{{0.4, kGreen}, {0.0, kRed}, {1.0, kBlue}}));
+    EXPECT_EQ(gradient.Type(), kRadialGradient);
 }
 
 TEST(ColorInterpolation, MatchesWholeNumberArithmeticOnDyadicPositions) {
