@@ -125,7 +125,7 @@ class DeletionListing : public TemplateFiles {
   protected:
     std::string row(long index) {
         const CFStringRef text = dialog_.GetListItemDescription(index);
-        const std::string utf8 = text != nullptr ? easel::host::utf8Of(text) : "none";
+        std::string utf8 = text != nullptr ? easel::host::utf8Of(text) : "none";
         CFRelease(text);
         return utf8;
     }
@@ -143,6 +143,13 @@ TEST_F(DeletionListing, EachDeletionMovesTheLaterNamesUp) {
     EXPECT_EQ(row(1), "c.GRD");
     dialog_.DeleteListItem(1);
     EXPECT_THAT(listed(), ElementsAre("a.GRD", "d.GRD"));
+}
+
+TEST_F(DeletionListing, ADeclinedOkIsConsumedWithoutAnErrorAndDeletesNothing) {
+    save("a.GRD");
+    user_.answer = easel::host::Answer::no;
+    EXPECT_EQ(dialog_.DoCommand({0, kOKCommand}), 0);
+    EXPECT_THAT(listed(), ElementsAre("a.GRD"));
 }
 
 TEST_F(DeletionListing, IndexesBeyondTheListNameNothing) {
