@@ -53,8 +53,9 @@ void FSpCreateResFile(FSSpec const* spec, OSType creator, OSType fileType, short
 /// Permissions for FSpOpenResFile.
 inline constexpr signed char kReadPermission = 1;
 inline constexpr signed char kWritePermission = 2;
-/// Opens a file's resource fork, makes it the current resource file and returns its reference number; -1 on
-/// failure.
+/// Opens a file's resource fork, makes it the current resource file and returns its reference number; -1, and
+/// no change, if there is no fork that can be read. A plug-in that asks for a resource nevertheless then gets
+/// what the files opened before have.
 short FSpOpenResFile(FSSpec const* spec, signed char permission);
 /// The reference number of the current resource file. There always is one: with no file open it is a number
 /// of the host's own that UseResFile accepts and that has no resources.
