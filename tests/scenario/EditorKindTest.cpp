@@ -48,6 +48,10 @@ TEST(EditorKind, ChoosingTheKindThatItIsAlreadyStillMarksTheSwatches) {
                 testing::ElementsAre("SetItemCtlValue(10, 1)", "SetItemCtlValue(11, 0)", "InvalDLogItem(4)",
                                      "InvalDLogItem(7)", "InvalDLogItem(6)", "ModalDialog()"));
     EXPECT_EQ(played["gradient"]["type"], 1);
+    const json other =
+        playWithTool(openEditorOn(kLinearGradient) + "journal on\nhit 11\nprint journal\nhit 2\n")["journal"];
+    EXPECT_EQ(other[0], "SetItemCtlValue(10, 0)");
+    EXPECT_EQ(other[1], "SetItemCtlValue(11, 1)");
 }
 
 TEST(EditorKind, SwitchingThereAndBackLeavesAngleAndCentreAsTheyWere) {

@@ -5,6 +5,7 @@
 #include "Gradient/editor/Swatches.h"
 #include "easel/runtime/CurrentPort.h"
 #include "easel/runtime/Dialog.h"
+#include "easel/runtime/Journal.h"
 #include "easel/paint/Port.h"
 #include "tests/unit/gradient/DrawnGradient.h"
 #include "tests/unit/gradient/EditorStage.h"
@@ -113,6 +114,66 @@ TEST_F(SwatchProcedures, TheBandOfTheMarkersIsErasedFromOneBelowTheRampToTwelveB
     gDialogActivePercent = 0.5;
     DrawTicks({16, 128}, 200, gradientOf({{{0, 0, 0}, 0.5}}));
     EXPECT_EQ(changedPixels(port(), kPainted), (PixelRect{129, 9, 140, 223}));
+}
+
+TEST_F(SwatchProcedures, AFilledMarkerHasNoHolesWhateverThePensPatternWas) {
+    port().state().clip = port().bounds();
+    constexpr short kSize = 40;
+    DrawTriangleTick({100, 50}, kSize, {0, 0, 0}, kFilledTick);
+    for (int row = 0; row <= kSize; ++row)
+        for (int column = -row; column <= row; ++column)
+            ASSERT_EQ(port().pixels()[(50 + row) * port().imageWidth() + 100 + column], 0xff000000u)
+                << column << ' ' << row;
+}
+
+// The host's calls made while something is drawn.
+template <typename Draw> std::vector<std::string> callsOf(Draw draw) {
+    easel::runtime::hostJournal().take();
+    easel::runtime::hostJournal().switchOn();
+    draw();
+    easel::runtime::hostJournal().switchOff();
+    return easel::runtime::hostJournal().take();
+}
+
+TEST_F(SwatchProcedures, AMarkerIsDrawnStepByStepInItsOwnColorAndPen) {
+    const auto marker = [](KTickFill fill) { DrawTriangleTick({50, 60}, 5, {9, 9, 9}, fill); };
+    std::vector<std::string> calls = callsOf([&] { marker(kFilledTick); });
+    EXPECT_THAT(calls,
+                ElementsAre("QD::GetForeColor()", "QD::GetPenState()", "QD::RGBForeColor()",
+                            "QD::PenSize(1, 1)", "QD::PenMode(8)", "QD::PenPat()", "QD::OpenPoly()",
+                            "QD::MoveTo(50, 60)", "QD::LineTo(55, 65)", "QD::LineTo(45, 65)",
+                            "QD::LineTo(50, 60)", "QD::ClosePoly()", "QD::PaintPoly()", "QD::FramePoly()",
+                            "QD::KillPoly()", "QD::SetPenState()", "QD::RGBForeColor()"));
+    std::erase(calls, "QD::PaintPoly()");
+    EXPECT_EQ(callsOf([&] { marker(kOpenTick); }), calls);
+}
+
+TEST_F(SwatchProcedures, TheRowOfMarkersSetsColorAndPenOnceItIsErasedAndUnderlinesLast) {
+    gDialogActivePercent = 0.5;
+    const auto calls = callsOf([] { DrawTicks({16, 128}, 200, gradientOf({{{0, 0, 0}, 0.25}})); });
+    ASSERT_GT(calls.size(), 9u);
+    EXPECT_THAT(std::vector(calls.begin(), calls.begin() + 5),
+                ElementsAre("QD::EraseRect()", "QD::GetForeColor()", "QD::GetPenState()",
+                            "QD::RGBForeColor()", "QD::PenSize(1, 1)"));
+    EXPECT_THAT(std::vector(calls.end() - 4, calls.end()),
+                ElementsAre("QD::MoveTo(111, 137)", "QD::LineTo(121, 137)", "QD::SetPenState()",
+                            "QD::RGBForeColor()"));
+}
+
+TEST_F(SwatchProcedures, TheColorSwatchIsPaintedThenFramed) {
+    EXPECT_THAT(callsOf([&] { UpdateColorRect(dialog_, kColorItem); }),
+                ElementsAre("GetDialogItemBounds(6)", "DrawDropShadow()", "QD::GetForeColor()",
+                            "QD::RGBForeColor()", "QD::PaintRect()", "QD::RGBForeColor()", "QD::FrameRect()",
+                            "QD::RGBForeColor()"));
+}
+
+TEST_F(SwatchProcedures, ThePreviewIsComposedOffTheScreenAndCopiedInOneStep) {
+    gDialogActiveGradient.SetType(kRadialGradient);
+    EXPECT_THAT(callsOf([&] { UpdatePreviewRect(dialog_, kPreviewItem); }),
+                ElementsAre("GetDialogItemBounds(7)", "CSimplePixMap(32)", "FRectToFPoly()",
+                            "CSimplePixMap::BeginDrawing()", "CSimplePixMap::GetGEnv()", "CreatePolyPath()",
+                            "CGPathRelease()", "QD::RGBForeColor()", "QD::FrameRect()",
+                            "CSimplePixMap::EndDrawing()", "CSimplePixMap::CopyFrom()", "KillFPoly()"));
 }
 
 TEST(DrawingScopes, AForegroundColorComesBackWhateverWasSetMeanwhile) {

@@ -3,8 +3,8 @@
 #include "Gradient/TemplateUtil/TemplateMenu.h"
 #include "Gradient/TemplateUtil/TemplateStore.h"
 #include "Gradient/model/GradientBlock.h"
-#include "easel/interface/CFString.h"
-#include "easel/interface/Journal.h"
+#include "easel/runtime/CFString.h"
+#include "easel/runtime/Journal.h"
 #include "tests/unit/gradient/EditorStage.h"
 
 #include <gmock/gmock.h>
@@ -18,16 +18,16 @@ using testing::IsEmpty;
 // Agrees to everything or to nothing.
 class Asked : public IdleUser {
   public:
-    easel::host::Answer confirm(const easel::host::Alert&) override { return answer; }
+    easel::runtime::Answer confirm(const easel::runtime::Alert&) override { return answer; }
     void tell(const std::string&) override {} // the host may say which file it could not read
 
-    easel::host::Answer answer = easel::host::Answer::yes;
+    easel::runtime::Answer answer = easel::runtime::Answer::yes;
 };
 
 class TemplateFiles : public testing::Test {
   protected:
     TemplateFiles() : stage_(user_) { InitTemplates(kFolder); }
-    ~TemplateFiles() override { easel::host::hostJournal().switchOff(); }
+    ~TemplateFiles() override { easel::runtime::hostJournal().switchOff(); }
 
     static void save(const std::string& name) {
         const StOwnedBlock block(MakeGradientData(CGradientData()));
@@ -69,7 +69,7 @@ TEST_F(TemplateFiles, TheCurrentResourceFileComesBackEvenIfAnotherWasOpenedAfter
     EXPECT_EQ(CurResFile(), before) << "saved";
     EXPECT_TRUE(loads("new.GRD"));
     EXPECT_EQ(CurResFile(), before) << "loaded";
-    user_.answer = easel::host::Answer::no;
+    user_.answer = easel::runtime::Answer::no;
     save("new.GRD");
     EXPECT_EQ(CurResFile(), before) << "declined";
     EXPECT_FALSE(loads("missing.GRD"));
@@ -79,10 +79,10 @@ TEST_F(TemplateFiles, TheCurrentResourceFileComesBackEvenIfAnotherWasOpenedAfter
 }
 
 TEST_F(TemplateFiles, LoadingANameThatIsNotThereOpensNothingAndStillMakesTheFileCurrentAgain) {
-    easel::host::hostJournal().take();
-    easel::host::hostJournal().switchOn();
+    easel::runtime::hostJournal().take();
+    easel::runtime::hostJournal().switchOn();
     EXPECT_FALSE(loads("missing.GRD"));
-    EXPECT_THAT(easel::host::hostJournal().take(),
+    EXPECT_THAT(easel::runtime::hostJournal().take(),
                 ElementsAre("CurResFile()", testing::MatchesRegex("FSMakeFSSpec\\(.*, \"missing.GRD\"\\)"),
                             "UseResFile(1)"));
 }
@@ -125,7 +125,7 @@ class DeletionListing : public TemplateFiles {
   protected:
     std::string row(long index) {
         const CFStringRef text = dialog_.GetListItemDescription(index);
-        std::string utf8 = text != nullptr ? easel::host::utf8Of(text) : "none";
+        std::string utf8 = text != nullptr ? easel::runtime::utf8Of(text) : "none";
         CFRelease(text);
         return utf8;
     }
@@ -147,7 +147,7 @@ TEST_F(DeletionListing, EachDeletionMovesTheLaterNamesUp) {
 
 TEST_F(DeletionListing, ADeclinedOkIsConsumedWithoutAnErrorAndDeletesNothing) {
     save("a.GRD");
-    user_.answer = easel::host::Answer::no;
+    user_.answer = easel::runtime::Answer::no;
     EXPECT_EQ(dialog_.DoCommand({0, kOKCommand}), 0);
     EXPECT_THAT(listed(), ElementsAre("a.GRD"));
 }

@@ -1,7 +1,7 @@
 // Asking for a template's name: what is offered, what comes back, and in which order the host is called.
 #include "Gradient/TemplateUtil/TemplateNameDialog.h"
-#include "easel/interface/Host.h"
-#include "easel/interface/Journal.h"
+#include "easel/runtime/Host.h"
+#include "easel/runtime/Journal.h"
 #include "tests/unit/gradient/EditorStage.h"
 #include "tests/unit/gradient/ScriptedUser.h"
 
@@ -10,7 +10,7 @@
 namespace tests {
 namespace {
 
-using easel::host::Dialog;
+using easel::runtime::Dialog;
 using testing::ElementsAre;
 
 constexpr int kNameItem = 4;
@@ -20,7 +20,7 @@ std::pair<bool, std::string> askedWith(std::string offered, std::vector<Scripted
     ScriptedUser user(std::move(steps));
     const EditorStage stage(user);
     const bool confirmed = ModalGetTemplateName(offered);
-    EXPECT_EQ(easel::host::theHost().currentPort, nullptr) << "the port is as it was";
+    EXPECT_EQ(easel::runtime::theHost().currentPort, nullptr) << "the port is as it was";
     return {confirmed, offered};
 }
 
@@ -29,7 +29,7 @@ TEST(TemplateName, TheGivenNameIsOfferedSelectedWhole) {
                             EXPECT_EQ(dialog.id(), 5206);
                             EXPECT_TRUE(dialog.shown());
                             EXPECT_EQ(dialog.item(kNameItem)->text, "Offered");
-                            EXPECT_EQ(dialog.item(kNameItem)->selection, (easel::host::TextSelection{0, 7}));
+                            EXPECT_EQ(dialog.item(kNameItem)->selection, (easel::runtime::TextSelection{0, 7}));
                             dialog.hit(kOKItem);
                         }}),
               (std::pair<bool, std::string>(true, "Offered")));
@@ -48,13 +48,13 @@ TEST(TemplateName, OkWithoutANameIsNoConfirmation) {
 }
 
 TEST(TemplateName, OnlyATextThatIsTooLongIsWrittenBack) {
-    easel::host::hostJournal().take();
-    easel::host::hostJournal().switchOn();
+    easel::runtime::hostJournal().take();
+    easel::runtime::hostJournal().switchOn();
     askedWith("",
               {[](Dialog& dialog) { dialog.enterText(kNameItem, "abcdefghijklmnopqrst"); },
                [](Dialog& dialog) { dialog.typeCharacter(U'u'); }, [](Dialog& dialog) { dialog.hit(3); }});
-    easel::host::hostJournal().switchOff();
-    EXPECT_THAT(easel::host::hostJournal().take(),
+    easel::runtime::hostJournal().switchOff();
+    EXPECT_THAT(easel::runtime::hostJournal().take(),
                 ElementsAre("StGrafPortSaver()", "TessGetNewDialog(5206)", "SetPortDialogPort()",
                             "SetDLOGText(4, \"\")", "SelectDLOGText(4, 0, 32767)", "GetDialogWindow()",
                             "ShowWindow()", "ModalDialog()", "GetDLOGText(4)", "ModalDialog()",
