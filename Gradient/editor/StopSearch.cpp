@@ -9,7 +9,7 @@ namespace {
 constexpr double kReachInPixels = 10.0;
 /// Distances that differ by less count as equal. A stop that was set lies where single precision puts it, up
 /// to half of this beside the pixel that was meant, which must not decide what a click at a whole pixel
-/// means. It is less than a thousandth of a pixel on any ramp.
+/// means. Even on the widest ramp this is a five-hundredth of a pixel.
 constexpr double kSameDistance = std::numeric_limits<float>::epsilon() / 2;
 
 } // namespace

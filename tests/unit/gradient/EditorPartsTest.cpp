@@ -66,7 +66,7 @@ std::vector<std::string> entriesOf(const Dialog& editor) {
 
 TEST(EditorParts, OnlyARebuildShowsFilesThatCameAndWentBehindTheEditorsBack) {
     std::filesystem::path folder;
-    const auto expectEntries = [](const Dialog& editor, std::vector<std::string> expected) {
+    const auto expectEntries = [](const Dialog& editor, const std::vector<std::string>& expected) {
         EXPECT_EQ(entriesOf(editor), expected);
     };
     ScriptedUser user({

@@ -38,6 +38,12 @@ TEST(StopSearch, TenPixelsFromAStopIsNearAndElevenIsNotAtEveryPixelOfEveryWidth)
     }
 }
 
+TEST(StopSearch, TheLeastBitBeyondTenPixelsIsTooFarEvenOnTheWidestRamp) {
+    constexpr short kWidest = 32767;
+    EXPECT_TRUE(IsMeant(10.001 / kWidest, 0, kWidest));
+    EXPECT_FALSE(IsMeant(10.003 / kWidest, 0, kWidest));
+}
+
 TEST(StopSearch, OfTwoStopsEquallyNearTheEarlierOneIsMeantAtEveryPixel) {
     constexpr short kWidth = 400;
     for (int middle = 10; middle <= kWidth - 10; ++middle) {
