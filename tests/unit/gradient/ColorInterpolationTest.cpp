@@ -95,6 +95,8 @@ TEST(ColorInterpolation, SurvivesPositionsThatAreNotNumbers) {
     for (double const position : {nan, infinity, -infinity, 0.5, 1e308}) {
         CalcColorGradient(odd, position);
     }
+    // A channel that cannot be computed is dark.
+    EXPECT_EQ(ColorAt(RecordWith({{0.0, kWhite}, {1.0, kWhite}}), nan), kBlack);
     // A stop whose position is not a number is never the one below or above.
     EXPECT_EQ(ColorAt(RecordWith({{0.0, kRed}, {nan, kWhite}, {1.0, kRed}}), 0.5), kRed);
 }

@@ -176,6 +176,21 @@ TEST_F(SwatchProcedures, ThePreviewIsComposedOffTheScreenAndCopiedInOneStep) {
                             "CSimplePixMap::EndDrawing()", "CSimplePixMap::CopyFrom()", "KillFPoly()"));
 }
 
+TEST_F(SwatchProcedures, TheRampIsComposedOffTheScreenAndItsMarkersFollow) {
+    auto calls = callsOf([&] { UpdateGradientRect(dialog_, kRampItem); });
+    ASSERT_GT(calls.size(), 20u);
+    EXPECT_THAT(std::vector(calls.begin(), calls.begin() + 7),
+                ElementsAre("GetDialogItemBounds(4)", "QD::GetForeColor()", "CSimplePixMap(32)",
+                            "FRectToFPoly()", "CSimplePixMap::BeginDrawing()", "CSimplePixMap::GetGEnv()",
+                            "CreatePolyPath()"));
+    const auto framed = std::find(calls.begin(), calls.end(), "QD::FrameRect()");
+    ASSERT_GT(calls.end() - framed, 4);
+    EXPECT_THAT(std::vector(framed - 1, framed + 4),
+                ElementsAre("QD::RGBForeColor()", "QD::FrameRect()", "CSimplePixMap::EndDrawing()",
+                            "CSimplePixMap::CopyFrom()", "QD::EraseRect()"));
+    EXPECT_THAT(std::vector(calls.end() - 2, calls.end()), ElementsAre("KillFPoly()", "QD::RGBForeColor()"));
+}
+
 TEST(DrawingScopes, AForegroundColorComesBackWhateverWasSetMeanwhile) {
     IdleUser user;
     const EditorStage stage(user);
