@@ -60,6 +60,14 @@ TEST(ColorInterpolation, OneStopGivesItsColorEverywhere) {
     }
 }
 
+TEST(ColorInterpolation, InAnyOrderLeadsFromTheLastStopBelowToTheFirstOfTheNearestAbove) {
+    // Below 0.5 the red stop is the last in the list; of those at or above it the green one is the nearest.
+    CGradientData const unsorted = RecordWith({{0.5, kGreen}, {0.25, kRed}, {0.5, kWhite}, {1.0, kBlue}});
+    EXPECT_EQ(ColorAt(unsorted, 0.375), (RGBColor{32767, 32767, 0}));
+    CGradientData const exact = RecordWith({{0.5, kGreen}, {0.25, kRed}, {1.0, kBlue}});
+    EXPECT_EQ(ColorAt(exact, 0.5), kGreen);
+}
+
 TEST(ColorInterpolation, LeavesTheRecordAsItWas) {
     // Neither constant nor sorted, so that sorting it, or putting the new stop into it, would show.
     CGradientData gradient = RecordWith({{0.4, kGreen}, {0.0, kRed}, {1.0, kBlue}});
