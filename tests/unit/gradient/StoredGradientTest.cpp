@@ -4,6 +4,7 @@
 #include "Gradient/tool/Globals.h"
 #include "host/Defaults.h"
 #include "host/TypeCodes.h"
+#include "tests/unit/gradient/BlockEvents.h"
 #include "tests/unit/gradient/EditorStage.h"
 #include "tests/unit/gradient/Records.h"
 
@@ -45,6 +46,16 @@ TEST_F(StoredGradient, WithBytesThatAreNoGradientTheDefaultTakesThePlaceOfTheCur
     SetDefaultsResource(rubbish.get(), FourCC("GRDT"), 10001, "Gradient Default");
     InitDefaults();
     ExpectDefault();
+}
+
+TEST_F(StoredGradient, ABlockIsReadWhileItIsLockedAndThenGivenBack) {
+    SaveDefaults();
+    gBlockEvents.clear();
+    InitDefaults();
+    EXPECT_THAT(gBlockEvents, ElementsAre("lock", "read", "unlock", "dispose"));
+    gBlockEvents.clear();
+    SaveDefaults();
+    EXPECT_THAT(gBlockEvents, ElementsAre("dispose"));
 }
 
 TEST_F(StoredGradient, WhatWasSavedComesBackWhole) {
