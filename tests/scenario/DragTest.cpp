@@ -71,6 +71,15 @@ TEST(Drag, WithShiftConstrainsTheLineToMultiplesOfFifteenDegrees) {
     }
 }
 
+TEST(Drag, OverAnObjectThatIsNoPolygonLeavesItsGradientYetReplacesAndSelectsIt) {
+    const Played played =
+        playWithTool("add path r \"M 50 50 H 150 Z\"\ngradient r 1 30 0 0 1 1" + std::string(kStops) +
+                     "print object r\ndrag 60 50 100 90\nprint object r\nprint window\n");
+    EXPECT_EQ(played.all("gradient")[1], played.all("gradient")[0]);
+    EXPECT_EQ(played["window"]["selection"], json::array({"r"}));
+    EXPECT_EQ(played["window"]["undoLevels"], 1);
+}
+
 TEST(Drag, LooksAtShiftOnEveryPass) {
     const std::string away = "press 120 70\nmove 180 95\n";
     EXPECT_EQ(gradientAfter(kLinear + away +
