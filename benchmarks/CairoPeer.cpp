@@ -16,10 +16,10 @@ cairo_pattern_t* emptyPattern(const easel::drawing::RadialGeometry& circles) {
 
 } // namespace
 
-CairoPattern patternOf(const easel::paint::Gradient& gradient) {
+CairoPattern patternOf(const easel::drawing::Gradient& gradient) {
     cairo_pattern_t* pattern =
         std::visit([](const auto& geometry) { return emptyPattern(geometry); }, gradient.geometry);
-    for (const easel::paint::RampStop& stop : gradient.ramp.stops())
+    for (const easel::drawing::RampStop& stop : gradient.ramp.stops())
         cairo_pattern_add_color_stop_rgba(pattern, stop.position, stop.color.red / 65535.0,
                                           stop.color.green / 65535.0, stop.color.blue / 65535.0,
                                           stop.opacity);

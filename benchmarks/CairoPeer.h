@@ -1,8 +1,8 @@
 // The same fills by Cairo, on memory of ours.
 #pragma once
 
+#include "easel/drawing/Gradient.h"
 #include "easel/drawing/Path.h"
-#include "easel/paint/gradient/Gradient.h"
 #include "easel/paint/pixels/Surface.h"
 
 #include <cairo.h>
@@ -14,7 +14,7 @@ namespace bench {
 using CairoPattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy)>;
 
 // Padded gradients only.
-CairoPattern patternOf(const easel::paint::Gradient& gradient);
+CairoPattern patternOf(const easel::drawing::Gradient& gradient);
 
 class CairoPeer {
   public:

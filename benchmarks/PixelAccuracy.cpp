@@ -32,11 +32,11 @@ double parameterAt(const drawing::RadialGeometry& circles, Point p) {
     return (b - std::sqrt(b * b - a * c)) / a;
 }
 
-Color exactly(const paint::RampStop& stop) {
+Color exactly(const drawing::RampStop& stop) {
     return {stop.color.blue / 257.0, stop.color.green / 257.0, stop.color.red / 257.0, stop.opacity};
 }
 
-Color colorAt(const std::vector<paint::RampStop>& stops, double t) {
+Color colorAt(const std::vector<drawing::RampStop>& stops, double t) {
     const auto upper = std::upper_bound(stops.begin(), stops.end(), t,
                                         [](double value, const auto& stop) { return value < stop.position; });
     if (upper == stops.begin())
@@ -82,7 +82,7 @@ double sideArea(Point a, Point b, int x, int y) {
 
 } // namespace
 
-Accuracy accuracyOf(const paint::Surface& surface, const paint::Gradient& gradient,
+Accuracy accuracyOf(const paint::Surface& surface, const drawing::Gradient& gradient,
                     std::uint32_t background) {
     Accuracy accuracy;
     for (int y = 0; y < surface.height(); ++y) {
@@ -134,11 +134,11 @@ int misplacedJumps() {
     for (int x = 1; x < kWidth; x += 3) {
         // Pixel x has its centre at x + 0.5, just beyond the jump.
         const double position = (x + 0.499) / kWidth;
-        const paint::Gradient gradient{
+        const drawing::Gradient gradient{
             drawing::LinearGeometry{{0, 0}, {kWidth, 0}},
             {},
             drawing::Spread::Pad,
-            paint::Ramp({{0, {}}, {position, {}}, {position, kWhite}, {1, kWhite}})};
+            drawing::Ramp({{0, {}}, {position, {}}, {position, kWhite}, {1, kWhite}})};
         paint::Painter().fillAll(surface.view(), {}, &gradient);
         const std::uint32_t* row = surface.row(0);
         misplaced += row[x - 1] == 0xFF000000 && row[x] == 0xFFFFFFFF ? 0 : 1;

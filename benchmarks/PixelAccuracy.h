@@ -1,8 +1,8 @@
 // How near pixels are to the gradient's exact color, by a plain evaluation of our own in double precision.
 #pragma once
 
+#include "easel/drawing/Gradient.h"
 #include "easel/drawing/Path.h"
-#include "easel/paint/gradient/Gradient.h"
 #include "easel/paint/pixels/Surface.h"
 
 #include <optional>
@@ -16,7 +16,7 @@ struct Accuracy {
 
 // Over all pixels of a surface that was filled on `background`, opaque. Padded gradients without a map of
 // their own.
-Accuracy accuracyOf(const easel::paint::Surface& surface, const easel::paint::Gradient& gradient,
+Accuracy accuracyOf(const easel::paint::Surface& surface, const easel::drawing::Gradient& gradient,
                     std::uint32_t background);
 
 // The largest error, in levels, of the coverage of a white polygon on black in the rows from top to bottom.

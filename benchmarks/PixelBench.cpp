@@ -75,10 +75,10 @@ void check(Report& report, paint::Surface& surface, const PixelWork& work, std::
 }
 
 PixelWork translucent(PixelWork work) {
-    std::vector<paint::RampStop> stops = work.gradient.ramp.stops();
+    std::vector<drawing::RampStop> stops = work.gradient.ramp.stops();
     for (std::size_t i = 0; i < stops.size(); ++i)
         stops[i].opacity = i % 2 == 0 ? 0.2 : 0.9;
-    work.gradient.ramp = paint::Ramp(std::move(stops));
+    work.gradient.ramp = drawing::Ramp(std::move(stops));
     work.name = "translucent " + work.name;
     return work;
 }

@@ -33,15 +33,15 @@ drawing::Path roundPolygon(int vertices, double inner) {
     return drawing::polygonPath(points);
 }
 
-paint::Gradient padded(const std::variant<drawing::LinearGeometry, drawing::RadialGeometry>& geometry,
-                       int stops) {
+drawing::Gradient padded(const std::variant<drawing::LinearGeometry, drawing::RadialGeometry>& geometry,
+                         int stops) {
     return {geometry, {}, drawing::Spread::Pad, rampOf(stops)};
 }
 
 } // namespace
 
-paint::Ramp rampOf(int stops) {
-    std::vector<paint::RampStop> list;
+drawing::Ramp rampOf(int stops) {
+    std::vector<drawing::RampStop> list;
     list.reserve(static_cast<std::size_t>(stops));
     unsigned seed = 7;
     const auto channel = [&] {
@@ -50,7 +50,7 @@ paint::Ramp rampOf(int stops) {
     };
     for (int i = 0; i < stops; ++i)
         list.push_back({static_cast<double>(i) / (stops - 1), {channel(), channel(), channel()}, 1});
-    return paint::Ramp(std::move(list));
+    return drawing::Ramp(std::move(list));
 }
 
 std::vector<PixelWork> pixelWorks() {

@@ -1,7 +1,7 @@
 // The graphics environment: filling paths with gradients, feedback lines, and small numbers and sounds beside
 // them.
+#include "easel/drawing/Gradient.h"
 #include "easel/paint/Painter.h"
-#include "easel/paint/gradient/Gradient.h"
 #include "easel/runtime/Host.h"
 #include "easel/runtime/HostGraphics.h"
 #include "easel/runtime/HostPoint.h"
@@ -42,16 +42,16 @@ drawing::Rgb16 toRgb(RGBColor const& color) {
 }
 
 // A record whose start, end and radii are absolute already.
-paint::Gradient absoluteGradient(CGradientData const& record) {
+drawing::Gradient absoluteGradient(CGradientData const& record) {
     const drawing::Point start = easel::runtime::toPoint(record.Start());
     const drawing::Point end = easel::runtime::toPoint(record.End());
-    std::vector<paint::RampStop> stops;
+    std::vector<drawing::RampStop> stops;
     for (CGradientColor const& stop : record.ColorList())
         stops.push_back({stop.Percent(), toRgb(stop.ColorRGB())});
-    paint::Gradient gradient{.geometry = drawing::LinearGeometry{start, end},
-                             .toDrawing = {},
-                             .spread = drawing::Spread::Pad,
-                             .ramp = paint::Ramp(std::move(stops))};
+    drawing::Gradient gradient{.geometry = drawing::LinearGeometry{start, end},
+                               .toDrawing = {},
+                               .spread = drawing::Spread::Pad,
+                               .ramp = drawing::Ramp(std::move(stops))};
     if (record.Type() != kLinearGradient)
         gradient.geometry = drawing::RadialGeometry{start, record.StartRadius(), end, record.EndRadius()};
     return gradient;
@@ -80,7 +80,7 @@ void CGraphicsEnvironment::CGContextDrawGradient(CGPath const* path, CGradientDa
     // Feedback over a drawing window is made of lines and takes no fills.
     if (!port || !path || gradient.ColorList().empty())
         return;
-    const paint::Gradient ink = absoluteGradient(gradient);
+    const drawing::Gradient ink = absoluteGradient(gradient);
     paint::Painter painter;
     painter.fill(surfaceOf(*port), path->outline, drawing::FillRule::EvenOdd, toImage(*port), &ink);
     port->addDamage(port->bounds());

@@ -6,24 +6,6 @@ namespace easel::drawing {
 
 namespace {
 
-std::vector<FittedStop> completeRamp(const std::list<CGradientColor>& colors) {
-    std::vector<FittedStop> stops;
-    if (colors.empty())
-        return stops;
-    stops.reserve(colors.size() + 2);
-    const auto add = [&stops](const CGradientColor& stop, double position) {
-        const RGBColor color = stop.ColorRGB();
-        stops.push_back({position, {color.red, color.green, color.blue}});
-    };
-    if (colors.front().Percent() > 0)
-        add(colors.front(), 0);
-    for (const CGradientColor& stop : colors)
-        add(stop, stop.Percent());
-    if (colors.back().Percent() < 1)
-        add(colors.back(), 1);
-    return stops;
-}
-
 Affine turnAbout(Point centre, double degrees) {
     return Affine::translation(centre.x, centre.y) * Affine::rotation(degrees) *
            Affine::translation(-centre.x, -centre.y);
@@ -51,21 +33,36 @@ LinearGeometry fitLine(const Path& outline, double degrees) {
     return {back({turned.left, middle}), back({turned.right, middle})};
 }
 
-FittedGradient fitGradient(const CGradientData& record, const Path& outline) {
-    FittedGradient fit;
-    fit.stops = completeRamp(record.ColorList());
-    if (record.Type() == kLinearGradient) {
-        const LinearGeometry line = fitLine(outline, static_cast<double>(record.Angle()));
-        fit.start = line.start;
-        fit.end = line.end;
-        return fit;
-    }
+std::vector<RampStop> completeStops(const CGradientData& record) {
+    const std::list<CGradientColor>& colors = record.ColorList();
+    std::vector<RampStop> stops;
+    if (colors.empty())
+        return stops;
+    stops.reserve(colors.size() + 2);
+    const auto add = [&stops](const CGradientColor& stop, double position) {
+        const RGBColor color = stop.ColorRGB();
+        stops.push_back({position, {color.red, color.green, color.blue}});
+    };
+    if (colors.front().Percent() > 0)
+        add(colors.front(), 0);
+    for (const CGradientColor& stop : colors)
+        add(stop, stop.Percent());
+    if (colors.back().Percent() < 1)
+        add(colors.back(), 1);
+    return stops;
+}
+
+GradientGeometry fitGeometry(const CGradientData& record, const Path& outline) {
+    if (record.Type() == kLinearGradient)
+        return fitLine(outline, static_cast<double>(record.Angle()));
     const Box bounds = outline.bounds();
-    fit.kind = FittedKind::Radial;
-    fit.start = fractionOf(bounds, record.Start());
-    fit.end = fractionOf(bounds, record.End());
-    fit.endRadius = static_cast<double>(static_cast<float>(farthestCorner(bounds, fit.end)));
-    return fit;
+    const Point end = fractionOf(bounds, record.End());
+    const auto radius = static_cast<float>(farthestCorner(bounds, end));
+    return RadialGeometry{fractionOf(bounds, record.Start()), 0, end, static_cast<double>(radius)};
+}
+
+Gradient fitGradient(const CGradientData& record, const Path& outline) {
+    return {fitGeometry(record, outline), {}, Spread::Pad, Ramp(completeStops(record))};
 }
 
 } // namespace easel::drawing

@@ -11,7 +11,7 @@
 namespace easel::exchange {
 namespace {
 
-using drawing::ForeignGradient;
+using drawing::Gradient;
 using drawing::Point;
 
 constexpr double kSquareSize = 256;
@@ -25,7 +25,7 @@ TPoint<double> fractionsOf(const drawing::Box& box, Point point) {
 }
 
 // The record nearest to a gradient that none can hold.
-ImportedGradient nearest(const ForeignGradient& foreign, const drawing::Object& object) {
+ImportedGradient nearest(const Gradient& foreign, const drawing::Object& object) {
     ImportedGradient result;
     auto& gradient = result.gradient;
     if (const auto* const line = std::get_if<drawing::LinearGeometry>(&foreign.geometry)) {
@@ -44,12 +44,11 @@ ImportedGradient nearest(const ForeignGradient& foreign, const drawing::Object& 
     }
     if (foreign.spread != drawing::Spread::Pad)
         result.notes.emplace_back("its repetition is left out");
-    bool faint = false;
+    const bool faint = !foreign.ramp.opaque();
     gradient.ColorList().clear();
-    for (const auto& stop : foreign.stops) {
-        faint |= stop.opacity < 1;
+    for (const auto& stop : foreign.ramp.stops()) {
         gradient.ColorList().emplace_back(RGBColor{stop.color.red, stop.color.green, stop.color.blue},
-                                          stop.offset);
+                                          stop.position);
     }
     if (faint)
         result.notes.emplace_back("its opacity is left out: every color is opaque");
@@ -59,7 +58,7 @@ ImportedGradient nearest(const ForeignGradient& foreign, const drawing::Object& 
 std::optional<ImportedGradient> gradientOf(const drawing::Object& object) {
     if (const CGradient* const own = drawing::gradientIn(object.gradient))
         return ImportedGradient{own->GetGradientData(), object.id.text(), {}};
-    if (const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill)) {
+    if (const auto* const foreign = std::get_if<drawing::GradientPtr>(&object.fill)) {
         auto result = nearest(**foreign, object);
         result.name = object.id.text();
         return result;

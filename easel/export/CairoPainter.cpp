@@ -246,8 +246,8 @@ void CairoPainter::paintStroke(const Object& object, double opacity) {
 }
 
 void CairoPainter::setInk(const paint::Ink& ink, double opacity) {
-    if (const auto* gradient = std::get_if<const paint::Gradient*>(&ink)) {
-        const std::optional<paint::RampStop> only = onlyColor(**gradient);
+    if (const auto* gradient = std::get_if<const drawing::Gradient*>(&ink)) {
+        const std::optional<drawing::RampStop> only = onlyColor(**gradient);
         if (!only)
             return setGradient(withinUnitRange(**gradient), opacity);
         return setInk(drawing::ColorPaint{only->color, only->opacity}, opacity);
@@ -257,10 +257,10 @@ void CairoPainter::setInk(const paint::Ink& ink, double opacity) {
                           opacityOf(paint.opacity) * opacity);
 }
 
-void CairoPainter::setGradient(const paint::Gradient& gradient, double opacity) {
+void CairoPainter::setGradient(const drawing::Gradient& gradient, double opacity) {
     const Pattern pattern =
         std::visit([](const auto& geometry) { return patternOf(geometry); }, gradient.geometry);
-    for (const paint::RampStop& stop : gradient.ramp.stops())
+    for (const drawing::RampStop& stop : gradient.ramp.stops())
         cairo_pattern_add_color_stop_rgba(pattern.get(), stop.position, level(stop.color.red),
                                           level(stop.color.green), level(stop.color.blue),
                                           opacityOf(stop.opacity) * opacity);

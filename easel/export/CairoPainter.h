@@ -32,7 +32,7 @@ class CairoPainter {
     void paintMask(const drawing::ClipPath& clip);
 
     void setInk(const paint::Ink& ink, double opacity);
-    void setGradient(const paint::Gradient& gradient, double opacity);
+    void setGradient(const drawing::Gradient& gradient, double opacity);
     void addPath(const drawing::Path& path);
 
     cairo_t* cairo_;

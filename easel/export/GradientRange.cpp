@@ -42,25 +42,25 @@ Range seen(const LinearGeometry&, Range range) {
     return range;
 }
 
-paint::RampStop stopAt(const paint::Ramp& ramp, double position, double newPosition) {
-    const paint::RampColor color = ramp.at(position);
+drawing::RampStop stopAt(const drawing::Ramp& ramp, double position, double newPosition) {
+    const drawing::RampColor color = ramp.at(position);
     const auto channel = [](double level) {
-        return static_cast<std::uint16_t>(std::lrint(level * paint::kUnitsPerLevel));
+        return static_cast<std::uint16_t>(std::lrint(level * drawing::kUnitsPerLevel));
     };
     return {newPosition, {channel(color.red), channel(color.green), channel(color.blue)}, color.opacity};
 }
 
-paint::Ramp moved(const paint::Ramp& ramp, Range range) {
-    std::vector<paint::RampStop> stops;
+drawing::Ramp moved(const drawing::Ramp& ramp, Range range) {
+    std::vector<drawing::RampStop> stops;
     if (ramp.stops().front().position < range.low)
         stops.push_back(stopAt(ramp, range.low, 0));
-    for (const paint::RampStop& stop : ramp.stops())
+    for (const drawing::RampStop& stop : ramp.stops())
         if (stop.position >= range.low && stop.position <= range.high)
             stops.push_back(
                 {(stop.position - range.low) / (range.high - range.low), stop.color, stop.opacity});
     if (ramp.stops().back().position > range.high)
         stops.push_back(stopAt(ramp, range.high, 1));
-    return paint::Ramp(std::move(stops));
+    return drawing::Ramp(std::move(stops));
 }
 
 bool proper(const LinearGeometry& line) {
@@ -74,12 +74,12 @@ bool proper(const RadialGeometry& circles) {
 
 } // namespace
 
-paint::Gradient withinUnitRange(const paint::Gradient& gradient) {
-    const std::vector<paint::RampStop>& stops = gradient.ramp.stops();
+drawing::Gradient withinUnitRange(const drawing::Gradient& gradient) {
+    const std::vector<drawing::RampStop>& stops = gradient.ramp.stops();
     const Range all{std::min(0.0, stops.front().position), std::max(1.0, stops.back().position)};
     if (gradient.spread != drawing::Spread::Pad || (all.low >= 0 && all.high <= 1))
         return gradient;
-    paint::Gradient result = gradient;
+    drawing::Gradient result = gradient;
     std::visit(
         [&](auto& geometry) {
             const Range range = seen(geometry, all);
@@ -90,7 +90,7 @@ paint::Gradient withinUnitRange(const paint::Gradient& gradient) {
     return result;
 }
 
-std::optional<paint::RampStop> onlyColor(const paint::Gradient& gradient) {
+std::optional<drawing::RampStop> onlyColor(const drawing::Gradient& gradient) {
     const bool drawn = std::visit([](const auto& geometry) { return proper(geometry); }, gradient.geometry);
     if (drawn && gradient.toDrawing.invertible())
         return std::nullopt;

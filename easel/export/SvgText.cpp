@@ -129,8 +129,8 @@ class SvgWriter {
 
     std::string inkText(const std::string& property, const paint::Ink& ink, double opacity,
                         const Affine& toOwn) {
-        if (const auto* gradient = std::get_if<const paint::Gradient*>(&ink)) {
-            const std::optional<paint::RampStop> only = onlyColor(**gradient);
+        if (const auto* gradient = std::get_if<const drawing::Gradient*>(&ink)) {
+            const std::optional<drawing::RampStop> only = onlyColor(**gradient);
             if (only)
                 return inkText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
             return attribute(property, "url(#" + gradientName(withinUnitRange(**gradient), toOwn) + ")") +
@@ -141,7 +141,7 @@ class SvgWriter {
                attributeUnless(1, property + "-opacity", opacityOf(paint.opacity) * opacityOf(opacity));
     }
     // Gradients that come out alike are written once.
-    std::string gradientName(const paint::Gradient& gradient, const Affine& toOwn) {
+    std::string gradientName(const drawing::Gradient& gradient, const Affine& toOwn) {
         const std::string element = std::holds_alternative<drawing::LinearGeometry>(gradient.geometry)
                                         ? "linearGradient"
                                         : "radialGradient";
@@ -151,7 +151,7 @@ class SvgWriter {
         if (map != Affine{})
             text += attribute("gradientTransform", svg::transformText(map));
         text += ">";
-        for (const paint::RampStop& stop : gradient.ramp.stops())
+        for (const drawing::RampStop& stop : gradient.ramp.stops())
             text += "<stop" + attribute("offset", stop.position) +
                     attribute("stop-color", svg::colorText(stop.color)) +
                     attributeUnless(1, "stop-opacity", opacityOf(stop.opacity)) + "/>";

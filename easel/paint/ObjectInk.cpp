@@ -22,8 +22,8 @@ HeldInk::HeldInk(const drawing::Paint& paint) {
     if (const auto* color = std::get_if<drawing::ColorPaint>(&paint)) {
         color_ = *color;
         visible_ = color->opacity > 0;
-    } else if (const auto* foreign = std::get_if<std::shared_ptr<const drawing::ForeignGradient>>(&paint)) {
-        gradient_ = gradientOf(**foreign);
+    } else if (const auto* gradient = drawing::gradientIn(paint)) {
+        gradient_ = *gradient;
         visible_ = true;
     }
 }
@@ -32,7 +32,7 @@ HeldInk HeldInk::ofFill(const drawing::Object& object) {
     if (!object.showsGradient())
         return HeldInk(fillOf(object));
     const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
-    return HeldInk(gradientOf(drawing::fitGradient(record, object.outline)));
+    return HeldInk(drawing::fitGradient(record, object.outline));
 }
 
 HeldInk HeldInk::ofStroke(const drawing::Object& object) {

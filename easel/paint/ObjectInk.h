@@ -1,10 +1,10 @@
 // What the fill and the stroke of an object are painted with.
 #pragma once
 
+#include "easel/drawing/Gradient.h"
 #include "easel/drawing/GradientFit.h"
 #include "easel/drawing/Object.h"
 #include "easel/paint/Painter.h"
-#include "easel/paint/gradient/Gradient.h"
 
 #include <optional>
 
@@ -27,10 +27,10 @@ class HeldInk {
   private:
     HeldInk() = default;
     explicit HeldInk(const drawing::Paint& paint);
-    explicit HeldInk(Gradient gradient) : gradient_(std::move(gradient)), visible_(true) {}
+    explicit HeldInk(drawing::Gradient gradient) : gradient_(std::move(gradient)), visible_(true) {}
 
     drawing::ColorPaint color_;
-    std::optional<Gradient> gradient_;
+    std::optional<drawing::Gradient> gradient_;
     bool visible_ = false;
 };
 

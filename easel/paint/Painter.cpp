@@ -14,12 +14,8 @@ namespace {
 
 using drawing::Affine;
 
-double sanitised(double opacity) {
-    return std::isnan(opacity) ? 1 : std::clamp(opacity, 0.0, 1.0);
-}
-
-RampColor colorOf(const drawing::ColorPaint& paint) {
-    return paint::colorOf(RampStop{0, paint.color, sanitised(paint.opacity)});
+drawing::RampColor colorOf(const drawing::ColorPaint& paint) {
+    return drawing::colorOf({0, paint.color, drawing::validOpacity(paint.opacity)});
 }
 
 // A small shape is done before the processor notices which rows it needs; asking for all of them at once
@@ -69,13 +65,13 @@ ParameterRange rangeOf(const RadialMap& map, const PixelBox& area) {
 template <class Use>
 void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const Affine& toSurface,
                          const Ink& ink, double opacity, const Use& use) {
-    opacity = sanitised(opacity);
+    opacity = drawing::validOpacity(opacity);
     if (const auto* color = std::get_if<drawing::ColorPaint>(&ink)) {
         segments_.layOut(colorOf(*color));
         FlatShader shader(surface, segments_, opacity);
         return use(shader);
     }
-    const Gradient& gradient = *std::get<const Gradient*>(ink);
+    const drawing::Gradient& gradient = *std::get<const drawing::Gradient*>(ink);
     const ParameterMap map = parameterMapOf(gradient, toSurface);
     const auto laidOut = [&](const auto& known) {
         const ParameterRange range = rangeOf(known, area);
@@ -83,7 +79,7 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
                RampSegments::Outcome::Ready;
     };
     if (std::holds_alternative<FlatMap>(map)) {
-        segments_.layOut(paint::colorOf(gradient.ramp.stops().back()));
+        segments_.layOut(drawing::colorOf(gradient.ramp.stops().back()));
         FlatShader shader(surface, segments_, opacity);
         return use(shader);
     }

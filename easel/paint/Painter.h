@@ -1,10 +1,10 @@
 // Fills shapes with colors and gradients.
 #pragma once
 
+#include "easel/drawing/Gradient.h"
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 #include "easel/paint/coverage/Rasteriser.h"
-#include "easel/paint/gradient/Gradient.h"
 #include "easel/paint/gradient/LinearShader.h"
 #include "easel/paint/gradient/RadialPiece.h"
 #include "easel/paint/gradient/RampSegments.h"
@@ -16,7 +16,7 @@
 namespace easel::paint {
 
 // What a shape is filled with. A gradient is only referred to and must live through the call it is given to.
-using Ink = std::variant<drawing::ColorPaint, const Gradient*>;
+using Ink = std::variant<drawing::ColorPaint, const drawing::Gradient*>;
 
 // Shapes and gradients are in drawing coordinates, which `toSurface` maps to surface coordinates, where pixel
 // (x, y) covers x to x + 1 and y to y + 1. A pixel takes the color at its centre, weighted by the exact share

@@ -129,21 +129,29 @@ Json printObject(Session& session, Arguments& arguments) {
             {"gradient", gradientOf(session, object.gradient)}};
 }
 
+// A line is told as two circles without extent.
+drawing::RadialGeometry ends(const drawing::GradientGeometry& geometry) {
+    if (const auto* const line = std::get_if<drawing::LinearGeometry>(&geometry))
+        return {line->start, 0, line->end, 0};
+    return std::get<drawing::RadialGeometry>(geometry);
+}
+
 Json printFit(Session& session, Arguments& arguments) {
     const std::string& id = arguments.text("ID");
     const drawing::Object& object = objectNamed(session, id);
     const CGradient* gradient = object.gradient;
     if (!gradient)
         throw PlayError("the object \"" + id + "\" has no gradient");
-    const drawing::FittedGradient fit = drawing::fitGradient(gradient->GetGradientData(), object.outline);
+    const CGradientData& record = gradient->GetGradientData();
+    const drawing::RadialGeometry fit = ends(drawing::fitGeometry(record, object.outline));
     Json stops = Json::array();
-    for (const drawing::FittedStop& stop : fit.stops)
+    for (const drawing::RampStop& stop : drawing::completeStops(record))
         stops.push_back(stopOf(stop.position, stop.color.red, stop.color.green, stop.color.blue));
     return {{"fit", id},
-            {"start", jsonPoint(fit.start)},
-            {"end", jsonPoint(fit.end)},
-            {"startRadius", jsonNumber(fit.startRadius)},
-            {"endRadius", jsonNumber(fit.endRadius)},
+            {"start", jsonPoint(fit.focus)},
+            {"end", jsonPoint(fit.centre)},
+            {"startRadius", jsonNumber(fit.focusRadius)},
+            {"endRadius", jsonNumber(fit.radius)},
             {"stops", std::move(stops)}};
 }
 

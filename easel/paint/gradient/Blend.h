@@ -1,7 +1,7 @@
 // Composing one exact color over one pixel, rounded once.
 #pragma once
 
-#include "easel/paint/gradient/Ramp.h"
+#include "easel/drawing/Ramp.h"
 
 #include <cmath>
 #include <cstdint>
@@ -10,7 +10,7 @@ namespace easel::paint {
 
 // The pixel after a color was laid over it; `weight` is the share of the pixel the color takes, opacity times
 // coverage.
-inline std::uint32_t blended(std::uint32_t pixel, const RampColor& color, double weight) {
+inline std::uint32_t blended(std::uint32_t pixel, const drawing::RampColor& color, double weight) {
     const auto channel = [&](int shift, double level) {
         const double below = (pixel >> shift) & 0xFF;
         return static_cast<std::uint32_t>(std::lrint(below + (level - below) * weight)) << shift;

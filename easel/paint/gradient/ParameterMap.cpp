@@ -61,7 +61,7 @@ double RadialMap::at(Point surface) const {
     return valid(larger) ? larger : valid(smaller) ? smaller : kNowhere;
 }
 
-ParameterMap parameterMapOf(const Gradient& gradient, const Affine& toSurface) {
+ParameterMap parameterMapOf(const drawing::Gradient& gradient, const Affine& toSurface) {
     const Affine whole = toSurface * gradient.toDrawing;
     const Affine toGradient = whole.inverse();
     const double sum =

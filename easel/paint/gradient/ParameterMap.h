@@ -2,7 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
-#include "easel/paint/gradient/Gradient.h"
+#include "easel/drawing/Gradient.h"
 
 #include <variant>
 
@@ -37,7 +37,7 @@ struct FlatMap {};
 using ParameterMap = std::variant<FlatMap, LinearMap, RadialMap>;
 
 // `toSurface` maps drawing coordinates to surface coordinates.
-ParameterMap parameterMapOf(const Gradient& gradient, const drawing::Affine& toSurface);
+ParameterMap parameterMapOf(const drawing::Gradient& gradient, const drawing::Affine& toSurface);
 
 // The position on the ramp that a parameter stands for. NaN stays NaN.
 double spreadPosition(double parameter, drawing::Spread spread);

@@ -22,19 +22,19 @@ void PointShader::row(int y, std::span<const CoverageRun> runs) {
     for (const CoverageRun& run : runs) {
         const double share = opacity_ * run.coverage / kFullCoverage;
         for (int x = run.begin; x < run.end; ++x) {
-            const RampColor color = colorAt(x, y);
+            const drawing::RampColor color = colorAt(x, y);
             pixels[x] = blended(pixels[x], color, color.opacity * share);
         }
     }
 }
 
-RampColor PointShader::colorAt(int x, int y) const {
+drawing::RampColor PointShader::colorAt(int x, int y) const {
     const drawing::Point centre{x + 0.5, y + 0.5};
     const double parameter = std::visit([&](const auto& map) { return parameterAt(map, centre); }, map_);
     if (std::isnan(parameter))
         return {0, 0, 0, 0};
     if (std::isinf(parameter))
-        return colorOf(gradient_.ramp.stops().back());
+        return drawing::colorOf(gradient_.ramp.stops().back());
     return gradient_.ramp.at(spreadPosition(parameter, gradient_.spread));
 }
 

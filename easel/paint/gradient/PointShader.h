@@ -10,16 +10,17 @@ namespace easel::paint {
 class PointShader : public RowSink {
   public:
     // The gradient must outlive the shader. `opacity` is from 0 to 1.
-    PointShader(const SurfaceView& surface, const Gradient& gradient, const ParameterMap& map, double opacity)
+    PointShader(const SurfaceView& surface, const drawing::Gradient& gradient, const ParameterMap& map,
+                double opacity)
         : surface_(surface), gradient_(gradient), map_(map), opacity_(opacity) {}
 
     void row(int y, std::span<const CoverageRun> runs) override;
 
   private:
-    RampColor colorAt(int x, int y) const;
+    drawing::RampColor colorAt(int x, int y) const;
 
     SurfaceView surface_;
-    const Gradient& gradient_;
+    const drawing::Gradient& gradient_;
     ParameterMap map_;
     double opacity_;
 };

@@ -26,7 +26,7 @@ BlendColor blendColorOf(const Channels& color, const Channels& slope) {
             narrow(slope[3])};
 }
 
-Channels channelsOf(const RampColor& color) {
+Channels channelsOf(const drawing::RampColor& color) {
     return {color.blue, color.green, color.red, color.opacity};
 }
 
@@ -40,7 +40,7 @@ Channels RampSegment::at(double parameter) const {
     return result;
 }
 
-RampSegments::Outcome RampSegments::layOut(const Ramp& ramp, drawing::Spread spread, double lowest,
+RampSegments::Outcome RampSegments::layOut(const drawing::Ramp& ramp, drawing::Spread spread, double lowest,
                                            double highest) {
     segments_.clear();
     if (spread == drawing::Spread::Pad) {
@@ -62,7 +62,7 @@ RampSegments::Outcome RampSegments::layOut(const Ramp& ramp, drawing::Spread spr
     return Outcome::Ready;
 }
 
-void RampSegments::layOut(const RampColor& color) {
+void RampSegments::layOut(const drawing::RampColor& color) {
     segments_.clear();
     add(-kInfinity, color);
 }
@@ -74,19 +74,20 @@ std::size_t RampSegments::find(double parameter) const {
     return static_cast<std::size_t>(after - segments_.begin()) - 1;
 }
 
-void RampSegments::addPart(const Ramp& ramp, double from, double to, double offset, Direction direction) {
-    const std::vector<RampStop>& stops = ramp.stops();
-    RampStop before = stops.front();
-    RampStop behind = stops.back();
+void RampSegments::addPart(const drawing::Ramp& ramp, double from, double to, double offset,
+                           Direction direction) {
+    const std::vector<drawing::RampStop>& stops = ramp.stops();
+    drawing::RampStop before = stops.front();
+    drawing::RampStop behind = stops.back();
     before.position = -kInfinity;
     behind.position = kInfinity;
-    const auto knot = [&](std::size_t i) -> const RampStop& {
+    const auto knot = [&](std::size_t i) -> const drawing::RampStop& {
         return i == 0 ? before : i == stops.size() + 1 ? behind : stops[i - 1];
     };
     for (std::size_t i = 0; i <= stops.size(); ++i) {
         const std::size_t pair = direction == Direction::Forward ? i : stops.size() - i;
-        const RampStop& low = knot(pair);
-        const RampStop& high = knot(pair + 1);
+        const drawing::RampStop& low = knot(pair);
+        const drawing::RampStop& high = knot(pair + 1);
         if (low.position == high.position || high.position <= from || low.position >= to)
             continue;
         if (direction == Direction::Forward)
@@ -97,27 +98,31 @@ void RampSegments::addPart(const Ramp& ramp, double from, double to, double offs
 }
 
 // A stop at infinity is never reached, so its neighbor's color holds.
-void RampSegments::addForward(const RampStop& low, const RampStop& high, double from, double offset) {
+void RampSegments::addForward(const drawing::RampStop& low, const drawing::RampStop& high, double from,
+                              double offset) {
     const double start = offset + std::max(low.position, from);
     if (std::isinf(low.position) || std::isinf(high.position))
-        return add(start, colorOf(std::isinf(low.position) ? high : low));
-    add(start, offset + low.position, high.position - low.position, colorOf(low), colorOf(high));
+        return add(start, drawing::colorOf(std::isinf(low.position) ? high : low));
+    add(start, offset + low.position, high.position - low.position, drawing::colorOf(low),
+        drawing::colorOf(high));
 }
 
-void RampSegments::addBackward(const RampStop& low, const RampStop& high, double to, double offset) {
+void RampSegments::addBackward(const drawing::RampStop& low, const drawing::RampStop& high, double to,
+                               double offset) {
     // The stop itself has the color that follows it on the ramp, which here comes first.
     const double start = std::nextafter(offset - std::min(high.position, to), kInfinity);
     if (std::isinf(low.position) || std::isinf(high.position))
-        return add(start, colorOf(std::isinf(low.position) ? high : low));
-    add(start, offset - high.position, high.position - low.position, colorOf(high), colorOf(low));
+        return add(start, drawing::colorOf(std::isinf(low.position) ? high : low));
+    add(start, offset - high.position, high.position - low.position, drawing::colorOf(high),
+        drawing::colorOf(low));
 }
 
-void RampSegments::add(double start, const RampColor& color) {
+void RampSegments::add(double start, const drawing::RampColor& color) {
     append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false, {}, 0});
 }
 
-void RampSegments::add(double start, double anchor, double reach, const RampColor& from,
-                       const RampColor& to) {
+void RampSegments::add(double start, double anchor, double reach, const drawing::RampColor& from,
+                       const drawing::RampColor& to) {
     const Channels low = channelsOf(from);
     const Channels high = channelsOf(to);
     if (low == high)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "easel/drawing/Paint.h"
-#include "easel/paint/gradient/Ramp.h"
+#include "easel/drawing/Ramp.h"
 #include "easel/paint/pixels/PixelKernels.h"
 
 #include <algorithm>
@@ -43,9 +43,9 @@ class RampSegments {
     // Lays out the segments for the parameters from `lowest` to `highest`; beyond them only pad is right. Too
     // many are the segments of a ramp that repeats so often that there would be more of them than are worth
     // walking.
-    Outcome layOut(const Ramp& ramp, drawing::Spread spread, double lowest, double highest);
+    Outcome layOut(const drawing::Ramp& ramp, drawing::Spread spread, double lowest, double highest);
     // One color everywhere.
-    void layOut(const RampColor& color);
+    void layOut(const drawing::RampColor& color);
 
     // Ascending; at least one.
     std::span<const RampSegment> all() const { return segments_; }
@@ -56,11 +56,12 @@ class RampSegments {
     enum class Direction { Forward, Backward };
 
     // The part of the ramp between two positions, put at `offset` plus the position or `offset` minus it.
-    void addPart(const Ramp& ramp, double from, double to, double offset, Direction direction);
-    void addForward(const RampStop& low, const RampStop& high, double from, double offset);
-    void addBackward(const RampStop& low, const RampStop& high, double to, double offset);
-    void add(double start, const RampColor& color);
-    void add(double start, double anchor, double reach, const RampColor& from, const RampColor& to);
+    void addPart(const drawing::Ramp& ramp, double from, double to, double offset, Direction direction);
+    void addForward(const drawing::RampStop& low, const drawing::RampStop& high, double from, double offset);
+    void addBackward(const drawing::RampStop& low, const drawing::RampStop& high, double to, double offset);
+    void add(double start, const drawing::RampColor& color);
+    void add(double start, double anchor, double reach, const drawing::RampColor& from,
+             const drawing::RampColor& to);
     void append(RampSegment segment);
 
     std::vector<RampSegment> segments_;

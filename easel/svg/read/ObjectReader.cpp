@@ -1,6 +1,6 @@
 #include "easel/svg/read/ObjectReader.h"
 
-#include "easel/svg/read/GradientRecord.h"
+#include "easel/drawing/GradientRecord.h"
 #include "easel/svg/text/RecordText.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace easel::svg {
 
 using drawing::ColorPaint;
 using drawing::FillPattern;
-using drawing::ForeignGradient;
+using drawing::Gradient;
 using drawing::Kind;
 using drawing::NoPaint;
 using drawing::Object;
@@ -23,7 +23,7 @@ constexpr std::size_t kRecentStyles = 16;
 
 // The record that is written beside the gradient, as long as it still tells the same as the gradient itself:
 // other programs change the one and leave the other.
-std::optional<CGradientData> writtenRecord(const GradientElement& element, const ForeignGradient& placed,
+std::optional<CGradientData> writtenRecord(const GradientElement& element, const Gradient& placed,
                                            const drawing::Path& outline) {
     auto record = parseRecord(element.record);
     if (!record)
@@ -43,8 +43,8 @@ Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyl
 }
 
 Paint kept(PlacedPaint placed) {
-    if (auto* const foreign = std::get_if<ForeignGradient>(&placed))
-        return std::make_shared<const ForeignGradient>(std::move(*foreign));
+    if (auto* const foreign = std::get_if<Gradient>(&placed))
+        return std::make_shared<const Gradient>(std::move(*foreign));
     if (const auto* const color = std::get_if<ColorPaint>(&placed))
         return *color;
     return NoPaint();
@@ -101,7 +101,7 @@ void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedS
         object.fill = paintWithoutGradient(style.fill, style);
     } else {
         PlacedPaint placed = place(*element, at);
-        const auto* const foreign = std::get_if<ForeignGradient>(&placed);
+        const auto* const foreign = std::get_if<Gradient>(&placed);
         if (foreign && carriesGradient(object.kind) && setGradient(object, *element, *foreign))
             return;
         object.fill = kept(std::move(placed));
@@ -109,8 +109,7 @@ void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedS
     object.fillPattern = patternOf(object.fill);
 }
 
-bool ObjectReader::setGradient(Object& object, const GradientElement& element,
-                               const ForeignGradient& placed) {
+bool ObjectReader::setGradient(Object& object, const GradientElement& element, const Gradient& placed) {
     auto record = writtenRecord(element, placed, object.outline);
     if (!record)
         record = recordFor(placed, object.outline);

@@ -23,7 +23,7 @@ class ObjectReader {
     void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
     // False if no record can tell what the gradient is on the object.
     static bool setGradient(drawing::Object& object, const GradientElement& element,
-                            const drawing::ForeignGradient& placed);
+                            const drawing::Gradient& placed);
     drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const;
     drawing::Paint paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const;
     // Null if the paint is no gradient of the file.

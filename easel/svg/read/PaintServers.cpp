@@ -12,7 +12,7 @@
 namespace easel::svg {
 
 using drawing::ColorPaint;
-using drawing::ForeignStop;
+using drawing::RampStop;
 using drawing::Spread;
 
 namespace {
@@ -114,7 +114,7 @@ const GradientElement& PaintServers::read(pugi::xml_node element) {
     return gradient;
 }
 
-void PaintServers::readStops(pugi::xml_node element, std::pmr::vector<ForeignStop>& stops) const {
+void PaintServers::readStops(pugi::xml_node element, std::pmr::vector<RampStop>& stops) const {
     const auto isStop = [this](pugi::xml_node child) { return tree_.svgName(child) == "stop"; };
     stops.reserve(static_cast<std::size_t>(std::count_if(element.begin(), element.end(), isStop)));
     double last = 0;

@@ -33,8 +33,8 @@ struct GradientElement {
     drawing::Spread spread = drawing::Spread::Pad;
     std::variant<LineTexts, CircleTexts> geometry;
     drawing::Affine transform;
-    std::pmr::vector<drawing::ForeignStop> stops; // offsets in order, 0 to 1
-    const char* record = "";                      // our own record's values, if they stand beside
+    std::pmr::vector<drawing::RampStop> stops; // offsets in order, 0 to 1
+    const char* record = "";                   // our own record's values, if they stand beside
 };
 
 // Where a shape is painted.
@@ -56,7 +56,7 @@ class PaintServers {
   private:
     std::optional<std::size_t> idNumber(std::string_view id);
     const GradientElement& read(pugi::xml_node element);
-    void readStops(pugi::xml_node element, std::pmr::vector<drawing::ForeignStop>& stops) const;
+    void readStops(pugi::xml_node element, std::pmr::vector<drawing::RampStop>& stops) const;
     drawing::ColorPaint colorAt(pugi::xml_node element) const;
 
     const XmlTree& tree_;
@@ -68,7 +68,7 @@ class PaintServers {
 };
 
 // What a gradient is on a shape: nothing where it disables painting, a plain color where it has no extent.
-using PlacedPaint = std::variant<drawing::NoPaint, drawing::ColorPaint, drawing::ForeignGradient>;
+using PlacedPaint = std::variant<drawing::NoPaint, drawing::ColorPaint, drawing::Gradient>;
 PlacedPaint placedGradient(const GradientElement& gradient, const PaintPlace& place);
 
 } // namespace easel::svg

@@ -6,7 +6,7 @@ namespace easel::svg {
 
 using drawing::Affine;
 using drawing::ColorPaint;
-using drawing::ForeignGradient;
+using drawing::Gradient;
 using drawing::LinearGeometry;
 using drawing::NoPaint;
 using drawing::RadialGeometry;
@@ -54,7 +54,7 @@ RadialGeometry radial(const CircleTexts& texts, const Coordinates& at) {
     return geometry;
 }
 
-ColorPaint colorOf(const drawing::ForeignStop& stop) {
+ColorPaint paintOf(const drawing::RampStop& stop) {
     return {stop.color, stop.opacity};
 }
 
@@ -63,7 +63,7 @@ ColorPaint colorOf(const drawing::ForeignStop& stop) {
 PlacedPaint placedGradient(const GradientElement& gradient, const PaintPlace& place) {
     if (gradient.stops.empty())
         return NoPaint();
-    ForeignGradient result;
+    Gradient result;
     result.toDrawing = place.toDrawing;
     if (gradient.units == GradientUnits::ObjectBoundingBox) {
         // A box without area gives the gradient no space to be in.
@@ -76,21 +76,21 @@ PlacedPaint placedGradient(const GradientElement& gradient, const PaintPlace& pl
     if (!result.toDrawing.invertible())
         return NoPaint();
     if (gradient.stops.size() == 1)
-        return colorOf(gradient.stops.front());
+        return paintOf(gradient.stops.front());
     const Coordinates at(gradient, place);
     if (const auto* const line = std::get_if<LineTexts>(&gradient.geometry)) {
         const LinearGeometry geometry = linear(*line, at);
         if (geometry.start == geometry.end)
-            return colorOf(gradient.stops.back());
+            return paintOf(gradient.stops.back());
         result.geometry = geometry;
     } else {
         const RadialGeometry geometry = radial(std::get<CircleTexts>(gradient.geometry), at);
         if (!(geometry.radius > 0))
-            return colorOf(gradient.stops.back());
+            return paintOf(gradient.stops.back());
         result.geometry = geometry;
     }
     result.spread = gradient.spread;
-    result.stops.assign(gradient.stops.begin(), gradient.stops.end());
+    result.ramp = drawing::Ramp({gradient.stops.begin(), gradient.stops.end()});
     return result;
 }
 

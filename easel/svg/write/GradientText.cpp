@@ -1,6 +1,6 @@
 #include "easel/svg/write/GradientText.h"
 
-#include "easel/svg/read/GradientRecord.h"
+#include "easel/drawing/GradientRecord.h"
 #include "easel/svg/style/Color.h"
 #include "easel/svg/text/Number.h"
 #include "easel/svg/text/RecordText.h"
@@ -15,33 +15,33 @@ namespace easel::svg {
 using drawing::Affine;
 using drawing::ColorPaint;
 using drawing::FillPattern;
-using drawing::ForeignGradient;
-using drawing::ForeignStop;
+using drawing::Gradient;
 using drawing::LinearGeometry;
 using drawing::Object;
 using drawing::RadialGeometry;
+using drawing::Ramp;
+using drawing::RampStop;
 using drawing::Spread;
 
 namespace {
 
 constexpr std::string_view kNameBegin = "easel-gradient-";
 
-std::string stopText(const ForeignStop& stop, const std::string& prefix) {
-    std::string text = '<' + prefix + "stop" + attribute("offset", stop.offset) +
+std::string stopText(const RampStop& stop, const std::string& prefix) {
+    std::string text = '<' + prefix + "stop" + attribute("offset", stop.position) +
                        attribute("stop-color", colorText(stop.color));
     return text + attributeUnless(1, "stop-opacity", stop.opacity) + "/>";
 }
 
 // The colors alone, for a record whose geometry on its object is not finite.
-ForeignGradient colorsOf(const CGradientData& record) {
-    ForeignGradient gradient;
-    gradient.geometry = LinearGeometry{{0, 0}, {1, 0}};
+Gradient colorsOf(const CGradientData& record) {
+    std::vector<RampStop> stops;
     for (const CGradientColor& stop : record.ColorList()) {
         const RGBColor color = stop.ColorRGB();
         const double offset = stop.Percent() >= 0 ? std::min(stop.Percent(), 1.0) : 0;
-        gradient.stops.push_back({offset, {color.red, color.green, color.blue}, 1});
+        stops.push_back({offset, {color.red, color.green, color.blue}, 1});
     }
-    return gradient;
+    return {LinearGeometry{{0, 0}, {1, 0}}, {}, Spread::Pad, Ramp(std::move(stops))};
 }
 
 } // namespace
@@ -81,11 +81,11 @@ std::string GradientBlock::addRecord(const Object& object) {
     return addElement(standard ? *standard : colorsOf(record), unitsOf(object).inverse(), recordText(record));
 }
 
-std::string GradientBlock::addForeign(const ForeignGradient& gradient, const Object& object) {
+std::string GradientBlock::addForeign(const Gradient& gradient, const Object& object) {
     return addElement(gradient, unitsOf(object).inverse(), {});
 }
 
-std::string GradientBlock::addElement(const ForeignGradient& gradient, const Affine& toUnits,
+std::string GradientBlock::addElement(const Gradient& gradient, const Affine& toUnits,
                                       const std::string& record) {
     const bool isLinear = std::holds_alternative<LinearGeometry>(gradient.geometry);
     const std::string name = prefix_ + (isLinear ? "linearGradient" : "radialGradient");
@@ -99,7 +99,7 @@ std::string GradientBlock::addElement(const ForeignGradient& gradient, const Aff
     if (!record.empty())
         text += ' ' + std::string(kRecordAttribute) + "=\"" + record + '"';
     text += '>';
-    for (const ForeignStop& stop : gradient.stops)
+    for (const RampStop& stop : gradient.ramp.stops())
         text += stopText(stop, prefix_);
     elements_.push_back(text + "</" + name + '>');
     return "url(#" + id + ')';

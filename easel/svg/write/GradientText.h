@@ -24,12 +24,12 @@ class GradientBlock {
     bool empty() const { return elements_.empty(); }
     // Each adds an element and gives a paint that refers to it, for use in the units of the object.
     std::string addRecord(const drawing::Object& object);
-    std::string addForeign(const drawing::ForeignGradient& gradient, const drawing::Object& object);
+    std::string addForeign(const drawing::Gradient& gradient, const drawing::Object& object);
     // Each element on a line of its own, begun with `lineBreak`.
     std::string text(std::string_view lineBreak) const;
 
   private:
-    std::string addElement(const drawing::ForeignGradient& gradient, const drawing::Affine& toUnits,
+    std::string addElement(const drawing::Gradient& gradient, const drawing::Affine& toUnits,
                            const std::string& record);
 
     std::string prefix_;

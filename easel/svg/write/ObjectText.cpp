@@ -12,7 +12,7 @@ namespace easel::svg {
 using drawing::Affine;
 using drawing::Box;
 using drawing::ColorPaint;
-using drawing::ForeignGradient;
+using drawing::Gradient;
 using drawing::Kind;
 using drawing::Object;
 using drawing::Path;
@@ -108,8 +108,7 @@ std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock
     if (const auto* const color = std::get_if<ColorPaint>(&stroke.paint)) {
         text = attribute("stroke", colorText(color->color));
         opacity *= color->opacity;
-    } else if (const auto* const foreign =
-                   std::get_if<std::shared_ptr<const ForeignGradient>>(&stroke.paint)) {
+    } else if (const auto* const foreign = std::get_if<drawing::GradientPtr>(&stroke.paint)) {
         text = attribute("stroke", gradients.addForeign(**foreign, object));
     } else {
         return text;
@@ -133,8 +132,7 @@ std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock
 std::string fillAttributes(const Object& object, GradientBlock& gradients) {
     std::string fill = fillText(object, gradients);
     double opacity = styleOf(object).fillOpacity;
-    if (const auto* const foreign = std::get_if<std::shared_ptr<const ForeignGradient>>(&object.fill);
-        foreign && fill.empty())
+    if (const auto* const foreign = std::get_if<drawing::GradientPtr>(&object.fill); foreign && fill.empty())
         fill = gradients.addForeign(**foreign, object);
     if (const auto* const color = std::get_if<ColorPaint>(&object.fill); color && !object.showsGradient())
         opacity *= color->opacity;

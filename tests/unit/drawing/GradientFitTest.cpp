@@ -22,46 +22,42 @@ constexpr RGBColor kRed{65535, 0, 0};
 constexpr RGBColor kBlue{0, 0, 65535};
 
 TEST(GradientFit, AngleZeroRunsFromLeftToRightAtMidHeight) {
-    const FittedGradient fit = fitGradient(CGradientData(), rectanglePath({10, 20, 110, 70}));
+    const auto fit = std::get<LinearGeometry>(fitGeometry(CGradientData(), rectanglePath({10, 20, 110, 70})));
     EXPECT_EQ(fit.start, (Point{10, 45}));
     EXPECT_EQ(fit.end, (Point{110, 45}));
 }
 
 TEST(GradientFit, StopsInsideTheRampAreCompletedAtBothEndsAndTheRecordStays) {
     const CGradientData data = record(kLinearGradient, {{kRed, 0.2}, {kBlue, 0.7}});
-    const FittedGradient fit = fitGradient(data, rectanglePath({0, 0, 1, 1}));
     const Rgb16 red{65535, 0, 0};
     const Rgb16 blue{0, 0, 65535};
-    EXPECT_EQ(fit.stops, (std::vector<FittedStop>{{0, red}, {0.2, red}, {0.7, blue}, {1, blue}}));
+    EXPECT_EQ(completeStops(data), (std::vector<RampStop>{{0, red}, {0.2, red}, {0.7, blue}, {1, blue}}));
     EXPECT_EQ(data.ColorList().size(), 2U);
 }
 
 TEST(GradientFit, ACompleteRampGetsNoStopsAndASingleStopGetsTwo) {
-    const Path square = rectanglePath({0, 0, 1, 1});
-    EXPECT_EQ(fitGradient(record(kLinearGradient, {{kRed, 0}, {kBlue, 1}}), square).stops.size(), 2U);
-    EXPECT_EQ(fitGradient(record(kLinearGradient, {{kRed, 0.5}}), square).stops.size(), 3U);
+    EXPECT_EQ(completeStops(record(kLinearGradient, {{kRed, 0}, {kBlue, 1}})).size(), 2U);
+    EXPECT_EQ(completeStops(record(kLinearGradient, {{kRed, 0.5}})).size(), 3U);
 }
 
 TEST(GradientFit, RadialGradientReachesTheFarthestCorner) {
     CGradientData data = record(kRadialGradient, {{kRed, 0}, {kBlue, 1}});
     const Path box = rectanglePath({0, 0, 100, 50});
-    FittedGradient fit = fitGradient(data, box);
-    EXPECT_EQ(fit.start, (Point{50, 25}));
-    EXPECT_EQ(fit.end, (Point{50, 25}));
-    EXPECT_EQ(fit.startRadius, 0);
-    EXPECT_NEAR(fit.endRadius, std::sqrt(3125.0), 1e-5);
+    auto fit = std::get<RadialGeometry>(fitGeometry(data, box));
+    EXPECT_EQ(fit.focus, (Point{50, 25}));
+    EXPECT_EQ(fit.centre, (Point{50, 25}));
+    EXPECT_EQ(fit.focusRadius, 0);
+    EXPECT_NEAR(fit.radius, std::sqrt(3125.0), 1e-5);
     data.SetEnd({0, 0});
-    fit = fitGradient(data, box);
-    EXPECT_EQ(fit.end, (Point{0, 0}));
-    EXPECT_NEAR(fit.endRadius, std::sqrt(12500.0), 1e-5);
+    fit = std::get<RadialGeometry>(fitGeometry(data, box));
+    EXPECT_EQ(fit.centre, (Point{0, 0}));
+    EXPECT_NEAR(fit.radius, std::sqrt(12500.0), 1e-5);
 }
 
 TEST(GradientFit, AnyTypeOtherThanLinearIsRadial) {
     for (const int type : {0, 2, 3, -1})
-        EXPECT_EQ(
-            fitGradient(record(static_cast<KGradientType>(type), {{kRed, 0}}), rectanglePath({0, 0, 1, 1}))
-                .kind,
-            FittedKind::Radial);
+        EXPECT_TRUE(std::holds_alternative<RadialGeometry>(
+            fitGeometry(record(static_cast<KGradientType>(type), {{kRed, 0}}), rectanglePath({0, 0, 1, 1}))));
 }
 
 // For any angle and polygon: the line points where the angle says, and the extreme vertices lie exactly at

@@ -1,5 +1,5 @@
 #include "easel/exchange/Ggr.h"
-#include "easel/paint/gradient/Ramp.h"
+#include "easel/drawing/Ramp.h"
 
 #include <cmath>
 #include <gmock/gmock.h>
@@ -31,12 +31,12 @@ std::string refusal(const std::string& text) {
 
 // The red channel of the ramp in 8-bit levels, as it is painted.
 double redAt(const CGradientData& gradient, double position) {
-    std::vector<easel::paint::RampStop> stops;
+    std::vector<easel::drawing::RampStop> stops;
     for (const auto& stop : gradient.ColorList()) {
         const auto color = stop.ColorRGB();
         stops.push_back({stop.Percent(), {color.red, color.green, color.blue}});
     }
-    return easel::paint::Ramp(stops).at(position).red;
+    return easel::drawing::Ramp(stops).at(position).red;
 }
 
 const std::string kBlackToWhite = " 0 0 0 1 1 1 1 1 ";

@@ -20,7 +20,6 @@ namespace {
 
 using namespace easel::drawing;
 using namespace easel::exports;
-using namespace easel::paint;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();

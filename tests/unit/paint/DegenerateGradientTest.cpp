@@ -21,21 +21,21 @@ constexpr std::uint32_t kRedPixel = 0xFFFF0000;
 constexpr std::uint32_t kGreenPixel = 0xFF00FF00;
 constexpr std::uint32_t kBluePixel = 0xFF0000FF;
 
-paint::Surface painted(const paint::Gradient& gradient, int width = 40, int height = 10) {
+paint::Surface painted(const drawing::Gradient& gradient, int width = 40, int height = 10) {
     paint::Surface surface(width, height);
     paint::Painter().fillAll(surface.view(), {}, &gradient);
     return surface;
 }
 
-void expectPlain(const paint::Gradient& gradient, std::uint32_t pixel) {
+void expectPlain(const drawing::Gradient& gradient, std::uint32_t pixel) {
     const paint::Surface surface = painted(gradient);
     for (int y = 0; y < surface.height(); ++y)
         for (int x = 0; x < surface.width(); ++x)
             ASSERT_EQ(surface.row(y)[x], pixel) << x << "," << y;
 }
 
-paint::Ramp redToBlue() {
-    return paint::Ramp({{0, kRed}, {1, kBlue}});
+drawing::Ramp redToBlue() {
+    return drawing::Ramp({{0, kRed}, {1, kBlue}});
 }
 
 TEST(DegenerateGradient, WithoutLengthShowsTheLastColor) {
@@ -66,34 +66,35 @@ TEST(DegenerateGradient, OfHugeOrTinyExtentIsDrawnWithoutHarm) {
 }
 
 TEST(DegenerateGradient, StopsAtNoPositionAreLeftOut) {
-    const paint::Ramp ramp({{kNaN, kGreen}, {0, kRed}, {kNaN, kGreen}, {1, kBlue}});
+    const drawing::Ramp ramp({{kNaN, kGreen}, {0, kRed}, {kNaN, kGreen}, {1, kBlue}});
     ASSERT_EQ(ramp.stops().size(), 2U);
     EXPECT_EQ(ramp.stops()[0].color, kRed);
     EXPECT_EQ(ramp.stops()[1].color, kBlue);
     expectPlain(
-        {LinearGeometry{{0, 0}, {9, 0}}, {}, Spread::Pad, paint::Ramp({{kNaN, kGreen}, {kNaN, kRed}})},
+        {LinearGeometry{{0, 0}, {9, 0}}, {}, Spread::Pad, drawing::Ramp({{kNaN, kGreen}, {kNaN, kRed}})},
         kGreenPixel);
 }
 
 TEST(DegenerateGradient, StopsAtInfinityAreNeverReached) {
-    const paint::Ramp ramp({{-kInfinity, kBlue}, {0, kRed}, {0.5, kGreen}, {kInfinity, kBlue}});
+    const drawing::Ramp ramp({{-kInfinity, kBlue}, {0, kRed}, {0.5, kGreen}, {kInfinity, kBlue}});
     const paint::Surface surface = painted({LinearGeometry{{10, 0}, {30, 0}}, {}, Spread::Pad, ramp});
     EXPECT_EQ(surface.row(0)[0], kRedPixel);
     EXPECT_EQ(surface.row(0)[39], kGreenPixel);
 }
 
 TEST(DegenerateGradient, WithOneStopIsPlainAndWithNoneIsInvisible) {
-    expectPlain({LinearGeometry{{0, 0}, {9, 0}}, {}, Spread::Pad, paint::Ramp({{0.4, kGreen}})}, kGreenPixel);
-    expectPlain({RadialGeometry{{0, 0}, 0, {9, 0}, 20}, {}, Spread::Repeat, paint::Ramp({{0.4, kGreen}})},
+    expectPlain({LinearGeometry{{0, 0}, {9, 0}}, {}, Spread::Pad, drawing::Ramp({{0.4, kGreen}})},
                 kGreenPixel);
-    expectPlain({LinearGeometry{{0, 0}, {9, 0}}, {}, Spread::Pad, paint::Ramp({})}, 0);
+    expectPlain({RadialGeometry{{0, 0}, 0, {9, 0}, 20}, {}, Spread::Repeat, drawing::Ramp({{0.4, kGreen}})},
+                kGreenPixel);
+    expectPlain({LinearGeometry{{0, 0}, {9, 0}}, {}, Spread::Pad, drawing::Ramp()}, 0);
 }
 
 TEST(DegenerateGradient, StopsOutsideTheRampCountAsTheyAre) {
     // From -1 (red) to 3 (blue) over 10 pixels a unit: halfway, at 1, the pixel about x = 10 is half and
     // half.
     const paint::Surface surface =
-        painted({LinearGeometry{{0, 0}, {10, 0}}, {}, Spread::Pad, paint::Ramp({{-1, kRed}, {3, kBlue}})});
+        painted({LinearGeometry{{0, 0}, {10, 0}}, {}, Spread::Pad, drawing::Ramp({{-1, kRed}, {3, kBlue}})});
     // Pixel 9 has parameter 0.95, 2.05 / 4 of red: 130.69; blue 124.31.
     EXPECT_EQ(surface.row(0)[9], 0xFF83007CU);
     EXPECT_EQ(surface.row(0)[35], kBluePixel);

@@ -2,7 +2,7 @@
 // shortcut.
 #pragma once
 
-#include "easel/paint/gradient/Gradient.h"
+#include "easel/drawing/Gradient.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,13 +18,13 @@ struct Color {
     Real red, green, blue, opacity;
 };
 
-inline Color exactly(const easel::paint::RampStop& stop) {
+inline Color exactly(const easel::drawing::RampStop& stop) {
     return {stop.color.red / Real{257}, stop.color.green / Real{257}, stop.color.blue / Real{257},
             stop.opacity};
 }
 
 // Stops in ascending order are assumed.
-inline Color colorAt(const std::vector<easel::paint::RampStop>& stops, Real t) {
+inline Color colorAt(const std::vector<easel::drawing::RampStop>& stops, Real t) {
     if (t < stops.front().position)
         return exactly(stops.front());
     std::size_t lower = 0;
@@ -93,7 +93,7 @@ inline std::optional<Real> parameter(const easel::drawing::RadialGeometry& circl
 }
 
 // What is at a place of the drawing; nothing where no circle passes.
-inline std::optional<Real> parameterAt(const easel::paint::Gradient& gradient, Real x, Real y) {
+inline std::optional<Real> parameterAt(const easel::drawing::Gradient& gradient, Real x, Real y) {
     const Place p = undone(gradient.toDrawing, x, y);
     return std::visit([&](const auto& geometry) { return parameter(geometry, p); }, gradient.geometry);
 }

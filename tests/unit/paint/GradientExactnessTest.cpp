@@ -33,8 +33,8 @@ class Dice {
 
 enum class Opacity { Opaque, Mixed };
 
-std::vector<paint::RampStop> randomStops(Dice& dice, int count, Opacity opacity) {
-    std::vector<paint::RampStop> stops;
+std::vector<drawing::RampStop> randomStops(Dice& dice, int count, Opacity opacity) {
+    std::vector<drawing::RampStop> stops;
     for (int i = 0; i < count; ++i)
         stops.push_back({dice.real(0, 1), dice.color(), opacity == Opacity::Opaque ? 1 : dice.real(0, 1)});
     // Some jumps.
@@ -45,8 +45,8 @@ std::vector<paint::RampStop> randomStops(Dice& dice, int count, Opacity opacity)
 }
 
 // A pixel so near to a jump that the last bit of the parameter decides about it may have either color.
-exact::Real errorAt(const paint::Gradient& gradient, int x, int y, std::uint32_t before, std::uint32_t after,
-                    double opacity) {
+exact::Real errorAt(const drawing::Gradient& gradient, int x, int y, std::uint32_t before,
+                    std::uint32_t after, double opacity) {
     const auto t = exact::parameterAt(gradient, x + exact::Real{0.5}, y + exact::Real{0.5});
     if (!t)
         return before == after ? 0 : 255;
@@ -59,7 +59,7 @@ exact::Real errorAt(const paint::Gradient& gradient, int x, int y, std::uint32_t
     return least;
 }
 
-exact::Real largestError(const paint::Gradient& gradient, int width, int height, std::uint32_t background,
+exact::Real largestError(const drawing::Gradient& gradient, int width, int height, std::uint32_t background,
                          double opacity = 1) {
     paint::Surface surface(width, height);
     surface.clear(background);
@@ -78,19 +78,19 @@ drawing::Affine randomMap(Dice& dice) {
                dice.real(0.3, 2), dice.real(-0.5, 0.5), dice.real(-0.5, 0.5), dice.real(0.3, 2), 0, 0};
 }
 
-paint::Gradient randomLinear(Dice& dice, int width, int height, int stops, Opacity opacity) {
+drawing::Gradient randomLinear(Dice& dice, int width, int height, int stops, Opacity opacity) {
     return {drawing::LinearGeometry{dice.point(width, height), dice.point(width, height)},
             dice.coin() ? randomMap(dice) : drawing::Affine{}, static_cast<Spread>(dice.whole(0, 2)),
-            paint::Ramp(randomStops(dice, stops, opacity))};
+            drawing::Ramp(randomStops(dice, stops, opacity))};
 }
 
-paint::Gradient randomRadial(Dice& dice, int width, int height, int stops, Opacity opacity) {
+drawing::Gradient randomRadial(Dice& dice, int width, int height, int stops, Opacity opacity) {
     drawing::RadialGeometry circles{dice.point(width, height), dice.real(0, 60), dice.point(width, height),
                                     dice.real(1, 200)};
     if (dice.whole(0, 2) == 0)
         circles.focus = circles.centre;
     return {circles, dice.coin() ? randomMap(dice) : drawing::Affine{}, static_cast<Spread>(dice.whole(0, 2)),
-            paint::Ramp(randomStops(dice, stops, opacity))};
+            drawing::Ramp(randomStops(dice, stops, opacity))};
 }
 
 TEST(GradientExactness, LinearPixelsRoundTheExactColor) {
@@ -109,10 +109,10 @@ TEST(GradientExactness, LinesAlongTheAxesAreExactLikeAnyOther) {
                                      {{60, 0}, {5, 0}}})
         for (const Opacity opacity : {Opacity::Opaque, Opacity::Mixed})
             for (const Spread spread : {Spread::Pad, Spread::Reflect, Spread::Repeat}) {
-                const paint::Gradient gradient{drawing::LinearGeometry{start, end},
-                                               {},
-                                               spread,
-                                               paint::Ramp(randomStops(dice, 6, opacity))};
+                const drawing::Gradient gradient{drawing::LinearGeometry{start, end},
+                                                 {},
+                                                 spread,
+                                                 drawing::Ramp(randomStops(dice, 6, opacity))};
                 EXPECT_LE(largestError(gradient, 70, 50, 0xFF336699), kLargestError)
                     << "from " << start.x << ", " << start.y;
             }
@@ -135,9 +135,9 @@ TEST(GradientExactness, RoundNumbersAreExactLikeAnyOther) {
         if (i % 3 == 1)
             circles = {circles.centre + drawing::Point{radius, 0}, 0, circles.centre, radius};
         const auto spread = static_cast<Spread>(dice.whole(0, 2));
-        const paint::Gradient linear{
-            drawing::LinearGeometry{point(), point()}, {}, spread, paint::Ramp(stops)};
-        const paint::Gradient radial{circles, {}, spread, paint::Ramp(stops)};
+        const drawing::Gradient linear{
+            drawing::LinearGeometry{point(), point()}, {}, spread, drawing::Ramp(stops)};
+        const drawing::Gradient radial{circles, {}, spread, drawing::Ramp(stops)};
         EXPECT_LE(largestError(linear, 70, 30, 0xFF336699), kLargestError) << "linear " << i;
         EXPECT_LE(largestError(radial, 70, 30, 0xFF336699), kLargestError) << "radial " << i;
     }
@@ -178,8 +178,8 @@ TEST(GradientExactness, RingsFarFromTheCentreStayExact) {
     Dice dice(5);
     for (const int stops : {2, 16, 200, 1000}) {
         const drawing::RadialGeometry circles{{1500, -900}, 100, {1920, -1080}, 4400};
-        const paint::Gradient gradient{
-            circles, {}, Spread::Pad, paint::Ramp(randomStops(dice, stops, Opacity::Opaque))};
+        const drawing::Gradient gradient{
+            circles, {}, Spread::Pad, drawing::Ramp(randomStops(dice, stops, Opacity::Opaque))};
         EXPECT_LE(largestError(gradient, 3840, 4, 0), kLargestError) << stops << " stops";
     }
 }

@@ -12,8 +12,8 @@ constexpr drawing::Rgb16 kWhite{65535, 65535, 65535};
 constexpr std::uint32_t kBlackPixel = 0xFF000000;
 constexpr std::uint32_t kWhitePixel = 0xFFFFFFFF;
 
-paint::Ramp jumpAt(double position) {
-    return paint::Ramp({{0, kBlack}, {position, kBlack}, {position, kWhite}, {1, kWhite}});
+drawing::Ramp jumpAt(double position) {
+    return drawing::Ramp({{0, kBlack}, {position, kBlack}, {position, kWhite}, {1, kWhite}});
 }
 
 // The first white pixel of a row; the pixels before it must be black and those after it white.
@@ -27,7 +27,7 @@ int jumpIn(const std::uint32_t* row, int width) {
 }
 
 int linearJump(double position, drawing::Point start, drawing::Point end, int width) {
-    const paint::Gradient gradient{
+    const drawing::Gradient gradient{
         drawing::LinearGeometry{start, end}, {}, drawing::Spread::Pad, jumpAt(position)};
     paint::Surface surface(width, 1);
     paint::Painter().fillAll(surface.view(), {}, &gradient);
@@ -60,7 +60,7 @@ TEST(HardStop, APixelCentreExactlyOnTheStopHasTheLaterColor) {
 
 TEST(HardStop, RunsBackwardsToo) {
     // Parameter 1 - (x + 0.5) / 10: pixel 4 has 0.55, pixel 5 has 0.45; the later color lies to the left.
-    const paint::Gradient gradient{
+    const drawing::Gradient gradient{
         drawing::LinearGeometry{{10, 0}, {0, 0}}, {}, drawing::Spread::Pad, jumpAt(0.5)};
     paint::Surface surface(10, 1);
     paint::Painter().fillAll(surface.view(), {}, &gradient);
@@ -70,7 +70,7 @@ TEST(HardStop, RunsBackwardsToo) {
 
 TEST(HardStop, FollowsTheSlopeOfAnObliqueGradient) {
     // Along (1, 1): parameter (x + y + 1) / 20 is at least 0.5 from x + y = 9 on.
-    const paint::Gradient gradient{
+    const drawing::Gradient gradient{
         drawing::LinearGeometry{{0, 0}, {10, 10}}, {}, drawing::Spread::Pad, jumpAt(0.5)};
     paint::Surface surface(12, 10);
     paint::Painter().fillAll(surface.view(), {}, &gradient);
@@ -82,7 +82,7 @@ TEST(HardStop, RingsOfARadialGradientFallOnTheirPixels) {
     // Centre on a pixel centre, radius 1000, jump at half: |x - 1500| >= 500 is white on the centre's row;
     // one row further the half-chord is sqrt(500^2 - 1), just below 500.
     const drawing::RadialGeometry circles{{1500.5, 1.5}, 0, {1500.5, 1.5}, 1000};
-    const paint::Gradient gradient{circles, {}, drawing::Spread::Pad, jumpAt(0.5)};
+    const drawing::Gradient gradient{circles, {}, drawing::Spread::Pad, jumpAt(0.5)};
     paint::Surface surface(3840, 3);
     paint::Painter().fillAll(surface.view(), {}, &gradient);
     for (int y = 0; y < 3; ++y) {
@@ -99,11 +99,11 @@ TEST(HardStop, RingsOfARadialGradientFallOnTheirPixels) {
 
 TEST(HardStop, OfStopsAtOnePositionOnlyTheFirstAndLastShow) {
     const drawing::Rgb16 red{65535, 0, 0};
-    const paint::Gradient gradient{
+    const drawing::Gradient gradient{
         drawing::LinearGeometry{{0, 0}, {10, 0}},
         {},
         drawing::Spread::Pad,
-        paint::Ramp({{0, kBlack}, {0.5, kBlack}, {0.5, red}, {0.5, kWhite}, {1, kWhite}})};
+        drawing::Ramp({{0, kBlack}, {0.5, kBlack}, {0.5, red}, {0.5, kWhite}, {1, kWhite}})};
     paint::Surface surface(10, 1);
     paint::Painter().fillAll(surface.view(), {}, &gradient);
     EXPECT_EQ(jumpIn(surface.row(0), 10), 5);

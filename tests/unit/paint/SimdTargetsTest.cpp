@@ -19,15 +19,15 @@ void paintPicture(const paint::SurfaceView& view) {
     const auto channel = [&] { return static_cast<std::uint16_t>(engine() & 0xFFFF); };
     paint::Painter painter;
     for (int i = 0; i < 120; ++i) {
-        std::vector<paint::RampStop> stops;
+        std::vector<drawing::RampStop> stops;
         for (int stop = 0; stop <= i % 17; ++stop)
             stops.push_back({real(0, 1), {channel(), channel(), channel()}, i % 3 == 0 ? real(0, 1) : 1});
         const drawing::Point a{real(0, 300), real(0, 200)};
         const drawing::Point b{real(0, 300), real(0, 200)};
-        paint::Gradient gradient{drawing::LinearGeometry{a, b},
-                                 {},
-                                 static_cast<drawing::Spread>(i % 3),
-                                 paint::Ramp(std::move(stops))};
+        drawing::Gradient gradient{drawing::LinearGeometry{a, b},
+                                   {},
+                                   static_cast<drawing::Spread>(i % 3),
+                                   drawing::Ramp(std::move(stops))};
         if (i % 2 == 1)
             gradient.geometry = drawing::RadialGeometry{a, real(0, 5), b, real(10, 300)};
         painter.fill(view, drawing::ellipsePath(b, real(2, 150), real(2, 150)), drawing::FillRule::NonZero,

@@ -2,7 +2,7 @@
 #include "tests/unit/svg/ReadHelp.h"
 
 #include "easel/drawing/GradientFit.h"
-#include "easel/svg/read/GradientRecord.h"
+#include "easel/drawing/GradientRecord.h"
 #include "easel/svg/text/RecordText.h"
 
 #include <cmath>
@@ -23,13 +23,13 @@ Drawing gradientRect(const std::string& gradient,
     return readOk(svgFile("<defs>" + gradient + "</defs><rect " + rect + " fill='url(#g)'/>"));
 }
 
-const ForeignGradient* foreignOf(const Drawing& drawing) {
-    const auto* const fill = std::get_if<std::shared_ptr<const ForeignGradient>>(&drawing.object(0)->fill);
+const Gradient* foreignOf(const Drawing& drawing) {
+    const auto* const fill = std::get_if<GradientPtr>(&drawing.object(0)->fill);
     return fill ? fill->get() : nullptr;
 }
 
 // The parameter of a standard gradient at a point, from the definition in its own space.
-double parameterAt(const ForeignGradient& gradient, Point p) {
+double parameterAt(const Gradient& gradient, Point p) {
     const Point q = gradient.toDrawing.inverse()(p);
     if (const auto* const line = std::get_if<LinearGeometry>(&gradient.geometry)) {
         const Point along = line->end - line->start;
@@ -49,12 +49,12 @@ double parameterAt(const ForeignGradient& gradient, Point p) {
     return std::max((B + root) / A, (B - root) / A);
 }
 
-double redAt(const std::vector<ForeignStop>& stops, double t) {
-    if (t <= stops.front().offset)
+double redAt(const std::vector<RampStop>& stops, double t) {
+    if (t <= stops.front().position)
         return stops.front().color.red;
     for (std::size_t i = 1; i < stops.size(); ++i)
-        if (t < stops[i].offset) {
-            const double u = (t - stops[i - 1].offset) / (stops[i].offset - stops[i - 1].offset);
+        if (t < stops[i].position) {
+            const double u = (t - stops[i - 1].position) / (stops[i].position - stops[i - 1].position);
             return stops[i - 1].color.red +
                    u * (static_cast<double>(stops[i].color.red) - stops[i - 1].color.red);
         }
@@ -62,8 +62,8 @@ double redAt(const std::vector<ForeignStop>& stops, double t) {
 }
 
 // The record, fitted and completed, has the gradient's colors all over the outline.
-void expectSameColors(const ForeignGradient& gradient, const CGradientData& record, const Path& outline) {
-    const auto standard = easel::svg::standardGradient(record, outline);
+void expectSameColors(const Gradient& gradient, const CGradientData& record, const Path& outline) {
+    const auto standard = standardGradient(record, outline);
     ASSERT_TRUE(standard);
     const Box box = outline.bounds();
     for (int i = 0; i <= 20; ++i)
@@ -72,8 +72,8 @@ void expectSameColors(const ForeignGradient& gradient, const CGradientData& reco
                           box.top + box.height() * (k + 0.01) / 20.02};
             if (!contains(outline, FillRule::NonZero, p))
                 continue;
-            ASSERT_NEAR(redAt(gradient.stops, parameterAt(gradient, p)),
-                        redAt(standard->stops, parameterAt(*standard, p)), 4)
+            ASSERT_NEAR(redAt(gradient.ramp.stops(), parameterAt(gradient, p)),
+                        redAt(standard->ramp.stops(), parameterAt(*standard, p)), 4)
                 << p.x << ' ' << p.y;
         }
 }
@@ -124,16 +124,16 @@ TEST(SvgGradient, AnyOpaqueLinearGradientLooksTheSameAsARecord) {
     std::uniform_real_distribution<double> number(-100, 100);
     std::uniform_real_distribution<double> shear(-2, 2);
     for (int round = 0; round < 200; ++round) {
-        ForeignGradient gradient;
+        Gradient gradient;
         gradient.geometry =
             LinearGeometry{{number(random), number(random)}, {number(random), number(random)}};
         gradient.toDrawing = {shear(random), shear(random),  shear(random),
                               shear(random), number(random), number(random)};
         if (std::abs(gradient.toDrawing.determinant()) < 0.05)
             continue;
-        gradient.stops = {{0.1, {65535, 0, 0}, 1}, {0.4, {0, 0, 0}, 1}, {0.9, {40000, 0, 0}, 1}};
+        gradient.ramp = Ramp({{0.1, {65535, 0, 0}, 1}, {0.4, {0, 0, 0}, 1}, {0.9, {40000, 0, 0}, 1}});
         const Path outline = polygonPath({{0, 0}, {90, number(random)}, {number(random), 80}});
-        const auto record = easel::svg::recordFor(gradient, outline);
+        const auto record = recordFor(gradient, outline);
         ASSERT_TRUE(record);
         expectSameColors(gradient, *record, outline);
     }
@@ -151,13 +151,13 @@ TEST(SvgGradient, CircularGradientsWithFocusAndInnerRadiusLookTheSameAsRecords) 
         circles.focus = circles.centre;
         if (round % 3 != 0)
             circles.focus = circles.centre + Point{share(random), share(random)} * circles.radius;
-        ForeignGradient gradient;
+        Gradient gradient;
         gradient.geometry = circles;
         gradient.toDrawing =
             Affine::translation(5, 6) * Affine::rotation(number(random)) * Affine::scaling(1.5, -1.5);
-        gradient.stops = {{0, {65535, 0, 0}, 1}, {0.4, {0, 0, 0}, 1}, {1, {40000, 0, 0}, 1}};
+        gradient.ramp = Ramp({{0, {65535, 0, 0}, 1}, {0.4, {0, 0, 0}, 1}, {1, {40000, 0, 0}, 1}});
         const Path outline = rectanglePath({0, 0, 40 + number(random), 90});
-        const auto record = easel::svg::recordFor(gradient, outline);
+        const auto record = recordFor(gradient, outline);
         ASSERT_TRUE(record);
         expectSameColors(gradient, *record, outline);
     }
@@ -181,12 +181,12 @@ TEST(SvgGradient, AttributesAndStopsAreTakenOverAlongReferences) {
         "<linearGradient id='b' href='#c' gradientUnits='userSpaceOnUse' x1='3' spreadMethod='reflect'/>"
         "<radialGradient id='c' cy='30' fx='41'><stop stop-opacity='.5'/><stop offset='.8'/><stop "
         "offset='.2'/></radialGradient>");
-    const ForeignGradient* const gradient = foreignOf(drawing);
+    const Gradient* const gradient = foreignOf(drawing);
     ASSERT_TRUE(gradient);
     EXPECT_EQ(std::get<RadialGeometry>(gradient->geometry), (RadialGeometry{{41, 30}, 2, {40, 30}, 20}));
     EXPECT_EQ(gradient->spread, Spread::Reflect);
-    ASSERT_EQ(gradient->stops.size(), 3U);
-    EXPECT_EQ(gradient->stops[2].offset, 0.8) << "an offset never goes back";
+    ASSERT_EQ(gradient->ramp.stops().size(), 3U);
+    EXPECT_EQ(gradient->ramp.stops()[2].position, 0.8) << "an offset never goes back";
 }
 
 TEST(SvgGradient, ShapesGetTheFirstElementWithTheirIdInWhateverOrderTheyAskForThem) {

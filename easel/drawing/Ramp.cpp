@@ -1,20 +1,15 @@
 // Ordering of stops and exact interpolation between them.
-#include "easel/paint/gradient/Ramp.h"
+#include "easel/drawing/Ramp.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace easel::paint {
+namespace easel::drawing {
 
 namespace {
 
 double between(double lower, double upper, double part) {
     return lower + (upper - lower) * part;
-}
-
-// NaN counts as no opacity given.
-double sanitised(double opacity) {
-    return std::isnan(opacity) ? 1 : std::clamp(opacity, 0.0, 1.0);
 }
 
 // How far `position` is from lower to upper. A stop at infinity is never reached, so its neighbor's color
@@ -27,6 +22,17 @@ double partBetween(double lower, double upper, double position) {
     return (position - lower) / (upper - lower);
 }
 
+RampStop stopBetween(const RampStop& lower, const RampStop& upper, double position) {
+    const double part = partBetween(lower.position, upper.position, position);
+    const auto channel = [part](std::uint16_t a, std::uint16_t b) {
+        return static_cast<std::uint16_t>(std::lround(between(a, b, part)));
+    };
+    return {position,
+            {channel(lower.color.red, upper.color.red), channel(lower.color.green, upper.color.green),
+             channel(lower.color.blue, upper.color.blue)},
+            between(lower.opacity, upper.opacity, part)};
+}
+
 } // namespace
 
 Ramp::Ramp(std::vector<RampStop> stops) : stops_(std::move(stops)) {
@@ -37,7 +43,7 @@ Ramp::Ramp(std::vector<RampStop> stops) : stops_(std::move(stops)) {
     std::stable_sort(stops_.begin(), stops_.end(),
                      [](const RampStop& a, const RampStop& b) { return a.position < b.position; });
     for (RampStop& stop : stops_) {
-        stop.opacity = sanitised(stop.opacity);
+        stop.opacity = validOpacity(stop.opacity);
         opaque_ = opaque_ && stop.opacity == 1;
     }
 }
@@ -57,9 +63,32 @@ RampColor Ramp::at(double position) const {
             between(low.blue, high.blue, part), between(low.opacity, high.opacity, part)};
 }
 
+Ramp Ramp::within(double low, double high) const {
+    std::vector<RampStop> inside;
+    for (std::size_t i = 0; i < stops_.size(); ++i) {
+        const RampStop& stop = stops_[i];
+        if (i > 0) {
+            const RampStop& before = stops_[i - 1];
+            for (const double end : {low, high})
+                if (before.position < end && stop.position > end)
+                    inside.push_back(stopBetween(before, stop, end));
+        }
+        if (stop.position >= low && stop.position <= high)
+            inside.push_back(stop);
+    }
+    if (inside.empty()) {
+        RampStop only = stops_.back().position < low ? stops_.back() : stops_.front();
+        for (const double end : {low, high}) {
+            only.position = end;
+            inside.push_back(only);
+        }
+    }
+    return Ramp(std::move(inside));
+}
+
 RampColor colorOf(const RampStop& stop) {
     return {stop.color.red / kUnitsPerLevel, stop.color.green / kUnitsPerLevel,
             stop.color.blue / kUnitsPerLevel, stop.opacity};
 }
 
-} // namespace easel::paint
+} // namespace easel::drawing

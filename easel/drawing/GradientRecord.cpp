@@ -1,25 +1,12 @@
-#include "easel/svg/read/GradientRecord.h"
+#include "easel/drawing/GradientRecord.h"
 
-#include "easel/svg/read/Ramp.h"
+#include "easel/drawing/GradientFit.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-namespace easel::svg {
-
-using drawing::Affine;
-using drawing::Box;
-using drawing::FittedGradient;
-using drawing::FittedKind;
-using drawing::FittedStop;
-using drawing::ForeignGradient;
-using drawing::ForeignStop;
-using drawing::LinearGeometry;
-using drawing::Path;
-using drawing::Point;
-using drawing::RadialGeometry;
-using drawing::Spread;
+namespace easel::drawing {
 
 namespace {
 
@@ -40,7 +27,7 @@ struct Circles {
     double radius = 0;
 };
 
-Circles circlesOf(const ForeignGradient& gradient) {
+Circles circlesOf(const Gradient& gradient) {
     const Affine& map = gradient.toDrawing;
     if (const auto* const line = std::get_if<LinearGeometry>(&gradient.geometry))
         return {map(line->start), map(line->end), 0, 0};
@@ -56,25 +43,22 @@ double snapped(double position) {
     return position;
 }
 
-// Stops at the places that `place` gives their offsets, trimmed to 0 to 1.
-template <class Place>
-void setStops(CGradientData& record, const std::vector<ForeignStop>& stops, Place place) {
-    std::vector<FittedStop> ramp;
-    ramp.reserve(stops.size());
-    for (const ForeignStop& stop : stops)
-        ramp.push_back({snapped(place(stop.offset)), stop.color});
+// Stops at the places that `place` gives their positions, trimmed to 0 to 1.
+template <class Place> void setStops(CGradientData& record, const Ramp& ramp, Place place) {
+    std::vector<RampStop> stops = ramp.stops();
+    for (RampStop& stop : stops)
+        stop.position = snapped(place(stop.position));
     // Beyond its ends the ramp is flat, as the record's is.
-    if (ramp.front().position > 1)
-        ramp.front().position = 1;
-    if (ramp.back().position < 0)
-        ramp.back().position = 0;
+    stops.front().position = std::min(stops.front().position, 1.0);
+    stops.back().position = std::max(stops.back().position, 0.0);
+    const Ramp trimmed = Ramp(std::move(stops)).within(0, 1);
     record.ColorList().clear();
-    for (const FittedStop& stop : trimmedRamp(ramp))
+    for (const RampStop& stop : trimmed.stops())
         record.ColorList().emplace_back(RGBColor{stop.color.red, stop.color.green, stop.color.blue},
                                         stop.position);
 }
 
-std::optional<CGradientData> linearRecord(const ForeignGradient& gradient, const LinearGeometry& line,
+std::optional<CGradientData> linearRecord(const Gradient& gradient, const LinearGeometry& line,
                                           const Path& outline) {
     // The parameter of the gradient is an affine function of the drawing's points: t = dot(slope, p -
     // origin).
@@ -91,7 +75,7 @@ std::optional<CGradientData> linearRecord(const ForeignGradient& gradient, const
     record.SetType(kLinearGradient);
     // Adding 0 turns a negative zero into the ordinary one.
     record.SetAngle(static_cast<float>(-std::atan2(slope.y, slope.x) * 180 / std::numbers::pi) + 0.0F);
-    const LinearGeometry fit = drawing::fitLine(outline, static_cast<double>(record.Angle()));
+    const LinearGeometry fit = fitLine(outline, static_cast<double>(record.Angle()));
     const double atStart = dot(slope, fit.start - origin);
     const double atEnd = dot(slope, fit.end - origin);
     if (!std::isfinite(atStart) || !(atEnd > atStart))
@@ -99,7 +83,7 @@ std::optional<CGradientData> linearRecord(const ForeignGradient& gradient, const
     const bool spreads = atStart < -kPositionRounding || atEnd > 1 + kPositionRounding;
     if (spreads && gradient.spread != Spread::Pad)
         return std::nullopt;
-    setStops(record, gradient.stops, [&](double offset) { return (offset - atStart) / (atEnd - atStart); });
+    setStops(record, gradient.ramp, [&](double offset) { return (offset - atStart) / (atEnd - atStart); });
     return record;
 }
 
@@ -109,7 +93,7 @@ bool keepsCircles(const Affine& map) {
     return (same(map.a, map.d) && same(map.b, -map.c)) || (same(map.a, -map.d) && same(map.b, map.c));
 }
 
-std::optional<CGradientData> radialRecord(const ForeignGradient& gradient, const RadialGeometry& circles,
+std::optional<CGradientData> radialRecord(const Gradient& gradient, const RadialGeometry& circles,
                                           const Path& outline) {
     if (!keepsCircles(gradient.toDrawing) || gradient.spread != Spread::Pad || circles.focusRadius < 0 ||
         !(circles.focusRadius < circles.radius))
@@ -147,41 +131,39 @@ std::optional<CGradientData> radialRecord(const ForeignGradient& gradient, const
     record.SetType(kRadialGradient);
     record.SetStart(fraction(apex));
     record.SetEnd(fraction(apex + shift * reach));
-    setStops(record, gradient.stops, [&](double offset) { return (offset - apexAt) / (1 - apexAt) / reach; });
+    setStops(record, gradient.ramp, [&](double offset) { return (offset - apexAt) / (1 - apexAt) / reach; });
     return record;
 }
 
 } // namespace
 
-std::optional<CGradientData> recordFor(const ForeignGradient& gradient, const Path& outline) {
-    const auto opaque = [](const ForeignStop& stop) { return stop.opacity == 1; };
-    if (!std::all_of(gradient.stops.begin(), gradient.stops.end(), opaque))
+std::optional<CGradientData> recordFor(const Gradient& gradient, const Path& outline) {
+    if (!gradient.ramp.opaque())
         return std::nullopt;
     if (const auto* const line = std::get_if<LinearGeometry>(&gradient.geometry))
         return linearRecord(gradient, *line, outline);
     return radialRecord(gradient, std::get<RadialGeometry>(gradient.geometry), outline);
 }
 
-std::optional<ForeignGradient> standardGradient(const CGradientData& record, const Path& outline) {
-    const FittedGradient fit = drawing::fitGradient(record, outline);
-    if (fit.stops.empty() || !isFinite(fit.start) || !isFinite(fit.end) || !std::isfinite(fit.endRadius))
+std::optional<Gradient> standardGradient(const CGradientData& record, const Path& outline) {
+    if (record.ColorList().empty())
         return std::nullopt;
-    ForeignGradient result;
-    if (fit.kind == FittedKind::Linear)
-        result.geometry = LinearGeometry{fit.start, fit.end};
-    else
-        result.geometry = RadialGeometry{fit.start, fit.startRadius, fit.end, fit.endRadius};
-    for (const FittedStop& stop : trimmedRamp(fit.stops))
-        result.stops.push_back({stop.position, stop.color, 1});
-    return result;
+    Gradient gradient = fitGradient(record, outline);
+    const Circles fit = circlesOf(gradient);
+    if (!isFinite(fit.start) || !isFinite(fit.end) || !std::isfinite(fit.radius))
+        return std::nullopt;
+    gradient.ramp = gradient.ramp.within(0, 1);
+    return gradient;
 }
 
-bool alike(const ForeignGradient& a, const ForeignGradient& b) {
-    const auto sameStop = [](const ForeignStop& x, const ForeignStop& y) {
+bool alike(const Gradient& a, const Gradient& b) {
+    const std::vector<RampStop>& aStops = a.ramp.stops();
+    const std::vector<RampStop>& bStops = b.ramp.stops();
+    const auto sameStop = [](const RampStop& x, const RampStop& y) {
         return x.color == y.color && x.opacity == y.opacity &&
-               std::abs(x.offset - y.offset) <= kPositionRounding;
+               std::abs(x.position - y.position) <= kPositionRounding;
     };
-    if (!std::equal(a.stops.begin(), a.stops.end(), b.stops.begin(), b.stops.end(), sameStop) ||
+    if (!std::equal(aStops.begin(), aStops.end(), bStops.begin(), bStops.end(), sameStop) ||
         a.spread != b.spread)
         return false;
     const Circles first = circlesOf(a);
@@ -193,4 +175,4 @@ bool alike(const ForeignGradient& a, const ForeignGradient& b) {
     return a.geometry.index() == b.geometry.index() && off <= kGeometryRounding * size;
 }
 
-} // namespace easel::svg
+} // namespace easel::drawing

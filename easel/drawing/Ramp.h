@@ -1,16 +1,18 @@
 // The colors of a gradient along its parameter, as stops.
 #pragma once
 
-#include "easel/drawing/Paint.h"
+#include "easel/drawing/Color.h"
 
 #include <vector>
 
-namespace easel::paint {
+namespace easel::drawing {
 
 struct RampStop {
     double position = 0;
-    drawing::Rgb16 color;
+    Rgb16 color;
     double opacity = 1; // 0 to 1
+
+    friend bool operator==(const RampStop&, const RampStop&) = default;
 };
 
 // A color before it is rounded: channels from 0 to 255, not premultiplied; opacity from 0 to 1.
@@ -32,13 +34,20 @@ class Ramp {
     // Any stops do: they are put in order (those of equal position keep theirs), positions may lie outside 0
     // to 1, and a stop whose position is not a number is left out. If none remains, the ramp is the color of
     // the first stop given, or transparent black without any.
-    explicit Ramp(std::vector<RampStop> stops);
+    explicit Ramp(std::vector<RampStop> stops = {});
 
     // At least one.
     const std::vector<RampStop>& stops() const { return stops_; }
     bool opaque() const { return opaque_; }
     // The exact color at a position on the ramp's own scale.
     RampColor at(double position) const;
+
+    // The ramp between two positions, `low` below `high`: stops beyond are replaced by the colors that the
+    // ramp has at `low` and at `high`, to the nearest 16 bits. A ramp that is over before `low`, or begins
+    // after `high`, has two equal stops there.
+    Ramp within(double low, double high) const;
+
+    friend bool operator==(const Ramp&, const Ramp&) = default;
 
   private:
     std::vector<RampStop> stops_;
@@ -47,4 +56,4 @@ class Ramp {
 
 RampColor colorOf(const RampStop& stop);
 
-} // namespace easel::paint
+} // namespace easel::drawing
