@@ -1,6 +1,7 @@
 // Objects of a drawing as the host interface hands them out.
 #include "host/Objects.h"
 
+#include "easel/drawing/ShapeGradient.h"
 #include "easel/runtime/HostObject.h"
 #include "easel/runtime/HostPoint.h"
 #include "easel/runtime/Journal.h"
@@ -92,7 +93,7 @@ TRect<double> TessObject::BBox() const {
 SharedResourcePtr<CGradient> TessObject::GetGradient() const {
     journal("TessObject::GetGradient");
     const drawing::Object* object = objectOf(this);
-    return object ? object->gradient : SharedResourcePtr<CGradient>();
+    return object ? drawing::shapeGradientOf(*object).record : SharedResourcePtr<CGradient>();
 }
 
 void TessObject::SetGradient(SharedResourcePtr<CGradient> const& gradient) {

@@ -65,7 +65,12 @@ std::optional<std::size_t> Drawing::pick(Point point, double reach, KindSet kind
 void Drawing::insert(std::size_t index, ObjectPtr object) {
     const Slot slot = list_.newSlot();
     putIn(index, slot, object);
+    const Edit* const last = history_.lastEdit();
+    const bool putsBack = last && last->what == Edit::What::Erase && last->index == index &&
+                          saysTheSame(*last->object, *object);
     history_.record({Edit::What::Insert, slot, index, std::move(object)});
+    if (putsBack)
+        history_.lastStepChangedNothing();
 }
 
 void Drawing::erase(std::size_t index) {

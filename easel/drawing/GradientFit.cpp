@@ -1,14 +1,16 @@
 #include "easel/drawing/GradientFit.h"
 
+#include "easel/drawing/FadedRamp.h"
+
 #include <algorithm>
 
 namespace easel::drawing {
 
 namespace {
 
-Affine turnAbout(Point centre, double degrees) {
-    return Affine::translation(centre.x, centre.y) * Affine::rotation(degrees) *
-           Affine::translation(-centre.x, -centre.y);
+// The linear map with `centre` as the point that stays.
+Affine about(Point centre, const Affine& map) {
+    return Affine::translation(centre.x, centre.y) * map * Affine::translation(-centre.x, -centre.y);
 }
 
 Point fractionOf(const Box& box, TPoint<double> fraction) {
@@ -27,8 +29,8 @@ double farthestCorner(const Box& box, Point from) {
 
 LinearGeometry fitLine(const Path& outline, double degrees) {
     const Point centre = outline.bounds().centre();
-    const Box turned = outline.transformed(turnAbout(centre, degrees)).bounds();
-    const Affine back = turnAbout(centre, -degrees);
+    const Box turned = outline.transformed(about(centre, Affine::rotation(degrees))).bounds();
+    const Affine back = about(centre, Affine::rotation(-degrees));
     const double middle = turned.centre().y;
     return {back({turned.left, middle}), back({turned.right, middle})};
 }
@@ -52,17 +54,30 @@ std::vector<RampStop> completeStops(const CGradientData& record) {
     return stops;
 }
 
-GradientGeometry fitGeometry(const CGradientData& record, const Path& outline) {
+GradientGeometry fitGeometry(const CGradientData& record, const Path& outline,
+                             const std::optional<Affine>& ellipse) {
     if (record.Type() == kLinearGradient)
         return fitLine(outline, static_cast<double>(record.Angle()));
     const Box bounds = outline.bounds();
+    const Point start = fractionOf(bounds, record.Start());
     const Point end = fractionOf(bounds, record.End());
-    const auto radius = static_cast<float>(farthestCorner(bounds, end));
-    return RadialGeometry{fractionOf(bounds, record.Start()), 0, end, static_cast<double>(radius)};
+    const auto reach = [end](const Box& box) {
+        return static_cast<double>(static_cast<float>(farthestCorner(box, end)));
+    };
+    if (!ellipse)
+        return RadialGeometry{start, 0, end, reach(bounds)};
+    const Affine toCircles = about(end, *ellipse).inverse();
+    return RadialGeometry{toCircles(start), 0, end, reach(outline.transformed(toCircles).bounds())};
 }
 
-Gradient fitGradient(const CGradientData& record, const Path& outline) {
-    return {fitGeometry(record, outline), {}, Spread::Pad, Ramp(completeStops(record))};
+Gradient fitGradient(const CGradientData& record, const Remainder* remainder, const Path& outline) {
+    const std::optional<Affine> ellipse = remainder ? remainder->ellipse : std::nullopt;
+    Gradient gradient{fitGeometry(record, outline, ellipse), {}, Spread::Pad, Ramp(completeStops(record))};
+    if (const auto* const circles = std::get_if<RadialGeometry>(&gradient.geometry); circles && ellipse)
+        gradient.toDrawing = about(circles->centre, *ellipse);
+    if (remainder && !remainder->opacity.empty())
+        gradient.ramp = faded(gradient.ramp, remainder->opacity);
+    return gradient;
 }
 
 } // namespace easel::drawing

@@ -29,6 +29,18 @@ void History::record(Edit edit) {
     done_.back().revisionAfter = revision_;
 }
 
+const Edit* History::lastEdit() const {
+    return open_ && !done_.back().edits.empty() ? &done_.back().edits.back() : nullptr;
+}
+
+void History::lastStepChangedNothing() {
+    // Only a pair stands for nothing; a step that did more before has changed something.
+    if (!open_ || done_.back().edits.size() != 2)
+        return;
+    revision_ = done_.back().revisionBefore;
+    done_.back().revisionAfter = revision_;
+}
+
 const Step* History::takeUndo(std::vector<Slot> selection) {
     close();
     if (done_.empty())

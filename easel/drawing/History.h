@@ -39,6 +39,11 @@ class History {
     // Takes note of a change. Without an open step it cannot be undone.
     void record(Edit edit);
 
+    // The last change of the open step; null if it has none.
+    const Edit* lastEdit() const;
+    // The open step's changes leave the drawing as it was before: it is as saved as it was then.
+    void lastStepChangedNothing();
+
     std::size_t undoLevels() const { return done_.size(); }
     std::size_t redoLevels() const { return undone_.size(); }
     // The kind last given to `prepare`.

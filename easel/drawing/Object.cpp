@@ -1,5 +1,7 @@
 #include "easel/drawing/Object.h"
 
+#include "easel/drawing/ShapeGradient.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -9,6 +11,14 @@ namespace easel::drawing {
 namespace {
 constexpr std::array<std::string_view, 6> kKindNames = {"rect", "ellipse",  "polygon",
                                                         "path", "polyline", "line"};
+
+// Modules have tables of their own, so that equal gradients of two modules are two objects.
+bool same(const ObjectGradient& a, const ObjectGradient& b) {
+    const CGradient* const one = gradientIn(a);
+    const CGradient* const other = gradientIn(b);
+    return one == other || (one && other && one->HashID() == other->HashID());
+}
+
 } // namespace
 
 std::string_view kindName(Kind kind) {
@@ -34,12 +44,23 @@ KindSet KindSet::all() {
 }
 
 void Object::setFillPattern(FillPattern pattern) {
+    if (pattern == fillPattern)
+        return;
     fillPattern = pattern;
     fillOrigin = FillOrigin::Edited;
 }
 
 void Object::setGradient(const ObjectGradient& newGradient) {
+    const ShapeGradient now = shapeGradientOf(*this);
+    if (!same(now.record, newGradient))
+        setWholeGradient(newGradient, gradientIn(newGradient) ? now.remainder : nullptr);
+    else if (gradientIn(gradient))
+        gradient = newGradient;
+}
+
+void Object::setWholeGradient(const ObjectGradient& newGradient, RemainderPtr newRemainder) {
     gradient = newGradient;
+    remainder = std::move(newRemainder);
     fillOrigin = FillOrigin::Edited;
 }
 
@@ -62,6 +83,15 @@ Box Object::paintBounds() const {
 ObjectPtr sealed(Object object) {
     object.bounds = object.outline.bounds();
     return std::make_shared<const Object>(std::move(object));
+}
+
+bool saysTheSame(const Object& a, const Object& b) {
+    const bool sameRemainder =
+        a.remainder == b.remainder || (a.remainder && b.remainder && *a.remainder == *b.remainder);
+    return a.kind == b.kind && a.fillRule == b.fillRule && a.fillPattern == b.fillPattern &&
+           a.fillOrigin == b.fillOrigin && a.source == b.source && a.id.text() == b.id.text() &&
+           a.units == b.units && a.style == b.style && a.fill == b.fill && same(a.gradient, b.gradient) &&
+           sameRemainder && a.group == b.group && a.outline == b.outline;
 }
 
 const Style& plainStyle() {

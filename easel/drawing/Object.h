@@ -7,6 +7,7 @@
 #include "easel/drawing/ObjectGradient.h"
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
+#include "easel/drawing/Remainder.h"
 #include "easel/drawing/Style.h"
 
 #include <compare>
@@ -75,16 +76,22 @@ struct Object {
     std::shared_ptr<const Affine>
         units;                          // from the object's own units to the drawing; null: they are the same
     std::shared_ptr<const Style> style; // null: not stroked, opaque
-    Paint fill;                         // what fills the object when it has no gradient
-    ObjectGradient gradient;            // empty: none
+    Paint fill;                         // what fills the object when it has no record
+    ObjectGradient gradient;            // the tool's record; empty: none
+    RemainderPtr remainder;             // what the record cannot hold
     GroupPtr group;                     // innermost layer; null: the drawing itself
 
     // Tight box of the outline, without stroke. Kept by `sealed`.
     Box bounds;
 
-    // Gives the object another fill: this pattern and gradient, from now on stated by the user, not the file.
+    // These give the object another fill, from now on stated by the user, not the file; what it has already
+    // changes nothing.
     void setFillPattern(FillPattern pattern);
+    // Changes the record of the gradient that the object has, or gives it one. What the record cannot hold
+    // stays.
     void setGradient(const ObjectGradient& newGradient);
+    // The whole gradient; the remainder may be null.
+    void setWholeGradient(const ObjectGradient& newGradient, RemainderPtr newRemainder);
 
     bool showsGradient() const;
     // Whether the point is inside by the fill rule, or within `reach` of the outline (drawing units).
@@ -97,6 +104,9 @@ using ObjectPtr = std::shared_ptr<const Object>;
 
 // Makes an object fit for a drawing: computes its bounds.
 ObjectPtr sealed(Object object);
+
+// Whether two objects are written as the same and look the same. Shared parts are compared by identity.
+bool saysTheSame(const Object& a, const Object& b);
 
 // The style that a null style stands for.
 const Style& plainStyle();

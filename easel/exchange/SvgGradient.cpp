@@ -1,69 +1,39 @@
 // Gradients in SVG files, by way of drawings.
 #include "easel/exchange/SvgGradient.h"
 
+#include "easel/drawing/ShapeGradient.h"
 #include "easel/svg/Document.h"
 
-#include <cmath>
-#include <numbers>
 #include <pugixml.hpp>
 #include <sstream>
 
 namespace easel::exchange {
 namespace {
 
-using drawing::Gradient;
 using drawing::Point;
 
 constexpr double kSquareSize = 256;
 
-// Where a point lies within a box, as fractions of its sides.
-TPoint<double> fractionsOf(const drawing::Box& box, Point point) {
-    const auto part = [](double value, double low, double high) {
-        return high > low ? (value - low) / (high - low) : 0.5;
-    };
-    return {part(point.x, box.left, box.right), part(point.y, box.top, box.bottom)};
-}
-
-// The record nearest to a gradient that none can hold.
-ImportedGradient nearest(const Gradient& foreign, const drawing::Object& object) {
-    ImportedGradient result;
-    auto& gradient = result.gradient;
-    if (const auto* const line = std::get_if<drawing::LinearGeometry>(&foreign.geometry)) {
-        const Point start = foreign.toDrawing(line->start);
-        const Point end = foreign.toDrawing(line->end);
-        gradient.SetType(kLinearGradient);
-        gradient.SetAngle(
-            static_cast<float>(std::atan2(end.y - start.y, end.x - start.x) * 180 / std::numbers::pi));
-        result.notes.emplace_back("where it starts and ends is left out: it covers the whole shape");
-    } else {
-        const auto& circles = std::get<drawing::RadialGeometry>(foreign.geometry);
-        gradient.SetType(kRadialGradient);
-        gradient.SetStart(fractionsOf(object.bounds, foreign.toDrawing(circles.focus)));
-        gradient.SetEnd(fractionsOf(object.bounds, foreign.toDrawing(circles.centre)));
-        result.notes.emplace_back("its radii are left out: the circle reaches the farthest corner");
-    }
-    if (foreign.spread != drawing::Spread::Pad)
-        result.notes.emplace_back("its repetition is left out");
-    const bool faint = !foreign.ramp.opaque();
-    gradient.ColorList().clear();
-    for (const auto& stop : foreign.ramp.stops()) {
-        gradient.ColorList().emplace_back(RGBColor{stop.color.red, stop.color.green, stop.color.blue},
-                                          stop.position);
-    }
-    if (faint)
-        result.notes.emplace_back("its opacity is left out: every color is opaque");
-    return result;
+// What a record alone leaves out of a shape's gradient.
+std::vector<std::string> notesOn(const drawing::ShapeGradient& gradient) {
+    std::vector<std::string> notes;
+    if (gradient.remainder && !gradient.remainder->opacity.empty())
+        notes.emplace_back("its opacity is left out: every color is opaque");
+    if (gradient.remainder && gradient.remainder->ellipse)
+        notes.emplace_back("its ellipse is left out: it is circular");
+    if (gradient.loss == drawing::Loss::Repeats)
+        notes.emplace_back("its repetition is left out");
+    if (gradient.loss == drawing::Loss::Focus)
+        notes.emplace_back("its focus is moved into its circle");
+    return notes;
 }
 
 std::optional<ImportedGradient> gradientOf(const drawing::Object& object) {
-    if (const CGradient* const own = drawing::gradientIn(object.gradient))
-        return ImportedGradient{own->GetGradientData(), object.id.text(), {}};
-    if (const auto* const foreign = std::get_if<drawing::GradientPtr>(&object.fill)) {
-        auto result = nearest(**foreign, object);
-        result.name = object.id.text();
-        return result;
-    }
-    return std::nullopt;
+    const drawing::ShapeGradient held = drawing::shapeGradientOf(object);
+    const CGradient* const record = drawing::gradientIn(held.record);
+    if (!record)
+        return std::nullopt;
+    return ImportedGradient{record->GetGradientData(), object.id.text(), notesOn(held)};
 }
 
 std::optional<ImportedGradient> firstGradientIn(const drawing::Drawing& drawing) {

@@ -1,22 +1,11 @@
 // What the fill and the stroke of an object are painted with.
 #include "easel/paint/ObjectInk.h"
 
+#include "easel/drawing/GradientFit.h"
+#include "easel/drawing/ShapeGradient.h"
 #include "host/Gradient.h"
 
 namespace easel::paint {
-
-namespace {
-
-drawing::Paint fillOf(const drawing::Object& object) {
-    if (object.fillPattern == drawing::FillPattern::None)
-        return drawing::NoPaint{};
-    if (object.fillOrigin == drawing::FillOrigin::Edited &&
-        object.fillPattern == drawing::FillPattern::SolidBlack)
-        return drawing::ColorPaint{};
-    return object.fill;
-}
-
-} // namespace
 
 HeldInk::HeldInk(const drawing::Paint& paint) {
     if (const auto* color = std::get_if<drawing::ColorPaint>(&paint)) {
@@ -30,9 +19,9 @@ HeldInk::HeldInk(const drawing::Paint& paint) {
 
 HeldInk HeldInk::ofFill(const drawing::Object& object) {
     if (!object.showsGradient())
-        return HeldInk(fillOf(object));
+        return HeldInk(drawing::plainFillOf(object));
     const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
-    return HeldInk(drawing::fitGradient(record, object.outline));
+    return HeldInk(drawing::fitGradient(record, object.remainder.get(), object.outline));
 }
 
 HeldInk HeldInk::ofStroke(const drawing::Object& object) {

@@ -35,7 +35,7 @@ void gradient(Session& session, Arguments& arguments) {
     if (!carriesGradient(object.kind))
         throw PlayError("a " + std::string(kindName(object.kind)) + " carries no gradient");
     object.setFillPattern(drawing::FillPattern::SolidBlack);
-    object.setGradient(drawing::ObjectGradient(std::make_unique<CGradient>(record).release()));
+    object.setWholeGradient(drawing::ObjectGradient(std::make_unique<CGradient>(record).release()), nullptr);
     drawing.amend(index, sealed(std::move(object)));
 }
 

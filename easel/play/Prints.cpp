@@ -2,6 +2,7 @@
 #include "easel/play/Prints.h"
 
 #include "easel/drawing/GradientFit.h"
+#include "easel/drawing/ShapeGradient.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
 #include "easel/runtime/Host.h"
@@ -35,8 +36,24 @@ Json stopOf(double position, std::uint16_t red, std::uint16_t green, std::uint16
     return Json::array({jsonNumber(position), red, green, blue});
 }
 
-Json gradientOf(Session& session, const drawing::ObjectGradient& gradient) {
-    const CGradient* shared = gradient;
+Json opacityOf(const drawing::Remainder& remainder) {
+    if (remainder.opacity.empty())
+        return nullptr;
+    Json stops = Json::array();
+    for (const drawing::OpacityStop& stop : remainder.opacity)
+        stops.push_back({jsonNumber(stop.position), jsonNumber(stop.opacity)});
+    return stops;
+}
+
+Json ellipseOf(const drawing::Remainder& remainder) {
+    if (!remainder.ellipse)
+        return nullptr;
+    const drawing::Affine& map = *remainder.ellipse;
+    return {jsonNumber(map.a), jsonNumber(map.b), jsonNumber(map.c), jsonNumber(map.d)};
+}
+
+Json gradientOf(Session& session, const drawing::ShapeGradient& gradient) {
+    const CGradient* shared = gradient.record;
     if (!shared)
         return nullptr;
     const CGradientData& record = shared->GetGradientData();
@@ -45,14 +62,19 @@ Json gradientOf(Session& session, const drawing::ObjectGradient& gradient) {
         const RGBColor color = stop.ColorRGB();
         stops.push_back(stopOf(stop.Percent(), color.red, color.green, color.blue));
     }
-    return {{"type", static_cast<std::int32_t>(record.Type())},
-            {"angle", jsonNumber(static_cast<double>(record.Angle()))},
-            {"start", jsonPoint(runtime::toPoint(record.Start()))},
-            {"end", jsonPoint(runtime::toPoint(record.End()))},
-            {"startRadius", jsonNumber(record.StartRadius())},
-            {"endRadius", jsonNumber(record.EndRadius())},
-            {"stops", std::move(stops)},
-            {"resource", session.gradientNumber(gradient)}};
+    Json answer = {{"type", static_cast<std::int32_t>(record.Type())},
+                   {"angle", jsonNumber(static_cast<double>(record.Angle()))},
+                   {"start", jsonPoint(runtime::toPoint(record.Start()))},
+                   {"end", jsonPoint(runtime::toPoint(record.End()))},
+                   {"startRadius", jsonNumber(record.StartRadius())},
+                   {"endRadius", jsonNumber(record.EndRadius())},
+                   {"stops", std::move(stops)},
+                   {"resource", session.gradientNumber(gradient.record)}};
+    if (gradient.remainder) {
+        answer["opacity"] = opacityOf(*gradient.remainder);
+        answer["ellipse"] = ellipseOf(*gradient.remainder);
+    }
+    return answer;
 }
 
 // What an object is called in answers: its id, or its index if it has none.
@@ -126,7 +148,16 @@ Json printObject(Session& session, Arguments& arguments) {
             {"kind", std::string(kindName(object.kind))},
             {"index", index},
             {"fillPattern", nameOf(object.fillPattern)},
-            {"gradient", gradientOf(session, object.gradient)}};
+            {"gradient", gradientOf(session, drawing::shapeGradientOf(object))}};
+}
+
+// The focus is told where it is drawn, not in the space where ellipses are circles.
+drawing::GradientGeometry fitted(const CGradientData& record, const drawing::RemainderPtr& remainder,
+                                 const drawing::Path& outline) {
+    drawing::Gradient gradient = drawing::fitGradient(record, remainder.get(), outline);
+    if (auto* const circles = std::get_if<drawing::RadialGeometry>(&gradient.geometry))
+        circles->focus = gradient.toDrawing(circles->focus);
+    return gradient.geometry;
 }
 
 // A line is told as two circles without extent.
@@ -139,11 +170,12 @@ drawing::RadialGeometry ends(const drawing::GradientGeometry& geometry) {
 Json printFit(Session& session, Arguments& arguments) {
     const std::string& id = arguments.text("ID");
     const drawing::Object& object = objectNamed(session, id);
-    const CGradient* gradient = object.gradient;
+    const drawing::ShapeGradient held = drawing::shapeGradientOf(object);
+    const CGradient* gradient = held.record;
     if (!gradient)
         throw PlayError("the object \"" + id + "\" has no gradient");
     const CGradientData& record = gradient->GetGradientData();
-    const drawing::RadialGeometry fit = ends(drawing::fitGeometry(record, object.outline));
+    const drawing::RadialGeometry fit = ends(fitted(record, held.remainder, object.outline));
     Json stops = Json::array();
     for (const drawing::RampStop& stop : drawing::completeStops(record))
         stops.push_back(stopOf(stop.position, stop.color.red, stop.color.green, stop.color.blue));

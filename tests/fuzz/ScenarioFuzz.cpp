@@ -29,7 +29,7 @@ void playInScene(Scene& scene, const play::Step& step) {
         scene.gradient = play::gradientRecord(arguments);
     } else if (step.words[0] == "add") {
         const drawing::ObjectPtr object = sealed(play::newObject(arguments));
-        static_cast<void>(drawing::fitGradient(scene.gradient, object->outline));
+        static_cast<void>(drawing::fitGradient(scene.gradient, nullptr, object->outline));
         scene.drawing.insert(scene.drawing.size(), object);
         if (scene.drawing.indexOfId(object->id.text()) == std::nullopt)
             std::abort();

@@ -1,6 +1,7 @@
 #include "easel/svg/read/ObjectReader.h"
 
-#include "easel/drawing/GradientRecord.h"
+#include "easel/drawing/GradientDescription.h"
+#include "easel/drawing/StandardGradient.h"
 #include "easel/svg/text/RecordText.h"
 
 #include <algorithm>
@@ -21,17 +22,35 @@ namespace {
 
 constexpr std::size_t kRecentStyles = 16;
 
-// The record that is written beside the gradient, as long as it still tells the same as the gradient itself:
-// other programs change the one and leave the other.
-std::optional<CGradientData> writtenRecord(const GradientElement& element, const Gradient& placed,
+struct OwnGradient {
+    CGradientData record;
+    drawing::Remainder remainder;
+};
+
+// The record and remainder that are written beside the gradient, as long as they still tell the same as the
+// gradient itself: other programs change the one and leave the other.
+std::optional<OwnGradient> writtenGradient(const GradientElement& element, const Gradient& placed,
                                            const drawing::Path& outline) {
-    auto record = parseRecord(element.record);
-    if (!record)
+    const auto record = parseRecord(element.own.record);
+    const auto remainder = parseRemainder(element.own.opacity, element.own.ellipse);
+    if (!record || !remainder)
         return std::nullopt;
-    const auto standard = standardGradient(*record, outline);
+    const auto standard = drawing::standardGradient(*record, &*remainder, outline);
     if (standard && !alike(*standard, placed))
         return std::nullopt;
-    return record;
+    return OwnGradient{*record, *remainder};
+}
+
+// The record of a gradient that needs nothing beside it and hardly more stops than the file states: it is
+// held as such from the start. Every other gradient stays as the file says until it is changed.
+std::optional<OwnGradient> plainRecord(const Gradient& placed, const drawing::Path& outline) {
+    if (!placed.ramp.opaque())
+        return std::nullopt;
+    drawing::GradientDescription description = drawing::describe(placed, outline);
+    if (description.loss != drawing::Loss::None || !description.remainder.empty() ||
+        description.record.ColorList().size() > placed.ramp.stops().size() + 2)
+        return std::nullopt;
+    return OwnGradient{std::move(description.record), {}};
 }
 
 Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) {
@@ -106,16 +125,19 @@ void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedS
             return;
         object.fill = kept(std::move(placed));
     }
-    object.fillPattern = patternOf(object.fill);
+    const bool isGradient = drawing::gradientIn(object.fill) && carriesGradient(object.kind);
+    object.fillPattern = isGradient ? FillPattern::SolidBlack : patternOf(object.fill);
 }
 
 bool ObjectReader::setGradient(Object& object, const GradientElement& element, const Gradient& placed) {
-    auto record = writtenRecord(element, placed, object.outline);
-    if (!record)
-        record = recordFor(placed, object.outline);
-    if (!record)
+    auto own = writtenGradient(element, placed, object.outline);
+    if (!own)
+        own = plainRecord(placed, object.outline);
+    if (!own)
         return false;
-    object.gradient = drawing::ObjectGradient(new CGradient(*record));
+    object.gradient = drawing::ObjectGradient(new CGradient(own->record));
+    if (!own->remainder.empty())
+        object.remainder = std::make_shared<const drawing::Remainder>(std::move(own->remainder));
     object.fillPattern = FillPattern::SolidBlack;
     return true;
 }

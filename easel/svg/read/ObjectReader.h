@@ -21,7 +21,7 @@ class ObjectReader {
     using StylePtr = std::shared_ptr<const drawing::Style>;
 
     void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
-    // False if no record can tell what the gradient is on the object.
+    // False if the gradient stays as the file says.
     static bool setGradient(drawing::Object& object, const GradientElement& element,
                             const drawing::Gradient& placed);
     drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const;

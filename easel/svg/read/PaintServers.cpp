@@ -110,7 +110,8 @@ const GradientElement& PaintServers::read(pugi::xml_node element) {
         if (!gradient.stops.empty())
             break;
     }
-    gradient.record = element.attribute(kRecordAttribute).value();
+    gradient.own = {element.attribute(kRecordAttribute).value(), element.attribute(kOpacityAttribute).value(),
+                    element.attribute(kEllipseAttribute).value()};
     return gradient;
 }
 

@@ -4,6 +4,7 @@
 #include "easel/drawing/Paint.h"
 #include "easel/svg/style/Property.h"
 #include "easel/svg/text/Length.h"
+#include "easel/svg/text/RecordText.h"
 #include "easel/svg/text/XmlTree.h"
 
 #include <deque>
@@ -34,7 +35,7 @@ struct GradientElement {
     std::variant<LineTexts, CircleTexts> geometry;
     drawing::Affine transform;
     std::pmr::vector<drawing::RampStop> stops; // offsets in order, 0 to 1
-    const char* record = "";                   // our own record's values, if they stand beside
+    RecordTexts own;                           // our own values, if they stand beside
 };
 
 // Where a shape is painted.

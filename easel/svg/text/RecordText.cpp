@@ -49,6 +49,16 @@ bool takeStop(std::string_view text, CGradientData& record) {
     return trimmed(text).empty();
 }
 
+// Positions ascend, and both numbers are from 0 to 1.
+bool takeOpacity(std::string_view text, std::vector<drawing::OpacityStop>& stops) {
+    drawing::OpacityStop stop;
+    const double least = stops.empty() ? 0 : stops.back().position;
+    if (!take(text, stop.position) || !take(text, stop.opacity) || !trimmed(text).empty())
+        return false;
+    stops.push_back(stop);
+    return stop.position >= least && stop.position <= 1 && stop.opacity >= 0 && stop.opacity <= 1;
+}
+
 } // namespace
 
 std::string recordText(const CGradientData& record) {
@@ -80,6 +90,41 @@ std::optional<CGradientData> parseRecord(std::string_view text) {
     if (record.ColorList().empty())
         return std::nullopt;
     return record;
+}
+
+std::string opacityText(const drawing::Remainder& remainder) {
+    std::string text;
+    for (const drawing::OpacityStop& stop : remainder.opacity) {
+        if (!text.empty())
+            text += ';';
+        text += numberText(stop.position) + ' ' + numberText(stop.opacity);
+    }
+    return text;
+}
+
+std::string ellipseText(const drawing::Remainder& remainder) {
+    if (!remainder.ellipse)
+        return {};
+    const drawing::Affine& map = *remainder.ellipse;
+    return numberText(map.a) + ' ' + numberText(map.b) + ' ' + numberText(map.c) + ' ' + numberText(map.d);
+}
+
+std::optional<drawing::Remainder> parseRemainder(std::string_view opacity, std::string_view ellipse) {
+    drawing::Remainder remainder;
+    Scanner parts(opacity);
+    while (!parts.done())
+        if (!takeOpacity(parts.until(';'), remainder.opacity))
+            return std::nullopt;
+    if (!ellipse.empty()) {
+        drawing::Affine map;
+        for (double* const number : {&map.a, &map.b, &map.c, &map.d})
+            if (!take(ellipse, *number))
+                return std::nullopt;
+        if (!map.invertible() || !trimmed(ellipse).empty())
+            return std::nullopt;
+        remainder.ellipse = map;
+    }
+    return remainder;
 }
 
 } // namespace easel::svg

@@ -1,6 +1,7 @@
 #include "easel/svg/write/GradientText.h"
 
-#include "easel/drawing/GradientRecord.h"
+#include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StandardGradient.h"
 #include "easel/svg/style/Color.h"
 #include "easel/svg/text/Number.h"
 #include "easel/svg/text/RecordText.h"
@@ -14,7 +15,6 @@ namespace easel::svg {
 
 using drawing::Affine;
 using drawing::ColorPaint;
-using drawing::FillPattern;
 using drawing::Gradient;
 using drawing::LinearGeometry;
 using drawing::Object;
@@ -42,6 +42,16 @@ Gradient colorsOf(const CGradientData& record) {
         stops.push_back({offset, {color.red, color.green, color.blue}, 1});
     }
     return {LinearGeometry{{0, 0}, {1, 0}}, {}, Spread::Pad, Ramp(std::move(stops))};
+}
+
+// Record and remainder as they are, beside what any viewer shows.
+std::string ownAttributes(const CGradientData& record, const drawing::Remainder* remainder) {
+    std::string text = attribute(kRecordAttribute, recordText(record));
+    if (remainder && !remainder->opacity.empty())
+        text += attribute(kOpacityAttribute, opacityText(*remainder));
+    if (remainder && remainder->ellipse)
+        text += attribute(kEllipseAttribute, ellipseText(*remainder));
+    return text;
 }
 
 } // namespace
@@ -77,8 +87,10 @@ GradientBlock::GradientBlock(std::string_view text, std::string prefix) : prefix
 
 std::string GradientBlock::addRecord(const Object& object) {
     const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
-    const auto standard = standardGradient(record, object.outline);
-    return addElement(standard ? *standard : colorsOf(record), unitsOf(object).inverse(), recordText(record));
+    const drawing::Remainder* const remainder = object.remainder.get();
+    const auto standard = drawing::standardGradient(record, remainder, object.outline);
+    return addElement(standard ? *standard : colorsOf(record), unitsOf(object).inverse(),
+                      ownAttributes(record, remainder));
 }
 
 std::string GradientBlock::addForeign(const Gradient& gradient, const Object& object) {
@@ -86,7 +98,7 @@ std::string GradientBlock::addForeign(const Gradient& gradient, const Object& ob
 }
 
 std::string GradientBlock::addElement(const Gradient& gradient, const Affine& toUnits,
-                                      const std::string& record) {
+                                      const std::string& ownAttributes) {
     const bool isLinear = std::holds_alternative<LinearGeometry>(gradient.geometry);
     const std::string name = prefix_ + (isLinear ? "linearGradient" : "radialGradient");
     const std::string id = std::string(kNameBegin) + std::to_string(++lastNumber_);
@@ -95,10 +107,7 @@ std::string GradientBlock::addElement(const Gradient& gradient, const Affine& to
     const Affine transform = toUnits * gradient.toDrawing;
     if (transform != Affine())
         text += " gradientTransform=\"" + transformText(transform) + '"';
-    text += spreadText(gradient.spread);
-    if (!record.empty())
-        text += ' ' + std::string(kRecordAttribute) + "=\"" + record + '"';
-    text += '>';
+    text += spreadText(gradient.spread) + ownAttributes + '>';
     for (const RampStop& stop : gradient.ramp.stops())
         text += stopText(stop, prefix_);
     elements_.push_back(text + "</" + name + '>');
@@ -117,11 +126,10 @@ std::string GradientBlock::text(std::string_view lineBreak) const {
 std::string fillText(const Object& object, GradientBlock& gradients) {
     if (object.showsGradient())
         return gradients.addRecord(object);
-    if (object.fillPattern == FillPattern::None)
+    const drawing::Paint fill = drawing::plainFillOf(object);
+    if (std::holds_alternative<drawing::NoPaint>(fill))
         return "none";
-    if (object.fillPattern == FillPattern::SolidBlack)
-        return "#000000";
-    if (const auto* const color = std::get_if<ColorPaint>(&object.fill))
+    if (const auto* const color = std::get_if<ColorPaint>(&fill))
         return colorText(color->color);
     return {};
 }

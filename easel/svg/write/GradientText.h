@@ -30,7 +30,7 @@ class GradientBlock {
 
   private:
     std::string addElement(const drawing::Gradient& gradient, const drawing::Affine& toUnits,
-                           const std::string& record);
+                           const std::string& ownAttributes);
 
     std::string prefix_;
     std::size_t lastNumber_ = 0;

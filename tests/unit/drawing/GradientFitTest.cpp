@@ -91,11 +91,11 @@ TEST(GradientFit, LinearRangeEnclosesThePolygonAndTouchesItAtBothEnds) {
 TEST(GradientFit, DegenerateOutlinesAndNumbersGiveSomethingAndDoNotCrash) {
     CGradientData data;
     data.SetAngle(std::numeric_limits<float>::quiet_NaN());
-    fitGradient(data, rectanglePath({0, 0, 1, 1}));
+    fitGradient(data, nullptr, rectanglePath({0, 0, 1, 1}));
     data.SetType(kRadialGradient);
     data.SetStart({std::numeric_limits<double>::infinity(), 0});
-    fitGradient(data, rectanglePath({3, 3, 3, 3}));
-    fitGradient(CGradientData(), Path());
+    fitGradient(data, nullptr, rectanglePath({3, 3, 3, 3}));
+    fitGradient(CGradientData(), nullptr, Path());
 }
 
 } // namespace

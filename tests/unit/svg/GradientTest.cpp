@@ -1,8 +1,10 @@
 // Gradients of files: which become records, which records, and which stay as they are.
 #include "tests/unit/svg/ReadHelp.h"
 
+#include "easel/drawing/GradientDescription.h"
 #include "easel/drawing/GradientFit.h"
-#include "easel/drawing/GradientRecord.h"
+#include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StandardGradient.h"
 #include "easel/svg/text/RecordText.h"
 
 #include <cmath>
@@ -63,7 +65,7 @@ double redAt(const std::vector<RampStop>& stops, double t) {
 
 // The record, fitted and completed, has the gradient's colors all over the outline.
 void expectSameColors(const Gradient& gradient, const CGradientData& record, const Path& outline) {
-    const auto standard = standardGradient(record, outline);
+    const auto standard = standardGradient(record, nullptr, outline);
     ASSERT_TRUE(standard);
     const Box box = outline.bounds();
     for (int i = 0; i <= 20; ++i)
@@ -133,9 +135,10 @@ TEST(SvgGradient, AnyOpaqueLinearGradientLooksTheSameAsARecord) {
             continue;
         gradient.ramp = Ramp({{0.1, {65535, 0, 0}, 1}, {0.4, {0, 0, 0}, 1}, {0.9, {40000, 0, 0}, 1}});
         const Path outline = polygonPath({{0, 0}, {90, number(random)}, {number(random), 80}});
-        const auto record = recordFor(gradient, outline);
-        ASSERT_TRUE(record);
-        expectSameColors(gradient, *record, outline);
+        const GradientDescription description = describe(gradient, outline);
+        EXPECT_EQ(description.loss, Loss::None);
+        EXPECT_TRUE(description.remainder.empty());
+        expectSameColors(gradient, description.record, outline);
     }
 }
 
@@ -157,21 +160,25 @@ TEST(SvgGradient, CircularGradientsWithFocusAndInnerRadiusLookTheSameAsRecords) 
             Affine::translation(5, 6) * Affine::rotation(number(random)) * Affine::scaling(1.5, -1.5);
         gradient.ramp = Ramp({{0, {65535, 0, 0}, 1}, {0.4, {0, 0, 0}, 1}, {1, {40000, 0, 0}, 1}});
         const Path outline = rectanglePath({0, 0, 40 + number(random), 90});
-        const auto record = recordFor(gradient, outline);
-        ASSERT_TRUE(record);
-        expectSameColors(gradient, *record, outline);
+        const GradientDescription description = describe(gradient, outline);
+        EXPECT_EQ(description.loss, Loss::None);
+        EXPECT_TRUE(description.remainder.empty());
+        expectSameColors(gradient, description.record, outline);
     }
 }
 
-TEST(SvgGradient, WhatTheRecordCannotHoldStaysAForeignGradient) {
+TEST(SvgGradient, WhatARecordAloneCannotHoldStaysAsTheFileSaysAndHasARecordAllTheSame) {
     for (const char* gradient :
          {"<linearGradient id='g'><stop stop-opacity='.5'/><stop offset='1'/></linearGradient>",
-          "<linearGradient id='g' x2='.5' spreadMethod='repeat'><stop/><stop offset='1'/></linearGradient>",
+          "<linearGradient id='g' x2='.1' spreadMethod='repeat'><stop/><stop offset='1'/></linearGradient>",
           "<radialGradient id='g'><stop/><stop offset='1'/></radialGradient>"}) {
         const Drawing drawing = gradientRect(gradient);
         EXPECT_FALSE(recordOf(drawing)) << gradient;
         EXPECT_TRUE(foreignOf(drawing)) << gradient;
-        EXPECT_EQ(drawing.object(0)->fillPattern, FillPattern::Other);
+        EXPECT_EQ(drawing.object(0)->fillPattern, FillPattern::SolidBlack);
+        const ShapeGradient held = shapeGradientOf(*drawing.object(0));
+        EXPECT_TRUE(gradientIn(held.record)) << gradient;
+        EXPECT_EQ(held.loss, Loss::None) << gradient;
     }
 }
 

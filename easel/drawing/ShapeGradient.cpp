@@ -1,0 +1,28 @@
+// The gradient of a shape as the tool sees it, with what stays beside it.
+#include "easel/drawing/ShapeGradient.h"
+
+namespace easel::drawing {
+
+ShapeGradient shapeGradientOf(const Object& object) {
+    if (gradientIn(object.gradient))
+        return {object.gradient, object.remainder, Loss::None};
+    const Gradient* const fill = gradientIn(object.fill);
+    if (!fill || object.fillOrigin == FillOrigin::Edited || !carriesGradient(object.kind))
+        return {};
+    GradientDescription description = describe(*fill, object.outline);
+    ShapeGradient result{ObjectGradient(std::make_unique<CGradient>(description.record).release()), nullptr,
+                         description.loss};
+    if (!description.remainder.empty())
+        result.remainder = std::make_shared<const Remainder>(std::move(description.remainder));
+    return result;
+}
+
+Paint plainFillOf(const Object& object) {
+    if (object.fillPattern == FillPattern::None)
+        return NoPaint{};
+    if (object.fillOrigin == FillOrigin::Edited && object.fillPattern == FillPattern::SolidBlack)
+        return ColorPaint{};
+    return object.fill;
+}
+
+} // namespace easel::drawing
