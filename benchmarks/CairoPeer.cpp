@@ -23,6 +23,9 @@ CairoPattern patternOf(const easel::drawing::Gradient& gradient) {
         cairo_pattern_add_color_stop_rgba(pattern, stop.position, stop.color.red / 65535.0,
                                           stop.color.green / 65535.0, stop.color.blue / 65535.0,
                                           stop.opacity);
+    const easel::drawing::Affine map = gradient.toDrawing.inverse();
+    const cairo_matrix_t toGradient{map.a, map.b, map.c, map.d, map.e, map.f};
+    cairo_pattern_set_matrix(pattern, &toGradient);
     cairo_pattern_set_extend(pattern, CAIRO_EXTEND_PAD);
     return {pattern, cairo_pattern_destroy};
 }

@@ -14,6 +14,7 @@ namespace {
 
 using namespace easel;
 using drawing::Point;
+constexpr double kLargestError = 0.51;
 using Color = std::array<double, 4>; // blue, green, red in levels, opacity
 
 double parameterAt(const drawing::LinearGeometry& line, Point p) {
@@ -85,9 +86,10 @@ double sideArea(Point a, Point b, int x, int y) {
 Accuracy accuracyOf(const paint::Surface& surface, const drawing::Gradient& gradient,
                     std::uint32_t background) {
     Accuracy accuracy;
+    const drawing::Affine toGradient = gradient.toDrawing.inverse();
     for (int y = 0; y < surface.height(); ++y) {
         for (int x = 0; x < surface.width(); ++x) {
-            const Point centre{x + 0.5, y + 0.5};
+            const Point centre = toGradient({x + 0.5, y + 0.5});
             const double t = std::visit([&](const auto& geometry) { return parameterAt(geometry, centre); },
                                         gradient.geometry);
             const Color color = colorAt(gradient.ramp.stops(), t);
@@ -102,6 +104,17 @@ Accuracy accuracyOf(const paint::Surface& surface, const drawing::Gradient& grad
         }
     }
     return accuracy;
+}
+
+void checkExactness(Report& report, const std::string& table, paint::Surface& surface,
+                    const std::string& name, const drawing::Gradient& gradient, std::uint32_t background) {
+    surface.clear(background);
+    paint::Painter().fillAll(surface.view(), {}, &gradient);
+    const Accuracy accuracy = accuracyOf(surface, gradient, background);
+    report.add(table, {name, "largest error", accuracy.largestError, "levels", kLargestError, Better::Lower});
+    // A goal of 0 would mean none.
+    report.add(table, {name, "pixels off by more than 1", static_cast<double>(accuracy.offByMoreThanOne), "",
+                       0.5, Better::Lower});
 }
 
 double coverageError(const drawing::Path& polygon, int top, int bottom) {

@@ -1,11 +1,13 @@
 // How near pixels are to the gradient's exact color, by a plain evaluation of our own in double precision.
 #pragma once
 
+#include "benchmarks/Report.h"
 #include "easel/drawing/Gradient.h"
 #include "easel/drawing/Path.h"
 #include "easel/paint/pixels/Surface.h"
 
-#include <optional>
+#include <cstdint>
+#include <string>
 
 namespace bench {
 
@@ -14,9 +16,13 @@ struct Accuracy {
     long offByMoreThanOne = 0;
 };
 
-// Over all pixels of a surface that was filled on `background`, opaque. Padded gradients without a map of
-// their own.
+// Over all pixels of a surface that was filled on `background`, opaque. Padded gradients only.
 Accuracy accuracyOf(const easel::paint::Surface& surface, const easel::drawing::Gradient& gradient,
+                    std::uint32_t background);
+
+// Fills a surface of one color with the gradient and reports how exact its pixels are.
+void checkExactness(Report& report, const std::string& table, easel::paint::Surface& surface,
+                    const std::string& name, const easel::drawing::Gradient& gradient,
                     std::uint32_t background);
 
 // The largest error, in levels, of the coverage of a white polygon on black in the rows from top to bottom.

@@ -3,6 +3,7 @@
 
 #include "benchmarks/CairoPeer.h"
 #include "benchmarks/PixelAccuracy.h"
+#include "benchmarks/PixelRatios.h"
 #include "benchmarks/PixelWork.h"
 #include "benchmarks/Timing.h"
 #include "easel/paint/Painter.h"
@@ -15,7 +16,6 @@ using namespace easel;
 
 const std::string kSpeed = "Gradient pixels, 3840 x 2160, one core";
 const std::string kExactness = "Exactness of the same fills";
-constexpr double kLargestError = 0.51;
 
 void fill(paint::Painter& painter, const paint::SurfaceView& view, const PixelWork& work) {
     if (work.shape)
@@ -61,14 +61,7 @@ void measureSmallFills(Report& report, paint::Surface& surface) {
 }
 
 void check(Report& report, paint::Surface& surface, const PixelWork& work, std::uint32_t background) {
-    surface.clear(background);
-    paint::Painter().fillAll(surface.view(), {}, &work.gradient);
-    const Accuracy accuracy = accuracyOf(surface, work.gradient, background);
-    report.add(kExactness,
-               {work.name, "largest error", accuracy.largestError, "levels", kLargestError, Better::Lower});
-    // A goal of 0 would mean none.
-    report.add(kExactness, {work.name, "pixels off by more than 1",
-                            static_cast<double>(accuracy.offByMoreThanOne), "", 0.5, Better::Lower});
+    checkExactness(report, kExactness, surface, work.name, work.gradient, background);
     if (work.shape)
         report.add(kExactness, {work.name, "edge coverage error", coverageError(*work.shape, 400, 480),
                                 "levels", 2, Better::Lower});
@@ -91,10 +84,12 @@ void runPixels(Report& report) {
     for (const PixelWork& work : works)
         measure(report, surface, work);
     measureSmallFills(report, surface);
+    measureRatios(report, surface);
     for (const PixelWork& work : works)
         check(report, surface, work, 0xFF000000);
     check(report, surface, translucent(works[1]), 0xFF336699);
     check(report, surface, translucent(works[4]), 0xFF336699);
+    checkRatioWorks(report, surface);
     report.add(kExactness, {"jumps over 3840 pixels", "on a wrong pixel",
                             static_cast<double>(misplacedJumps()), "", 0.5, Better::Lower});
 }
