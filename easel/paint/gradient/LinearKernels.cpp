@@ -49,8 +49,6 @@ HWY_INLINE void FillStretch(std::uint32_t* row, int begin, int end, int room, co
     const hn::ScalableTag<std::uint32_t> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto highBytes = hn::Set(d, 0xFF00FF00);
-    if (!stretch.steps)
-        return;
     const LinearSteps& steps = *stretch.steps;
     for (int block = begin; block < end; block += kBlock) {
         const auto x = static_cast<std::uint32_t>(block);

@@ -39,7 +39,7 @@ struct LinearStretch {
 // Both paint what spans of a row have within the stretches, opaque. The stretches follow one another without
 // gaps, the first of them holds the first pixel, and the last one's end is that of the last span.
 //
-// Fully covered spans.
+// Fully covered spans. Every stretch is painted, since a stretch may be written over by the one before.
 void fillLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearStretch* stretches);
 // Spans within blocks, each pixel covered as `coverage` tells at its index.
 void blendLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearStretch* stretches,

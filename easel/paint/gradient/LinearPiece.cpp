@@ -32,14 +32,11 @@ LinearPiece::LinearPiece(const RampSegment& segment, double perPixel)
     }
 }
 
-void LinearPiece::layOut(int x, int end, double parameter, LinearStretch& stretch) const {
+void LinearPiece::layOut(int x, double parameter, std::uint32_t* origin) const {
     const double way = std::clamp(parameter - anchor_, 0.0, reach_);
-    stretch.end = end;
-    stretch.steps = &steps_;
-    for (std::size_t i = 0; i < stretch.origin.size(); ++i)
-        stretch.origin[i] =
-            static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * way)) -
-            steps_.pixel[i] * static_cast<std::uint32_t>(x);
+    for (std::size_t i = 0; i < start_.size(); ++i)
+        origin[i] = static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * way)) -
+                    steps_.pixel[i] * static_cast<std::uint32_t>(x);
 }
 
 } // namespace easel::paint

@@ -13,7 +13,14 @@ class LinearPiece {
 
     // The pixels from x to `end` of a row, the first of them with the given parameter. Written in place,
     // since a copy of what has just been written is slow.
-    void layOut(int x, int end, double parameter, LinearStretch& stretch) const;
+    void layOut(int x, int end, double parameter, LinearStretch& stretch) const {
+        stretch.end = end;
+        stretch.steps = &steps_;
+        layOut(x, parameter, stretch.origin.data());
+    }
+    // Only the three levels of the row's pixel 0.
+    void layOut(int x, double parameter, std::uint32_t* origin) const;
+    const LinearSteps& steps() const { return steps_; }
 
   private:
     double anchor_;

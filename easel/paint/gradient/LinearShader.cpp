@@ -96,29 +96,37 @@ LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, con
       perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared),
       perRow_(dot(map.toGradient.direction({0, 1}), map.axis) / map.lengthSquared),
       origin_(map.at({0.5, 0.5})), pixelsPerUnit_(1 / perPixel_), pieces_(scratch.pieces),
-      stretches_(scratch.stretches) {
+      mixPieces_(scratch.mixPieces), stretches_(scratch.stretches), mixed_(scratch.mixed) {
     stretches_.resize(segments_.all().size());
     pieces_.clear();
     for (const RampSegment& segment : segments_.all()) {
         pieces_.emplace_back(segment, perPixel_);
         (hides(segment) ? anyHides_ : anyMixes_) = true;
     }
+    if (!anyMixes_)
+        return;
+    mixed_.resize(segments_.all().size());
+    mixPieces_.clear();
+    for (std::size_t i = 0; i < pieces_.size(); ++i)
+        mixPieces_.emplace_back(segments_.all()[i], pieces_[i], perPixel_, opacity_);
 }
 
 void LinearShader::row(int y, const RowCoverage& coverage) {
     std::uint32_t* pixels = surface_.row(y);
     Track track(*this, y);
-    if (anyHides_) {
-        layOut(track, coverage.extent());
-        if (!coverage.full.empty())
+    layOut(track, coverage.extent());
+    if (!coverage.full.empty()) {
+        if (anyMixes_)
+            mixLinear(pixels, coverage.full, mixed_.data());
+        else
             fillLinear(pixels, coverage.full, stretches_.data());
-        if (!coverage.partial.empty())
-            blendLinear(pixels, coverage.partial, stretches_.data(), coverage.coverage);
     }
-    if (anyMixes_) {
-        mix(pixels, coverage.full, track, [](int) { return std::uint32_t{kFullCoverage}; });
-        mix(pixels, coverage.partial, track, [&](int x) { return coverage.coverage[x]; });
-    }
+    if (coverage.partial.empty())
+        return;
+    if (anyHides_)
+        blendLinear(pixels, coverage.partial, stretches_.data(), coverage.coverage);
+    if (anyMixes_)
+        blendMixed(pixels, coverage, track);
 }
 
 bool LinearShader::hides(const RampSegment& segment) const {
@@ -133,10 +141,10 @@ void LinearShader::layOut(Track& track, const PixelSpan& extent) {
         const int end = std::min(track.end(), extent.end);
         if (end <= x)
             continue;
-        const std::size_t index = track.index();
-        pieces_[index].layOut(x, end, track.parameter(x), *stretch);
-        if (anyMixes_ && !hides(segments_.all()[index]))
-            stretch->steps = nullptr;
+        if (anyMixes_)
+            layOutMixed(track, x, end, *stretch);
+        else
+            pieces_[track.index()].layOut(x, end, track.parameter(x), *stretch);
         if (end == extent.end)
             return;
         ++stretch;
@@ -144,20 +152,29 @@ void LinearShader::layOut(Track& track, const PixelSpan& extent) {
     }
 }
 
-// Pixel by pixel where what is below shows through.
-template <class CoverageOf>
-void LinearShader::mix(std::uint32_t* pixels, std::span<const PixelSpan> spans, Track& track,
-                       const CoverageOf& coverageOf) const {
-    if (spans.empty())
-        return;
+void LinearShader::layOutMixed(Track& track, int x, int end, LinearStretch& stretch) {
+    const std::size_t index = track.index();
+    const double parameter = track.parameter(x);
+    LinearMixStretch& mixed = mixed_[static_cast<std::size_t>(&stretch - stretches_.data())];
+    mixPieces_[index].layOut(x, end, parameter, mixed);
+    if (hides(segments_.all()[index])) {
+        pieces_[index].layOut(x, end, parameter, stretch);
+    } else {
+        stretch.end = end;
+        stretch.steps = nullptr;
+    }
+}
+
+// Edges, pixel by pixel.
+void LinearShader::blendMixed(std::uint32_t* pixels, const RowCoverage& coverage, Track& track) const {
     BlendQueue queue(pixels);
     const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
     const auto paint = [&](int begin, int end, const PixelSpan&) {
         if (!hides(present()))
             for (int x = begin; x < end; ++x)
-                queue.add(present(), x, track.parameter(x), shareOf(coverageOf(x), opacity_));
+                queue.add(present(), x, track.parameter(x), shareOf(coverage.coverage[x], opacity_));
     };
-    walkSegments(spans, track, paint, [&] { queue.flush(present()); });
+    walkSegments(coverage.partial, track, paint, [&] { queue.flush(present()); });
 }
 
 } // namespace easel::paint

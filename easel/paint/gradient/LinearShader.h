@@ -3,6 +3,7 @@
 #pragma once
 
 #include "easel/paint/coverage/Coverage.h"
+#include "easel/paint/gradient/LinearMixPiece.h"
 #include "easel/paint/gradient/LinearPiece.h"
 #include "easel/paint/gradient/ParameterMap.h"
 #include "easel/paint/gradient/RampSegments.h"
@@ -16,6 +17,9 @@ namespace easel::paint {
 struct LinearScratch {
     std::vector<LinearPiece> pieces;
     std::vector<LinearStretch> stretches;
+    // Empty unless something shows through.
+    std::vector<LinearMixPiece> mixPieces;
+    std::vector<LinearMixStretch> mixed;
 };
 
 class LinearShader : public CoverageSink {
@@ -31,9 +35,8 @@ class LinearShader : public CoverageSink {
 
     bool hides(const RampSegment& segment) const;
     void layOut(Track& track, const PixelSpan& extent);
-    template <class CoverageOf>
-    void mix(std::uint32_t* pixels, std::span<const PixelSpan> spans, Track& track,
-             const CoverageOf& coverageOf) const;
+    void layOutMixed(Track& track, int x, int end, LinearStretch& stretch);
+    void blendMixed(std::uint32_t* pixels, const RowCoverage& coverage, Track& track) const;
 
     SurfaceView surface_;
     LinearMap map_;
@@ -47,8 +50,11 @@ class LinearShader : public CoverageSink {
     // Whether there are segments that hide what is below, and others.
     bool anyHides_ = false;
     bool anyMixes_ = false;
-    std::vector<LinearPiece>& pieces_;      // of the segments
-    std::vector<LinearStretch>& stretches_; // of the present row
+    std::vector<LinearPiece>& pieces_;       // of the segments
+    std::vector<LinearMixPiece>& mixPieces_; // of the segments
+    // Of the present row. If something shows through, the first ones have only what hides what is below.
+    std::vector<LinearStretch>& stretches_;
+    std::vector<LinearMixStretch>& mixed_;
 };
 
 } // namespace easel::paint

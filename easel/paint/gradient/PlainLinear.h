@@ -30,8 +30,6 @@ inline void fillLinear(std::uint32_t* row, std::span<const PixelSpan> spans, con
         for (int x = begin; x < span.end; ++x) {
             for (; stretch->end <= x; ++stretch)
                 begin = x;
-            if (!stretch->steps)
-                continue;
             const int step = (x - begin) % kBlock;
             const Levels16 color = levelsAt(*stretch, x - step, step);
             row[x] = 0xFF000000 | (color.red >> 8) << 16 | (color.green >> 8) << 8 | color.blue >> 8;
