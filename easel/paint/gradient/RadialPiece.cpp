@@ -28,13 +28,23 @@ std::uint32_t half(double value) {
 
 } // namespace
 
-RadialPiece::RadialPiece(const RadialRows& rows, const RampSegment& segment)
-    : circle_(rows.circle(segment.start)), flat_(segment.flat()) {
-    middle_ = segment.anchor + segment.reach / 2;
-    if (!flat_) {
-        step_ = fewBits(segment.steepest * kUnitsALevel * rows.scale());
+RadialPiece::RadialPiece(const RadialRows& rows, const RampSegment& segment, double opacity)
+    : circle_(rows.circle(segment.start)), flat_(segment.flat()),
+      middle_(segment.anchor + segment.reach / 2) {
+    const bool visible = opacity > 0 && (segment.color[3] != 0 || segment.slope[3] != 0);
+    look_ = !visible ? Look::Hidden : opacity == 1 && segment.opaque() ? Look::Opaque : Look::Mixed;
+    if (!flat_ && visible) {
+        const double steepest = std::max(segment.steepest, 255 * opacity * std::abs(segment.slope[3]));
+        step_ = fewBits(steepest * kUnitsALevel * rows.scale());
         toUnits_ = step_ / rows.scale();
     }
+    if (look_ == Look::Opaque)
+        setColors(segment);
+    else if (look_ == Look::Mixed)
+        setMixColors(segment, opacity);
+}
+
+void RadialPiece::setColors(const RampSegment& segment) {
     std::array<std::uint32_t, 3> color;
     std::array<std::uint32_t, 3> slope{};
     const Channels middle = segment.at(middle_);
@@ -46,16 +56,45 @@ RadialPiece::RadialPiece(const RadialRows& rows, const RampSegment& segment)
     colors_ = {color[2] << 16 | color[0], 0xFF000000 | color[1], slope[2] << 16 | slope[0], slope[1]};
 }
 
+void RadialPiece::setMixColors(const RampSegment& segment, double opacity) {
+    const Channels middle = segment.at(middle_);
+    for (std::size_t i = 0; i < mixColors_.color.size(); ++i) {
+        mixColors_.color[i] = static_cast<float>(mixLevelOf(middle[i]));
+        if (!flat_)
+            mixColors_.slope[i] = static_cast<float>(segment.slope[i] * 256 / toUnits_);
+    }
+    mixColors_.weight = static_cast<float>(middle[3] * opacity);
+    if (!flat_)
+        mixColors_.weightSlope = static_cast<float>(segment.slope[3] * opacity / toUnits_);
+}
+
 void RadialPiece::paint(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
+    if (look_ == Look::Opaque)
+        fill(pixels, begin, end, room, row);
+    else if (look_ == Look::Mixed)
+        mix(pixels, begin, end, room, row);
+}
+
+void RadialPiece::fill(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
     if (flat_) {
         const std::uint32_t blueRed = colors_.blueRed >> 8 & 0xFF00FF;
         std::fill_n(pixels, end - begin, blueRed | (colors_.greenAlpha & 0xFF00FF00));
         return;
     }
-    const RadialRun run{(begin - row.lowest) * step_, row.height * step_ * step_, row.lean,
-                        (row.base - middle_) * toUnits_, step_};
     const bool near = unitsAcross(row, begin, end) <= kMostUnitsInSinglePrecision;
-    (near ? fillRadial : fillRadialFar)(pixels, end - begin, room, run, colors_);
+    (near ? fillRadial : fillRadialFar)(pixels, end - begin, room, runFrom(begin, row), colors_);
+}
+
+void RadialPiece::mix(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
+    if (flat_)
+        return mixFlat(pixels, end - begin, room, mixColors_);
+    const bool near = unitsAcross(row, begin, end) <= kMostMixedUnitsInSinglePrecision;
+    (near ? mixRadial : mixRadialFar)(pixels, end - begin, room, runFrom(begin, row), mixColors_);
+}
+
+RadialRun RadialPiece::runFrom(int begin, const RadialRow& row) const {
+    return {(begin - row.lowest) * step_, row.height * step_ * step_, row.lean,
+            (row.base - middle_) * toUnits_, step_};
 }
 
 } // namespace easel::paint

@@ -85,8 +85,10 @@ RadialShader::RadialShader(const SurfaceView& surface, const RadialMap& map, con
                            double opacity, std::vector<RadialPiece>& pieces)
     : surface_(surface), map_(map), rows_(map), segments_(segments), opacity_(opacity), pieces_(pieces) {
     pieces_.clear();
-    for (const RampSegment& segment : segments_.all())
-        pieces_.emplace_back(rows_, segment);
+    for (const RampSegment& segment : segments_.all()) {
+        pieces_.emplace_back(rows_, segment, opacity_);
+        hides_ = hides_ && opacity_ == 1 && segment.opaque();
+    }
 }
 
 void RadialShader::row(int y, std::span<const CoverageRun> runs) {
@@ -98,8 +100,10 @@ void RadialShader::row(int y, std::span<const CoverageRun> runs) {
     const auto paint = [&](int begin, int end, const CoverageRun& run) {
         const RampSegment& segment = present();
         const RadialPiece& piece = pieces_[track.index()];
-        if (hidingOf(segment, run, opacity_) == Hiding::Full && piece.suits(row, begin, end))
-            return piece.paint(pixels + begin, begin, end, run.end - begin, row);
+        if (run.coverage == kFullCoverage && piece.suits(row, begin, end)) {
+            const int room = hides_ || !piece.opaque() ? run.end : end;
+            return piece.paint(pixels + begin, begin, end, room - begin, row);
+        }
         for (int x = begin; x < end; ++x)
             queue.add(segment, x, track.parameter(x), shareOf(run, opacity_));
     };

@@ -29,6 +29,8 @@ class RadialShader : public RowSink {
     RadialRows rows_;
     const RampSegments& segments_;
     double opacity_;
+    // Nothing shows through, so that what lies beyond a piece may be written over.
+    bool hides_ = true;
     std::vector<RadialPiece>& pieces_;
 };
 

@@ -34,24 +34,11 @@ void walkSegments(std::span<const Run> runs, Track& track, const Paint& paint, c
     leave();
 }
 
-// Whether a segment hides what is below it wherever a shape covers the pixel fully.
-enum class Hiding { Full, Partial };
-
-inline Hiding hidingOf(const RampSegment& segment, const CoverageRun& run, double opacity) {
-    return run.coverage == kFullCoverage && opacity == 1 && segment.opaque() ? Hiding::Full : Hiding::Partial;
-}
-
 inline float shareOf(std::uint32_t coverage, double opacity) {
     return static_cast<float>(coverage * (opacity / kFullCoverage));
 }
 inline float shareOf(const CoverageRun& run, double opacity) {
     return shareOf(static_cast<std::uint32_t>(run.coverage), opacity);
-}
-
-// Without opacity: the pixel is opaque.
-inline std::uint32_t opaquePixel(const Channels& color) {
-    const auto level = [&](std::size_t i) { return static_cast<std::uint32_t>(std::nearbyint(color[i])); };
-    return 0xFF000000 | level(2) << 16 | level(1) << 8 | level(0);
 }
 
 // Collects the pixels of a segment that have to be blended, so that they are handed over many at a time.

@@ -9,6 +9,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 
+#include "easel/paint/pixels/RadialWays.h"
 #include "easel/paint/pixels/StorePixels.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -53,17 +54,11 @@ void FillAlongWays(D d, std::uint32_t* out, int count, int room, const RadialCol
     }
 }
 
-// The function from pixels' steps along a run to their ways. `toBits` added to a way leaves the nearest whole
-// number in the lowest bits.
-template <class D> auto WaysOf(D d, const RadialRun& run, hn::TFromD<D> toBits) {
-    const auto all = [d](double value) HWY_ATTR { return hn::Set(d, static_cast<hn::TFromD<D>>(value)); };
-    return [=, offset = all(run.offset), height = all(run.height), lean = all(run.lean),
-            reference = all(run.reference), shift = hn::Set(d, toBits)](hn::VFromD<D> along) HWY_ATTR {
-        const auto u = hn::Add(offset, along);
-        const auto root = hn::Sqrt(hn::Add(hn::Mul(u, u), height));
-        const auto way = hn::Add(hn::Add(root, hn::Mul(lean, u)), reference);
-        return hn::BitCast(hn::RebindToUnsigned<D>(), hn::Add(way, shift));
-    };
+// The function from pixels' steps along a run to their ways as bits; `toBits` added to a way leaves the
+// nearest whole number in the lowest ones.
+template <class D> auto BitsOfWays(D d, const RadialRun& run, hn::TFromD<D> toBits) {
+    return [waysOf = WaysOf(d, run), shift = hn::Set(d, toBits)](hn::VFromD<D> along)
+               HWY_ATTR { return hn::BitCast(hn::RebindToUnsigned<D>(), hn::Add(waysOf(along), shift)); };
 }
 
 void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, const RadialColors& colors) {
@@ -71,7 +66,7 @@ void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, c
     const hn::RebindToUnsigned<decltype(df)> d;
     const auto step = static_cast<float>(run.step);
     const auto stride = hn::Set(df, step * static_cast<float>(hn::Lanes(df)));
-    const auto waysOf = WaysOf(df, run, 12582912.0F); // 3 times 2 to the 22
+    const auto waysOf = BitsOfWays(df, run, 12582912.0F); // 3 times 2 to the 22
     auto along = hn::Mul(hn::Set(df, step), hn::Iota(df, 0));
     FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
         const auto ways = waysOf(along);
@@ -86,7 +81,7 @@ void FillRadialFar(std::uint32_t* out, int count, int room, const RadialRun& run
     const hn::ScalableTag<double> df;
     const hn::Repartition<std::uint32_t, decltype(df)> d;
     const auto stride = hn::Set(df, run.step * static_cast<double>(hn::Lanes(df)));
-    const auto waysOf = WaysOf(df, run, 6755399441055744.0); // 3 times 2 to the 51
+    const auto waysOf = BitsOfWays(df, run, 6755399441055744.0); // 3 times 2 to the 51
     auto along = hn::Mul(hn::Set(df, run.step), hn::Iota(df, 0));
     FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
         const auto low = waysOf(along);

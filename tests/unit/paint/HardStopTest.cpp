@@ -97,6 +97,30 @@ TEST(HardStop, RingsOfARadialGradientFallOnTheirPixels) {
     }
 }
 
+// Black on white, opaque before the jump and clear after it, or the other way round: what jumps is the
+// opacity.
+TEST(HardStop, OpacityJumpsOnTheExactPixel) {
+    for (int at = 1; at < 99; ++at) {
+        for (const double before : {0.0, 1.0}) {
+            const double position = (at + 0.499) / 100;
+            const drawing::Ramp ramp(
+                {{0, kBlack, before}, {position, kBlack, before}, {position, kBlack, 1 - before}});
+            const drawing::RadialGeometry circles{{0, 0.5}, 0, {0, 0.5}, 100};
+            for (const drawing::Gradient& gradient :
+                 {drawing::Gradient{
+                      drawing::LinearGeometry{{0, 0}, {100, 0}}, {}, drawing::Spread::Pad, ramp},
+                  drawing::Gradient{circles, {1, 0, 0.7, -0.2, -0.35, 0.6}, drawing::Spread::Pad, ramp}}) {
+                paint::Surface surface(100, 1);
+                surface.clear(kWhitePixel);
+                paint::Painter().fillAll(surface.view(), {}, &gradient);
+                for (int x = 0; x < 100; ++x)
+                    EXPECT_EQ(surface.row(0)[x], (x < at) == (before == 1) ? kBlackPixel : kWhitePixel)
+                        << x << " of a jump at " << at;
+            }
+        }
+    }
+}
+
 TEST(HardStop, OfStopsAtOnePositionOnlyTheFirstAndLastShow) {
     const drawing::Rgb16 red{65535, 0, 0};
     const drawing::Gradient gradient{

@@ -30,6 +30,9 @@ void paintPicture(const paint::SurfaceView& view) {
                                    drawing::Ramp(std::move(stops))};
         if (i % 2 == 1)
             gradient.geometry = drawing::RadialGeometry{a, real(0, 5), b, real(10, 300)};
+        // So flat that single precision does not do.
+        if (i % 12 == 9)
+            gradient.toDrawing = {1, 0, real(-1, 1), real(1e-4, 1e-3), 0, b.y};
         painter.fill(view, drawing::ellipsePath(b, real(2, 150), real(2, 150)), drawing::FillRule::NonZero,
                      {}, &gradient);
     }
