@@ -16,20 +16,22 @@ namespace easel::svg {
 struct ReadOptions {
     // Called now and then with the part that is done, 0 to 1; false cancels.
     std::function<bool(double)> progress;
-    std::uintmax_t largestFile = std::uintmax_t{512} << 20; // bytes
+    std::uintmax_t largestFile = std::uintmax_t{512} << 20; // bytes, also of what is unpacked
 };
 
 using ReadResult = std::variant<drawing::Drawing, Failure>;
 
-// Nothing that the file refers to outside itself is fetched.
+// Files may be compressed with gzip, whatever their names. Nothing that the file refers to outside itself is
+// fetched.
 ReadResult readFile(const std::filesystem::path& file, const ReadOptions& options = {});
 // The bytes of a file; `name` is what messages call it.
 ReadResult readBytes(std::string bytes, const std::string& name, const ReadOptions& options = {});
 
 // The bytes of the file that holds the drawing: those it was read from, with the changed parts rewritten. A
-// drawing that was not changed gives the same bytes.
+// drawing that was not changed gives the same bytes. What came compressed is compressed again.
 std::string toBytes(const drawing::Drawing& drawing);
-// Puts them into the file, whole or not at all, and marks the drawing as saved.
+// Puts them into the file, whole or not at all, and marks the drawing as saved. Any other file than the one
+// that the drawing was read from is compressed if its name ends in ".svgz", and only then.
 std::optional<Failure> saveFile(drawing::Drawing& drawing, const std::filesystem::path& file);
 
 } // namespace easel::svg

@@ -1,4 +1,5 @@
 // Reads an SVG file into a drawing.
+#include "easel/files/Gzip.h"
 #include "easel/files/WholeFile.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/read/TreeReader.h"
@@ -31,12 +32,30 @@ Span findOwnBlock(const XmlTree& tree, const std::string& text) {
     return {};
 }
 
-Drawing readDrawing(std::string bytes, const ReadOptions& options) {
+std::string unpacked(std::string_view bytes, std::uintmax_t limit) {
+    auto content = files::unpackedGzip(bytes, limit);
+    if (auto* const text = std::get_if<std::string>(&content))
+        return std::move(*text);
+    if (std::get<files::GzipFault>(content) == files::GzipFault::TooLarge)
+        throw ReadError{Fault::TooLarge, "the file is too large when it is unpacked"};
+    throw ReadError{Fault::Damaged, "it is compressed, and what it holds is damaged or cut off"};
+}
+
+void setBytes(Source& source, std::string bytes, std::uintmax_t limit) {
+    if (files::isGzip(bytes)) {
+        source.packed = std::move(bytes);
+        bytes = unpacked(source.packed, limit);
+    }
     if (bytes.empty())
         throw ReadError{Fault::Empty, "the file is empty"};
+    source.encoding = detectEncoding(bytes);
+    source.bytes = std::move(bytes);
+}
+
+Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOptions& options) {
     auto source = std::make_shared<Source>();
-    source->encoding = detectEncoding(bytes);
-    source->bytes = std::move(bytes);
+    setBytes(*source, std::move(bytes), options.largestFile);
+    source->file = std::move(file);
     if (source->encoding != Encoding::Utf8)
         source->decoded = decode(source->bytes, source->encoding);
     const std::string& text = source->text();
@@ -62,16 +81,21 @@ Drawing readDrawing(std::string bytes, const ReadOptions& options) {
             notes.sentences()};
 }
 
-} // namespace
-
-ReadResult readBytes(std::string bytes, const std::string& name, const ReadOptions& options) {
+ReadResult readNamed(std::string bytes, const std::string& name, const std::filesystem::path& file,
+                     const ReadOptions& options) {
     try {
-        return readDrawing(std::move(bytes), options);
+        return readDrawing(std::move(bytes), file, options);
     } catch (const ReadError& error) {
         return Failure{error.fault, name + ": " + error.reason};
     } catch (const std::bad_alloc&) {
         return Failure{Fault::TooLarge, name + ": there is not enough memory for it"};
     }
+}
+
+} // namespace
+
+ReadResult readBytes(std::string bytes, const std::string& name, const ReadOptions& options) {
+    return readNamed(std::move(bytes), name, {}, options);
 }
 
 ReadResult readFile(const std::filesystem::path& file, const ReadOptions& options) {
@@ -80,7 +104,7 @@ ReadResult readFile(const std::filesystem::path& file, const ReadOptions& option
         if (const auto* const error = std::get_if<files::FileError>(&content))
             return Failure{Fault::CannotRead, error->message()};
         const auto& bytes = std::get<files::Bytes>(content);
-        return readBytes({bytes.begin(), bytes.end()}, file.string(), options);
+        return readNamed({bytes.begin(), bytes.end()}, file.string(), file, options);
     } catch (const std::bad_alloc&) {
         return Failure{Fault::TooLarge, file.string() + ": there is not enough memory for it"};
     }

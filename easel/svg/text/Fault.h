@@ -10,6 +10,7 @@ enum class Fault : std::uint8_t {
     CannotRead, // missing, a folder, not permitted, a fault of the disk
     Empty,
     TooLarge, // more bytes than are read, or more than memory holds
+    Damaged,  // compressed bytes that cannot be unpacked
     NotXml,   // also where the file is cut off
     NotSvg,
     TooDeep,    // elements nested too deep

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <set>
 #include <string>
 #include <vector>
@@ -32,7 +33,9 @@ inline constexpr const char* kOwnBlockAttribute = "data-easel";
 inline constexpr const char* kOwnBlockValue = "gradients";
 
 struct Source : drawing::DocumentSource {
-    std::string bytes;
+    std::string bytes;          // as they were read, but unpacked
+    std::string packed;         // as they were read, if they were compressed
+    std::filesystem::path file; // that they were read from; empty: from none
     Encoding encoding = Encoding::Utf8;
     std::string decoded; // unless the bytes are UTF-8 themselves
     std::string prefix;  // of SVG element names, with its colon

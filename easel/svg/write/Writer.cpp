@@ -1,7 +1,9 @@
 // Writes drawings as SVG files.
 #include "easel/files/AtomicFile.h"
+#include "easel/files/Gzip.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/text/Number.h"
+#include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/write/GradientText.h"
 #include "easel/svg/write/ObjectText.h"
@@ -30,16 +32,44 @@ std::string newFile(const Drawing& drawing) {
     return text + objects + "</svg>\n";
 }
 
+enum class Packing : std::uint8_t { None, Gzip };
+
+const Source* sourceOf(const Drawing& drawing) {
+    return dynamic_cast<const Source*>(drawing.source().get());
+}
+
+Packing packingOf(const Source* source) {
+    return source && !source->packed.empty() ? Packing::Gzip : Packing::None;
+}
+
+// Its own file stays as it is, compressed or not; of others the name decides.
+Packing packingFor(const std::filesystem::path& file, const Source* source) {
+    std::error_code gone;
+    if (source && (file == source->file || std::filesystem::equivalent(file, source->file, gone)))
+        return packingOf(source);
+    return equalIgnoringCase(file.extension().string(), ".svgz") ? Packing::Gzip : Packing::None;
+}
+
+std::string bytesOf(const Drawing& drawing, Packing packing) {
+    const Source* const source = sourceOf(drawing);
+    std::string bytes = source ? Rewriter(drawing, *source).rewritten() : newFile(drawing);
+    if (packing == Packing::None)
+        return bytes;
+    // Another program may have compressed the same bytes in another way.
+    const bool unchanged = packingOf(source) == Packing::Gzip && bytes == source->bytes;
+    return unchanged ? source->packed : files::packedGzip(bytes);
+}
+
 } // namespace
 
 std::string toBytes(const Drawing& drawing) {
-    const auto* const source = dynamic_cast<const Source*>(drawing.source().get());
-    return source ? Rewriter(drawing, *source).rewritten() : newFile(drawing);
+    return bytesOf(drawing, packingOf(sourceOf(drawing)));
 }
 
 std::optional<Failure> saveFile(Drawing& drawing, const std::filesystem::path& file) {
     try {
-        if (const auto error = files::replaceFile(file, std::string_view(toBytes(drawing))))
+        if (const auto error = files::replaceFile(
+                file, std::string_view(bytesOf(drawing, packingFor(file, sourceOf(drawing))))))
             return Failure{Fault::CannotWrite, error->message()};
     } catch (const std::bad_alloc&) {
         return Failure{Fault::CannotWrite, file.string() + ": there is not enough memory to write it"};

@@ -25,7 +25,7 @@ namespace {
 constexpr int kMessageTime = 4000; // milliseconds
 
 QString svgFilter() {
-    return QObject::tr("SVG drawings (*.svg);;All files (*)");
+    return QObject::tr("SVG drawings (*.svg *.svgz);;All files (*)");
 }
 
 QStringList localFiles(const QMimeData& data) {
@@ -80,7 +80,9 @@ MainWindow::Saved MainWindow::save() {
 }
 
 MainWindow::Saved MainWindow::saveAs() {
-    const QString file = chosenFile(tr("Save As"), baseName() + QStringLiteral(".svg"), svgFilter());
+    const bool packed = QFileInfo(file_).suffix().compare(QLatin1String("svgz"), Qt::CaseInsensitive) == 0;
+    const QString ending = packed ? QStringLiteral(".svgz") : QStringLiteral(".svg");
+    const QString file = chosenFile(tr("Save As"), baseName() + ending, svgFilter());
     return file.isEmpty() ? Saved::No : saveTo(file);
 }
 

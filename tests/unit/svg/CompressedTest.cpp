@@ -1,0 +1,106 @@
+// Drawings in compressed files.
+#include "tests/unit/svg/ReadHelp.h"
+
+#include "easel/files/Gzip.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+using easel::drawing::Drawing;
+using easel::files::isGzip;
+using easel::files::packedGzip;
+using easel::svg::Failure;
+using easel::svg::Fault;
+using easel::svg::toBytes;
+
+const std::string kText = svgFile("<!-- kept --><rect id='r' width='50' height='50'/>");
+
+std::string unpacked(const std::string& bytes) {
+    return std::get<std::string>(easel::files::unpackedGzip(bytes, 1 << 20));
+}
+
+// Two members, which this program itself never writes.
+std::string packedByOthers() {
+    return packedGzip(kText.substr(0, 40)) + packedGzip(kText.substr(40));
+}
+
+Failure failureOf(const std::string& bytes, const easel::svg::ReadOptions& options = {}) {
+    const auto result = easel::svg::readBytes(bytes, "bad.svgz", options);
+    const auto* const failure = std::get_if<Failure>(&result);
+    EXPECT_TRUE(failure);
+    return failure ? *failure : Failure();
+}
+
+std::string contentOf(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+class CompressedFile : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::filesystem::create_directories(folder_);
+        std::ofstream(folder_ / "a.svgz", std::ios::binary) << packedByOthers();
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+    Drawing opened(const char* name) const { return std::get<Drawing>(easel::svg::readFile(folder_ / name)); }
+
+    const std::filesystem::path folder_ = std::filesystem::temp_directory_path() / "easel-compressed-test";
+};
+
+TEST(Compressed, AnUnchangedDrawingGivesTheVerySameBytes) {
+    const std::string bytes = packedByOthers();
+    const Drawing drawing = readOk(bytes);
+    EXPECT_EQ(drawing.size(), 1U);
+    EXPECT_EQ(toBytes(drawing), bytes);
+}
+
+TEST(Compressed, AChangedDrawingIsCompressedAgainWithItsOtherBytesKept) {
+    Drawing drawing = readOk(packedByOthers());
+    giveGradient(drawing, 0, CGradientData());
+    const std::string bytes = toBytes(drawing);
+    ASSERT_TRUE(isGzip(bytes));
+    EXPECT_NE(unpacked(bytes).find("<!-- kept --><rect id='r' width='50' height='50' fill="),
+              std::string::npos)
+        << unpacked(bytes);
+    drawing.undo();
+    EXPECT_EQ(toBytes(drawing), packedByOthers());
+}
+
+TEST(Compressed, DamageAndSizeAreNamed) {
+    const std::string bytes = packedByOthers();
+    const Failure cut = failureOf(bytes.substr(0, bytes.size() / 2));
+    EXPECT_EQ(cut.fault, Fault::Damaged);
+    EXPECT_EQ(cut.message, "bad.svgz: it is compressed, and what it holds is damaged or cut off");
+    easel::svg::ReadOptions options;
+    options.largestFile = kText.size() - 1;
+    EXPECT_EQ(failureOf(bytes, options).fault, Fault::TooLarge);
+    EXPECT_EQ(failureOf(packedGzip("")).fault, Fault::Empty);
+}
+
+TEST_F(CompressedFile, ItsOwnFileStaysAsItIsAndOthersGoByTheirNames) {
+    Drawing drawing = opened("a.svgz");
+    for (const char* name : {"a.svgz", "b.svgz", "b.SVGZ"}) {
+        ASSERT_FALSE(easel::svg::saveFile(drawing, folder_ / name));
+        EXPECT_EQ(contentOf(folder_ / name), packedByOthers()) << name;
+    }
+    ASSERT_FALSE(easel::svg::saveFile(drawing, folder_ / "b.svg"));
+    EXPECT_EQ(contentOf(folder_ / "b.svg"), kText);
+
+    Drawing plain = opened("b.svg");
+    ASSERT_FALSE(easel::svg::saveFile(plain, folder_ / "c.svgz"));
+    EXPECT_EQ(unpacked(contentOf(folder_ / "c.svgz")), kText);
+}
+
+TEST_F(CompressedFile, WithTheNameOfAPlainOneItStaysCompressed) {
+    std::filesystem::rename(folder_ / "a.svgz", folder_ / "a.svg");
+    Drawing drawing = opened("a.svg");
+    giveGradient(drawing, 0, CGradientData());
+    ASSERT_FALSE(easel::svg::saveFile(drawing, folder_ / "a.svg"));
+    EXPECT_TRUE(isGzip(contentOf(folder_ / "a.svg")));
+}
+
+} // namespace
