@@ -13,10 +13,23 @@ using drawing::Affine;
 using drawing::Box;
 using drawing::ClipPath;
 
+namespace {
+
+// Clip paths are read, and painted, by recursion.
+constexpr std::size_t kDeepestClip = 64;
+
+bool isShareOfBox(pugi::xml_node clipPath) {
+    return std::string_view(clipPath.attribute("clipPathUnits").value()) == "objectBoundingBox";
+}
+
+} // namespace
+
 std::shared_ptr<const ClipPath> rectangleClip(const Box& box, const Affine& toDrawing) {
+    auto outline = placedPath(drawing::rectanglePath(box), toDrawing);
+    if (!outline)
+        return nullptr;
     auto clip = std::make_shared<ClipPath>();
-    clip->shapes.push_back(
-        {placedPath(drawing::rectanglePath(box), toDrawing), drawing::FillRule::NonZero, nullptr});
+    clip->shapes.push_back({std::move(*outline), drawing::FillRule::NonZero, nullptr});
     return clip;
 }
 
@@ -32,18 +45,22 @@ ClipReader::ClipPtr ClipReader::clipFor(const StatedStyle& stated, const Box& bo
     const pugi::xml_node element = scene_.tree.byId(id);
     if (scene_.tree.svgName(element) != "clipPath")
         return nullptr;
-    if (std::find(open_.begin(), open_.end(), element) != open_.end())
-        throw ReadError{Fault::Circular,
-                        "the clip path \"" + std::string(id) + "\" refers to itself by way of others"};
+    if (open_.size() == kDeepestClip || std::find(open_.begin(), open_.end(), element) != open_.end()) {
+        scene_.notes.add(open_.size() == kDeepestClip ? Unshown::DeepLayer : Unshown::Circle);
+        return nullptr;
+    }
     open_.push_back(element);
     ClipPtr clip = read(element, box, place);
     open_.pop_back();
     return clip;
 }
 
+bool ClipReader::asksForBox(const StatedStyle& stated) const {
+    return isShareOfBox(scene_.tree.byId(localId(stated[Property::ClipPath])));
+}
+
 ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, const Place& place) {
-    const bool fractions =
-        std::string_view(element.attribute("clipPathUnits").value()) == "objectBoundingBox";
+    const bool fractions = isShareOfBox(element);
     if (fractions && box.empty()) {
         scene_.notes.add(Unshown::ClipShape);
         return nullptr;
@@ -96,8 +113,11 @@ void ClipReader::addShape(ClipPath& clip, pugi::xml_node child, const Place& pla
     if (!shape)
         return;
     scene_.budget.spend(Budget::kObject + shape->outline.points().size());
-    const drawing::Path outline = placedPath(shape->outline, inside.toDrawing);
-    clip.shapes.push_back({outline, inside.style.clipRule, clipFor(stated, shape->outline.bounds(), inside)});
+    auto outline = placedPath(shape->outline, inside.toDrawing);
+    if (!outline)
+        return scene_.notes.add(Unshown::OutOfRange);
+    clip.shapes.push_back(
+        {std::move(*outline), inside.style.clipRule, clipFor(stated, shape->outline.bounds(), inside)});
 }
 
 } // namespace easel::svg

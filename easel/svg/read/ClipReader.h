@@ -14,10 +14,13 @@ class ClipReader {
     explicit ClipReader(const Scene& scene) : scene_(scene) {}
 
     // The clip that the stated style asks for, in drawing coordinates; null for none. `box` is that of the
-    // element in its own units, empty if it is not known. Throws ReadError for clip paths that refer to each
-    // other in a circle.
+    // element in its own units, empty if it is not known. A clip path that leads back to itself is none
+    // there.
     std::shared_ptr<const drawing::ClipPath> clipFor(const StatedStyle& stated, const drawing::Box& box,
                                                      const Place& place);
+
+    // Whether that clip can be told only when the box is known.
+    bool asksForBox(const StatedStyle& stated) const;
 
   private:
     using ClipPtr = std::shared_ptr<const drawing::ClipPath>;
@@ -33,7 +36,7 @@ class ClipReader {
     ClipPtr last_;
 };
 
-// A clip to a rectangle, given in units that `toDrawing` maps.
+// A clip to a rectangle, given in units that `toDrawing` maps; null if it is beyond what is computed with.
 std::shared_ptr<const drawing::ClipPath> rectangleClip(const drawing::Box& box,
                                                        const drawing::Affine& toDrawing);
 

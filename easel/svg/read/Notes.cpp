@@ -20,6 +20,9 @@ constexpr std::array<std::string_view, kUnshownCount> kSentences = {
     "Clip paths other than outlines are kept in the file but not applied.",
     "Style sheets outside the file are not read.",
     "Content outside the file is not read.",
+    "References that lead back to themselves are kept in the file but not followed.",
+    "Shapes with numbers out of range are kept in the file but not shown.",
+    "Groups and repetitions nested very deep are kept in the file but not shown as such.",
 };
 
 } // namespace

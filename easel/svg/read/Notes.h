@@ -24,8 +24,11 @@ enum class Unshown : std::uint8_t {
     ClipShape,
     ExternalSheet,
     External,
+    Circle,
+    OutOfRange,
+    DeepLayer,
 };
-inline constexpr std::size_t kUnshownCount = 14;
+inline constexpr std::size_t kUnshownCount = 17;
 
 class Notes {
   public:

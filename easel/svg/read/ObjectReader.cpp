@@ -69,6 +69,11 @@ Paint kept(PlacedPaint placed) {
     return NoPaint();
 }
 
+bool strokeInRange(const ComputedStyle& style) {
+    return style.stroke.kind == PaintSpec::Kind::None ||
+           (inRange(style.strokeWidth) && inRange(style.miterLimit) && inRange(style.dashOffset));
+}
+
 FillPattern patternOf(const Paint& fill) {
     if (std::holds_alternative<NoPaint>(fill))
         return FillPattern::None;
@@ -78,13 +83,19 @@ FillPattern patternOf(const Paint& fill) {
 
 } // namespace
 
-Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opacity, const Place& place) {
+std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& shape, double opacity,
+                                         const Place& place) {
     scene_.budget.spend(Budget::kObject + shape.outline.points().size());
+    auto outline = placedPath(shape.outline, place.toDrawing);
+    if (!outline || !strokeInRange(place.style)) {
+        scene_.notes.add(Unshown::OutOfRange);
+        return std::nullopt;
+    }
     Object object;
     object.kind = shape.kind;
     object.id = element.attribute("id").value();
     object.fillRule = place.style.fillRule;
-    object.outline = placedPath(shape.outline, place.toDrawing);
+    object.outline = std::move(*outline);
     object.units = sharedUnits(place.toDrawing);
     const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
     setFill(object, at, place.style);
@@ -98,9 +109,6 @@ Object ObjectReader::read(pugi::xml_node element, const Shape& shape, double opa
     style.fillOpacity = place.style.fillOpacity;
     style.first = place.style.first;
     if (!std::holds_alternative<NoPaint>(style.stroke.paint)) {
-        requireInRange(place.style.strokeWidth);
-        requireInRange(place.style.miterLimit);
-        requireInRange(place.style.dashOffset);
         style.stroke.opacity = place.style.strokeOpacity;
         style.stroke.width = std::max(place.style.strokeWidth, 0.0);
         style.stroke.join = place.style.join;

@@ -6,6 +6,7 @@
 #include "easel/svg/read/Shapes.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace easel::svg {
@@ -15,7 +16,9 @@ class ObjectReader {
     explicit ObjectReader(const Scene& scene) : scene_(scene) {}
 
     // The object without its group. `place` is inside the element: its style and units are the element's own.
-    drawing::Object read(pugi::xml_node element, const Shape& shape, double opacity, const Place& place);
+    // Nothing, which is noted, if its numbers are out of range.
+    std::optional<drawing::Object> read(pugi::xml_node element, const Shape& shape, double opacity,
+                                        const Place& place);
 
   private:
     using StylePtr = std::shared_ptr<const drawing::Style>;

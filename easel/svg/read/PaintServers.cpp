@@ -37,16 +37,18 @@ class Chain {
     Chain(const XmlTree& tree, pugi::xml_node element) {
         while (element && isGradient(tree.svgName(element))) {
             if (std::find(elements_.begin(), elements_.end(), element) != elements_.end() ||
-                elements_.size() == kLongestChain)
-                throw ReadError{Fault::Circular, "the gradient \"" +
-                                                     std::string(element.attribute("id").value()) +
-                                                     "\" refers to itself by way of others"};
+                elements_.size() == kLongestChain) {
+                circular_ = true;
+                return;
+            }
             elements_.push_back(element);
             element = tree.byId(localId(hrefOf(element)));
         }
     }
 
     const std::vector<pugi::xml_node>& elements() const { return elements_; }
+    // Whether it would go on for ever; the reference that closes the circle counts as none.
+    bool circular() const { return circular_; }
 
     // The attribute of the nearest element that has it.
     std::string_view attribute(const char* name) const {
@@ -66,6 +68,7 @@ class Chain {
 
   private:
     std::vector<pugi::xml_node> elements_;
+    bool circular_ = false;
 };
 
 } // namespace
@@ -94,6 +97,7 @@ std::optional<std::size_t> PaintServers::idNumber(std::string_view id) {
 
 const GradientElement& PaintServers::read(pugi::xml_node element) {
     const Chain chain(tree_, element);
+    circular_ = circular_ || chain.circular();
     GradientElement& gradient = read_.emplace_back(&memory_);
     if (chain.attribute("gradientUnits") == "userSpaceOnUse")
         gradient.units = GradientUnits::UserSpaceOnUse;

@@ -50,9 +50,10 @@ class PaintServers {
     PaintServers(const XmlTree& tree, const Cascade& cascade)
         : tree_(tree), cascade_(cascade), byIdNumber_(tree.withIds().size()) {}
 
-    // Null if there is no gradient with this id. Throws ReadError for gradients that refer to each other in a
-    // circle.
+    // Null if there is no gradient with this id.
     const GradientElement* gradient(std::string_view id);
+    // Whether gradients that were asked for refer to each other in a circle.
+    bool circular() const { return circular_; }
 
   private:
     std::optional<std::size_t> idNumber(std::string_view id);
@@ -66,6 +67,7 @@ class PaintServers {
     std::pmr::deque<GradientElement> read_{&memory_};
     std::vector<const GradientElement*> byIdNumber_; // null: not read yet, or no gradient
     std::size_t nextId_ = 0;                         // after the one asked for last
+    bool circular_ = false;
 };
 
 // What a gradient is on a shape: nothing where it disables painting, a plain color where it has no extent.

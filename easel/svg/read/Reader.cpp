@@ -77,6 +77,8 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
     TreeReader reader(scene, *source, options.progress);
     reader.readRoot();
     source->objects.shrink_to_fit();
+    if (servers.circular())
+        notes.add(Unshown::Circle);
     return {reader.size().width, reader.size().height, reader.takeObjects(), std::move(source),
             notes.sentences()};
 }

@@ -1,5 +1,6 @@
 #include "easel/svg/read/Scene.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace easel::svg {
@@ -9,17 +10,16 @@ namespace {
 constexpr double kFarthest = 1e9;
 } // namespace
 
-void requireInRange(double value) {
-    if (!(std::abs(value) <= kFarthest))
-        throw ReadError{Fault::OutOfRange, "it holds a number that is out of range"};
+bool inRange(double value) {
+    return std::abs(value) <= kFarthest;
 }
 
-drawing::Path placedPath(const drawing::Path& path, const drawing::Affine& toDrawing) {
+std::optional<drawing::Path> placedPath(const drawing::Path& path, const drawing::Affine& toDrawing) {
     drawing::Path placed = path.transformed(toDrawing);
-    for (const drawing::Point p : placed.points()) {
-        requireInRange(p.x);
-        requireInRange(p.y);
-    }
+    const auto near = [](drawing::Point p) { return inRange(p.x) && inRange(p.y); };
+    const auto points = placed.points();
+    if (!std::all_of(points.begin(), points.end(), near))
+        return std::nullopt;
     return placed;
 }
 

@@ -9,6 +9,7 @@
 #include "easel/svg/text/XmlTree.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace easel::svg {
 
@@ -27,13 +28,12 @@ struct Place {
     drawing::Affine toDrawing;
     drawing::GroupPtr group;
     std::uint32_t use = 0; // the repetition that is being read
-    int depth = 0;
 };
 
-// The path in drawing coordinates. Throws ReadError if a coordinate is beyond what is computed with.
-drawing::Path placedPath(const drawing::Path& path, const drawing::Affine& toDrawing);
+// The path in drawing coordinates. Nothing if a coordinate is beyond what is computed with.
+std::optional<drawing::Path> placedPath(const drawing::Path& path, const drawing::Affine& toDrawing);
 
-// Throws ReadError unless the number is one that can be computed with.
-void requireInRange(double value);
+// Whether the number is one that can be computed with.
+bool inRange(double value);
 
 } // namespace easel::svg

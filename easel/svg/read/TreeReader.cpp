@@ -1,5 +1,6 @@
 #include "easel/svg/read/TreeReader.h"
 
+#include "easel/svg/read/Conditions.h"
 #include "easel/svg/read/Viewport.h"
 #include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Tags.h"
@@ -22,33 +23,11 @@ namespace {
 // How often, in elements, progress is told.
 constexpr std::size_t kTick = 512;
 
-// What a drawing measures that does not say.
-constexpr double kUsualWidth = 300;
-constexpr double kUsualHeight = 150;
-
-GroupPtr groupWith(const GroupPtr& parent, double opacity, std::shared_ptr<const drawing::ClipPath> clip) {
-    if (opacity >= 1 && !clip)
-        return parent;
-    return std::make_shared<const Group>(
-        Group{parent, opacity, std::move(clip), parent ? parent->depth + 1 : 1});
-}
-
-// Whether a child of a `switch` is for this program and its user.
-bool accepts(pugi::xml_node child) {
-    const pugi::xml_attribute extensions = child.attribute("requiredExtensions");
-    if (extensions && !trimmed(extensions.value()).empty())
-        return false;
-    const pugi::xml_attribute languages = child.attribute("systemLanguage");
-    if (!languages)
-        return true;
-    Scanner scanner(languages.value());
-    while (!scanner.done()) {
-        const std::string_view language = trimmed(scanner.until(','));
-        if (equalIgnoringCase(language.substr(0, 2), "en") && (language.size() == 2 || language[2] == '-'))
-            return true;
-    }
-    return false;
-}
+// Layers are painted, and repetitions written out, by recursion.
+constexpr std::uint32_t kDeepestGroup = 500;
+constexpr std::size_t kDeepestRepetition = 500;
+// How many steps up the tree cost as much as a point.
+constexpr std::size_t kStepsUp = 16;
 
 std::string_view attributeText(pugi::xml_node element, const char* name) {
     return element.attribute(name).value();
@@ -72,45 +51,107 @@ Place TreeReader::rootPlace() {
     const pugi::xml_node root = scene_.tree.root();
     const auto viewBox = parseViewBox(attributeText(root, "viewBox"));
     Place place;
-    place.lengths.viewportWidth = viewBox ? viewBox->width : kUsualWidth;
-    place.lengths.viewportHeight = viewBox ? viewBox->height : kUsualHeight;
+    place.lengths.viewportWidth = viewBox ? viewBox->width : kUsualSize.width;
+    place.lengths.viewportHeight = viewBox ? viewBox->height : kUsualSize.height;
     const auto side = [&](const char* name, Axis axis) {
-        const auto length = parseLength(attributeText(root, name), place.lengths, axis);
-        return length && *length > 0 ? *length : place.lengths.whole(axis);
+        const std::string_view text = attributeText(root, name);
+        const bool share = !viewBox && text.ends_with('%');
+        const auto length = share ? std::nullopt : parseLength(text, place.lengths, axis);
+        if (length && !inRange(*length))
+            scene_.notes.add(Unshown::OutOfRange);
+        else if (length && *length > 0)
+            return *length;
+        return 0.0;
     };
     size_ = {side("width", Axis::Horizontal), side("height", Axis::Vertical)};
-    requireInRange(size_.width);
-    requireInRange(size_.height);
+    if (viewBox)
+        size_ = completed(size_, *viewBox);
     if (viewBox)
         place.toDrawing = fitViewBox(*viewBox, attributeText(root, "preserveAspectRatio"),
                                      {0, 0, size_.width, size_.height});
-    else
-        std::tie(place.lengths.viewportWidth, place.lengths.viewportHeight) =
-            std::pair(size_.width, size_.height);
+    if (!viewBox && size_.width > 0)
+        place.lengths.viewportWidth = size_.width;
+    if (!viewBox && size_.height > 0)
+        place.lengths.viewportHeight = size_.height;
     return place;
 }
 
 void TreeReader::readRoot() {
     const Place outside = rootPlace();
     source_.rootToDrawing = outside.toDrawing;
-    Place inside;
-    if (!enter(scene_.tree.root(), outside, inside))
-        return;
-    inside.lengths.rootFontSize = inside.lengths.fontSize;
-    readChildren(scene_.tree.root(), inside);
+    auto inside = enter(scene_.tree.root(), outside);
+    if (inside) {
+        inside->place.lengths.rootFontSize = inside->place.lengths.fontSize;
+        readChildren(scene_.tree.root(), std::move(*inside));
+        readAll();
+    }
+    size_ = settled(size_, objects_);
 }
 
-bool TreeReader::enter(pugi::xml_node element, const Place& outside, Place& inside) {
+void TreeReader::readAll() {
+    while (!work_.empty()) {
+        Work& work = work_.back();
+        const pugi::xml_node element = work.next;
+        if (!element) {
+            finish(work);
+            work_.pop_back();
+            continue;
+        }
+        work.next = work.siblingsToo ? element.next_sibling() : pugi::xml_node();
+        if (element.type() == pugi::node_element)
+            readElement(element, work.inside.place);
+    }
+}
+
+void TreeReader::finish(const Work& work) {
+    if (work.endsRepetition)
+        open_.pop_back();
+    const WaitingClip& waiting = work.inside.waiting;
+    if (!waiting.group)
+        return;
+    Box box;
+    const Affine back = waiting.toDrawing.inverse();
+    for (std::size_t i = waiting.firstObject; i < objects_.size(); ++i)
+        box.add(objects_[i]->outline.transformed(back).bounds());
+    waiting.group->clip = clips_.clipFor(scene_.cascade.of(waiting.element), box, work.inside.place);
+}
+
+std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, const Place& outside) {
     const StatedStyle stated = scene_.cascade.of(element);
     if (equalIgnoringCase(stated[Property::Display], "none"))
-        return false;
-    inside = outside;
-    inside.style = outside.style.inherited(stated, inside.lengths);
-    inside.toDrawing = outside.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
-    inside.group = groupWith(outside.group, parseOpacity(stated[Property::Opacity], 1),
-                             clips_.clipFor(stated, Box(), inside));
+        return std::nullopt;
     noteEffects(stated);
-    return true;
+    Inside inside{outside, {}};
+    Place& place = inside.place;
+    place.style = outside.style.inherited(stated, place.lengths);
+    place.toDrawing = outside.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
+    const double opacity = parseOpacity(stated[Property::Opacity], 1);
+    const bool waits = clips_.asksForBox(stated);
+    auto clip = waits ? nullptr : clips_.clipFor(stated, Box(), place);
+    if (opacity >= 1 && !clip && !waits)
+        return inside;
+    if (auto group = groupWith(outside.group, opacity, std::move(clip))) {
+        if (waits)
+            inside.waiting = {element, group, place.toDrawing, objects_.size()};
+        place.group = std::move(group);
+    }
+    return inside;
+}
+
+std::shared_ptr<Group> TreeReader::groupWith(const GroupPtr& parent, double opacity,
+                                             std::shared_ptr<const drawing::ClipPath> clip) {
+    const std::uint32_t depth = parent ? parent->depth + 1 : 1;
+    if (depth <= kDeepestGroup)
+        return std::make_shared<Group>(Group{parent, opacity, std::move(clip), depth});
+    scene_.notes.add(Unshown::DeepLayer);
+    return nullptr;
+}
+
+void TreeReader::narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip) {
+    if (!clip)
+        return;
+    if (auto group = groupWith(place.group, 1, std::move(clip)))
+        place.group = std::move(group);
 }
 
 void TreeReader::noteEffects(const StatedStyle& stated) {
@@ -128,9 +169,6 @@ void TreeReader::noteEffects(const StatedStyle& stated) {
 }
 
 void TreeReader::readElement(pugi::xml_node element, const Place& place) {
-    if (place.depth > kDeepest)
-        throw ReadError{Fault::TooDeep,
-                        "its elements are nested more than " + std::to_string(kDeepest) + " deep"};
     tick();
     const std::string_view name = scene_.tree.svgName(element);
     if (name.empty())
@@ -143,33 +181,29 @@ void TreeReader::readElement(pugi::xml_node element, const Place& place) {
         scene_.notes.addElement(name);
 }
 
-void TreeReader::readChildren(pugi::xml_node element, const Place& place) {
-    for (const pugi::xml_node child : element.children())
-        if (child.type() == pugi::node_element)
-            readElement(child, place);
+void TreeReader::readChildren(pugi::xml_node element, Inside inside) {
+    work_.push_back({std::move(inside), element.first_child()});
 }
 
 void TreeReader::readContainer(pugi::xml_node element, std::string_view name, const Place& place) {
-    Place inside;
-    if (!enter(element, place, inside))
+    auto inside = enter(element, place);
+    if (!inside)
         return;
-    ++inside.depth;
     if (name == "use")
-        readUse(element, inside);
-    else if (name == "svg")
-        readChildren(element, viewportPlace(element, {}, inside));
-    else if (name == "switch")
-        readSwitch(element, inside);
-    else
-        readChildren(element, inside);
+        return readUse(element, std::move(*inside));
+    if (name == "switch")
+        return readSwitch(element, std::move(*inside));
+    if (name == "svg")
+        inside->place = viewportPlace(element, {}, inside->place);
+    readChildren(element, std::move(*inside));
 }
 
-void TreeReader::readSwitch(pugi::xml_node element, const Place& place) {
+void TreeReader::readSwitch(pugi::xml_node element, Inside inside) {
     for (const pugi::xml_node child : element.children()) {
-        if (scene_.tree.svgName(child).empty() || !accepts(child))
+        if (scene_.tree.svgName(child).empty() || !isForUser(child))
             continue;
         source_.chosen.insert(scene_.tree.tagBegin(child));
-        readElement(child, place);
+        work_.push_back({std::move(inside), child, false});
         return;
     }
 }
@@ -189,16 +223,19 @@ void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name,
     for (const pugi::xml_node child : element.children())
         scene_.notes.addElement(scene_.tree.svgName(child));
     inside.toDrawing = place.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
-    Object object = reader_.read(element, *shape, parseOpacity(stated[Property::Opacity], 1), inside);
-    object.group = groupWith(place.group, 1, clips_.clipFor(stated, shape->outline.bounds(), inside));
+    auto object = reader_.read(element, *shape, parseOpacity(stated[Property::Opacity], 1), inside);
+    if (!object)
+        return;
+    narrow(inside, clips_.clipFor(stated, shape->outline.bounds(), inside));
+    object->group = inside.group;
     const std::size_t begin = scene_.tree.tagBegin(element);
-    object.source = {static_cast<std::uint32_t>(begin),
-                     static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), place.use};
-    source_.objects.push_back(object.source);
-    objects_.push_back(sealed(std::move(object)));
+    object->source = {static_cast<std::uint32_t>(begin),
+                      static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), place.use};
+    source_.objects.push_back(object->source);
+    objects_.push_back(sealed(std::move(*object)));
 }
 
-void TreeReader::readUse(pugi::xml_node element, const Place& place) {
+void TreeReader::readUse(pugi::xml_node element, Inside inside) {
     const std::string_view reference = hrefOf(element);
     const std::string_view id = localId(reference);
     if (id.empty() && !reference.empty())
@@ -206,37 +243,42 @@ void TreeReader::readUse(pugi::xml_node element, const Place& place) {
     const pugi::xml_node target = scene_.tree.byId(id);
     if (!target)
         return;
-    const bool above = [&] {
-        for (pugi::xml_node node = element; node; node = node.parent())
-            if (node == target)
-                return true;
-        return false;
-    }();
-    if (above || std::find(open_.begin(), open_.end(), target) != open_.end())
-        throw ReadError{Fault::Circular,
-                        "the element \"" + std::string(id) + "\" repeats itself by way of 'use'"};
+    if (leadsBack(element, target))
+        return scene_.notes.add(Unshown::Circle);
+    if (open_.size() == kDeepestRepetition)
+        return scene_.notes.add(Unshown::DeepLayer);
     scene_.budget.spend(1);
-    open_.push_back(target);
-    readTarget(element, target, place);
-    open_.pop_back();
+    open_.push_back(element);
+    readTarget(element, target, std::move(inside));
 }
 
-void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, const Place& place) {
-    Place inside = place;
-    addRepetition(use, target, inside);
+bool TreeReader::leadsBack(pugi::xml_node use, pugi::xml_node target) {
+    const auto holds = [&](pugi::xml_node inside) {
+        std::size_t steps = 0;
+        for (; inside && inside != target; inside = inside.parent())
+            ++steps;
+        scene_.budget.spend(steps / kStepsUp);
+        return !inside.empty();
+    };
+    return holds(use) || std::any_of(open_.begin(), open_.end(), holds);
+}
+
+void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside) {
+    Place& place = inside.place;
+    addRepetition(use, target, place);
     const double x = parseLength(attributeText(use, "x"), place.lengths, Axis::Horizontal).value_or(0);
     const double y = parseLength(attributeText(use, "y"), place.lengths, Axis::Vertical).value_or(0);
-    inside.toDrawing = inside.toDrawing * Affine::translation(x, y);
+    place.toDrawing = place.toDrawing * Affine::translation(x, y);
     const std::string_view name = scene_.tree.svgName(target);
-    if (name != "symbol" && name != "svg") {
-        readElement(target, inside);
+    const bool ownViewport = name == "symbol" || name == "svg";
+    work_.push_back({std::move(inside), ownViewport ? pugi::xml_node() : target, false, true});
+    if (!ownViewport)
         return;
-    }
-    Place own;
-    if (!enter(target, inside, own))
+    auto own = enter(target, work_.back().inside.place);
+    if (!own)
         return;
-    ++own.depth;
-    readChildren(target, viewportPlace(target, use, own));
+    own->place = viewportPlace(target, use, own->place);
+    readChildren(target, std::move(*own));
 }
 
 void TreeReader::addRepetition(pugi::xml_node use, pugi::xml_node target, Place& place) {
@@ -260,7 +302,7 @@ Place TreeReader::viewportPlace(pugi::xml_node element, pugi::xml_node use, cons
     Place inside = outside;
     const std::string overflow(scene_.cascade.of(element)[Property::Overflow]);
     if (!equalIgnoringCase(overflow, "visible") && !equalIgnoringCase(overflow, "auto"))
-        inside.group = groupWith(outside.group, 1, rectangleClip(viewport, outside.toDrawing));
+        narrow(inside, rectangleClip(viewport, outside.toDrawing));
     const auto viewBox = parseViewBox(attributeText(element, "viewBox"));
     inside.lengths.viewportWidth = viewBox ? viewBox->width : viewport.width();
     inside.lengths.viewportHeight = viewBox ? viewBox->height : viewport.height();

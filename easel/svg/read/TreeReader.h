@@ -2,20 +2,18 @@
 #pragma once
 
 #include "easel/svg/read/ClipReader.h"
+#include "easel/svg/read/DrawingSize.h"
 #include "easel/svg/read/ObjectReader.h"
 #include "easel/svg/read/Scene.h"
 #include "easel/svg/text/Source.h"
 
+#include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace easel::svg {
-
-struct DrawingSize {
-    double width = 0;
-    double height = 0;
-};
 
 class TreeReader {
   public:
@@ -29,17 +27,43 @@ class TreeReader {
     std::vector<drawing::ObjectPtr> takeObjects() { return std::move(objects_); }
 
   private:
+    // A group whose clip path is a share of what the group holds, and so has to wait until that is read.
+    struct WaitingClip {
+        pugi::xml_node element;
+        std::shared_ptr<drawing::Group> group; // null: none waits
+        drawing::Affine toDrawing;             // from the units of the group
+        std::size_t firstObject = 0;
+    };
+    struct Inside {
+        Place place;
+        WaitingClip waiting;
+    };
+    // Elements that are left to be read in one place. A stack of these stands in for recursion, so that
+    // elements may be nested as deep as memory goes.
+    struct Work {
+        Inside inside;
+        pugi::xml_node next;
+        bool siblingsToo = true;
+        bool endsRepetition = false; // the innermost of `open_`
+    };
+
+    void readAll();
+    void finish(const Work& work);
     void readElement(pugi::xml_node element, const Place& place);
     void readContainer(pugi::xml_node element, std::string_view name, const Place& place);
     void readShapeElement(pugi::xml_node element, std::string_view name, const Place& place);
-    void readUse(pugi::xml_node element, const Place& place);
-    void readTarget(pugi::xml_node use, pugi::xml_node target, const Place& place);
-    void readChildren(pugi::xml_node element, const Place& place);
-    void readSwitch(pugi::xml_node element, const Place& place);
+    void readUse(pugi::xml_node element, Inside inside);
+    void readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside);
+    void readChildren(pugi::xml_node element, Inside inside);
+    void readSwitch(pugi::xml_node element, Inside inside);
+    bool leadsBack(pugi::xml_node use, pugi::xml_node target);
 
     Place rootPlace();
-    // The place inside a container; false if nothing of it is shown.
-    bool enter(pugi::xml_node element, const Place& outside, Place& inside);
+    // The place inside a container; nothing if nothing of it is shown.
+    std::optional<Inside> enter(pugi::xml_node element, const Place& outside);
+    std::shared_ptr<drawing::Group> groupWith(const drawing::GroupPtr& parent, double opacity,
+                                              std::shared_ptr<const drawing::ClipPath> clip);
+    void narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip);
     // The place inside an element with a viewport of its own, which `use` may give another size.
     Place viewportPlace(pugi::xml_node element, pugi::xml_node use, const Place& outside);
     void noteEffects(const StatedStyle& stated);
@@ -52,8 +76,9 @@ class TreeReader {
     ClipReader clips_;
     ObjectReader reader_;
     std::vector<drawing::ObjectPtr> objects_;
-    std::vector<pugi::xml_node> open_; // targets of `use` elements that are being read
-    DrawingSize size_;
+    std::vector<pugi::xml_node> open_; // `use` elements whose targets are being read
+    std::deque<Work> work_;            // the last is the innermost
+    DrawingSize size_;                 // a side that is not known yet is 0
     std::size_t visited_ = 0;
 };
 

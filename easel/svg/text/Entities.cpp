@@ -51,7 +51,7 @@ std::string Entities::expanded(std::string_view text) {
 
 void Entities::expandInto(std::string& result, std::string_view text, int depth) {
     if (depth > kDeepestEntity)
-        throw ReadError{Fault::Circular, "an entity is defined by way of itself"};
+        throw ReadError{Fault::NotXml, "it is not XML: an entity is defined by way of itself"};
     while (!text.empty()) {
         const std::size_t plain = std::min(text.find('&'), text.size());
         result += text.substr(0, plain);

@@ -13,10 +13,7 @@ enum class Fault : std::uint8_t {
     Damaged,  // compressed bytes that cannot be unpacked
     NotXml,   // also where the file is cut off
     NotSvg,
-    TooDeep,    // elements nested too deep
     TooComplex, // shapes or texts repeated without measure
-    Circular,   // an element that refers to itself by way of others
-    OutOfRange, // a number too large to compute with
     Cancelled,
     CannotWrite,
 };

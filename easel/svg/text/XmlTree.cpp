@@ -27,24 +27,26 @@ std::string describe(const pugi::xml_parse_result& result, const std::string& te
     return "it is not well-formed XML (line " + std::to_string(lineOf(text, result.offset)) + ")";
 }
 
-// Calls visit(element, depth) for the element and all below it, in the order of the text, without recursion.
+// Calls visit(element) for the element and all below it, in the order of the text, without recursion.
 template <class Visitor> void forEachElement(pugi::xml_node root, Visitor visit) {
-    int depth = 0;
     pugi::xml_node node = root;
     while (node) {
         if (node.type() == pugi::node_element)
-            visit(node, depth);
+            visit(node);
         if (node.first_child()) {
             node = node.first_child();
-            ++depth;
             continue;
         }
-        while (node != root && !node.next_sibling()) {
+        while (node != root && !node.next_sibling())
             node = node.parent();
-            --depth;
-        }
         node = node == root ? pugi::xml_node() : node.next_sibling();
     }
+}
+
+void expandText(pugi::xml_node element, Entities& entities) {
+    for (pugi::xml_node part : element.children())
+        if (part.type() == pugi::node_pcdata && std::strchr(part.value(), '&'))
+            part.set_value(entities.expanded(part.value()).c_str());
 }
 
 std::string_view prefixOf(std::string_view name) {
@@ -71,18 +73,18 @@ XmlTree::XmlTree(const std::string& text) {
 
 void XmlTree::index(const std::string& text) {
     Entities entities(text);
-    forEachElement(root_, [&](pugi::xml_node element, int depth) {
-        if (depth > kDeepest)
-            throw ReadError{Fault::TooDeep,
-                            "its elements are nested more than " + std::to_string(kDeepest) + " deep"};
+    forEachElement(root_, [&](pugi::xml_node element) {
         ++elementCount_;
         if (!entities.empty())
             for (pugi::xml_attribute attribute : element.attributes())
                 if (std::strchr(attribute.value(), '&'))
                     attribute.set_value(entities.expanded(attribute.value()).c_str());
         noteNamespaces(element);
-        if (std::string_view(element.name()).ends_with("style"))
+        if (std::string_view(element.name()).ends_with("style")) {
             sheets_.push_back(element);
+            if (!entities.empty())
+                expandText(element, entities);
+        }
         // An empty id is none: whatever refers to nothing would refer to it.
         if (const std::string_view id = element.attribute("id").value(); !id.empty())
             withIds_.push_back({id, element});

@@ -17,12 +17,9 @@
 
 namespace easel::svg {
 
-// Reading goes down the tree by recursion, so its depth is limited.
-inline constexpr int kDeepest = 500;
-
 class XmlTree {
   public:
-    // The text is UTF-8. Throws ReadError if it is not XML, not SVG, or nested too deep.
+    // The text is UTF-8. Throws ReadError if it is not XML or not SVG.
     explicit XmlTree(const std::string& text);
     XmlTree(const XmlTree&) = delete;
     XmlTree& operator=(const XmlTree&) = delete;

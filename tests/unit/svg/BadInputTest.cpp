@@ -1,6 +1,8 @@
 // Files that are no drawings, or mean harm: each gets an error that names it and says why.
 #include "tests/unit/svg/ReadHelp.h"
 
+#include <gmock/gmock.h>
+
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -71,26 +73,63 @@ TEST(BadInput, AFileAboveTheLimitIsRefusedWithoutBeingRead) {
     std::filesystem::remove(path);
 }
 
-TEST(BadInput, AMillionNestedElementsAreRefused) {
+TEST(BadInput, AMillionNestedElementsAreRead) {
     const std::size_t depth = 1'000'000;
-    EXPECT_EQ(failureOf(svgFile(repeated("<g>", depth) + repeated("</g>", depth))).fault, Fault::TooDeep);
+    const std::clock_t begin = std::clock();
+    const auto drawing =
+        readOk(svgFile(repeated("<g>", depth) + "<rect width='5' height='5'/>" + repeated("</g>", depth)));
+    EXPECT_EQ(drawing.size(), 1U);
+    EXPECT_LT(std::clock() - begin, 20 * CLOCKS_PER_SEC);
 }
 
-TEST(BadInput, CircularReferencesAreRefused) {
+TEST(BadInput, LayersAndRepetitionsNestedVeryDeepAreNamed) {
+    const std::size_t depth = 100'000;
+    const auto layers = readOk(svgFile(repeated("<g opacity='.5'>", depth) + "<rect width='5' height='5'/>" +
+                                       repeated("</g>", depth)));
+    EXPECT_EQ(layers.size(), 1U);
+    EXPECT_THAT(layers.notes(), testing::ElementsAre(testing::HasSubstr("nested very deep")));
+
+    std::string chain = "<rect id='u0' width='1' height='1'/>";
+    std::string clips = "<clipPath id='c0'><rect width='1' height='1'/></clipPath>";
+    for (int i = 1; i < 20'000; ++i) {
+        const std::string before = std::to_string(i - 1);
+        chain += "<use id='u" + std::to_string(i) + "' href='#u" + before + "'/>";
+        clips += "<clipPath id='c" + std::to_string(i) + "' clip-path='url(#c" + before + ")'/>";
+    }
+    const auto uses = readOk(svgFile("<defs>" + chain + "</defs><use href='#u19999'/>"));
+    EXPECT_THAT(uses.notes(), testing::ElementsAre(testing::HasSubstr("nested very deep")));
+    const auto clipped = readOk(svgFile(clips + "<rect width='1' height='1' clip-path='url(#c19999)'/>"));
+    EXPECT_THAT(clipped.notes(), testing::ElementsAre(testing::HasSubstr("nested very deep")));
+}
+
+TEST(BadInput, ReferencesInCirclesAreNoneAndNamedOnce) {
     for (const char* content :
-         {"<g id='a'><use href='#a'/></g>", "<g id='a'><use href='#b'/></g><g id='b'><use href='#a'/></g>",
-          "<linearGradient id='a' href='#b'/><linearGradient id='b' href='#a'/><rect width='1' height='1' "
+         {"<g id='a'><use href='#a'/><use href='#a'/><rect width='9' height='9'/></g>",
+          "<defs><g id='a'><use href='#b'/></g></defs><g id='b'><use href='#a'/><rect width='9' "
+          "height='9'/></g>",
+          "<linearGradient id='a' href='#b'/><linearGradient id='b' href='#a'/><rect width='9' height='9' "
           "fill='url(#a)'/>",
-          "<clipPath id='c'><rect width='1' height='1' clip-path='url(#c)'/></clipPath>"
-          "<rect width='1' height='1' clip-path='url(#c)'/>"})
-        EXPECT_EQ(failureOf(svgFile(content)).fault, Fault::Circular) << content;
+          "<clipPath id='c'><rect width='9' height='9' clip-path='url(#c)'/></clipPath>"
+          "<rect width='9' height='9' clip-path='url(#c)'/>"}) {
+        const std::string text = svgFile(content);
+        const auto drawing = readOk(text);
+        EXPECT_EQ(drawing.size(), 1U) << content;
+        EXPECT_THAT(drawing.notes(), testing::ElementsAre(testing::HasSubstr("lead back to themselves")))
+            << content;
+        EXPECT_EQ(easel::svg::toBytes(drawing), text);
+    }
 }
 
-TEST(BadInput, NumbersOutOfRangeAreRefused) {
-    for (const char* content :
-         {"<rect x='1e999' width='1' height='1'/>", "<path d='M0 0L1e300 1e300'/>",
-          "<g transform='scale(1e200)'><rect transform='scale(1e200)' width='1' height='1'/></g>"})
-        EXPECT_EQ(failureOf(svgFile(content)).fault, Fault::OutOfRange) << content;
+TEST(BadInput, ShapesWithNumbersOutOfRangeAreLeftOutAndNamedOnce) {
+    const std::string text =
+        svgFile("<rect x='1e999' width='1' height='1'/><path d='M0 0L1e300 1e300'/>"
+                "<g transform='scale(1e200)'><rect transform='scale(1e200)' width='1' height='1'/></g>"
+                "<line x2='5' stroke='red' stroke-width='1e30'/><rect id='good' width='9' height='9'/>");
+    const auto drawing = readOk(text);
+    ASSERT_EQ(drawing.size(), 1U);
+    EXPECT_EQ(drawing.object(0)->id.text(), "good");
+    EXPECT_THAT(drawing.notes(), testing::ElementsAre(testing::HasSubstr("out of range")));
+    EXPECT_EQ(easel::svg::toBytes(drawing), text);
 }
 
 TEST(BadInput, NumbersTooSmallForADoubleAreZero) {
@@ -112,7 +151,7 @@ TEST(BadInput, EntityBombsAreRefused) {
             "<!ENTITY e" + std::to_string(i) + " '" + repeated("&e" + std::to_string(i - 1) + ";", 10) + "'>";
     EXPECT_EQ(failureOf("<!DOCTYPE svg [" + types + "]><svg style='&e11;'/>").fault, Fault::TooComplex);
     EXPECT_EQ(failureOf("<!DOCTYPE svg [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><svg style='&a;'/>").fault,
-              Fault::Circular);
+              Fault::NotXml);
 }
 
 TEST(BadInput, ExternalReferencesAreNeverFetchedAndNamedOnce) {

@@ -82,6 +82,54 @@ TEST(SvgReader, UnitsAndPercentagesAreMeasuredAgainstTheViewport) {
     expectBox(drawing.object(0)->bounds, 20 * scale, 50 * scale, (20 + 96 / 2.54) * scale, 70 * scale);
 }
 
+TEST(SvgReader, ADrawingThatStatesNoSizeReachesAsFarAsItsContent) {
+    const auto sizeOf = [](const std::string& root, const std::string& content) {
+        const Drawing drawing =
+            readOk("<svg xmlns='http://www.w3.org/2000/svg' " + root + ">" + content + "</svg>");
+        return std::pair(drawing.width(), drawing.height());
+    };
+    const std::string rect = "<rect x='10' y='20' width='100' height='50' stroke='red' stroke-width='4'/>";
+    EXPECT_EQ(sizeOf("", rect), std::pair(112.0, 72.0));
+    EXPECT_EQ(sizeOf("width='100%' height='100%'", rect), std::pair(112.0, 72.0));
+    EXPECT_EQ(sizeOf("width='40'", rect), std::pair(40.0, 72.0));
+    EXPECT_EQ(sizeOf("", ""), std::pair(300.0, 150.0));
+    EXPECT_EQ(sizeOf("viewBox='0 0 20 10'", rect), std::pair(20.0, 10.0));
+    EXPECT_EQ(sizeOf("width='100' viewBox='0 0 20 10'", rect), std::pair(100.0, 50.0));
+    EXPECT_EQ(sizeOf("width='1e30' height='7'", rect), std::pair(112.0, 7.0));
+}
+
+TEST(SvgReader, NamesOfSvgMayHaveAPrefixOrNoNamespaceAtAll) {
+    EXPECT_EQ(readOk("<svg width='9' height='9'><rect width='5' height='5'/></svg>").size(), 1U);
+    EXPECT_EQ(readOk("<s:svg xmlns:s='http://www.w3.org/2000/svg'><s:rect width='5' "
+                     "height='5'/></s:svg>")
+                  .size(),
+              1U);
+}
+
+TEST(SvgReader, InternalEntitiesStandForTheirTextEverywhere) {
+    const Drawing drawing =
+        readOk("<!DOCTYPE svg [<!ENTITY ns 'http://www.w3.org/2000/svg'> <!ENTITY wide \"width='7'\">"
+               "<!ENTITY tone 'fill: #f00'> <!ENTITY rule '.b { &tone; }'>]>"
+               "<svg xmlns='&ns;'><style>&rule;</style><rect style='&tone;' width='5' height='5'/>"
+               "<rect class='b' width='5' height='5'/></svg>");
+    ASSERT_EQ(drawing.size(), 2U);
+    EXPECT_EQ(fillOf(drawing, 0).color, (Rgb16{65535, 0, 0}));
+    EXPECT_EQ(fillOf(drawing, 1).color, (Rgb16{65535, 0, 0}));
+}
+
+TEST(SvgReader, AClipPathInSharesOfAGroupIsMeasuredByWhatTheGroupHolds) {
+    const Drawing drawing = readOk(svgFile(
+        "<clipPath id='c' clipPathUnits='objectBoundingBox'><rect width='.5' height='.25'/></clipPath>"
+        "<g clip-path='url(#c)' transform='scale(2)'><rect x='10' y='10' width='5' height='5'/>"
+        "<g transform='translate(10 10)'><rect x='10' width='10' height='10'/></g></g>"));
+    ASSERT_EQ(drawing.size(), 2U);
+    const GroupPtr group = drawing.object(0)->group;
+    ASSERT_TRUE(group && group->clip);
+    EXPECT_EQ(drawing.object(1)->group, group);
+    // The group reaches from (10, 10) to (30, 20), twice as large in the drawing.
+    expectBox(group->clip->shapes.at(0).outline.bounds(), 20, 20, 40, 25);
+}
+
 TEST(SvgReader, PreserveAspectRatioPlacesTheViewBox) {
     const auto boxFor = [](const std::string& ratio) {
         return readOk("<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100' viewBox='0 0 10 10' "
