@@ -1,22 +1,32 @@
 #include "easel/svg/read/ClipReader.h"
 
 #include "easel/svg/read/Shapes.h"
+#include "easel/svg/style/PlacedTransform.h"
 #include "easel/svg/text/Scanner.h"
-#include "easel/svg/text/Transform.h"
 
 #include <algorithm>
-#include <string>
+#include <utility>
 
 namespace easel::svg {
 
 using drawing::Affine;
 using drawing::Box;
 using drawing::ClipPath;
+using drawing::ClipShape;
 
 namespace {
 
 // Clip paths are read, and painted, by recursion.
 constexpr std::size_t kDeepestClip = 64;
+
+std::shared_ptr<const ClipPath> bothClips(const std::shared_ptr<const ClipPath>& one,
+                                          const std::shared_ptr<const ClipPath>& other) {
+    if (!one || !other)
+        return one ? one : other;
+    auto both = std::make_shared<ClipPath>(*one);
+    both->clip = bothClips(one->clip, other);
+    return both;
+}
 
 bool isShareOfBox(pugi::xml_node clipPath) {
     return std::string_view(clipPath.attribute("clipPathUnits").value()) == "objectBoundingBox";
@@ -49,6 +59,7 @@ ClipReader::ClipPtr ClipReader::clipFor(const StatedStyle& stated, const Box& bo
         scene_.notes.add(open_.size() == kDeepestClip ? Unshown::DeepLayer : Unshown::Circle);
         return nullptr;
     }
+    boxAsked_ = boxAsked_ && !open_.empty();
     open_.push_back(element);
     ClipPtr clip = read(element, box, place);
     open_.pop_back();
@@ -65,10 +76,11 @@ ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, con
         scene_.notes.add(Unshown::ClipShape);
         return nullptr;
     }
-    const StatedStyle stated = scene_.cascade.of(element);
+    const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
     Place inside = place;
     inside.style = ComputedStyle().inherited(stated, inside.lengths);
-    inside.toDrawing = place.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
+    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, Box());
+    boxAsked_ = boxAsked_ || fractions;
     if (fractions)
         inside.toDrawing = inside.toDrawing * Affine{box.width(), 0, 0, box.height(), box.left, box.top};
     if (element == lastElement_ && inside.toDrawing == lastPlace_)
@@ -78,46 +90,61 @@ ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, con
     clip->clip = clipFor(stated, box, place);
     for (const pugi::xml_node child : element.children())
         addShape(*clip, child, inside);
-    lastElement_ = element;
-    lastPlace_ = inside.toDrawing;
-    last_ = clip;
+    if (!boxAsked_) {
+        lastElement_ = element;
+        lastPlace_ = inside.toDrawing;
+        last_ = clip;
+    }
     return clip;
 }
 
 void ClipReader::addShape(ClipPath& clip, pugi::xml_node child, const Place& place) {
-    const StatedStyle stated = scene_.cascade.of(child);
-    if (equalIgnoringCase(stated[Property::Display], "none"))
-        return;
-    Place inside = place;
-    inside.style = place.style.inherited(stated, inside.lengths);
-    inside.toDrawing = place.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
-    std::string_view name = scene_.tree.svgName(child);
+    const std::string_view name = scene_.tree.svgName(child);
     if (name == "text")
         scene_.notes.add(Unshown::Text);
-    pugi::xml_node element = child;
-    if (name == "use") {
-        const double x =
-            parseLength(child.attribute("x").value(), inside.lengths, Axis::Horizontal).value_or(0);
-        const double y =
-            parseLength(child.attribute("y").value(), inside.lengths, Axis::Vertical).value_or(0);
-        element = scene_.tree.byId(localId(hrefOf(child)));
-        name = scene_.tree.svgName(element);
-        const StatedStyle own = scene_.cascade.of(element);
-        inside.style = inside.style.inherited(own, inside.lengths);
-        inside.toDrawing = inside.toDrawing * Affine::translation(x, y) *
-                           parseTransform(own[Property::Transform]).value_or(Affine());
-    }
-    if (!inside.style.visible)
-        return;
-    const auto shape = readShape(element, name, inside.lengths);
+    auto shape = name == "use" ? repeatedShape(child, place) : shapeOf(child, place);
+    if (shape)
+        clip.shapes.push_back(std::move(*shape));
+}
+
+std::optional<ClipShape> ClipReader::shapeOf(pugi::xml_node element, const Place& place) {
+    const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
+    Place inside = place;
+    inside.style = place.style.inherited(stated, inside.lengths);
+    if (equalIgnoringCase(stated[Property::Display], "none") || !inside.style.visible)
+        return std::nullopt;
+    const auto shape = readShape(element, scene_.tree.svgName(element), stated, inside.lengths);
     if (!shape)
-        return;
+        return std::nullopt;
     scene_.budget.spend(Budget::kObject + shape->outline.points().size());
+    const Box box = shape->outline.bounds();
+    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, box);
     auto outline = placedPath(shape->outline, inside.toDrawing);
-    if (!outline)
-        return scene_.notes.add(Unshown::OutOfRange);
-    clip.shapes.push_back(
-        {std::move(*outline), inside.style.clipRule, clipFor(stated, shape->outline.bounds(), inside)});
+    if (!outline) {
+        scene_.notes.add(Unshown::OutOfRange);
+        return std::nullopt;
+    }
+    return ClipShape{std::move(*outline), inside.style.clipRule, clipFor(stated, box, inside)};
+}
+
+std::optional<ClipShape> ClipReader::repeatedShape(pugi::xml_node use, const Place& place) {
+    const StatedStyle stated = scene_.cascade.of(use, place.style.custom);
+    if (equalIgnoringCase(stated[Property::Display], "none"))
+        return std::nullopt;
+    Place inside = place;
+    inside.style = place.style.inherited(stated, inside.lengths);
+    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, Box());
+    Place moved = inside;
+    moved.toDrawing =
+        inside.toDrawing *
+        Affine::translation(parseLength(stated[Property::X], inside.lengths, Axis::Horizontal).value_or(0),
+                            parseLength(stated[Property::Y], inside.lengths, Axis::Vertical).value_or(0));
+    auto shape = shapeOf(scene_.tree.byId(localId(hrefOf(use))), moved);
+    if (shape) {
+        const Box box = shape->outline.transformed(inside.toDrawing.inverse()).bounds();
+        shape->clip = bothClips(shape->clip, clipFor(stated, box, inside));
+    }
+    return shape;
 }
 
 } // namespace easel::svg

@@ -27,10 +27,13 @@ class ClipReader {
 
     ClipPtr read(pugi::xml_node element, const drawing::Box& box, const Place& place);
     void addShape(drawing::ClipPath& clip, pugi::xml_node child, const Place& place);
+    std::optional<drawing::ClipShape> shapeOf(pugi::xml_node element, const Place& place);
+    std::optional<drawing::ClipShape> repeatedShape(pugi::xml_node use, const Place& place);
 
     const Scene& scene_;
     std::vector<pugi::xml_node> open_; // clip paths that are being read
-    // The last one read: neighbours often share it.
+    bool boxAsked_ = false;            // whether what is being read depends on the box of what it clips
+    // The last one read that does not: neighbours often share it.
     pugi::xml_node lastElement_;
     drawing::Affine lastPlace_;
     ClipPtr last_;

@@ -23,6 +23,7 @@ constexpr std::array<std::string_view, kUnshownCount> kSentences = {
     "References that lead back to themselves are kept in the file but not followed.",
     "Shapes with numbers out of range are kept in the file but not shown.",
     "Groups and repetitions nested very deep are kept in the file but not shown as such.",
+    "Gradients between colors in linear light are drawn between those of sRGB.",
 };
 
 } // namespace

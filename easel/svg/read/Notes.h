@@ -27,8 +27,9 @@ enum class Unshown : std::uint8_t {
     Circle,
     OutOfRange,
     DeepLayer,
+    LinearLight,
 };
-inline constexpr std::size_t kUnshownCount = 17;
+inline constexpr std::size_t kUnshownCount = 18;
 
 class Notes {
   public:

@@ -98,6 +98,8 @@ std::optional<std::size_t> PaintServers::idNumber(std::string_view id) {
 const GradientElement& PaintServers::read(pugi::xml_node element) {
     const Chain chain(tree_, element);
     circular_ = circular_ || chain.circular();
+    linearLight_ =
+        linearLight_ || equalIgnoringCase(cascade_.of(element)[Property::ColorInterpolation], "linearRGB");
     GradientElement& gradient = read_.emplace_back(&memory_);
     if (chain.attribute("gradientUnits") == "userSpaceOnUse")
         gradient.units = GradientUnits::UserSpaceOnUse;

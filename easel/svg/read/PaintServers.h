@@ -54,6 +54,8 @@ class PaintServers {
     const GradientElement* gradient(std::string_view id);
     // Whether gradients that were asked for refer to each other in a circle.
     bool circular() const { return circular_; }
+    // Whether one that was asked for mixes its colors in linear light.
+    bool linearLight() const { return linearLight_; }
 
   private:
     std::optional<std::size_t> idNumber(std::string_view id);
@@ -68,6 +70,7 @@ class PaintServers {
     std::vector<const GradientElement*> byIdNumber_; // null: not read yet, or no gradient
     std::size_t nextId_ = 0;                         // after the one asked for last
     bool circular_ = false;
+    bool linearLight_ = false;
 };
 
 // What a gradient is on a shape: nothing where it disables painting, a plain color where it has no extent.

@@ -79,6 +79,8 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
     source->objects.shrink_to_fit();
     if (servers.circular())
         notes.add(Unshown::Circle);
+    if (servers.linearLight())
+        notes.add(Unshown::LinearLight);
     return {reader.size().width, reader.size().height, reader.takeObjects(), std::move(source),
             notes.sentences()};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Object.h"
+#include "easel/svg/style/Property.h"
 #include "easel/svg/text/Length.h"
 #include "easel/svg/text/XmlTree.h"
 
@@ -18,7 +19,7 @@ struct Shape {
 bool isShape(std::string_view svgName);
 
 // Nothing if the element is no shape or its shape is empty.
-std::optional<Shape> readShape(pugi::xml_node element, std::string_view svgName,
+std::optional<Shape> readShape(pugi::xml_node element, std::string_view svgName, const StatedStyle& stated,
                                const LengthContext& lengths);
 
 } // namespace easel::svg

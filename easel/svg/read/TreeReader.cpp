@@ -2,9 +2,9 @@
 
 #include "easel/svg/read/Conditions.h"
 #include "easel/svg/read/Viewport.h"
+#include "easel/svg/style/PlacedTransform.h"
 #include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Tags.h"
-#include "easel/svg/text/Transform.h"
 
 #include <algorithm>
 #include <string>
@@ -53,8 +53,9 @@ Place TreeReader::rootPlace() {
     Place place;
     place.lengths.viewportWidth = viewBox ? viewBox->width : kUsualSize.width;
     place.lengths.viewportHeight = viewBox ? viewBox->height : kUsualSize.height;
-    const auto side = [&](const char* name, Axis axis) {
-        const std::string_view text = attributeText(root, name);
+    const StatedStyle stated = scene_.cascade.of(root, nullptr);
+    const auto side = [&](Property property, Axis axis) {
+        const std::string_view text = stated[property];
         const bool share = !viewBox && text.ends_with('%');
         const auto length = share ? std::nullopt : parseLength(text, place.lengths, axis);
         if (length && !inRange(*length))
@@ -63,7 +64,7 @@ Place TreeReader::rootPlace() {
             return *length;
         return 0.0;
     };
-    size_ = {side("width", Axis::Horizontal), side("height", Axis::Vertical)};
+    size_ = {side(Property::Width, Axis::Horizontal), side(Property::Height, Axis::Vertical)};
     if (viewBox)
         size_ = completed(size_, *viewBox);
     if (viewBox)
@@ -113,18 +114,19 @@ void TreeReader::finish(const Work& work) {
     const Affine back = waiting.toDrawing.inverse();
     for (std::size_t i = waiting.firstObject; i < objects_.size(); ++i)
         box.add(objects_[i]->outline.transformed(back).bounds());
-    waiting.group->clip = clips_.clipFor(scene_.cascade.of(waiting.element), box, work.inside.place);
+    waiting.group->clip = clips_.clipFor(scene_.cascade.of(waiting.element, work.inside.place.style.custom),
+                                         box, work.inside.place);
 }
 
 std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, const Place& outside) {
-    const StatedStyle stated = scene_.cascade.of(element);
+    const StatedStyle stated = scene_.cascade.of(element, outside.style.custom);
     if (equalIgnoringCase(stated[Property::Display], "none"))
         return std::nullopt;
     noteEffects(stated);
     Inside inside{outside, {}};
     Place& place = inside.place;
     place.style = outside.style.inherited(stated, place.lengths);
-    place.toDrawing = outside.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
+    place.toDrawing = outside.toDrawing * transformOf(stated, place.lengths, Box());
     const double opacity = parseOpacity(stated[Property::Opacity], 1);
     const bool waits = clips_.asksForBox(stated);
     auto clip = waits ? nullptr : clips_.clipFor(stated, Box(), place);
@@ -209,20 +211,20 @@ void TreeReader::readSwitch(pugi::xml_node element, Inside inside) {
 }
 
 void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name, const Place& place) {
-    const StatedStyle stated = scene_.cascade.of(element);
+    const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
     if (equalIgnoringCase(stated[Property::Display], "none"))
         return;
     Place inside = place;
     inside.style = place.style.inherited(stated, inside.lengths);
     if (!inside.style.visible)
         return;
-    const auto shape = readShape(element, name, inside.lengths);
+    const auto shape = readShape(element, name, stated, inside.lengths);
     if (!shape)
         return;
     noteEffects(stated);
     for (const pugi::xml_node child : element.children())
         scene_.notes.addElement(scene_.tree.svgName(child));
-    inside.toDrawing = place.toDrawing * parseTransform(stated[Property::Transform]).value_or(Affine());
+    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, shape->outline.bounds());
     auto object = reader_.read(element, *shape, parseOpacity(stated[Property::Opacity], 1), inside);
     if (!object)
         return;
@@ -266,8 +268,9 @@ bool TreeReader::leadsBack(pugi::xml_node use, pugi::xml_node target) {
 void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside) {
     Place& place = inside.place;
     addRepetition(use, target, place);
-    const double x = parseLength(attributeText(use, "x"), place.lengths, Axis::Horizontal).value_or(0);
-    const double y = parseLength(attributeText(use, "y"), place.lengths, Axis::Vertical).value_or(0);
+    const StatedStyle stated = scene_.cascade.of(use, place.style.custom);
+    const double x = parseLength(stated[Property::X], place.lengths, Axis::Horizontal).value_or(0);
+    const double y = parseLength(stated[Property::Y], place.lengths, Axis::Vertical).value_or(0);
     place.toDrawing = place.toDrawing * Affine::translation(x, y);
     const std::string_view name = scene_.tree.svgName(target);
     const bool ownViewport = name == "symbol" || name == "svg";
@@ -288,19 +291,22 @@ void TreeReader::addRepetition(pugi::xml_node use, pugi::xml_node target, Place&
 }
 
 Place TreeReader::viewportPlace(pugi::xml_node element, pugi::xml_node use, const Place& outside) {
-    const auto length = [&](pugi::xml_node from, const char* name, Axis axis) {
-        return parseLength(attributeText(from, name), outside.lengths, axis);
+    const StatedStyle stated = scene_.cascade.of(element, outside.style.custom);
+    const StatedStyle statedByUse = use ? scene_.cascade.of(use, outside.style.custom) : StatedStyle();
+    const auto length = [&](const StatedStyle& from, Property property, Axis axis) {
+        return parseLength(from[property], outside.lengths, axis);
     };
-    const auto side = [&](const char* name, Axis axis) {
-        const auto given = use ? length(use, name, axis) : std::nullopt;
-        return given ? *given : length(element, name, axis).value_or(outside.lengths.whole(axis));
+    const auto side = [&](Property property, Axis axis) {
+        const auto given = length(statedByUse, property, axis);
+        return given ? *given : length(stated, property, axis).value_or(outside.lengths.whole(axis));
     };
-    const double x = length(element, "x", Axis::Horizontal).value_or(0);
-    const double y = length(element, "y", Axis::Vertical).value_or(0);
-    const Box viewport{x, y, x + side("width", Axis::Horizontal), y + side("height", Axis::Vertical)};
+    const double x = length(stated, Property::X, Axis::Horizontal).value_or(0);
+    const double y = length(stated, Property::Y, Axis::Vertical).value_or(0);
+    const Box viewport{x, y, x + side(Property::Width, Axis::Horizontal),
+                       y + side(Property::Height, Axis::Vertical)};
 
     Place inside = outside;
-    const std::string overflow(scene_.cascade.of(element)[Property::Overflow]);
+    const std::string_view overflow = stated[Property::Overflow];
     if (!equalIgnoringCase(overflow, "visible") && !equalIgnoringCase(overflow, "auto"))
         narrow(inside, rectangleClip(viewport, outside.toDrawing));
     const auto viewBox = parseViewBox(attributeText(element, "viewBox"));

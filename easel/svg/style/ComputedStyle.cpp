@@ -169,6 +169,7 @@ std::optional<PaintSpec> parsePaint(std::string_view text) {
 
 ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext& lengths) const {
     ComputedStyle result = *this;
+    result.custom = stated.custom;
     Reader reader(stated, *this, result);
     const auto length = [&lengths](std::string_view text) { return parseLength(text, lengths, Axis::Other); };
     const auto opacity = [](std::string_view text) { return std::optional(parseOpacity(text, 1)); };

@@ -39,6 +39,7 @@ struct ComputedStyle {
     drawing::LineCap cap = drawing::LineCap::Butt;
     drawing::PaintStep first = drawing::PaintStep::Fill;
     bool visible = true;
+    const CustomProperties* custom = nullptr; // null: none
 
     // The style of an element in one with this style. Font sizes in `lengths` are brought up to date.
     ComputedStyle inherited(const StatedStyle& stated, LengthContext& lengths) const;

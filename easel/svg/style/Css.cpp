@@ -10,6 +10,8 @@ namespace easel::svg {
 
 namespace {
 
+constexpr int kDeepestBlock = 16;
+
 // Without comments and the marks that hide a sheet from very old programs.
 std::string withoutComments(std::string_view text) {
     std::string result;
@@ -96,13 +98,17 @@ std::vector<Declaration> parseDeclarations(std::string_view text) {
     return result;
 }
 
-void StyleSheet::add(const std::string& text) {
+void StyleSheet::add(const std::string& text, const MediaSize& media) {
     texts_.push_back(std::make_unique<const std::string>(withoutComments(text)));
-    std::string_view rest = trimmed(*texts_.back());
+    addRules(*texts_.back(), media, 0);
+}
+
+void StyleSheet::addRules(std::string_view text, const MediaSize& media, int depth) {
+    std::string_view rest = trimmed(text);
     while (!rest.empty()) {
-        const std::size_t head = lengthUntil(rest, "{;");
-        std::string_view selectors = rest.substr(0, head);
-        rest.remove_prefix(head);
+        const std::size_t headLength = lengthUntil(rest, "{;");
+        const std::string_view head = rest.substr(0, headLength);
+        rest.remove_prefix(headLength);
         if (rest.empty())
             return;
         if (rest.front() == ';') {
@@ -111,15 +117,21 @@ void StyleSheet::add(const std::string& text) {
         }
         const std::string_view block = takeBlock(rest);
         rest = trimmed(rest);
-        if (selectors.front() == '@')
-            continue;
-        const auto declarations = std::make_shared<const std::vector<Declaration>>(parseDeclarations(block));
-        while (!selectors.empty()) {
-            const std::size_t end = lengthUntil(selectors, ",");
-            if (auto selector = parseSelector(selectors.substr(0, end)))
-                addRule(std::move(*selector), declarations);
-            selectors.remove_prefix(std::min(end + 1, selectors.size()));
-        }
+        Scanner scanner(head);
+        if (!scanner.take('@'))
+            addRules(head, block);
+        else if (depth < kDeepestBlock && scanner.takeWord("media") && mediaMatches(scanner.rest(), media))
+            addRules(block, media, depth + 1);
+    }
+}
+
+void StyleSheet::addRules(std::string_view selectors, std::string_view block) {
+    const auto declarations = std::make_shared<const std::vector<Declaration>>(parseDeclarations(block));
+    while (!selectors.empty()) {
+        const std::size_t end = lengthUntil(selectors, ",");
+        if (auto selector = parseSelector(selectors.substr(0, end)))
+            addRule(std::move(*selector), declarations);
+        selectors.remove_prefix(std::min(end + 1, selectors.size()));
     }
 }
 

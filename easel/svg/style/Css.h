@@ -1,7 +1,8 @@
-// Style sheets with simple selectors, and the declarations of style attributes.
+// Style sheets, and the declarations of style attributes.
 #pragma once
 
 #include "easel/svg/style/CssSelector.h"
+#include "easel/svg/style/MediaQuery.h"
 
 #include <cstdint>
 #include <memory>
@@ -27,8 +28,8 @@ std::vector<Declaration> parseDeclarations(std::string_view text);
 class StyleSheet {
   public:
     // Adds the rules of a sheet, which are stronger than equal ones added before. Rules with selectors of
-    // other kinds and at-rules are passed over.
-    void add(const std::string& text);
+    // other kinds are passed over, and so are at-rules but @media.
+    void add(const std::string& text, const MediaSize& media);
 
     bool empty() const { return rules_.empty(); }
     // Declarations of all rules that match, weakest first.
@@ -41,6 +42,8 @@ class StyleSheet {
     };
     using Bucket = std::unordered_map<std::string, std::vector<std::size_t>>;
 
+    void addRules(std::string_view text, const MediaSize& media, int depth);
+    void addRules(std::string_view selectors, std::string_view block);
     void addRule(Selector selector, std::shared_ptr<const std::vector<Declaration>> declarations);
 
     std::vector<std::unique_ptr<const std::string>> texts_; // what the declarations point into

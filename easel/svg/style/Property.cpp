@@ -3,7 +3,6 @@
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
-#include <string>
 #include <unordered_map>
 
 namespace easel::svg {
@@ -14,12 +13,17 @@ namespace {
 constexpr std::array<std::string_view, kPropertyCount> kNames = {"clip-path",
                                                                  "clip-rule",
                                                                  "color",
+                                                                 "color-interpolation",
+                                                                 "cx",
+                                                                 "cy",
+                                                                 "d",
                                                                  "display",
                                                                  "fill",
                                                                  "fill-opacity",
                                                                  "fill-rule",
                                                                  "filter",
                                                                  "font-size",
+                                                                 "height",
                                                                  "marker",
                                                                  "marker-end",
                                                                  "marker-mid",
@@ -29,6 +33,9 @@ constexpr std::array<std::string_view, kPropertyCount> kNames = {"clip-path",
                                                                  "opacity",
                                                                  "overflow",
                                                                  "paint-order",
+                                                                 "r",
+                                                                 "rx",
+                                                                 "ry",
                                                                  "stop-color",
                                                                  "stop-opacity",
                                                                  "stroke",
@@ -40,29 +47,13 @@ constexpr std::array<std::string_view, kPropertyCount> kNames = {"clip-path",
                                                                  "stroke-opacity",
                                                                  "stroke-width",
                                                                  "transform",
+                                                                 "transform-box",
+                                                                 "transform-origin",
                                                                  "vector-effect",
-                                                                 "visibility"};
-
-class ElementSubject : public SelectorSubject {
-  public:
-    ElementSubject(const XmlTree& tree, pugi::xml_node element) : tree_(tree), element_(element) {}
-
-    std::string_view elementName() const override { return tree_.svgName(element_); }
-    const char* attribute(const std::string& name) const override {
-        const pugi::xml_attribute found = element_.attribute(name.c_str());
-        return found ? found.value() : nullptr;
-    }
-    std::unique_ptr<SelectorSubject> parent() const override {
-        const pugi::xml_node above = element_.parent();
-        if (above.type() != pugi::node_element)
-            return nullptr;
-        return std::make_unique<ElementSubject>(tree_, above);
-    }
-
-  private:
-    const XmlTree& tree_;
-    pugi::xml_node element_;
-};
+                                                                 "visibility",
+                                                                 "width",
+                                                                 "x",
+                                                                 "y"};
 
 } // namespace
 
@@ -90,35 +81,14 @@ void StatedStyle::set(const Declaration& declaration) {
         set(*property, declaration.value, declaration.importance);
 }
 
-Cascade::Cascade(const XmlTree& tree) : tree_(tree) {
-    for (const pugi::xml_node sheet : tree.sheets())
-        if (tree.svgName(sheet) == "style")
-            addSheet(sheet);
+bool StatedStyle::asksForCustomProperties() const {
+    return std::any_of(values_.begin(), values_.end(), asksForCustomProperty);
 }
 
-void Cascade::addSheet(pugi::xml_node styleElement) {
-    const std::string_view type = styleElement.attribute("type").value();
-    if (!type.empty() && !equalIgnoringCase(trimmed(type), "text/css"))
-        return;
-    std::string text;
-    for (const pugi::xml_node part : styleElement.children())
-        text += part.value();
-    sheetsStateFill_ = sheetsStateFill_ || text.find("fill") != std::string::npos;
-    sheetsImport_ = sheetsImport_ || text.find("@import") != std::string::npos;
-    sheet_.add(text);
-}
-
-StatedStyle Cascade::of(pugi::xml_node element) const {
-    StatedStyle style;
-    for (const pugi::xml_attribute attribute : element.attributes())
-        if (const auto property = propertyFromName(attribute.name()))
-            style.set(*property, attribute.value(), Importance::Normal);
-    if (!sheet_.empty())
-        for (const Declaration& declaration : sheet_.declarationsFor(ElementSubject(tree_, element)))
-            style.set(declaration);
-    for (const Declaration& declaration : parseDeclarations(element.attribute("style").value()))
-        style.set(declaration);
-    return style;
+void StatedStyle::replace(CustomValues& values, const CustomProperties* properties) {
+    for (std::string_view& value : values_)
+        if (asksForCustomProperty(value))
+            value = trimmed(values.replaced(value, properties));
 }
 
 } // namespace easel::svg

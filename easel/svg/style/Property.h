@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/svg/style/Css.h"
+#include "easel/svg/style/CustomProperties.h"
 #include "easel/svg/text/XmlTree.h"
 
 #include <array>
@@ -14,12 +15,17 @@ enum class Property : std::uint8_t {
     ClipPath,
     ClipRule,
     Color,
+    ColorInterpolation,
+    Cx,
+    Cy,
+    D,
     Display,
     Fill,
     FillOpacity,
     FillRule,
     Filter,
     FontSize,
+    Height,
     Marker,
     MarkerEnd,
     MarkerMid,
@@ -29,6 +35,9 @@ enum class Property : std::uint8_t {
     Opacity,
     Overflow,
     PaintOrder,
+    R,
+    Rx,
+    Ry,
     StopColor,
     StopOpacity,
     Stroke,
@@ -40,15 +49,20 @@ enum class Property : std::uint8_t {
     StrokeOpacity,
     StrokeWidth,
     Transform,
+    TransformBox,
+    TransformOrigin,
     VectorEffect,
     Visibility,
+    Width,
+    X,
+    Y,
 };
-inline constexpr std::size_t kPropertyCount = 31;
+inline constexpr std::size_t kPropertyCount = 44;
 
 std::optional<Property> propertyFromName(std::string_view name);
 
 // The values that attributes, style sheets and the style attribute give an element, the strongest for each
-// property. They point into the file's text.
+// property. They point into the file's text or what the cascade keeps.
 class StatedStyle {
   public:
     // Empty if nothing is stated.
@@ -57,6 +71,11 @@ class StatedStyle {
     }
     void set(Property property, std::string_view value, Importance importance);
     void set(const Declaration& declaration);
+    bool asksForCustomProperties() const;
+    // Puts what they stand for in the place of values that ask for custom properties.
+    void replace(CustomValues& values, const CustomProperties* custom);
+
+    const CustomProperties* custom = nullptr; // that hold inside the element; null: none
 
   private:
     std::array<std::string_view, kPropertyCount> values_;
@@ -68,6 +87,9 @@ class Cascade {
     // Gathers the style sheets of the file.
     explicit Cascade(const XmlTree& tree);
 
+    // `outer`: the custom properties that hold around the element.
+    StatedStyle of(pugi::xml_node element, const CustomProperties* outer) const;
+    // With those of the elements that hold it in the file.
     StatedStyle of(pugi::xml_node element) const;
     // How style sheets state fills: an edited fill has to be stronger.
     bool sheetsStateFill() const { return sheetsStateFill_; }
@@ -76,8 +98,21 @@ class Cascade {
   private:
     void addSheet(pugi::xml_node styleElement);
 
+    // Of an element among those that its parent holds.
+    struct Position {
+        pugi::xml_node element;
+        std::size_t number = 0;
+    };
+    friend class ElementSubject;
+
+    std::vector<Declaration> gather(pugi::xml_node element, StatedStyle& style) const;
+    const CustomProperties* customAround(pugi::xml_node element) const;
+
     const XmlTree& tree_;
+    MediaSize media_;
     StyleSheet sheet_;
+    mutable CustomValues values_;
+    mutable Position lastPosition_; // neighbours are mostly asked one after the other
     bool sheetsStateFill_ = false;
     bool sheetsImport_ = false;
 };
