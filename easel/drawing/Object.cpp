@@ -75,9 +75,11 @@ bool Object::hitBy(Point p, double reach) const {
 }
 
 Box Object::paintBounds() const {
-    if (!style)
-        return bounds;
-    return bounds.grownBy(strokeReach(styleOf(*this)) * unitsOf(*this).largestScale());
+    Box box = style ? bounds.grownBy(strokeReach(styleOf(*this)) * unitsOf(*this).largestScale()) : bounds;
+    if (markers)
+        for (const ObjectPtr& marker : *markers)
+            box.add(marker->paintBounds());
+    return box;
 }
 
 ObjectPtr sealed(Object object) {

@@ -80,6 +80,9 @@ struct Object {
     ObjectGradient gradient;            // the tool's record; empty: none
     RemainderPtr remainder;             // what the record cannot hold
     GroupPtr group;                     // innermost layer; null: the drawing itself
+    // Painted over fill and stroke as far as the object itself shows, back to front: arrow heads and the
+    // like. Their groups are theirs alone. Null: none.
+    std::shared_ptr<const std::vector<std::shared_ptr<const Object>>> markers;
 
     // Tight box of the outline, without stroke. Kept by `sealed`.
     Box bounds;

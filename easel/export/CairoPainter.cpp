@@ -199,8 +199,9 @@ void CairoPainter::paintObject(const Object& object) {
     const double opacity = opacityOf(style.opacity);
     if (opacity == 0)
         return;
-    const bool together =
-        opacity < 1 && object.fillPattern != drawing::FillPattern::None && drawing::strokes(style);
+    const bool several =
+        object.markers || (object.fillPattern != drawing::FillPattern::None && drawing::strokes(style));
+    const bool together = opacity < 1 && several;
     if (together)
         cairo_push_group(cairo_);
     const double own = together ? 1 : opacity;
@@ -209,6 +210,8 @@ void CairoPainter::paintObject(const Object& object) {
     paintFill(object, own);
     if (style.first == drawing::PaintStep::Fill)
         paintStroke(object, own);
+    if (object.markers)
+        paintWithin(nullptr, *object.markers);
     if (together) {
         cairo_pop_group_to_source(cairo_);
         cairo_paint_with_alpha(cairo_, opacity);

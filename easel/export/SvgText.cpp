@@ -93,6 +93,8 @@ class SvgWriter {
         // Where it shows, the pen keeps the shape that the object's own units give it.
         const Affine own = stroked ? units : Affine{};
         const Affine toOwn = own.inverse();
+        if (object.markers)
+            body_ += "<g" + attributeUnless(1, "opacity", opacityOf(style.opacity)) + ">\n";
         body_ += "<path" + attribute("id", object.id.text());
         if (own != Affine{})
             body_ += attribute("transform", svg::transformText(own));
@@ -105,7 +107,13 @@ class SvgWriter {
             body_ += strokeText(object, toOwn);
         if (style.first == drawing::PaintStep::Stroke)
             body_ += attribute("paint-order", "stroke");
-        body_ += attributeUnless(1, "opacity", opacityOf(style.opacity)) + "/>\n";
+        if (!object.markers)
+            body_ += attributeUnless(1, "opacity", opacityOf(style.opacity));
+        body_ += "/>\n";
+        if (object.markers) {
+            writeWithin(nullptr, *object.markers);
+            body_ += "</g>\n";
+        }
     }
     std::string fillText(const Object& object, const Affine& toOwn) {
         const paint::HeldInk ink = paint::HeldInk::ofFill(object);

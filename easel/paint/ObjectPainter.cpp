@@ -70,7 +70,8 @@ void ObjectPainter::paintObject(const Object& object, const SurfaceView& surface
     const double opacity = drawing::styleOf(object).opacity;
     if (place.empty() || !(opacity > 0))
         return;
-    const bool both = shows(object, drawing::PaintStep::Fill) && shows(object, drawing::PaintStep::Stroke);
+    const bool both = object.markers ||
+                      (shows(object, drawing::PaintStep::Fill) && shows(object, drawing::PaintStep::Stroke));
     if (opacity >= 1 || !both)
         return paintSteps(object, surface, toSurface, opacity);
     Layer layer(place);
@@ -87,6 +88,8 @@ void ObjectPainter::paintSteps(const Object& object, const SurfaceView& surface,
         paintStroke(object, surface, toSurface, opacity);
         paintFill(object, surface, toSurface, opacity);
     }
+    if (object.markers)
+        paintWithin(nullptr, *object.markers, surface, toSurface);
 }
 
 void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, const Affine& toSurface,

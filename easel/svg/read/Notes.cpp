@@ -15,7 +15,6 @@ constexpr std::array<std::string_view, kUnshownCount> kSentences = {
     "Masks are kept in the file but not applied.",
     "Blend modes are kept in the file but not applied.",
     "Pattern fills are kept in the file but not shown.",
-    "Markers on lines are kept in the file but not shown.",
     "Strokes of fixed width are drawn with a width that scales.",
     "Clip paths other than outlines are kept in the file but not applied.",
     "Style sheets outside the file are not read.",

@@ -19,7 +19,6 @@ enum class Unshown : std::uint8_t {
     Mask,
     Blending,
     Pattern,
-    Marker,
     FixedStroke,
     ClipShape,
     ExternalSheet,
@@ -29,7 +28,7 @@ enum class Unshown : std::uint8_t {
     DeepLayer,
     LinearLight,
 };
-inline constexpr std::size_t kUnshownCount = 18;
+inline constexpr std::size_t kUnshownCount = 17;
 
 class Notes {
   public:

@@ -58,6 +58,10 @@ Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyl
         return spec.color;
     if (kind == PaintSpec::Kind::CurrentColor)
         return style.color;
+    if (style.context && kind == PaintSpec::Kind::ContextFill)
+        return style.context->fill;
+    if (style.context && kind == PaintSpec::Kind::ContextStroke)
+        return style.context->stroke;
     return NoPaint();
 }
 
@@ -120,6 +124,12 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
     }
     object.style = shared(std::move(style));
     return object;
+}
+
+std::shared_ptr<const ContextPaints> ObjectReader::contextOf(const Shape& shape, const Place& place) const {
+    const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
+    return std::make_shared<const ContextPaints>(
+        ContextPaints{paint(place.style.fill, at, place.style), paint(place.style.stroke, at, place.style)});
 }
 
 void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedStyle& style) {

@@ -20,6 +20,9 @@ class ObjectReader {
     std::optional<drawing::Object> read(pugi::xml_node element, const Shape& shape, double opacity,
                                         const Place& place);
 
+    // What the markers of that shape may be painted with.
+    std::shared_ptr<const ContextPaints> contextOf(const Shape& shape, const Place& place) const;
+
   private:
     using StylePtr = std::shared_ptr<const drawing::Style>;
 

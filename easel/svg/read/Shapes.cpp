@@ -56,7 +56,8 @@ std::optional<Shape> rectangle(const Attributes& at) {
     // A radius that is not given is the other one.
     return Shape{Kind::Rect,
                  drawing::roundedRectanglePath({x, y, x + width, y + height}, rx.value_or(ry.value_or(0)),
-                                               ry.value_or(rx.value_or(0)))};
+                                               ry.value_or(rx.value_or(0))),
+                 {}};
 }
 
 std::optional<Shape> ellipse(const Attributes& at, std::optional<double> rx, std::optional<double> ry) {
@@ -64,21 +65,31 @@ std::optional<Shape> ellipse(const Attributes& at, std::optional<double> rx, std
     const double radiusY = ry.value_or(rx.value_or(0));
     if (!(radiusX > 0 && radiusY > 0))
         return std::nullopt;
-    return Shape{Kind::Ellipse, drawing::ellipsePath({at.length(Property::Cx, Axis::Horizontal),
-                                                      at.length(Property::Cy, Axis::Vertical)},
-                                                     radiusX, radiusY)};
+    return Shape{Kind::Ellipse,
+                 drawing::ellipsePath(
+                     {at.length(Property::Cx, Axis::Horizontal), at.length(Property::Cy, Axis::Vertical)},
+                     radiusX, radiusY),
+                 {}};
 }
 
 std::optional<Shape> line(const Attributes& at) {
     const Point from{at.length("x1", Axis::Horizontal), at.length("y1", Axis::Vertical)};
     const Point to{at.length("x2", Axis::Horizontal), at.length("y2", Axis::Vertical)};
-    return Shape{Kind::Line, drawing::polylinePath({from, to})};
+    return Shape{Kind::Line, drawing::polylinePath({from, to}), {}};
 }
 
 std::optional<Shape> orNothing(Kind kind, Path outline) {
     if (outline.empty())
         return std::nullopt;
-    return Shape{kind, std::move(outline)};
+    return Shape{kind, std::move(outline), {}};
+}
+
+std::optional<Shape> path(std::string_view text) {
+    PathData data = parsePathData(text);
+    auto shape = orNothing(Kind::Path, std::move(data.path));
+    if (shape)
+        shape->insideArcs = std::move(data.insideArcs);
+    return shape;
 }
 
 } // namespace
@@ -93,7 +104,7 @@ std::optional<Shape> readShape(pugi::xml_node element, std::string_view svgName,
                                const LengthContext& lengths) {
     const Attributes at(element, stated, lengths);
     if (svgName == "path")
-        return orNothing(Kind::Path, parsePathData(pathText(at.text(Property::D))).path);
+        return path(pathText(at.text(Property::D)));
     if (svgName == "rect")
         return rectangle(at);
     if (svgName == "circle")

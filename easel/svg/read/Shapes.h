@@ -8,12 +8,14 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace easel::svg {
 
 struct Shape {
     drawing::Kind kind = drawing::Kind::Path;
-    drawing::Path outline; // in the element's own units
+    drawing::Path outline;                 // in the element's own units
+    std::vector<std::uint32_t> insideArcs; // numbers of its verbs that end inside an arc of the path data
 };
 
 bool isShape(std::string_view svgName);

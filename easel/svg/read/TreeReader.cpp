@@ -156,6 +156,11 @@ void TreeReader::narrow(Place& place, std::shared_ptr<const drawing::ClipPath> c
         place.group = std::move(group);
 }
 
+bool TreeReader::showsOverflow(const StatedStyle& stated) {
+    const std::string_view overflow = stated[Property::Overflow];
+    return equalIgnoringCase(overflow, "visible") || equalIgnoringCase(overflow, "auto");
+}
+
 void TreeReader::noteEffects(const StatedStyle& stated) {
     const auto note = [&](Property property, std::string_view harmless, Unshown what) {
         if (!stated[property].empty() && !equalIgnoringCase(stated[property], harmless))
@@ -165,9 +170,6 @@ void TreeReader::noteEffects(const StatedStyle& stated) {
     note(Property::Mask, "none", Unshown::Mask);
     note(Property::MixBlendMode, "normal", Unshown::Blending);
     note(Property::VectorEffect, "none", Unshown::FixedStroke);
-    for (const Property marker :
-         {Property::Marker, Property::MarkerStart, Property::MarkerMid, Property::MarkerEnd})
-        note(marker, "none", Unshown::Marker);
 }
 
 void TreeReader::readElement(pugi::xml_node element, const Place& place) {
@@ -230,11 +232,19 @@ void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name,
         return;
     narrow(inside, clips_.clipFor(stated, shape->outline.bounds(), inside));
     object->group = inside.group;
-    const std::size_t begin = scene_.tree.tagBegin(element);
-    object->source = {static_cast<std::uint32_t>(begin),
-                      static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), place.use};
-    source_.objects.push_back(object->source);
+    addMarkers(*object, *shape, inside);
+    if (openMarkers_.empty())
+        addSource(*object, element, place.use);
+    else
+        object->id = drawing::Name();
     objects_.push_back(sealed(std::move(*object)));
+}
+
+void TreeReader::addSource(Object& object, pugi::xml_node element, std::uint32_t use) {
+    const std::size_t begin = scene_.tree.tagBegin(element);
+    object.source = {static_cast<std::uint32_t>(begin),
+                     static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), use};
+    source_.objects.push_back(object.source);
 }
 
 void TreeReader::readUse(pugi::xml_node element, Inside inside) {
@@ -285,6 +295,8 @@ void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, Inside in
 }
 
 void TreeReader::addRepetition(pugi::xml_node use, pugi::xml_node target, Place& place) {
+    if (!openMarkers_.empty())
+        return;
     source_.repetitions.push_back({place.use, static_cast<std::uint32_t>(scene_.tree.tagBegin(use)),
                                    static_cast<std::uint32_t>(scene_.tree.tagBegin(target))});
     place.use = static_cast<std::uint32_t>(source_.repetitions.size());
@@ -306,8 +318,7 @@ Place TreeReader::viewportPlace(pugi::xml_node element, pugi::xml_node use, cons
                        y + side(Property::Height, Axis::Vertical)};
 
     Place inside = outside;
-    const std::string_view overflow = stated[Property::Overflow];
-    if (!equalIgnoringCase(overflow, "visible") && !equalIgnoringCase(overflow, "auto"))
+    if (!showsOverflow(stated))
         narrow(inside, rectangleClip(viewport, outside.toDrawing));
     const auto viewBox = parseViewBox(attributeText(element, "viewBox"));
     inside.lengths.viewportWidth = viewBox ? viewBox->width : viewport.width();

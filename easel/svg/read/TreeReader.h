@@ -3,6 +3,7 @@
 
 #include "easel/svg/read/ClipReader.h"
 #include "easel/svg/read/DrawingSize.h"
+#include "easel/svg/read/MarkerVertices.h"
 #include "easel/svg/read/ObjectReader.h"
 #include "easel/svg/read/Scene.h"
 #include "easel/svg/text/Source.h"
@@ -52,6 +53,12 @@ class TreeReader {
     void readElement(pugi::xml_node element, const Place& place);
     void readContainer(pugi::xml_node element, std::string_view name, const Place& place);
     void readShapeElement(pugi::xml_node element, std::string_view name, const Place& place);
+    void addMarkers(drawing::Object& object, const Shape& shape, const Place& place);
+    void readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
+                    std::vector<drawing::ObjectPtr>& markers);
+    Place placeAround(pugi::xml_node marker) const;
+    // Adds what the element holds to other objects than the drawing's.
+    void readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects);
     void readUse(pugi::xml_node element, Inside inside);
     void readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside);
     void readChildren(pugi::xml_node element, Inside inside);
@@ -66,7 +73,9 @@ class TreeReader {
     void narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip);
     // The place inside an element with a viewport of its own, which `use` may give another size.
     Place viewportPlace(pugi::xml_node element, pugi::xml_node use, const Place& outside);
+    static bool showsOverflow(const StatedStyle& stated);
     void noteEffects(const StatedStyle& stated);
+    void addSource(drawing::Object& object, pugi::xml_node element, std::uint32_t use);
     void addRepetition(pugi::xml_node use, pugi::xml_node target, Place& place);
     void tick();
 
@@ -76,9 +85,10 @@ class TreeReader {
     ClipReader clips_;
     ObjectReader reader_;
     std::vector<drawing::ObjectPtr> objects_;
-    std::vector<pugi::xml_node> open_; // `use` elements whose targets are being read
-    std::deque<Work> work_;            // the last is the innermost
-    DrawingSize size_;                 // a side that is not known yet is 0
+    std::vector<pugi::xml_node> open_;        // `use` elements whose targets are being read
+    std::vector<pugi::xml_node> openMarkers_; // that are being read
+    std::deque<Work> work_;                   // the last is the innermost
+    DrawingSize size_;                        // a side that is not known yet is 0
     std::size_t visited_ = 0;
 };
 

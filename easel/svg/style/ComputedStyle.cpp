@@ -108,6 +108,22 @@ std::optional<Dashes> parseDashes(std::string_view text, const LengthContext& le
     return std::make_shared<const std::vector<double>>(std::move(dashes));
 }
 
+// The shorthand is the weaker one, wherever it stands.
+void inheritMarkers(const StatedStyle& stated, const std::array<std::string_view, 3>& outside,
+                    std::array<std::string_view, 3>& markers) {
+    const auto state = [&](std::size_t slot, std::string_view text) {
+        if (equalIgnoringCase(text, "inherit"))
+            markers[slot] = outside[slot];
+        else if (!text.empty())
+            markers[slot] = localId(text);
+    };
+    constexpr std::array kOwn = {Property::MarkerStart, Property::MarkerMid, Property::MarkerEnd};
+    for (std::size_t slot = 0; slot < kOwn.size(); ++slot) {
+        state(slot, stated[Property::Marker]);
+        state(slot, stated[kOwn[slot]]);
+    }
+}
+
 std::optional<double> parseFontSize(std::string_view text, const LengthContext& lengths) {
     static constexpr std::array<std::pair<std::string_view, double>, 7> kSizes = {{{"xx-small", 9},
                                                                                    {"x-small", 10},
@@ -153,8 +169,12 @@ std::optional<PaintSpec> parsePaint(std::string_view text) {
         }
         return spec;
     }
-    if (equalIgnoringCase(text, "none") || equalIgnoringCase(text.substr(0, 8), "context-"))
+    if (equalIgnoringCase(text, "none"))
         return spec;
+    if (equalIgnoringCase(text, "context-fill") || equalIgnoringCase(text, "context-stroke")) {
+        spec.kind = text.size() == 12 ? PaintSpec::Kind::ContextFill : PaintSpec::Kind::ContextStroke;
+        return spec;
+    }
     if (equalIgnoringCase(text, "currentcolor")) {
         spec.kind = PaintSpec::Kind::CurrentColor;
         return spec;
@@ -170,6 +190,7 @@ std::optional<PaintSpec> parsePaint(std::string_view text) {
 ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext& lengths) const {
     ComputedStyle result = *this;
     result.custom = stated.custom;
+    inheritMarkers(stated, markers, result.markers);
     Reader reader(stated, *this, result);
     const auto length = [&lengths](std::string_view text) { return parseLength(text, lengths, Axis::Other); };
     const auto opacity = [](std::string_view text) { return std::optional(parseOpacity(text, 1)); };

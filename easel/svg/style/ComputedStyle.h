@@ -7,6 +7,7 @@
 #include "easel/svg/style/Property.h"
 #include "easel/svg/text/Length.h"
 
+#include <array>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -15,11 +16,17 @@ namespace easel::svg {
 
 // A paint as it is stated: servers are looked up when the shape is known.
 struct PaintSpec {
-    enum class Kind : std::uint8_t { None, Color, CurrentColor, Server };
+    enum class Kind : std::uint8_t { None, Color, CurrentColor, Server, ContextFill, ContextStroke };
     Kind kind = Kind::None;
     Kind fallback = Kind::None; // of a server that is missing: None, Color or CurrentColor
     drawing::ColorPaint color;  // for Color, also as the fallback
     std::string_view serverId;
+};
+
+// What the shape that shows a marker is painted with.
+struct ContextPaints {
+    drawing::Paint fill;
+    drawing::Paint stroke;
 };
 
 struct ComputedStyle {
@@ -39,7 +46,10 @@ struct ComputedStyle {
     drawing::LineCap cap = drawing::LineCap::Butt;
     drawing::PaintStep first = drawing::PaintStep::Fill;
     bool visible = true;
-    const CustomProperties* custom = nullptr; // null: none
+    std::array<std::string_view, 3>
+        markers; // ids of those at the start, in between and at the end; empty: none
+    std::shared_ptr<const ContextPaints> context; // null: outside of markers
+    const CustomProperties* custom = nullptr;     // null: none
 
     // The style of an element in one with this style. Font sizes in `lengths` are brought up to date.
     ComputedStyle inherited(const StatedStyle& stated, LengthContext& lengths) const;

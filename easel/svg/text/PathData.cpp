@@ -20,14 +20,14 @@ class PathParser {
     PathData parse() {
         scanner_.skipSpaces();
         if (!scanner_.done() && scanner_.peek() != 'M' && scanner_.peek() != 'm')
-            return {{}, false};
+            return {{}, {}, false};
         bool good = true;
         while (good && !scanner_.done()) {
             good = command(scanner_.next());
             scanner_.skipSpaces();
         }
         path_.shrinkToFit();
-        return {std::move(path_), good};
+        return {std::move(path_), std::move(insideArcs_), good};
     }
 
   private:
@@ -179,13 +179,17 @@ class PathParser {
             return false;
         const ArcShape shape{*rx, *ry, *turn, *large ? ArcSize::Large : ArcSize::Small,
                              *sweep ? ArcSweep::Clockwise : ArcSweep::Counterclockwise};
+        auto verb = static_cast<std::uint32_t>(path_.verbs().size());
         addArc(path_, current_, end[0], shape);
+        for (; verb + 1 < path_.verbs().size(); ++verb)
+            insideArcs_.push_back(verb);
         current_ = end[0];
         return true;
     }
 
     Scanner scanner_;
     Path path_;
+    std::vector<std::uint32_t> insideArcs_;
     Point start_;
     Point current_;
     Point control_; // last control point of the segment before

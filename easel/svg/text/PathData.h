@@ -3,12 +3,15 @@
 
 #include "easel/drawing/Path.h"
 
+#include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace easel::svg {
 
 struct PathData {
     drawing::Path path;
+    std::vector<std::uint32_t> insideArcs; // numbers of the verbs that end inside an arc, not at its end
     bool complete = true; // false: the path ends before the first mistake in the text, as SVG asks
 };
 

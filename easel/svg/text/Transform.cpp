@@ -101,6 +101,12 @@ std::optional<Affine> parseTransform(std::string_view text) {
     return result;
 }
 
+std::optional<double> parseDegrees(std::string_view text) {
+    Scanner scanner(trimmed(text));
+    const auto degrees = argument(scanner);
+    return scanner.done() ? degrees : std::nullopt;
+}
+
 std::string transformText(const Affine& map) {
     return "matrix(" + numberText(map.a) + ' ' + numberText(map.b) + ' ' + numberText(map.c) + ' ' +
            numberText(map.d) + ' ' + numberText(map.e) + ' ' + numberText(map.f) + ')';

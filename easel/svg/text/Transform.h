@@ -16,4 +16,7 @@ std::optional<drawing::Affine> parseTransform(std::string_view text);
 // "matrix(a b c d e f)", which reads back as the same map.
 std::string transformText(const drawing::Affine& map);
 
+// An angle with or without unit, in degrees. Nothing if the text is none.
+std::optional<double> parseDegrees(std::string_view text);
+
 } // namespace easel::svg

@@ -1,0 +1,99 @@
+// Reads the markers of a shape: what a marker element holds, once for each vertex that shows it.
+#include "easel/svg/read/MarkerFrame.h"
+#include "easel/svg/read/MarkerVertices.h"
+#include "easel/svg/read/TreeReader.h"
+#include "easel/svg/text/Scanner.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace easel::svg {
+
+namespace {
+
+// Shapes in markers may have markers, which are read by recursion.
+constexpr std::size_t kDeepestMarker = 8;
+
+bool takesMarkers(drawing::Kind kind) {
+    return kind == drawing::Kind::Path || kind == drawing::Kind::Line || kind == drawing::Kind::Polyline ||
+           kind == drawing::Kind::Polygon;
+}
+
+} // namespace
+
+void TreeReader::addMarkers(drawing::Object& object, const Shape& shape, const Place& place) {
+    const auto& ids = place.style.markers;
+    const auto isNone = [](std::string_view id) { return id.empty(); };
+    if (!takesMarkers(shape.kind) || std::all_of(ids.begin(), ids.end(), isNone))
+        return;
+    Place context = place;
+    context.style.context = reader_.contextOf(shape, place);
+    std::vector<drawing::ObjectPtr> markers;
+    for (const MarkerVertex& vertex : markerVertices(shape)) {
+        const pugi::xml_node marker = scene_.tree.byId(ids[static_cast<std::size_t>(vertex.slot)]);
+        if (scene_.tree.svgName(marker) == "marker")
+            readMarker(marker, vertex, context, markers);
+    }
+    if (!markers.empty())
+        object.markers = std::make_shared<const std::vector<drawing::ObjectPtr>>(std::move(markers));
+}
+
+void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
+                            std::vector<drawing::ObjectPtr>& markers) {
+    if (std::find(openMarkers_.begin(), openMarkers_.end(), marker) != openMarkers_.end())
+        return scene_.notes.add(Unshown::Circle);
+    if (openMarkers_.size() == kDeepestMarker)
+        return scene_.notes.add(Unshown::DeepLayer);
+    scene_.budget.spend(1);
+    const auto frame = markerFrame(marker, vertex, shape.style.strokeWidth, shape.lengths);
+    if (!frame)
+        return;
+    Place inside = placeAround(marker);
+    const StatedStyle stated = scene_.cascade.of(marker, inside.style.custom);
+    inside.style = inside.style.inherited(stated, inside.lengths);
+    inside.style.context = shape.style.context;
+    inside.lengths.viewportWidth = frame->width;
+    inside.lengths.viewportHeight = frame->height;
+    const drawing::Affine toDrawing = shape.toDrawing * frame->toShape;
+    inside.toDrawing = toDrawing * frame->toViewport;
+    const double opacity = parseOpacity(stated[Property::Opacity], 1);
+    if (opacity < 1)
+        inside.group = groupWith(nullptr, opacity, nullptr);
+    if (!showsOverflow(stated))
+        narrow(inside, rectangleClip(frame->viewport, toDrawing));
+    narrow(inside, clips_.clipFor(stated, drawing::Box(), inside));
+    noteEffects(stated);
+
+    openMarkers_.push_back(marker);
+    readApart(marker, std::move(inside), markers);
+    openMarkers_.pop_back();
+}
+
+// The style that the elements around hand down, wherever the marker is shown.
+Place TreeReader::placeAround(pugi::xml_node marker) const {
+    std::vector<pugi::xml_node> around;
+    for (pugi::xml_node above = marker.parent(); above.type() == pugi::node_element; above = above.parent())
+        around.push_back(above);
+    scene_.budget.spend(around.size());
+    Place place;
+    for (auto it = around.rbegin(); it != around.rend(); ++it) {
+        const StatedStyle stated = scene_.cascade.of(*it, place.style.custom);
+        place.style = place.style.inherited(stated, place.lengths);
+        if (it == around.rbegin())
+            place.lengths.rootFontSize = place.lengths.fontSize;
+    }
+    return place;
+}
+
+void TreeReader::readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects) {
+    std::swap(objects_, objects);
+    auto work = std::exchange(work_, {});
+    auto open = std::exchange(open_, {});
+    readChildren(element, {std::move(place), {}});
+    readAll();
+    std::swap(objects_, objects);
+    work_ = std::move(work);
+    open_ = std::move(open);
+}
+
+} // namespace easel::svg
