@@ -1,5 +1,6 @@
 #include "easel/svg/style/Color.h"
 
+#include "easel/svg/style/ColorMix.h"
 #include "easel/svg/style/ColorNames.h"
 #include "easel/svg/style/ColorSpaces.h"
 #include "easel/svg/text/Scanner.h"
@@ -178,7 +179,12 @@ std::optional<ColorPaint> parseColor(std::string_view text, const ColorPaint& cu
     if (scanner.take('#'))
         return hexColor(scanner.rest());
     const std::string_view name = scanner.word();
-    if (scanner.take('('))
+    const bool isFunction = scanner.take('(');
+    if (isFunction && equalIgnoringCase(name, "color-mix"))
+        return scanner.rest().ends_with(')')
+                   ? parseColorMix(scanner.rest().substr(0, scanner.rest().size() - 1), currentColor)
+                   : std::nullopt;
+    if (isFunction)
         return functionPaint(name, scanner);
     if (!scanner.done())
         return std::nullopt;

@@ -119,6 +119,21 @@ Triple oklabToRgb(const Triple& oklab) {
     return mapEach(kConesToLinear * cones, srgbEncode);
 }
 
+Triple rgbToLinear(const Triple& rgb) {
+    return mapEach(rgb, srgbDecode);
+}
+
+Triple rgbToOklab(const Triple& rgb) {
+    constexpr Matrix kLinearToCones{{{0.4122214708, 0.5363325363, 0.0514459929},
+                                     {0.2119034982, 0.6806995451, 0.1073969566},
+                                     {0.0883024619, 0.2817188376, 0.6299787005}}};
+    constexpr Matrix kFromCones{{{0.2104542553, 0.7936177850, -0.0040720468},
+                                 {1.9779984951, -2.4285922050, 0.4505937099},
+                                 {0.0259040371, 0.7827717662, -0.8086757660}}};
+    const Triple cones = kLinearToCones * rgbToLinear(rgb);
+    return kFromCones * mapEach(cones, [](double v) { return std::cbrt(v); });
+}
+
 Triple polarToAxes(const Triple& lch) {
     const double angle = lch[2] * std::numbers::pi / 180;
     return {lch[0], lch[1] * std::cos(angle), lch[1] * std::sin(angle)};

@@ -16,6 +16,10 @@ Triple oklabToRgb(const Triple& oklab); // L 0 to 1
 // From lightness, chroma and hue in degrees to lightness and the two axes.
 Triple polarToAxes(const Triple& lch);
 
+// The other way, from sRGB.
+Triple rgbToLinear(const Triple& rgb);
+Triple rgbToOklab(const Triple& rgb);
+
 // The spaces of color(): srgb, srgb-linear, display-p3, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50,
 // xyz-d65.
 bool isColorSpace(std::string_view name);

@@ -21,6 +21,26 @@ void expectBytes(const char* text, int red, int green, int blue, double opacity 
     EXPECT_NEAR(color->opacity, opacity, 1e-9) << text;
 }
 
+TEST(SvgColor, MixturesOfTwoColors) {
+    expectBytes("color-mix(in srgb, red, blue)", 128, 0, 128);
+    expectBytes("color-mix(in srgb, red 25%, blue)", 64, 0, 191);
+    expectBytes("color-mix(in srgb, red, 25% rgb(0, 0, 255))", 191, 0, 64);
+    expectBytes("color-mix(in srgb, red 20%, blue 20%)", 128, 0, 128, 0.4);
+    // The opaque one counts twice as much as the other.
+    expectBytes("color-mix(in srgb, red, rgb(0 0 255 / .5))", 170, 0, 85, 0.75);
+    // Half of the light: 1.055 * 0.5 ^ (1 / 2.4) - 0.055.
+    expectBytes("color-mix(in srgb-linear, red, lime)", 188, 188, 0);
+    expectBytes("color-mix(in xyz, red, lime)", 188, 188, 0);
+    // Half of the lightness is an eighth of the light.
+    expectBytes("color-mix(in oklab, white, black)", 99, 99, 99);
+    expectBytes("color-mix(in oklab, #4080c0 100%, black)", 64, 128, 192);
+    for (const char* text :
+         {"color-mix(in nowhere, red, blue)", "color-mix(in srgb, red)", "color-mix(red, blue)",
+          "color-mix(in srgb, red 0%, blue 0%)", "color-mix(in srgb, red, blue, lime)",
+          "color-mix(in srgb, red, blue", "color-mix(in srgb, red 120%, blue)"})
+        EXPECT_FALSE(parseColor(text)) << text;
+}
+
 TEST(SvgColor, NamesAndHexadecimalForms) {
     expectBytes("rebeccapurple", 102, 51, 153);
     expectBytes(" LightGoldenRodYellow ", 250, 250, 210);

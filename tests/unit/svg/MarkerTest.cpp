@@ -42,8 +42,8 @@ TEST(Markers, TurnHalfwayBetweenHowTheOutlineComesAndGoes) {
 }
 
 TEST(Markers, AClosedOutlineTurnsAtItsSeamAsAtItsOtherVertices) {
-    EXPECT_THAT(verticesOf("M0 0H10V10H0Z"), ElementsAre(turnedBy(-45), turnedBy(45), turnedBy(135),
-                                                         turnedBy(225), turnedBy(-45)));
+    EXPECT_THAT(verticesOf("M0 0H10V10H0Z"),
+                ElementsAre(turnedBy(-45), turnedBy(45), turnedBy(135), turnedBy(225), turnedBy(-45)));
 }
 
 TEST(Markers, SegmentsWithoutLengthGoAsTheirNeighborsDo) {
