@@ -47,10 +47,10 @@ std::string drawingFile(int count, Fills fills) {
 }
 
 drawing::Drawing opened(std::string bytes) {
-    svg::ReadResult read = svg::readBytes(std::move(bytes), "growing.svg");
-    if (auto* drawing = std::get_if<drawing::Drawing>(&read))
-        return std::move(*drawing);
-    throw std::logic_error(std::get<svg::Failure>(read).message);
+    auto drawing = svg::readBytes(std::move(bytes), "growing.svg");
+    if (!drawing)
+        throw std::logic_error(drawing.error().message());
+    return std::move(*drawing);
 }
 
 } // namespace bench

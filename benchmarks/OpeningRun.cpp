@@ -30,9 +30,9 @@ struct PipeCloser {
 bool printOpeningTime(const std::filesystem::path& file) {
     for (const Fills fills : {Fills::OneGradient, Fills::OwnGradients})
         static_cast<void>(opened(drawingFile(kSmallDrawing, fills)));
-    std::optional<svg::ReadResult> read;
+    std::optional<files::Result<drawing::Drawing>> read;
     const double time = secondsOf([&] { read.emplace(svg::readFile(file)); });
-    if (!std::holds_alternative<drawing::Drawing>(*read))
+    if (!*read)
         return false;
     std::printf("%.9f\n", time);
     return true;

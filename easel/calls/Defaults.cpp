@@ -14,8 +14,7 @@ using runtime::theStorage;
 Handle GetDefaultsResource(unsigned long type, short id) {
     journal("GetDefaultsResource", type, id);
     const auto stored = theStorage().defaults().read();
-    const auto* const fork = std::get_if<classic::ResourceFork>(&stored);
-    const auto* const resource = fork ? fork->find(static_cast<std::uint32_t>(type), id) : nullptr;
+    const auto* const resource = stored ? stored->find(static_cast<std::uint32_t>(type), id) : nullptr;
     if (!resource)
         return nullptr;
     Handle const block = runtime::MemoryBlocks::shared().create(resource->data.size());
@@ -32,6 +31,6 @@ void SetDefaultsResource(Handle data, unsigned long type, short id, CStr255 name
     theStorage().files().settle();
     classic::Resource resource{static_cast<std::uint32_t>(type), id, 0, name.Text(),
                                files::Bytes(*data, *data + *size)};
-    if (const auto failure = theStorage().defaults().put(std::move(resource)))
-        theStorage().tellFailure(*failure);
+    if (const auto kept = theStorage().defaults().put(std::move(resource)); !kept)
+        theStorage().tellError(kept.error());
 }

@@ -37,8 +37,8 @@ FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create) {
     journal("FindSecondaryPreferencesFolder", fromMacRoman(name.Text()), create);
     const auto found = theStorage().files().findSecondaryFolder(
         name.Text(), create ? classic::FolderCreation::IfMissing : classic::FolderCreation::Never);
-    if (found.failure)
-        theStorage().tellNothingIsKept(*found.failure);
+    if (!found.usable)
+        theStorage().tellNothingIsKept(found.usable.error());
     return runtime::hostSpecFrom(found.spec);
 }
 

@@ -22,11 +22,9 @@ bool ExtractGradientInfo(char* bytes, long size, CGradientData& out) {
     runtime::journal("ExtractGradientInfo", size);
     if (!bytes || size < 0)
         return false;
-    auto read = classic::gradientFromBytes(
+    const auto gradient = classic::gradientFromBytes(
         {reinterpret_cast<const std::uint8_t*>(bytes), static_cast<std::size_t>(size)});
-    if (const auto* const gradient = std::get_if<CGradientData>(&read)) {
+    if (gradient)
         out = *gradient;
-        return true;
-    }
-    return false;
+    return gradient.has_value();
 }

@@ -3,7 +3,6 @@
 
 #include "easel/runtime/MemoryBlocks.h"
 
-using easel::runtime::BlockOutcome;
 using easel::runtime::MemoryBlocks;
 
 Handle NewHandle(long size) {
@@ -20,8 +19,7 @@ long GetHandleSize(Handle block) {
 }
 
 bool SetHandleSize(Handle block, long size) {
-    return size >= 0 &&
-           MemoryBlocks::shared().resize(block, static_cast<std::size_t>(size)) == BlockOutcome::Done;
+    return size >= 0 && MemoryBlocks::shared().resize(block, static_cast<std::size_t>(size));
 }
 
 void HLock(Handle block) {

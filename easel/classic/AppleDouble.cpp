@@ -25,14 +25,14 @@ Descriptor descriptorAt(ByteView bytes, std::size_t index) {
             numberAt<std::uint32_t>(bytes, at + 8)};
 }
 
-std::optional<HeaderDamage> checkHeader(ByteView bytes) {
+tl::expected<void, HeaderDamage> checkHeader(ByteView bytes) {
     if (bytes.size() < kHeaderSize)
-        return HeaderDamage::TooShort;
+        return tl::unexpected(HeaderDamage::TooShort);
     if (numberAt<std::uint32_t>(bytes, 0) != kMagic)
-        return HeaderDamage::NotAppleDouble;
+        return tl::unexpected(HeaderDamage::NotAppleDouble);
     const auto version = numberAt<std::uint32_t>(bytes, 4);
     if (version != AppleDouble::kVersion1 && version != AppleDouble::kVersion2)
-        return HeaderDamage::UnknownVersion;
+        return tl::unexpected(HeaderDamage::UnknownVersion);
     return {};
 }
 
@@ -60,25 +60,25 @@ std::string describe(HeaderDamage damage) {
     return {};
 }
 
-std::variant<AppleDouble, HeaderDamage> AppleDouble::read(ByteView bytes) {
-    if (const auto damage = checkHeader(bytes))
-        return *damage;
+tl::expected<AppleDouble, HeaderDamage> AppleDouble::read(ByteView bytes) {
+    if (const auto checked = checkHeader(bytes); !checked)
+        return tl::unexpected(checked.error());
     AppleDouble file;
     file.version_ = numberAt<std::uint32_t>(bytes, 4);
     std::copy_n(bytes.begin() + 8, file.filler_.size(), file.filler_.begin());
     const std::size_t count = numberAt<std::uint16_t>(bytes, 24);
     if (!part(bytes, kHeaderSize, count * kDescriptorSize))
-        return HeaderDamage::TooShort;
+        return tl::unexpected(HeaderDamage::TooShort);
     std::size_t total = 0;
     for (std::size_t i = 0; i < count; ++i) {
         const auto descriptor = descriptorAt(bytes, i);
         const auto data = part(bytes, descriptor.offset, descriptor.length);
         if (!data)
-            return HeaderDamage::EntryOutside;
+            return tl::unexpected(HeaderDamage::EntryOutside);
         // Entries that share their bytes could ask for any amount of memory.
         total += data->size();
         if (total > bytes.size())
-            return HeaderDamage::EntriesOverlap;
+            return tl::unexpected(HeaderDamage::EntriesOverlap);
         file.entries_.push_back({descriptor.id, files::Bytes(data->begin(), data->end())});
     }
     return file;
@@ -137,7 +137,7 @@ AppleDouble::Entry& AppleDouble::at(std::uint32_t id) {
 
 FinderInfoPlace findFinderInfo(ByteView beginning) {
     using Answer = FinderInfoPlace::Answer;
-    if (checkHeader(beginning))
+    if (!checkHeader(beginning))
         return {Answer::NotAppleDouble, {}, 0};
     const std::size_t count = numberAt<std::uint16_t>(beginning, 24);
     const std::size_t tableEnd = kHeaderSize + count * kDescriptorSize;

@@ -6,6 +6,8 @@
 
 #include <array>
 #include <string>
+#include <tl/expected.hpp>
+#include <vector>
 
 namespace easel::classic {
 
@@ -41,7 +43,7 @@ class AppleDouble {
     };
 
     /// Takes both versions and entries in any order; entries it does not know are kept.
-    static std::variant<AppleDouble, HeaderDamage> read(ByteView bytes);
+    static tl::expected<AppleDouble, HeaderDamage> read(ByteView bytes);
     /// In the version that was read; a new one in version 2.
     files::Bytes write() const;
 

@@ -1,9 +1,11 @@
 // Big-endian numbers in bytes, as every format of the host's files stores them.
 #pragma once
 
-#include "easel/files/FileError.h"
+#include "easel/files/Bytes.h"
 
 #include <concepts>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 

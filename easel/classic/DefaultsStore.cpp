@@ -14,37 +14,37 @@ constexpr std::uintmax_t kLargestFile = 64U << 20;
 
 } // namespace
 
-files::OrFileError<ResourceFork> DefaultsStore::read() const {
+files::Result<ResourceFork> DefaultsStore::read() const {
     const auto bytes = files::readWholeFile(file(), kLargestFile);
-    if (const auto* const error = std::get_if<files::FileError>(&bytes)) {
-        if (error->code == std::errc::no_such_file_or_directory)
+    if (!bytes) {
+        if (bytes.error().code == std::errc::no_such_file_or_directory)
             return ResourceFork();
-        return *error;
+        return tl::unexpected(bytes.error());
     }
-    auto fork = ResourceFork::read(std::get<files::Bytes>(bytes));
-    if (const auto* const damage = std::get_if<ForkDamage>(&fork))
-        return files::FileError{file(), describe(*damage), {}};
-    return std::get<ResourceFork>(std::move(fork));
+    return ResourceFork::read(*bytes).map_error([this](ForkDamage damage) {
+        return files::Error{file(), describe(damage), {}};
+    });
 }
 
-files::FileOutcome DefaultsStore::put(Resource resource) const {
+files::Result<> DefaultsStore::put(Resource resource) const {
     std::error_code error;
     fs::create_directories(places_.preferences, error);
     if (error)
-        return files::FileError{places_.preferences, error.message(), error};
+        return tl::unexpected(files::Error{places_.preferences, error.message(), error});
     const files::FolderLock lock(places_.preferences);
     auto stored = read();
     ResourceFork fork;
-    if (auto* const whole = std::get_if<ResourceFork>(&stored))
-        fork = std::move(*whole);
-    else if (std::get<files::FileError>(stored).code)
-        return std::get<files::FileError>(stored);
-    else if (auto failure = files::Trash(places_.trash).move(file()))
-        return failure;
+    if (stored)
+        fork = std::move(*stored);
+    else if (stored.error().code)
+        return tl::unexpected(stored.error());
+    else if (auto moved = files::Trash(places_.trash).move(file()); !moved)
+        return moved;
     fork.put(std::move(resource));
     const auto bytes = fork.write();
     if (!bytes)
-        return files::FileError{file(), "the defaults are larger than a resource file can be", {}};
+        return tl::unexpected(
+            files::Error{file(), "the defaults are larger than a resource file can be", {}});
     return files::replaceFile(file(), *bytes);
 }
 

@@ -16,9 +16,9 @@ class DefaultsStore {
     std::filesystem::path file() const { return places_.preferences / "Defaults.rsrc"; }
 
     /// Everything stored. A file that is missing holds nothing.
-    files::OrFileError<ResourceFork> read() const;
+    files::Result<ResourceFork> read() const;
     /// Stores a default in place of an earlier one. A damaged file goes to the trash first.
-    [[nodiscard]] files::FileOutcome put(Resource resource) const;
+    [[nodiscard]] files::Result<> put(Resource resource) const;
 
   private:
     StoragePlaces places_;

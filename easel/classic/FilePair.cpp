@@ -44,17 +44,16 @@ bool exists(const FilePair& file) {
     return ::stat(file.data().c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-files::OrFileError<AppleDouble> readHeader(const FilePair& file) {
+files::Result<AppleDouble> readHeader(const FilePair& file) {
     const auto bytes = files::readWholeFile(file.header(), kLargestHeader);
-    if (const auto* const error = std::get_if<files::FileError>(&bytes)) {
-        if (error->code == std::errc::no_such_file_or_directory)
+    if (!bytes) {
+        if (bytes.error().code == std::errc::no_such_file_or_directory)
             return AppleDouble();
-        return *error;
+        return tl::unexpected(bytes.error());
     }
-    auto header = AppleDouble::read(std::get<files::Bytes>(bytes));
-    if (const auto* const damage = std::get_if<HeaderDamage>(&header))
-        return files::FileError{file.header(), describe(*damage), {}};
-    return std::get<AppleDouble>(std::move(header));
+    return AppleDouble::read(*bytes).map_error([&](HeaderDamage damage) {
+        return files::Error{file.header(), describe(damage), {}};
+    });
 }
 
 FinderInfo readFinderInfo(const FilePair& file) {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "easel/classic/AppleDouble.h"
+#include "easel/files/Result.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace easel::classic {
@@ -25,7 +27,7 @@ bool exists(const FilePair& file);
 
 /// The header file; one without entries where there is no header file. Damage is an error that says what it
 /// is.
-files::OrFileError<AppleDouble> readHeader(const FilePair& file);
+files::Result<AppleDouble> readHeader(const FilePair& file);
 
 /// Type and creator, reading no more of the header file than that takes.
 ///

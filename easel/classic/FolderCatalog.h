@@ -3,7 +3,10 @@
 
 #include "easel/classic/FilePair.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace easel::classic {
 

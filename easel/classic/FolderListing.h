@@ -3,6 +3,10 @@
 
 #include "easel/classic/FilePair.h"
 
+#include <optional>
+#include <string>
+#include <vector>
+
 namespace easel::classic {
 
 struct ListedFile {

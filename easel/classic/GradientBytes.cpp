@@ -29,20 +29,20 @@ std::uint32_t checksum(ByteView bytes) {
     return libdeflate_crc32(0, bytes.data(), bytes.size());
 }
 
-std::optional<GradientDamage> findDamage(ByteView bytes) {
+tl::expected<void, GradientDamage> check(ByteView bytes) {
     if (bytes.size() < kRecordOffset || numberAt<std::uint32_t>(bytes, 0) != kMagic)
-        return GradientDamage::NotAGradient;
+        return tl::unexpected(GradientDamage::NotAGradient);
     if (numberAt<std::uint32_t>(bytes, 4) != kVersion)
-        return GradientDamage::UnknownVersion;
+        return tl::unexpected(GradientDamage::UnknownVersion);
     if (bytes.size() < kStopsOffset + kChecksumSize ||
         numberAt<std::uint32_t>(bytes, kLengthOffset) != bytes.size())
-        return GradientDamage::WrongLength;
+        return tl::unexpected(GradientDamage::WrongLength);
     const auto checked = bytes.first(bytes.size() - kChecksumSize);
     if (numberAt<std::uint32_t>(bytes, checked.size()) != checksum(checked))
-        return GradientDamage::WrongChecksum;
+        return tl::unexpected(GradientDamage::WrongChecksum);
     const std::uint64_t count = numberAt<std::uint32_t>(bytes, kCountOffset);
     if (count == 0 || kStopsOffset + count * kStopSize != checked.size())
-        return GradientDamage::WrongStopCount;
+        return tl::unexpected(GradientDamage::WrongStopCount);
     return {};
 }
 
@@ -79,9 +79,9 @@ std::optional<files::Bytes> gradientToBytes(const CGradientData& gradient) {
     return bytes;
 }
 
-std::variant<CGradientData, GradientDamage> gradientFromBytes(ByteView bytes) {
-    if (const auto damage = findDamage(bytes))
-        return *damage;
+tl::expected<CGradientData, GradientDamage> gradientFromBytes(ByteView bytes) {
+    if (const auto checked = check(bytes); !checked)
+        return tl::unexpected(checked.error());
     CGradientData gradient;
     gradient.SetType(static_cast<KGradientType>(numberAt<std::uint32_t>(bytes, kRecordOffset)));
     gradient.SetAngle(std::bit_cast<float>(numberAt<std::uint32_t>(bytes, kRecordOffset + 4)));

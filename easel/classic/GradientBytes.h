@@ -7,6 +7,10 @@
 #include "easel/classic/BigEndian.h"
 #include "host/Gradient.h"
 
+#include <optional>
+#include <string>
+#include <tl/expected.hpp>
+
 namespace easel::classic {
 
 /// Nothing for a gradient without stops, which nobody could draw.
@@ -20,7 +24,7 @@ enum class GradientDamage {
     WrongStopCount, ///< no stop, or another number than there is room for
 };
 
-std::variant<CGradientData, GradientDamage> gradientFromBytes(ByteView bytes);
+tl::expected<CGradientData, GradientDamage> gradientFromBytes(ByteView bytes);
 
 /// In words for the user.
 std::string describe(GradientDamage damage);

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 namespace easel::classic {
 namespace {
 
-files::FileError noSuchFile(const std::string& name) {
+files::Error noSuchFile(const std::string& name) {
     return {name, "no such file", std::make_error_code(std::errc::no_such_file_or_directory)};
 }
 
@@ -38,7 +38,7 @@ StoragePlaces StoragePlaces::within(const fs::path& folder) {
     return {folder, folder / "Trash"};
 }
 
-HostFiles::HostFiles(StoragePlaces places, FailureReport report)
+HostFiles::HostFiles(StoragePlaces places, ErrorReport report)
     : places_(std::move(places)), report_(std::move(report)), catalog_(places_.preferences),
       trash_(places_.trash) {
     recoverFolder(places_.preferences);
@@ -49,15 +49,15 @@ HostFiles::SecondaryFolder HostFiles::findSecondaryFolder(std::string_view name,
     const auto spec = catalog_.secondaryFolder(name);
     const auto folder = catalog_.pathOf(spec);
     if (!folder)
-        return {spec,
-                files::FileError{places_.preferences / std::string(name), "not a name for a folder", {}}};
+        return {spec, tl::unexpected(files::Error{
+                          places_.preferences / std::string(name), "not a name for a folder", {}})};
     std::error_code error;
     if (creation == FolderCreation::IfMissing)
         fs::create_directories(*folder, error);
     if (error)
-        return {spec, files::FileError{*folder, error.message(), error}};
+        return {spec, tl::unexpected(files::Error{*folder, error.message(), error})};
     if (::access(folder->c_str(), W_OK | X_OK) != 0)
-        return {spec, files::lastSystemError(*folder)};
+        return {spec, tl::unexpected(files::lastSystemError(*folder))};
     recoverFolder(*folder);
     lastFound_ = *folder;
     return {spec, {}};
@@ -107,24 +107,24 @@ FileResult HostFiles::create(const FileSpec& spec, const FinderInfo& info) {
     return FileResult::Done;
 }
 
-files::OrFileError<OpenedFile> HostFiles::open(const FileSpec& spec, Access access) {
+files::Result<OpenedFile> HostFiles::open(const FileSpec& spec, Access access) {
     const auto file = catalog_.place(spec);
     if (!file)
-        return noSuchFile(spec.name);
+        return tl::unexpected(noSuchFile(spec.name));
     if (access == Access::Write && waitsFor(*file) && waiting_->creation) {
         const auto info = *std::exchange(waiting_, std::nullopt)->creation;
         return OpenedFile{*file, newHeader(info), OpenedFile::State::Waiting};
     }
     settle();
     if (!exists(*file))
-        return noSuchFile(file->data());
+        return tl::unexpected(noSuchFile(file->data()));
     auto header = readHeader(*file);
-    if (const auto* const error = std::get_if<files::FileError>(&header))
-        return *error;
-    return OpenedFile{*file, std::get<AppleDouble>(std::move(header)), OpenedFile::State::OnDisk};
+    if (!header)
+        return tl::unexpected(header.error());
+    return OpenedFile{*file, std::move(*header), OpenedFile::State::OnDisk};
 }
 
-files::FileOutcome HostFiles::write(const OpenedFile& opened) {
+files::Result<> HostFiles::write(const OpenedFile& opened) {
     settle();
     // The folder may have been removed while the program ran.
     std::error_code ignored;
@@ -136,10 +136,10 @@ void HostFiles::settle() {
     const auto waiting = std::exchange(waiting_, std::nullopt);
     if (!waiting)
         return;
-    const auto failure = waiting->creation ? writePair(waiting->file, newHeader(*waiting->creation), trash_)
+    const auto changed = waiting->creation ? writePair(waiting->file, newHeader(*waiting->creation), trash_)
                                            : trashPair(waiting->file, trash_, flushing_);
-    if (failure)
-        report_(*failure);
+    if (!changed)
+        report_(changed.error());
 }
 
 void HostFiles::flushAll() {
@@ -148,8 +148,8 @@ void HostFiles::flushAll() {
     std::error_code ignored;
     for (const auto& folder : {places_.preferences, places_.trash})
         if (fs::is_directory(folder, ignored))
-            if (const auto failure = files::flushFileSystem(folder))
-                report_(*failure);
+            if (const auto flushed = files::flushFileSystem(folder); !flushed)
+                report_(flushed.error());
 }
 
 } // namespace easel::classic

@@ -12,6 +12,8 @@
 #include "easel/files/Trash.h"
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace easel::classic {
 
@@ -45,19 +47,19 @@ class HostFiles {
   public:
     /// Called with what a waiting change failed with, since whoever asked for it is no longer there to be
     /// told.
-    using FailureReport = std::function<void(const files::FileError&)>;
+    using ErrorReport = std::function<void(const files::Error&)>;
 
     /// Clears away what a crash of an earlier run left in the preferences folder.
-    HostFiles(StoragePlaces places, FailureReport report);
+    HostFiles(StoragePlaces places, ErrorReport report);
     ~HostFiles() { settle(); }
     HostFiles(const HostFiles&) = delete;
     HostFiles& operator=(const HostFiles&) = delete;
 
-    /// A spec of the folder in the preferences folder; `failure` says why it could not be made, if it could
-    /// not.
+    /// A spec of the folder in the preferences folder, which the caller gets in any case, and whether files
+    /// can be made there.
     struct SecondaryFolder {
         FileSpec spec;
-        files::FileOutcome failure;
+        files::Result<> usable;
     };
     SecondaryFolder findSecondaryFolder(std::string_view name, FolderCreation creation);
 
@@ -70,9 +72,9 @@ class HostFiles {
     std::uint64_t listingRevision() const { return listings_.revision(); }
     FileResult remove(const FileSpec& spec);
     FileResult create(const FileSpec& spec, const FinderInfo& info);
-    files::OrFileError<OpenedFile> open(const FileSpec& spec, Access access);
+    files::Result<OpenedFile> open(const FileSpec& spec, Access access);
     /// Writes a file that was opened, in place of what is there by now.
-    [[nodiscard]] files::FileOutcome write(const OpenedFile& file);
+    [[nodiscard]] files::Result<> write(const OpenedFile& file);
     /// Carries out what is waiting.
     void settle();
 
@@ -102,7 +104,7 @@ class HostFiles {
     bool waitsFor(const FilePair& file) const { return waiting_ && waiting_->file == file; }
 
     StoragePlaces places_;
-    FailureReport report_;
+    ErrorReport report_;
     FolderCatalog catalog_;
     files::Trash trash_;
     std::optional<Waiting> waiting_;

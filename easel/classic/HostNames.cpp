@@ -32,10 +32,10 @@ std::optional<std::string> nameInHost(std::string_view diskName) {
     if (!isOrdinary(diskName))
         return std::nullopt;
     auto encoded = toMacRoman(diskName);
-    if (encoded.outcome != EncodingOutcome::Converted || encoded.text.size() > kLongestName)
+    if (!encoded || encoded->size() > kLongestName)
         return std::nullopt;
-    std::replace(encoded.text.begin(), encoded.text.end(), ':', '/');
-    return encoded.text;
+    std::replace(encoded->begin(), encoded->end(), ':', '/');
+    return std::move(*encoded);
 }
 
 } // namespace easel::classic

@@ -8,6 +8,8 @@
 #include <chrono>
 #include <cstdint>
 #include <future>
+#include <string>
+#include <vector>
 
 namespace easel::classic {
 

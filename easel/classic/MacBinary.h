@@ -4,6 +4,9 @@
 
 #include "easel/classic/AppleDouble.h"
 
+#include <optional>
+#include <string>
+
 namespace easel::classic {
 
 struct MacBinaryFile {

@@ -141,21 +141,23 @@ std::optional<Decoded> decodeFirst(std::string_view utf8) {
 
 } // namespace
 
-EncodedText toMacRoman(std::string_view utf8) {
-    EncodedText result;
+tl::expected<std::string, EncodingError> toMacRoman(std::string_view utf8) {
+    using Kind = EncodingError::Kind;
+    std::string result;
     std::optional<char32_t> previous;
     for (std::size_t at = 0; at < utf8.size();) {
         const auto decoded = decodeFirst(utf8.substr(at));
         if (!decoded)
-            return {EncodingOutcome::NotUtf8, {}, {}};
+            return tl::unexpected(EncodingError{Kind::NotUtf8, {}});
         const auto character = canonical(decoded->character);
         const auto composed = previous ? compose(*previous, character) : std::nullopt;
         const auto byte = byteOf(composed.value_or(character));
         if (!byte)
-            return {EncodingOutcome::NotInEncoding, {}, std::string(utf8.substr(at, decoded->length))};
+            return tl::unexpected(
+                EncodingError{Kind::NotInEncoding, std::string(utf8.substr(at, decoded->length))});
         if (composed)
-            result.text.pop_back();
-        result.text.push_back(*byte);
+            result.pop_back();
+        result.push_back(*byte);
         previous = composed.value_or(character);
         at += decoded->length;
     }

@@ -27,56 +27,55 @@ struct PairInTrash {
 };
 
 // Gives what is there of the pair names in the trash too. Until the place is kept, that can be undone.
-files::OrFileError<PairInTrash> copyToTrash(const FilePair& file, const files::Trash& trash,
-                                            files::Flushing flushing) {
+files::Result<PairInTrash> copyToTrash(const FilePair& file, const files::Trash& trash,
+                                       files::Flushing flushing) {
     std::vector<fs::path> originals;
     for (const auto& path : {file.data(), file.header()})
         if (isThere(path))
             originals.push_back(path);
     auto reserved = trash.reserve(originals, flushing);
-    if (const auto* const error = std::get_if<files::FileError>(&reserved))
-        return *error;
-    auto& place = std::get<files::TrashPlace>(reserved);
+    if (!reserved)
+        return tl::unexpected(reserved.error());
     for (std::size_t i = 0; i < originals.size(); ++i)
-        if (auto failure = files::linkOrCopy(originals[i], place.files()[i]))
-            return *failure;
-    return PairInTrash{std::move(place), std::move(originals)};
+        if (const auto copied = files::linkOrCopy(originals[i], reserved->files()[i]); !copied)
+            return tl::unexpected(copied.error());
+    return PairInTrash{std::move(*reserved), std::move(originals)};
 }
 
-files::FileOutcome unlinkFile(const fs::path& file) {
+files::Result<> unlinkFile(const fs::path& file) {
     if (::unlink(file.c_str()) != 0)
-        return files::lastSystemError(file);
+        return tl::unexpected(files::lastSystemError(file));
     return {};
 }
 
 // The header's rename decides: with it the name stands for the new content.
-files::FileOutcome replaceInPlace(const FilePair& file, files::TemporaryFile header,
-                                  files::TemporaryFile data, const files::Trash& trash) {
+files::Result<> replaceInPlace(const FilePair& file, files::TemporaryFile header, files::TemporaryFile data,
+                               const files::Trash& trash) {
     auto copied = copyToTrash(file, trash, files::Flushing::AtOnce);
-    if (const auto* const error = std::get_if<files::FileError>(&copied))
-        return *error;
-    if (auto failure = header.moveTo(file.header()))
-        return failure;
-    std::get<PairInTrash>(copied).place.keep();
-    if (auto failure = data.moveTo(file.data()))
-        return failure;
+    if (!copied)
+        return tl::unexpected(copied.error());
+    if (auto moved = header.moveTo(file.header()); !moved)
+        return moved;
+    copied->place.keep();
+    if (auto moved = data.moveTo(file.data()); !moved)
+        return moved;
     return files::flushFolder(file.folder);
 }
 
 // The data fork's rename decides: without a data fork the header file is nothing.
-files::FileOutcome createAnew(const FilePair& file, files::TemporaryFile header, files::TemporaryFile data) {
+files::Result<> createAnew(const FilePair& file, files::TemporaryFile header, files::TemporaryFile data) {
     // Without links there can be no marker; then a crash may leave a header file, which the next save
     // replaces.
     const bool isMarked = ::link(header.path().c_str(), file.header().c_str()) == 0;
     if (!isMarked)
-        if (auto failure = header.moveTo(file.header()))
-            return failure;
-    auto failure = files::flushFolder(file.folder);
-    if (!failure)
-        failure = data.moveTo(file.data());
-    if (failure) {
+        if (auto moved = header.moveTo(file.header()); !moved)
+            return moved;
+    auto decided = files::flushFolder(file.folder);
+    if (decided)
+        decided = data.moveTo(file.data());
+    if (!decided) {
         ::unlink(file.header().c_str());
-        return failure;
+        return decided;
     }
     return files::flushFolder(file.folder);
 }
@@ -98,45 +97,43 @@ void removeMarkedHeaders(const fs::path& folder, const fs::path& marker) {
 
 } // namespace
 
-files::FileOutcome writePair(const FilePair& file, const AppleDouble& header, const files::Trash& trash) {
+files::Result<> writePair(const FilePair& file, const AppleDouble& header, const files::Trash& trash) {
     const files::FolderLock lock(file.folder);
     auto newHeader = files::TemporaryFile::write(file.folder, header.write());
-    if (const auto* const error = std::get_if<files::FileError>(&newHeader))
-        return *error;
+    if (!newHeader)
+        return tl::unexpected(newHeader.error());
     auto newData = files::TemporaryFile::write(file.folder, {});
-    if (const auto* const error = std::get_if<files::FileError>(&newData))
-        return *error;
-    auto& temporaryHeader = std::get<files::TemporaryFile>(newHeader);
-    auto& temporaryData = std::get<files::TemporaryFile>(newData);
+    if (!newData)
+        return tl::unexpected(newData.error());
     if (isThere(file.data()))
-        return replaceInPlace(file, std::move(temporaryHeader), std::move(temporaryData), trash);
+        return replaceInPlace(file, std::move(*newHeader), std::move(*newData), trash);
     // A header file that has lost its data fork is in the way, and may still be somebody's only copy.
     if (isThere(file.header()))
-        if (auto failure = trash.move(file.header()))
-            return failure;
-    return createAnew(file, std::move(temporaryHeader), std::move(temporaryData));
+        if (auto moved = trash.move(file.header()); !moved)
+            return moved;
+    return createAnew(file, std::move(*newHeader), std::move(*newData));
 }
 
-files::FileOutcome trashPair(const FilePair& file, const files::Trash& trash, files::Flushing flushing) {
+files::Result<> trashPair(const FilePair& file, const files::Trash& trash, files::Flushing flushing) {
     const files::FolderLock lock(file.folder);
     if (!isThere(file.data()))
-        return files::FileError{file.data(), "no such file",
-                                std::make_error_code(std::errc::no_such_file_or_directory)};
+        return tl::unexpected(files::Error{file.data(), "no such file",
+                                           std::make_error_code(std::errc::no_such_file_or_directory)});
     auto copied = copyToTrash(file, trash, flushing);
-    if (const auto* const error = std::get_if<files::FileError>(&copied))
-        return *error;
+    if (!copied)
+        return tl::unexpected(copied.error());
     auto marker = files::TemporaryFile::linkTo(file.header());
     // From here on the file is gone.
-    if (auto failure = unlinkFile(file.data()))
-        return failure;
-    std::get<PairInTrash>(copied).place.keep();
+    if (auto gone = unlinkFile(file.data()); !gone)
+        return gone;
+    copied->place.keep();
     if (isThere(file.header()))
-        if (auto failure = unlinkFile(file.header())) {
+        if (auto gone = unlinkFile(file.header()); !gone) {
             if (marker)
                 marker->leaveBehind();
-            return failure;
+            return gone;
         }
-    return flushing == files::Flushing::AtOnce ? files::flushFolder(file.folder) : files::FileOutcome();
+    return flushing == files::Flushing::AtOnce ? files::flushFolder(file.folder) : files::Result<>();
 }
 
 void recoverFolder(const fs::path& folder) {

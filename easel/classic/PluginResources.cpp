@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <optional>
 #include <pugixml.hpp>
 
 namespace easel::classic {
@@ -43,11 +44,11 @@ std::string_view trimmed(std::string_view text) {
 
 std::string hostText(const pugi::xml_node& node, std::string_view text) {
     const auto encoded = toMacRoman(text);
-    if (encoded.outcome != EncodingOutcome::Converted)
-        fail(node, "has a text that the host's encoding cannot hold: " + encoded.culprit);
-    if (encoded.text.size() > 255)
+    if (!encoded)
+        fail(node, "has a text that the host's encoding cannot hold: " + encoded.error().culprit);
+    if (encoded->size() > 255)
         fail(node, "has a text of more than 255 characters");
-    return fromMacRoman(encoded.text);
+    return fromMacRoman(*encoded);
 }
 
 std::string textOf(const pugi::xml_node& node) {
@@ -248,26 +249,26 @@ class PluginResourceReader {
     std::filesystem::path folder_;
 };
 
-files::OrFileError<PluginResources> PluginResources::read(const std::filesystem::path& folder) {
+files::Result<PluginResources> PluginResources::read(const std::filesystem::path& folder) {
     const auto file = folder / (folder.filename().string() + ".xml");
     const auto bytes = files::readWholeFile(file, kLargestFile);
-    if (const auto* error = std::get_if<files::FileError>(&bytes))
-        return *error;
-    const auto& xml = std::get<files::Bytes>(bytes);
-    return parse({reinterpret_cast<const char*>(xml.data()), xml.size()}, file);
+    if (!bytes)
+        return tl::unexpected(bytes.error());
+    return parse({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, file);
 }
 
-files::OrFileError<PluginResources> PluginResources::parse(std::string_view xml,
-                                                           const std::filesystem::path& file) {
+files::Result<PluginResources> PluginResources::parse(std::string_view xml,
+                                                      const std::filesystem::path& file) {
     pugi::xml_document document;
     const auto parsed = document.load_buffer(xml.data(), xml.size());
     if (!parsed)
-        return files::FileError{file, std::string("it is no well-formed XML: ") + parsed.description(), {}};
+        return tl::unexpected(
+            files::Error{file, std::string("it is no well-formed XML: ") + parsed.description(), {}});
     PluginResources resources;
     try {
         PluginResourceReader(resources, file.parent_path()).read(document.document_element());
     } catch (const Flaw& flaw) {
-        return files::FileError{file, flaw.reason, {}};
+        return tl::unexpected(files::Error{file, flaw.reason, {}});
     }
     return resources;
 }

@@ -4,10 +4,12 @@
 // the host's encoding.
 #pragma once
 
-#include "easel/files/FileError.h"
+#include "easel/files/Result.h"
 
 #include <map>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace easel::classic {
 
@@ -66,9 +68,9 @@ struct IconResource {
 class PluginResources {
   public:
     /// Reads NAME.xml in a folder called NAME, where the pictures are too.
-    static files::OrFileError<PluginResources> read(const std::filesystem::path& folder);
+    static files::Result<PluginResources> read(const std::filesystem::path& folder);
     /// The same from text; the error names `file`, and pictures are looked for beside it.
-    static files::OrFileError<PluginResources> parse(std::string_view xml, const std::filesystem::path& file);
+    static files::Result<PluginResources> parse(std::string_view xml, const std::filesystem::path& file);
 
     /// These give null, or an empty text, for what is not there. Strings count from 1.
     std::string string(int listId, int index) const;

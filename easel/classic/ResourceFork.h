@@ -4,7 +4,10 @@
 #include "easel/classic/BigEndian.h"
 
 #include <array>
+#include <optional>
 #include <string>
+#include <tl/expected.hpp>
+#include <vector>
 
 namespace easel::classic {
 
@@ -42,7 +45,7 @@ class ResourceFork {
     };
 
     /// Takes any order of types, resources and data. No bytes at all are a fork without resources.
-    static std::variant<ResourceFork, ForkDamage> read(ByteView bytes);
+    static tl::expected<ResourceFork, ForkDamage> read(ByteView bytes);
     /// Nothing where the layout has no room: its offsets have 16 bits in the map and 24 in the data.
     std::optional<files::Bytes> write() const;
 

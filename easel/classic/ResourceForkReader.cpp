@@ -23,43 +23,42 @@ class ForkReader {
   public:
     explicit ForkReader(ByteView bytes) : bytes_(bytes) {}
 
-    std::variant<ResourceFork, ForkDamage> read() {
+    tl::expected<ResourceFork, ForkDamage> read() {
         if (bytes_.empty())
             return fork_;
-        const auto damage = readAll();
-        return damage ? std::variant<ResourceFork, ForkDamage>(*damage) : std::move(fork_);
+        return readAll().map([this] { return std::move(fork_); });
     }
 
   private:
-    using Damage = std::optional<ForkDamage>;
+    using Read = tl::expected<void, ForkDamage>;
 
-    Damage readAll() {
-        if (const auto damage = readAreas())
-            return damage;
+    Read readAll() {
+        if (auto read = readAreas(); !read)
+            return read;
         const std::size_t listOffset = numberAt<std::uint16_t>(map_, 24);
         const auto list = map_.subspan(std::min(listOffset, map_.size()));
         if (list.size() < 2)
-            return ForkDamage::ListOutside;
+            return tl::unexpected(ForkDamage::ListOutside);
         const std::size_t types = countAt(list, 0);
         if (!part(list, 2, types * kTypeEntrySize))
-            return ForkDamage::ListOutside;
+            return tl::unexpected(ForkDamage::ListOutside);
         for (std::size_t i = 0; i < types; ++i)
-            if (const auto damage = readType(list, 2 + i * kTypeEntrySize))
-                return damage;
+            if (auto read = readType(list, 2 + i * kTypeEntrySize); !read)
+                return read;
         return {};
     }
 
-    Damage readAreas() {
+    Read readAreas() {
         if (bytes_.size() < kHeaderSize)
-            return ForkDamage::TooShort;
+            return tl::unexpected(ForkDamage::TooShort);
         const auto data =
             part(bytes_, numberAt<std::uint32_t>(bytes_, 0), numberAt<std::uint32_t>(bytes_, 8));
         const auto map =
             part(bytes_, numberAt<std::uint32_t>(bytes_, 4), numberAt<std::uint32_t>(bytes_, 12));
         if (!data)
-            return ForkDamage::DataOutside;
+            return tl::unexpected(ForkDamage::DataOutside);
         if (!map || map->size() < kMapFixedSize)
-            return ForkDamage::MapOutside;
+            return tl::unexpected(ForkDamage::MapOutside);
         data_ = *data;
         map_ = *map;
         auto& carried = fork_.carried_.header;
@@ -72,52 +71,52 @@ class ForkReader {
         return {};
     }
 
-    Damage readType(ByteView list, std::size_t entry) {
+    Read readType(ByteView list, std::size_t entry) {
         const auto type = numberAt<std::uint32_t>(list, entry);
         const std::size_t count = countAt(list, entry + 4);
         const std::size_t offset = numberAt<std::uint16_t>(list, entry + 6);
         const auto references = part(list, offset, count * kReferenceSize);
         // Lists that share their references could ask for more resources than the map has room for.
         if (!references || fork_.resources_.size() + count > map_.size() / kReferenceSize)
-            return ForkDamage::ListOutside;
+            return tl::unexpected(ForkDamage::ListOutside);
         for (std::size_t i = 0; i < count; ++i)
-            if (const auto damage =
-                    readReference(type, references->subspan(i * kReferenceSize, kReferenceSize)))
-                return damage;
+            if (auto read = readReference(type, references->subspan(i * kReferenceSize, kReferenceSize));
+                !read)
+                return read;
         return {};
     }
 
-    Damage readReference(std::uint32_t type, ByteView reference) {
+    Read readReference(std::uint32_t type, ByteView reference) {
         Resource resource;
         resource.type = type;
         resource.id = static_cast<std::int16_t>(numberAt<std::uint16_t>(reference, 0));
         const auto attributesAndOffset = numberAt<std::uint32_t>(reference, 4);
         resource.attributes = static_cast<std::uint8_t>(attributesAndOffset >> 24);
-        if (const auto damage = readName(numberAt<std::uint16_t>(reference, 2), resource))
-            return damage;
+        if (auto read = readName(numberAt<std::uint16_t>(reference, 2), resource); !read)
+            return read;
         const std::size_t offset = attributesAndOffset & 0xFFFFFF;
         if (!part(data_, offset, 4))
-            return ForkDamage::ResourceOutside;
+            return tl::unexpected(ForkDamage::ResourceOutside);
         const auto data = part(data_, offset + 4, numberAt<std::uint32_t>(data_, offset));
         if (!data)
-            return ForkDamage::ResourceOutside;
+            return tl::unexpected(ForkDamage::ResourceOutside);
         // Resources that share their bytes could ask for any amount of memory.
         dataRead_ += 4 + data->size();
         if (dataRead_ > data_.size())
-            return ForkDamage::ResourcesOverlap;
+            return tl::unexpected(ForkDamage::ResourcesOverlap);
         resource.data.assign(data->begin(), data->end());
         fork_.resources_.push_back(std::move(resource));
         return {};
     }
 
-    Damage readName(std::uint16_t offset, Resource& resource) const {
+    Read readName(std::uint16_t offset, Resource& resource) const {
         if (offset == kNoName)
             return {};
         const std::size_t at = std::size_t{numberAt<std::uint16_t>(map_, 26)} + offset;
         const auto length = part(map_, at, 1);
         const auto name = length ? part(map_, at + 1, length->front()) : std::nullopt;
         if (!name)
-            return ForkDamage::NameOutside;
+            return tl::unexpected(ForkDamage::NameOutside);
         resource.name.emplace(name->begin(), name->end());
         return {};
     }
@@ -129,7 +128,7 @@ class ForkReader {
     ResourceFork fork_;
 };
 
-std::variant<ResourceFork, ForkDamage> ResourceFork::read(ByteView bytes) {
+tl::expected<ResourceFork, ForkDamage> ResourceFork::read(ByteView bytes) {
     return ForkReader(bytes).read();
 }
 

@@ -21,20 +21,19 @@ struct RenderRequest {
     exports::SizeRequest size;
 };
 
-int fail(const std::string& message) {
-    std::cerr << "easel: " << message << "\n";
+int fail(const files::Error& error) {
+    std::cerr << "easel: " << error.message() << "\n";
     return kFailed;
 }
 
 int render(const RenderRequest& request) {
-    const auto read = svg::readFile(request.drawing);
-    if (const auto* failure = std::get_if<svg::Failure>(&read))
-        return fail(failure->message);
-    const auto& drawing = std::get<drawing::Drawing>(read);
-    for (const std::string& note : drawing.notes())
+    const auto drawing = svg::readFile(request.drawing);
+    if (!drawing)
+        return fail(drawing.error());
+    for (const std::string& note : drawing->notes())
         std::cerr << "easel: " << request.drawing << ": " << note << "\n";
-    if (const files::FileOutcome error = exports::exportDrawing(drawing, request.picture, request.size))
-        return fail(error->message());
+    if (const auto exported = exports::exportDrawing(*drawing, request.picture, request.size); !exported)
+        return fail(exported.error());
     return 0;
 }
 

@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using exchange::TemplateShelf;
-using files::FileError;
+using files::Error;
 
 constexpr int kFailed = 2;
 
@@ -35,7 +35,7 @@ struct TemplatesRequest {
     std::vector<std::string> files;
 };
 
-int fail(const FileError& error) {
+int fail(const Error& error) {
     std::cerr << "easel: " << error.message() << "\n";
     return kFailed;
 }
@@ -51,9 +51,9 @@ template <class Action> int withShelf(const TemplatesRequest& request, Action ac
     if (!request.preferences.empty())
         places.preferences = fs::absolute(request.preferences);
     const auto folder = runtime::templateFolder(runtime::PluginModule::defaultFile(), places);
-    if (const auto* error = std::get_if<FileError>(&folder))
-        return fail(*error);
-    return action(TemplateShelf(std::get<fs::path>(folder), places.trash));
+    if (!folder)
+        return fail(folder.error());
+    return action(TemplateShelf(*folder, places.trash));
 }
 
 int list(const TemplateShelf& shelf) {
@@ -82,46 +82,44 @@ void print(const std::string& name, const CGradientData& gradient) {
 
 int show(const TemplateShelf& shelf, const TemplatesRequest& request) {
     const auto gradient = shelf.load(request.name);
-    if (const auto* error = std::get_if<FileError>(&gradient))
-        return fail(*error);
-    print(request.name, std::get<CGradientData>(gradient));
+    if (!gradient)
+        return fail(gradient.error());
+    print(request.name, *gradient);
     if (request.picture.empty())
         return 0;
     constexpr double kPictureSize = 256;
-    const auto drawing = exchange::squareWith(std::get<CGradientData>(gradient), kPictureSize);
-    if (const auto failure = exports::exportDrawing(drawing, request.picture, {}))
-        return fail(*failure);
+    const auto drawing = exchange::squareWith(*gradient, kPictureSize);
+    if (const auto exported = exports::exportDrawing(drawing, request.picture, {}); !exported)
+        return fail(exported.error());
     return 0;
 }
 
 int exportTemplate(const TemplateShelf& shelf, const TemplatesRequest& request) {
     const auto gradient = shelf.load(request.name);
-    if (const auto* error = std::get_if<FileError>(&gradient))
-        return fail(*error);
+    if (!gradient)
+        return fail(gradient.error());
     const auto notes =
-        exchange::exportFile(std::get<CGradientData>(gradient), exchange::withoutEnding(request.name),
-                             request.file, shelf.trash());
-    if (const auto* error = std::get_if<FileError>(&notes))
-        return fail(*error);
-    say(request.file, std::get<std::vector<std::string>>(notes));
+        exchange::exportFile(*gradient, exchange::withoutEnding(request.name), request.file, shelf.trash());
+    if (!notes)
+        return fail(notes.error());
+    say(request.file, *notes);
     return 0;
 }
 
 int importOne(const TemplateShelf& shelf, const std::string& file,
               const std::optional<std::string>& givenName) {
-    const auto read = exchange::importFile(file);
-    if (const auto* error = std::get_if<FileError>(&read))
-        return fail(*error);
-    const auto& imported = std::get<exchange::ImportedGradient>(read);
+    const auto imported = exchange::importFile(file);
+    if (!imported)
+        return fail(imported.error());
     const std::string name = givenName.value_or(fs::path(file).stem().string());
-    const auto saved = shelf.save(name, imported.gradient);
-    if (const auto* error = std::get_if<FileError>(&saved))
-        return fail(*error);
+    const auto saved = shelf.save(name, imported->gradient);
+    if (!saved)
+        return fail(saved.error());
     std::cout << file << ": saved as " << exchange::withoutEnding(name)
-              << (std::get<TemplateShelf::Saved>(saved) == TemplateShelf::Saved::Replaced
+              << (*saved == TemplateShelf::Saved::Replaced
                       ? "; the template that had this name is in the trash\n"
                       : "\n");
-    say(file, imported.notes);
+    say(file, imported->notes);
     return 0;
 }
 
@@ -136,8 +134,8 @@ int import(const TemplateShelf& shelf, const TemplatesRequest& request) {
 }
 
 int remove(const TemplateShelf& shelf, const TemplatesRequest& request) {
-    if (const auto failure = shelf.remove(request.name))
-        return fail(*failure);
+    if (const auto removed = shelf.remove(request.name); !removed)
+        return fail(removed.error());
     return 0;
 }
 

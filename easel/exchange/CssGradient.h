@@ -7,8 +7,9 @@
 
 namespace easel::exchange {
 
-/// Takes the first gradient anywhere in the text, so a declaration or a style sheet will do.
-ImportOutcome readCss(std::string_view text);
+/// Takes the first gradient anywhere in the text, so a declaration or a style sheet will do. The error
+/// names `file`.
+files::Result<ImportedGradient> readCss(std::string_view text, const std::filesystem::path& file);
 ExportedGradient writeCss(const CGradientData& gradient);
 
 } // namespace easel::exchange

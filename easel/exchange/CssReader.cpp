@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace easel::exchange {
 namespace {
@@ -17,7 +18,6 @@ struct Reading {
     ImportedGradient result;
     Notes notes;
     Mixing mixing = Mixing::Untold;
-    std::string flaw; ///< why there is no gradient, once there is none
 };
 
 // The angle of the record: 0 to the right and growing clockwise, where CSS has 0 upwards.
@@ -174,43 +174,39 @@ bool readRadial(Words prelude, Reading& reading) {
     return true;
 }
 
-bool read(const CssFunction& function, Reading& reading) {
+files::Result<> read(const CssFunction& function, Reading& reading) {
+    const auto flaw = [](const std::string& reason) { return tl::unexpected(files::Error{{}, reason, {}}); };
     std::string kind = function.name;
     constexpr std::string_view kRepeating = "repeating-";
     if (kind.starts_with(kRepeating)) {
         kind.erase(0, kRepeating.size());
         reading.notes.insert("its repetition is left out");
     }
-    if (kind != "linear-gradient" && kind != "radial-gradient") {
-        reading.flaw = function.name + "() cannot be held: only linear-gradient() and radial-gradient() can";
-        return false;
-    }
+    if (kind != "linear-gradient" && kind != "radial-gradient")
+        return flaw(function.name + "() cannot be held: only linear-gradient() and radial-gradient() can");
     const auto parts = commaParts(function.arguments);
     const bool hasPrelude = !isColorStop(parts.front());
     const auto prelude = hasPrelude ? words(parts.front()) : Words();
-    if (!(kind == "linear-gradient" ? readLinear(prelude, reading) : readRadial(prelude, reading))) {
-        reading.flaw = quoted(parts.front()) + " is neither a direction nor a color stop";
-        return false;
-    }
-    auto stops = stopsFrom(std::span(parts).subspan(hasPrelude ? 1 : 0), reading.notes, reading.flaw);
+    if (!(kind == "linear-gradient" ? readLinear(prelude, reading) : readRadial(prelude, reading)))
+        return flaw(quoted(parts.front()) + " is neither a direction nor a color stop");
+    auto stops = stopsFrom(std::span(parts).subspan(hasPrelude ? 1 : 0), reading.notes);
     if (reading.mixing == Mixing::InSrgbAsTold)
         reading.notes.erase(kColorSpaceNote);
-    if (stops)
-        reading.result.gradient.ColorList() = std::move(*stops);
-    return stops.has_value();
+    return std::move(stops).map(
+        [&](std::list<CGradientColor>&& list) { reading.result.gradient.ColorList() = std::move(list); });
 }
 
 } // namespace
 
-ImportOutcome readCss(std::string_view text) {
+files::Result<ImportedGradient> readCss(std::string_view text, const std::filesystem::path& file) {
     const auto functions = gradientFunctions(text);
     if (functions.empty())
-        return NoGradient{"there is no CSS gradient in it"};
+        return tl::unexpected(files::Error{file, "there is no CSS gradient in it", {}});
     Reading reading;
     if (functions.size() > 1)
         reading.notes.insert("it has more than one gradient; this is the first");
-    if (!read(functions.front(), reading))
-        return NoGradient{reading.flaw};
+    if (const auto done = read(functions.front(), reading); !done)
+        return tl::unexpected(done.error().of(file));
     reading.result.notes.assign(reading.notes.begin(), reading.notes.end());
     return reading.result;
 }

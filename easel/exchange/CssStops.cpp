@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace easel::exchange {
 namespace {
@@ -135,26 +136,20 @@ bool isColorStop(std::string_view part) {
     return addStopOrHint(part, entries, ignored) && entries.front().kind == Entry::Kind::Stop;
 }
 
-std::optional<std::list<CGradientColor>> stopsFrom(std::span<const std::string_view> parts, Notes& notes,
-                                                   std::string& flaw) {
-    if (parts.size() > kMostParts) {
-        flaw = "it has more than 10000 stops";
-        return std::nullopt;
-    }
+files::Result<std::list<CGradientColor>> stopsFrom(std::span<const std::string_view> parts, Notes& notes) {
+    const auto flaw = [](const std::string& reason) { return tl::unexpected(files::Error{{}, reason, {}}); };
+    if (parts.size() > kMostParts)
+        return flaw("it has more than 10000 stops");
     std::vector<Entry> entries;
     for (const auto part : parts)
-        if (!addStopOrHint(part, entries, notes)) {
-            flaw = quoted(part) + " is no color stop that could be understood";
-            return std::nullopt;
-        }
+        if (!addStopOrHint(part, entries, notes))
+            return flaw(quoted(part) + " is no color stop that could be understood");
     const auto isHint = [](const Entry& entry) { return entry.kind == Entry::Kind::Hint; };
     const auto neighbours =
         std::adjacent_find(entries.begin(), entries.end(),
                            [&](const Entry& a, const Entry& b) { return isHint(a) && isHint(b); });
-    if (entries.empty() || isHint(entries.front()) || isHint(entries.back()) || neighbours != entries.end()) {
-        flaw = "it has no color stops, or a midpoint that does not lie between two of them";
-        return std::nullopt;
-    }
+    if (entries.empty() || isHint(entries.front()) || isHint(entries.back()) || neighbours != entries.end())
+        return flaw("it has no color stops, or a midpoint that does not lie between two of them");
     placeAll(entries);
     std::list<CGradientColor> stops;
     for (std::size_t i = 0; i < entries.size(); ++i) {

@@ -1,10 +1,10 @@
 // The color stops of a CSS gradient.
 #pragma once
 
+#include "easel/files/Result.h"
 #include "host/Gradient.h"
 
 #include <list>
-#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -20,8 +20,7 @@ constexpr const char* kColorSpaceNote = "its color space is left out: colors are
 /// Whether the part of a gradient's list is a color with or without positions.
 bool isColorStop(std::string_view part);
 
-/// The stops of those parts of the list, or nothing, with the reason in `flaw`.
-std::optional<std::list<CGradientColor>> stopsFrom(std::span<const std::string_view> parts, Notes& notes,
-                                                   std::string& flaw);
+/// The stops of those parts of the list, or the reason why there are none; the error names no file.
+files::Result<std::list<CGradientColor>> stopsFrom(std::span<const std::string_view> parts, Notes& notes);
 
 } // namespace easel::exchange

@@ -1,10 +1,10 @@
 // Gradients in the formats of other programs: what came of reading or writing one.
 #pragma once
 
+#include "easel/files/Result.h"
 #include "host/Gradient.h"
 
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace easel::exchange {
@@ -14,13 +14,6 @@ struct ImportedGradient {
     std::string name;               ///< what the source calls it, UTF-8; may be empty
     std::vector<std::string> notes; ///< what the source has and a gradient cannot hold, a sentence each
 };
-
-/// Why there is no gradient to be had, in words for the user.
-struct NoGradient {
-    std::string reason;
-};
-
-using ImportOutcome = std::variant<ImportedGradient, NoGradient>;
 
 struct ExportedGradient {
     std::string text;

@@ -3,11 +3,13 @@
 
 #include "easel/exchange/Exchange.h"
 
+#include <string>
 #include <string_view>
 
 namespace easel::exchange {
 
-ImportOutcome readGgr(std::string_view text);
+/// The error names `file`.
+files::Result<ImportedGradient> readGgr(std::string_view text, const std::filesystem::path& file);
 /// Such a file holds a ramp only, from 0 to 1.
 ExportedGradient writeGgr(const CGradientData& gradient, const std::string& name);
 

@@ -129,17 +129,20 @@ std::vector<std::string> notesOn(const std::vector<GgrSegment>& segments) {
     return notes;
 }
 
-NoGradient flawInLine(std::size_t number, const std::string& reason) {
-    return {"line " + std::to_string(number) + " " + reason};
+std::string inLine(std::size_t number, const std::string& reason) {
+    return "line " + std::to_string(number) + " " + reason;
 }
 
 } // namespace
 
-ImportOutcome readGgr(std::string_view text) {
+files::Result<ImportedGradient> readGgr(std::string_view text, const std::filesystem::path& file) {
+    const auto flaw = [&](const std::string& reason) {
+        return tl::unexpected(files::Error{file, reason, {}});
+    };
     ImportedGradient result;
     std::size_t lineNumber = 1;
     if (withoutBlanks(takeLine(text)) != "GIMP Gradient")
-        return NoGradient{"it is no GIMP gradient"};
+        return flaw("it is no GIMP gradient");
     auto line = takeLine(text);
     ++lineNumber;
     constexpr std::string_view kName = "Name:";
@@ -150,7 +153,7 @@ ImportOutcome readGgr(std::string_view text) {
     }
     const auto count = takeCode(line, static_cast<int>(kMostSegments));
     if (!count || *count == 0 || !withoutBlanks(line).empty())
-        return flawInLine(lineNumber, "is no number of segments from 1 to 10000");
+        return flaw(inLine(lineNumber, "is no number of segments from 1 to 10000"));
     std::vector<GgrSegment> segments;
     auto& stops = result.gradient.ColorList();
     stops.clear();
@@ -158,10 +161,10 @@ ImportOutcome readGgr(std::string_view text) {
         ++lineNumber;
         const auto segment = segmentFrom(takeLine(text));
         if (!segment)
-            return flawInLine(lineNumber, "is no segment of a gradient");
+            return flaw(inLine(lineNumber, "is no segment of a gradient"));
         if (!isWithin(segment->left, -kGap, 1 + kGap) || !isWithin(segment->right, -kGap, 1 + kGap) ||
             (!segments.empty() && std::abs(segment->left - segments.back().right) > kGap))
-            return flawInLine(lineNumber, "has a segment that does not follow the one before it");
+            return flaw(inLine(lineNumber, "has a segment that does not follow the one before it"));
         segments.push_back(*segment);
         // Neighbours meet exactly, so that the stops stay in order.
         if (segments.size() > 1)
@@ -172,7 +175,7 @@ ImportOutcome readGgr(std::string_view text) {
             segments.back().right = segments.back().middle;
         addSegment(stops, segments.back());
         if (stops.size() > kMostStops)
-            return NoGradient{"it needs more than a million stops"};
+            return flaw("it needs more than a million stops");
     }
     result.notes = notesOn(segments);
     return result;

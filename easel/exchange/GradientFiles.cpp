@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 namespace easel::exchange {
 namespace {
 
-using files::FileError;
-using files::OrFileError;
+using files::Error;
+using files::Result;
 
 constexpr std::uintmax_t kLargestFile = 64U << 20;
 
@@ -40,7 +40,7 @@ Format formatOf(const fs::path& file) {
     return ending == ".css" ? Format::Css : Format::Unknown;
 }
 
-FileError unknownFormat(const fs::path& file) {
+Error unknownFormat(const fs::path& file) {
     return {file, std::string("its ending is none of ") + kFormatsInWords, {}};
 }
 
@@ -49,76 +49,66 @@ classic::FilePair pairAt(const fs::path& file) {
     return {folder.empty() ? fs::path(".") : folder, file.filename().string()};
 }
 
-OrFileError<ImportedGradient> named(OrFileError<CGradientData> gradient) {
-    if (auto* const error = std::get_if<FileError>(&gradient))
-        return std::move(*error);
-    return ImportedGradient{std::get<CGradientData>(std::move(gradient)), {}, {}};
+ImportedGradient nameless(CGradientData&& gradient) {
+    return {std::move(gradient), {}, {}};
 }
 
-OrFileError<ImportedGradient> importMacBinary(const files::Bytes& bytes, const fs::path& file) {
+Result<ImportedGradient> importMacBinary(const files::Bytes& bytes, const fs::path& file) {
     const auto binary = classic::readMacBinary(bytes);
     if (!binary)
-        return FileError{file, "it is no MacBinary file of version 2", {}};
-    return named(templateIn(binary->resourceFork, file));
+        return tl::unexpected(Error{file, "it is no MacBinary file of version 2", {}});
+    return templateIn(binary->resourceFork, file).map(nameless);
 }
 
-OrFileError<ImportedGradient> imported(ImportOutcome outcome, const fs::path& file) {
-    if (const auto* const none = std::get_if<NoGradient>(&outcome))
-        return FileError{file, none->reason, {}};
-    return std::get<ImportedGradient>(std::move(outcome));
+// These formats hold all of a gradient.
+std::vector<std::string> noNotes() {
+    return {};
 }
 
-OrFileError<std::vector<std::string>> written(const ExportedGradient& exported, const fs::path& file) {
-    if (const auto failure = files::replaceFile(file, exported.text))
-        return *failure;
-    return exported.notes;
+Result<std::vector<std::string>> written(const ExportedGradient& exported, const fs::path& file) {
+    return files::replaceFile(file, exported.text).map([&] { return exported.notes; });
 }
 
-OrFileError<std::vector<std::string>> exportMacBinary(const classic::AppleDouble& header,
-                                                      const std::string& name, const fs::path& file) {
+Result<std::vector<std::string>> exportMacBinary(const classic::AppleDouble& header, const std::string& name,
+                                                 const fs::path& file) {
     const auto fork = header.resourceFork();
-    const classic::MacBinaryFile binary{classic::toMacRoman(name + ".GRD").text,
+    const classic::MacBinaryFile binary{classic::toMacRoman(name + ".GRD").value_or(""),
                                         header.finderInfo(),
                                         {},
                                         {fork.begin(), fork.end()},
                                         classic::dateNow()};
-    if (const auto failure = files::replaceFile(file, classic::writeMacBinary(binary)))
-        return *failure;
-    return std::vector<std::string>();
+    return files::replaceFile(file, classic::writeMacBinary(binary)).map(noNotes);
 }
 
-OrFileError<std::vector<std::string>> exportTemplate(const classic::AppleDouble& header, const fs::path& file,
-                                                     const files::Trash& trash) {
-    if (const auto failure = classic::writePair(pairAt(file), header, trash))
-        return *failure;
-    return std::vector<std::string>();
+Result<std::vector<std::string>> exportTemplate(const classic::AppleDouble& header, const fs::path& file,
+                                                const files::Trash& trash) {
+    return classic::writePair(pairAt(file), header, trash).map(noNotes);
 }
 
 } // namespace
 
-OrFileError<ImportedGradient> importFile(const fs::path& file) {
+Result<ImportedGradient> importFile(const fs::path& file) {
     const auto format = formatOf(file);
     if (format == Format::Unknown)
-        return unknownFormat(file);
+        return tl::unexpected(unknownFormat(file));
     if (format == Format::Template)
-        return named(readTemplate(pairAt(file)));
+        return readTemplate(pairAt(file)).map(nameless);
     if (format == Format::Svg)
-        return imported(readSvg(file), file);
+        return readSvg(file);
     const auto read = files::readWholeFile(file, kLargestFile);
-    if (const auto* const error = std::get_if<FileError>(&read))
-        return *error;
-    const auto& bytes = std::get<files::Bytes>(read);
+    if (!read)
+        return tl::unexpected(read.error());
     if (format == Format::MacBinary)
-        return importMacBinary(bytes, file);
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    return imported(format == Format::Ggr ? readGgr(text) : readCss(text), file);
+        return importMacBinary(*read, file);
+    const std::string_view text(reinterpret_cast<const char*>(read->data()), read->size());
+    return format == Format::Ggr ? readGgr(text, file) : readCss(text, file);
 }
 
-OrFileError<std::vector<std::string>> exportFile(const CGradientData& gradient, const std::string& name,
-                                                 const fs::path& file, const files::Trash& trash) {
+Result<std::vector<std::string>> exportFile(const CGradientData& gradient, const std::string& name,
+                                            const fs::path& file, const files::Trash& trash) {
     const auto header = templateHeader(gradient);
     if (!header)
-        return FileError{file, "a gradient without colors cannot be written", {}};
+        return tl::unexpected(Error{file, "a gradient without colors cannot be written", {}});
     switch (formatOf(file)) {
     case Format::Template:
         return exportTemplate(*header, file, trash);
@@ -133,7 +123,7 @@ OrFileError<std::vector<std::string>> exportFile(const CGradientData& gradient, 
     case Format::Unknown:
         break;
     }
-    return unknownFormat(file);
+    return tl::unexpected(unknownFormat(file));
 }
 
 } // namespace easel::exchange

@@ -4,6 +4,7 @@
 #include "easel/drawing/ShapeGradient.h"
 #include "easel/svg/Document.h"
 
+#include <optional>
 #include <pugixml.hpp>
 #include <sstream>
 
@@ -65,9 +66,8 @@ std::optional<ImportedGradient> unusedGradientIn(const std::filesystem::path& fi
     square.append_attribute("fill") = ("url(#" + std::string(gradient.attribute("id").value()) + ")").c_str();
     std::ostringstream text;
     document.save(text, "", pugi::format_raw);
-    const auto read = svg::readBytes(text.str(), file.string());
-    const auto* const drawing = std::get_if<drawing::Drawing>(&read);
-    auto found = drawing ? firstGradientIn(*drawing) : std::nullopt;
+    const auto read = svg::readBytes(text.str(), file);
+    auto found = read ? firstGradientIn(*read) : std::nullopt;
     if (found) {
         found->name = gradient.attribute("id").value();
         found->notes.emplace_back("no shape has it; it is taken as a square of 256 units shows it");
@@ -77,19 +77,15 @@ std::optional<ImportedGradient> unusedGradientIn(const std::filesystem::path& fi
 
 } // namespace
 
-ImportOutcome readSvg(const std::filesystem::path& file) {
-    auto read = svg::readFile(file);
-    if (const auto* const failure = std::get_if<svg::Failure>(&read)) {
-        // The caller names the file.
-        const auto prefix = file.string() + ": ";
-        const auto& message = failure->message;
-        return NoGradient{message.starts_with(prefix) ? message.substr(prefix.size()) : message};
-    }
-    if (auto found = firstGradientIn(std::get<drawing::Drawing>(read)))
+files::Result<ImportedGradient> readSvg(const std::filesystem::path& file) {
+    const auto read = svg::readFile(file);
+    if (!read)
+        return tl::unexpected(read.error());
+    if (auto found = firstGradientIn(*read))
         return std::move(*found);
     if (auto found = unusedGradientIn(file))
         return std::move(*found);
-    return NoGradient{"there is no gradient in it"};
+    return tl::unexpected(files::Error{file, "there is no gradient in it", {}});
 }
 
 drawing::Drawing squareWith(const CGradientData& gradient, double size) {

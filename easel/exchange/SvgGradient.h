@@ -9,7 +9,7 @@
 namespace easel::exchange {
 
 /// The gradient of the first shape, from the back, that has one.
-ImportOutcome readSvg(const std::filesystem::path& file);
+files::Result<ImportedGradient> readSvg(const std::filesystem::path& file);
 /// A drawing of one square with that gradient. Nothing of the gradient is lost in it.
 ExportedGradient writeSvg(const CGradientData& gradient);
 

@@ -3,37 +3,38 @@
 
 #include "easel/classic/GradientBytes.h"
 
+#include <optional>
+
 namespace easel::exchange {
 namespace {
 
-using files::FileError;
+using files::Error;
 
 constexpr std::uint32_t kResourceType = classic::fourCharacters("TMPL");
 constexpr std::int16_t kResourceId = 0;
 
 } // namespace
 
-files::OrFileError<CGradientData> readTemplate(const classic::FilePair& file) {
+files::Result<CGradientData> readTemplate(const classic::FilePair& file) {
     if (!classic::exists(file))
-        return FileError{file.data(), "no such file",
-                         std::make_error_code(std::errc::no_such_file_or_directory)};
+        return tl::unexpected(
+            Error{file.data(), "no such file", std::make_error_code(std::errc::no_such_file_or_directory)});
     const auto header = classic::readHeader(file);
-    if (const auto* const error = std::get_if<FileError>(&header))
-        return *error;
-    return templateIn(std::get<classic::AppleDouble>(header).resourceFork(), file.header());
+    if (!header)
+        return tl::unexpected(header.error());
+    return templateIn(header->resourceFork(), file.header());
 }
 
-files::OrFileError<CGradientData> templateIn(classic::ByteView fork, const std::filesystem::path& file) {
+files::Result<CGradientData> templateIn(classic::ByteView fork, const std::filesystem::path& file) {
     const auto read = classic::ResourceFork::read(fork);
-    if (const auto* const damage = std::get_if<classic::ForkDamage>(&read))
-        return FileError{file, describe(*damage), {}};
-    const auto* const resource = std::get<classic::ResourceFork>(read).find(kResourceType, kResourceId);
+    if (!read)
+        return tl::unexpected(Error{file, describe(read.error()), {}});
+    const auto* const resource = read->find(kResourceType, kResourceId);
     if (!resource)
-        return FileError{file, "it holds no gradient", {}};
-    auto gradient = classic::gradientFromBytes(resource->data);
-    if (const auto* const damage = std::get_if<classic::GradientDamage>(&gradient))
-        return FileError{file, describe(*damage), {}};
-    return std::get<CGradientData>(std::move(gradient));
+        return tl::unexpected(Error{file, "it holds no gradient", {}});
+    return classic::gradientFromBytes(resource->data).map_error([&](classic::GradientDamage damage) {
+        return Error{file, describe(damage), {}};
+    });
 }
 
 std::optional<classic::AppleDouble> templateHeader(const CGradientData& gradient) {

@@ -5,15 +5,17 @@
 #include "easel/classic/ResourceFork.h"
 #include "host/Gradient.h"
 
+#include <optional>
+
 namespace easel::exchange {
 
 inline constexpr std::uint32_t kTemplateType = classic::fourCharacters("GTMP");
 inline constexpr std::uint32_t kTemplateCreator = classic::fourCharacters("*Kst");
 
 /// The gradient of a template, or why it has none.
-files::OrFileError<CGradientData> readTemplate(const classic::FilePair& file);
+files::Result<CGradientData> readTemplate(const classic::FilePair& file);
 /// The same from a resource fork; the error names `file`.
-files::OrFileError<CGradientData> templateIn(classic::ByteView fork, const std::filesystem::path& file);
+files::Result<CGradientData> templateIn(classic::ByteView fork, const std::filesystem::path& file);
 
 /// Everything about a template but its name; nothing for a gradient without stops.
 std::optional<classic::AppleDouble> templateHeader(const CGradientData& gradient);

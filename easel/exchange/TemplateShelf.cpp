@@ -12,10 +12,16 @@ namespace easel::exchange {
 namespace {
 
 using classic::FilePair;
-using files::FileError;
-using files::OrFileError;
+using files::Error;
+using files::Result;
 
 constexpr const char* kEnding = ".GRD";
+
+std::string describe(const classic::EncodingError& error) {
+    return error.kind == classic::EncodingError::Kind::NotUtf8
+               ? "the name is not UTF-8"
+               : "the host's encoding has no character " + error.culprit;
+}
 
 } // namespace
 
@@ -33,63 +39,53 @@ std::vector<std::string> TemplateShelf::names() const {
     return names;
 }
 
-OrFileError<CGradientData> TemplateShelf::load(const std::string& name) const {
-    const auto file = find(name);
-    if (const auto* const error = std::get_if<FileError>(&file))
-        return *error;
-    return readTemplate(std::get<FilePair>(file));
+Result<CGradientData> TemplateShelf::load(const std::string& name) const {
+    return find(name).and_then(readTemplate);
 }
 
-OrFileError<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
-                                                      const CGradientData& gradient) const {
+Result<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
+                                                 const CGradientData& gradient) const {
     if (withoutEnding(name).empty())
-        return FileError{R"("")", "a template's name cannot be empty", {}};
+        return tl::unexpected(Error{"\"\"", "a template's name cannot be empty", {}});
     const auto encoded = classic::toMacRoman(withoutEnding(name) + kEnding);
-    if (encoded.outcome == classic::EncodingOutcome::NotUtf8)
-        return FileError{name, "the name is not UTF-8", {}};
-    if (encoded.outcome == classic::EncodingOutcome::NotInEncoding)
-        return FileError{name, "the host's encoding has no character " + encoded.culprit, {}};
-    const auto disk = classic::nameOnDisk(encoded.text);
+    if (!encoded)
+        return tl::unexpected(Error{name, describe(encoded.error()), {}});
+    const auto disk = classic::nameOnDisk(*encoded);
     if (!disk)
-        return FileError{
-            name,
-            "it cannot be the name of a template: at most 59 characters, no ':' and no '._' in front",
-            {}};
+        return tl::unexpected(
+            Error{name,
+                  "it cannot be the name of a template: at most 59 characters, no ':' and no '._' in front",
+                  {}});
     const auto header = templateHeader(gradient);
     if (!header)
-        return FileError{name, "a gradient without colors cannot be kept", {}};
+        return tl::unexpected(Error{name, "a gradient without colors cannot be kept", {}});
     std::error_code error;
     fs::create_directories(folder_, error);
     if (error)
-        return FileError{folder_, error.message(), error};
+        return tl::unexpected(Error{folder_, error.message(), error});
     classic::recoverFolder(folder_);
     const FilePair file{folder_, *disk};
     const auto saved = classic::exists(file) ? Saved::Replaced : Saved::New;
-    if (const auto failure = classic::writePair(file, *header, trash_))
-        return *failure;
-    return saved;
+    return classic::writePair(file, *header, trash_).map([saved] { return saved; });
 }
 
-files::FileOutcome TemplateShelf::remove(const std::string& name) const {
-    const auto file = find(name);
-    if (const auto* const error = std::get_if<FileError>(&file))
-        return *error;
-    return classic::trashPair(std::get<FilePair>(file), trash_);
+files::Result<> TemplateShelf::remove(const std::string& name) const {
+    return find(name).and_then([this](const FilePair& file) { return classic::trashPair(file, trash_); });
 }
 
-OrFileError<FilePair> TemplateShelf::find(const std::string& name) const {
+Result<FilePair> TemplateShelf::find(const std::string& name) const {
     const auto files = classic::listFolder(folder_).files;
     for (const auto& wanted : {name, withoutEnding(name) + kEnding}) {
         // Composed or decomposed, a name is the same in the host's encoding.
         const auto encoded = classic::toMacRoman(wanted);
-        if (encoded.outcome != classic::EncodingOutcome::Converted)
+        if (!encoded)
             continue;
         for (const auto& file : files)
-            if (file.info.type == kTemplateType && file.hostName == encoded.text)
+            if (file.info.type == kTemplateType && file.hostName == *encoded)
                 return file.file;
     }
-    return FileError{name, "there is no template of that name in " + folder_.string(),
-                     std::make_error_code(std::errc::no_such_file_or_directory)};
+    return tl::unexpected(Error{name, "there is no template of that name in " + folder_.string(),
+                                std::make_error_code(std::errc::no_such_file_or_directory)});
 }
 
 } // namespace easel::exchange

@@ -5,6 +5,9 @@
 #include "easel/files/Trash.h"
 #include "host/Gradient.h"
 
+#include <string>
+#include <vector>
+
 namespace easel::exchange {
 
 /// Names are UTF-8 and may go without the ".GRD" that files have.
@@ -18,15 +21,15 @@ class TemplateShelf {
 
     /// The names of the templates, without ".GRD", in the order of the popup.
     std::vector<std::string> names() const;
-    files::OrFileError<CGradientData> load(const std::string& name) const;
+    files::Result<CGradientData> load(const std::string& name) const;
     /// Whether a template was in the way, which now lies in the trash.
     enum class Saved { New, Replaced };
-    files::OrFileError<Saved> save(const std::string& name, const CGradientData& gradient) const;
+    files::Result<Saved> save(const std::string& name, const CGradientData& gradient) const;
     /// Moves it to the trash.
-    [[nodiscard]] files::FileOutcome remove(const std::string& name) const;
+    [[nodiscard]] files::Result<> remove(const std::string& name) const;
 
   private:
-    files::OrFileError<classic::FilePair> find(const std::string& name) const;
+    files::Result<classic::FilePair> find(const std::string& name) const;
 
     std::filesystem::path folder_;
     files::Trash trash_;

@@ -21,18 +21,14 @@ constexpr int kBandsAThread = 2;
 // Of the time that a picture takes, about this part goes by before its pixels are packed.
 constexpr double kPaintingShare = 0.6;
 
-using files::FileError;
-using files::FileOutcome;
+using files::Error;
+using files::Result;
 using std::filesystem::path;
 
 std::string lowerCased(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
     return text;
-}
-
-FileOutcome problem(const path& file, const std::string& reason) {
-    return FileError{file, reason, {}};
 }
 
 void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, double scale,
@@ -45,38 +41,32 @@ void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, doub
     }
 }
 
-FileOutcome exportPng(const drawing::Drawing& drawing, const path& file, const SizeRequest& request,
-                      const Progress& progress) {
-    const auto result = pictureSize(drawing.width(), drawing.height(), request);
-    if (const auto* reason = std::get_if<std::string>(&result))
-        return problem(file, *reason);
-    const PictureSize size = std::get<PictureSize>(result);
-    if (const auto reason = memoryProblem(size, availableMemory()))
-        return problem(file, *reason);
-    paint::Surface surface(size.width, size.height);
-    paintInParts(drawing, surface, size.scale, progress.part(0, kPaintingShare));
+Result<> exportPng(const drawing::Drawing& drawing, const path& file, const SizeRequest& request,
+                   const Progress& progress) {
+    const auto size = pictureSize(drawing.width(), drawing.height(), request);
+    if (!size)
+        return tl::unexpected(size.error().of(file));
+    if (const auto fits = checkMemory(*size, availableMemory()); !fits)
+        return tl::unexpected(fits.error().of(file));
+    paint::Surface surface(size->width, size->height);
+    paintInParts(drawing, surface, size->scale, progress.part(0, kPaintingShare));
     return writePng(file, rowsOf(surface), progress.part(kPaintingShare, 1));
 }
 
-FileOutcome exportOutlines(const drawing::Drawing& drawing, const path& file, const SizeRequest& request,
-                           bool asPdf, const Progress& progress) {
+Result<> exportOutlines(const drawing::Drawing& drawing, const path& file, const SizeRequest& request,
+                        bool asPdf, const Progress& progress) {
     const auto scale = scaleOf(drawing.width(), request);
-    if (const auto* reason = std::get_if<std::string>(&scale))
-        return problem(file, *reason);
+    if (!scale)
+        return tl::unexpected(scale.error().of(file));
     if (asPdf)
-        return files::replaceFile(file,
-                                  encodePdf(drawing, pageOf(drawing, std::get<double>(scale)), progress));
-    return files::replaceFile(file, encodeSvg(drawing, std::get<double>(scale), progress));
+        return files::replaceFile(file, encodePdf(drawing, pageOf(drawing, *scale), progress));
+    return files::replaceFile(file, encodeSvg(drawing, *scale, progress));
 }
 
 } // namespace
 
-bool wasCancelled(const FileError& error) {
-    return error.code == std::errc::operation_canceled;
-}
-
-FileOutcome exportDrawing(const drawing::Drawing& drawing, const path& file, const SizeRequest& size,
-                          const Progress& progress) {
+Result<> exportDrawing(const drawing::Drawing& drawing, const path& file, const SizeRequest& size,
+                       const Progress& progress) {
     const std::string ending = lowerCased(file.extension().string());
     try {
         if (ending == ".png")
@@ -84,11 +74,12 @@ FileOutcome exportDrawing(const drawing::Drawing& drawing, const path& file, con
         if (ending == ".pdf" || ending == ".svg")
             return exportOutlines(drawing, file, size, ending == ".pdf", progress);
     } catch (const std::bad_alloc&) {
-        return problem(file, "there is not enough memory for the picture");
+        return tl::unexpected(Error{file, "there is not enough memory for the picture", {}});
     } catch (const Cancelled& cancelled) {
-        return FileError{file, cancelled.what(), std::make_error_code(std::errc::operation_canceled)};
+        return tl::unexpected(
+            Error{file, cancelled.what(), std::make_error_code(std::errc::operation_canceled)});
     }
-    return problem(file, "the name of a picture must end in .png, .pdf or .svg");
+    return tl::unexpected(Error{file, "the name of a picture must end in .png, .pdf or .svg", {}});
 }
 
 } // namespace easel::exports

@@ -3,7 +3,7 @@
 
 #include "easel/drawing/Drawing.h"
 #include "easel/export/Progress.h"
-#include "easel/files/FileError.h"
+#include "easel/files/Bytes.h"
 
 namespace easel::exports {
 

@@ -6,6 +6,9 @@
 
 namespace easel::exports {
 
+using files::Error;
+using files::Result;
+
 namespace {
 
 // A side this little over a whole pixel is rounding, not a further pixel.
@@ -22,25 +25,25 @@ int pixels(double side) {
 
 } // namespace
 
-std::variant<double, std::string> scaleOf(double drawingWidth, const SizeRequest& request) {
+Result<double> scaleOf(double drawingWidth, const SizeRequest& request) {
     const double scale = request.width ? *request.width / drawingWidth : request.scale.value_or(1);
     if (!(scale > 0) || !std::isfinite(scale))
-        return "the width or scale asked for is not a number above 0";
+        return tl::unexpected(Error{{}, "the width or scale asked for is not a number above 0", {}});
     return scale;
 }
 
-std::variant<PictureSize, std::string> pictureSize(double drawingWidth, double drawingHeight,
-                                                   const SizeRequest& request) {
+Result<PictureSize> pictureSize(double drawingWidth, double drawingHeight, const SizeRequest& request) {
     const auto scale = scaleOf(drawingWidth, request);
-    if (const auto* problem = std::get_if<std::string>(&scale))
-        return *problem;
-    const double factor = std::get<double>(scale);
-    const double width = drawingWidth * factor;
-    const double height = drawingHeight * factor;
+    if (!scale)
+        return tl::unexpected(scale.error());
+    const double width = drawingWidth * *scale;
+    const double height = drawingHeight * *scale;
     if (!(width <= kLongestSide && height <= kLongestSide))
-        return "the picture would have " + plain(width) + " by " + plain(height) +
-               " pixels; no side can be longer than " + std::to_string(kLongestSide);
-    return PictureSize{factor, pixels(width), pixels(height)};
+        return tl::unexpected(Error{{},
+                                    "the picture would have " + plain(width) + " by " + plain(height) +
+                                        " pixels; no side can be longer than " + std::to_string(kLongestSide),
+                                    {}});
+    return PictureSize{*scale, pixels(width), pixels(height)};
 }
 
 std::optional<std::uint64_t> availableMemory() {
@@ -53,13 +56,16 @@ std::optional<std::uint64_t> availableMemory() {
     return std::nullopt;
 }
 
-std::optional<std::string> memoryProblem(const PictureSize& size, std::optional<std::uint64_t> available) {
+Result<> checkMemory(const PictureSize& size, std::optional<std::uint64_t> available) {
     constexpr std::uint64_t kMegabyte = 1'000'000;
     if (!available || size.bytes() <= *available)
-        return std::nullopt;
-    return "a picture of " + std::to_string(size.width) + " by " + std::to_string(size.height) +
-           " pixels needs " + std::to_string(size.bytes() / kMegabyte) + " MB of memory, and " +
-           std::to_string(*available / kMegabyte) + " MB are free";
+        return {};
+    return tl::unexpected(Error{{},
+                                "a picture of " + std::to_string(size.width) + " by " +
+                                    std::to_string(size.height) + " pixels needs " +
+                                    std::to_string(size.bytes() / kMegabyte) + " MB of memory, and " +
+                                    std::to_string(*available / kMegabyte) + " MB are free",
+                                {}});
 }
 
 } // namespace easel::exports

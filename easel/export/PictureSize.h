@@ -1,10 +1,10 @@
 // How large a picture of a drawing is to be.
 #pragma once
 
+#include "easel/files/Result.h"
+
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <variant>
 
 namespace easel::exports {
 
@@ -27,17 +27,16 @@ struct PictureSize {
 // No side of a picture is longer.
 constexpr int kLongestSide = 1'000'000;
 
-// A message without the file's name if the size asked for is none that a picture can have.
-std::variant<PictureSize, std::string> pictureSize(double drawingWidth, double drawingHeight,
-                                                   const SizeRequest& request);
+// An error, which names no file, if the size asked for is none that a picture can have.
+files::Result<PictureSize> pictureSize(double drawingWidth, double drawingHeight, const SizeRequest& request);
 
-// The scale asked for, of a picture without pixels; a message if it is none.
-std::variant<double, std::string> scaleOf(double drawingWidth, const SizeRequest& request);
+// The scale asked for, of a picture without pixels; an error, which names no file, if it is none.
+files::Result<double> scaleOf(double drawingWidth, const SizeRequest& request);
 
 // Bytes of memory that programs may still take; nothing where the system does not say.
 std::optional<std::uint64_t> availableMemory();
 
-// The reason why there is no memory for the picture, if there is none; `available` in bytes.
-std::optional<std::string> memoryProblem(const PictureSize& size, std::optional<std::uint64_t> available);
+// An error, which names no file, if there is no memory for the picture; `available` in bytes.
+[[nodiscard]] files::Result<> checkMemory(const PictureSize& size, std::optional<std::uint64_t> available);
 
 } // namespace easel::exports

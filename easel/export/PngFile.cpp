@@ -226,8 +226,8 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads, 
     return out;
 }
 
-files::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
-                            const Progress& progress) {
+files::Result<> writePng(const std::filesystem::path& file, const PixelRows& picture,
+                         const Progress& progress) {
     return files::replaceFile(file, encodePng(picture, paint::usefulThreads(), progress));
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "easel/export/Progress.h"
-#include "easel/files/FileError.h"
+#include "easel/files/Result.h"
 #include "easel/paint/pixels/Parallel.h"
 #include "easel/paint/pixels/Surface.h"
 
@@ -28,7 +28,7 @@ std::vector<std::uint8_t> encodePng(const PixelRows& picture, unsigned threads =
                                     const Progress& progress = {});
 
 // Replaces the file whole or, after an error, not at all. Throws Cancelled.
-[[nodiscard]] files::FileOutcome writePng(const std::filesystem::path& file, const PixelRows& picture,
-                                          const Progress& progress = {});
+[[nodiscard]] files::Result<> writePng(const std::filesystem::path& file, const PixelRows& picture,
+                                       const Progress& progress = {});
 
 } // namespace easel::exports

@@ -90,10 +90,10 @@ bool isStream(const fs::path& file) {
     return ::stat(file.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
 }
 
-FileOutcome writeToStream(const fs::path& file, std::span<const std::uint8_t> content) {
+Result<> writeToStream(const fs::path& file, std::span<const std::uint8_t> content) {
     FileDescriptor open(::open(file.c_str(), O_WRONLY | O_CLOEXEC));
     if (!open || !writeAll(open, content) || !open.close())
-        return lastSystemError(file);
+        return tl::unexpected(lastSystemError(file));
     return {};
 }
 
@@ -107,8 +107,7 @@ void removeLeftoversOnce(const fs::path& folder) {
 
 } // namespace
 
-OrFileError<TemporaryFile> TemporaryFile::write(const fs::path& folder,
-                                                std::span<const std::uint8_t> content) {
+Result<TemporaryFile> TemporaryFile::write(const fs::path& folder, std::span<const std::uint8_t> content) {
     constexpr int kTries = 20;
     for (int i = 0; i < kTries; ++i) {
         const auto path = folder / newTemporaryName();
@@ -116,16 +115,16 @@ OrFileError<TemporaryFile> TemporaryFile::write(const fs::path& folder,
         if (!open && errno == EEXIST)
             continue;
         if (!open)
-            return lastSystemError(folder);
+            return tl::unexpected(lastSystemError(folder));
         if (!stillNamed(open))
             continue;
         TemporaryFile file(path, std::move(open));
         if (!writeAll(file.open_, content) || ::fsync(file.open_.number()) != 0)
-            return lastSystemError(path);
+            return tl::unexpected(lastSystemError(path));
         return file;
     }
-    return FileError{folder, "no name for a temporary file could be found",
-                     std::make_error_code(std::errc::file_exists)};
+    return tl::unexpected(Error{folder, "no name for a temporary file could be found",
+                                std::make_error_code(std::errc::file_exists)});
 }
 
 std::optional<TemporaryFile> TemporaryFile::linkTo(const fs::path& file) {
@@ -147,32 +146,31 @@ TemporaryFile::~TemporaryFile() {
         ::unlink(path_.c_str());
 }
 
-FileOutcome TemporaryFile::moveTo(const fs::path& target) {
+Result<> TemporaryFile::moveTo(const fs::path& target) {
     if (::rename(path_.c_str(), target.c_str()) != 0)
-        return lastSystemError(target);
+        return tl::unexpected(lastSystemError(target));
     path_ = target;
     // The content was flushed, so closing has nothing left to lose; and the new name stands already.
     open_.close();
     return {};
 }
 
-FileOutcome replaceFile(const fs::path& file, std::span<const std::uint8_t> content) {
+Result<> replaceFile(const fs::path& file, std::span<const std::uint8_t> content) {
     if (isStream(file))
         return writeToStream(file, content);
     const auto target = behindLinks(file);
     removeLeftoversOnce(folderOf(target));
     auto written = TemporaryFile::write(folderOf(target), content);
-    if (const auto* error = std::get_if<FileError>(&written))
-        return FileError{file, error->reason, error->code};
-    auto& temporary = std::get<TemporaryFile>(written);
-    if (!takeOverPermissions(temporary, target))
-        return lastSystemError(file);
-    if (auto failure = temporary.moveTo(target))
-        return FileError{file, failure->reason, failure->code};
+    if (!written)
+        return tl::unexpected(written.error().of(file));
+    if (!takeOverPermissions(*written, target))
+        return tl::unexpected(lastSystemError(file));
+    if (const auto moved = written->moveTo(target); !moved)
+        return tl::unexpected(moved.error().of(file));
     return flushFolder(folderOf(target));
 }
 
-FileOutcome replaceFile(const fs::path& file, std::string_view content) {
+Result<> replaceFile(const fs::path& file, std::string_view content) {
     return replaceFile(file,
                        std::span(reinterpret_cast<const std::uint8_t*>(content.data()), content.size()));
 }
@@ -184,20 +182,20 @@ bool isTemporaryName(std::string_view name) {
     return digits.find_first_not_of("0123456789abcdef") == std::string_view::npos;
 }
 
-FileOutcome flushFolder(const fs::path& folder) {
+Result<> flushFolder(const fs::path& folder) {
     const FileDescriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // A folder may allow writing but no reading, and some file systems cannot flush one and call it invalid;
     // there is nothing more to do about either.
     const bool done = open ? ::fsync(open.number()) == 0 || errno == EINVAL : errno == EACCES;
     if (!done)
-        return lastSystemError(folder);
+        return tl::unexpected(lastSystemError(folder));
     return {};
 }
 
-FileOutcome flushFileSystem(const fs::path& folder) {
+Result<> flushFileSystem(const fs::path& folder) {
     const FileDescriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!open || ::syncfs(open.number()) != 0)
-        return lastSystemError(folder);
+        return tl::unexpected(lastSystemError(folder));
     return {};
 }
 

@@ -2,30 +2,32 @@
 #pragma once
 
 #include "easel/files/FileDescriptor.h"
-#include "easel/files/FileError.h"
+#include "easel/files/Result.h"
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace easel::files {
 
 /// Gives `file` that content, making it if it is missing. A link is followed and stays one; the permissions
 /// of a file that was there are kept. After an error the old content is still in place (or, if only the flush
 /// of the folder failed, the new one is).
-[[nodiscard]] FileOutcome replaceFile(const std::filesystem::path& file,
-                                      std::span<const std::uint8_t> content);
-[[nodiscard]] FileOutcome replaceFile(const std::filesystem::path& file, std::string_view content);
+[[nodiscard]] Result<> replaceFile(const std::filesystem::path& file, std::span<const std::uint8_t> content);
+[[nodiscard]] Result<> replaceFile(const std::filesystem::path& file, std::string_view content);
 
 /// Whether a file of that name is one of our temporaries.
 bool isTemporaryName(std::string_view name);
 
 /// Makes sure that the names in the folder survive a loss of power.
-[[nodiscard]] FileOutcome flushFolder(const std::filesystem::path& folder);
+[[nodiscard]] Result<> flushFolder(const std::filesystem::path& folder);
 
 /// For one change among many: whoever makes them puts the flushing off and does it once at the end.
 enum class Flushing { AtOnce, Later };
 /// Makes sure that everything in the folder's file system survives a loss of power.
-[[nodiscard]] FileOutcome flushFileSystem(const std::filesystem::path& folder);
+[[nodiscard]] Result<> flushFileSystem(const std::filesystem::path& folder);
 
 /// A complete and flushed file that waits in a folder to be renamed, and vanishes if that never comes to
 /// pass. While it lives, it is locked, so that another program can tell it from what a crash left behind.
@@ -34,8 +36,8 @@ class TemporaryFile {
     /// The mode of a new file, before the user's mask.
     static constexpr unsigned kOrdinaryMode = 0666;
 
-    static OrFileError<TemporaryFile> write(const std::filesystem::path& folder,
-                                            std::span<const std::uint8_t> content);
+    static Result<TemporaryFile> write(const std::filesystem::path& folder,
+                                       std::span<const std::uint8_t> content);
 
     /// A temporary second name for a file, in its folder; nothing where the file system has no such names.
     static std::optional<TemporaryFile> linkTo(const std::filesystem::path& file);
@@ -49,7 +51,7 @@ class TemporaryFile {
     const std::filesystem::path& path() const { return path_; }
     const FileDescriptor& descriptor() const { return open_; }
     /// Takes the place of `target`, which lies in the same folder.
-    [[nodiscard]] FileOutcome moveTo(const std::filesystem::path& target);
+    [[nodiscard]] Result<> moveTo(const std::filesystem::path& target);
     /// Lets go of the file as a crash would: the next start clears it away.
     void leaveBehind() { open_.close(); }
 

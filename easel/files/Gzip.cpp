@@ -63,7 +63,7 @@ bool isGzip(std::string_view bytes) {
     return bytes.substr(0, kMagic.size()) == kMagic;
 }
 
-std::variant<std::string, GzipFault> unpackedGzip(std::string_view bytes, std::uintmax_t limit) {
+tl::expected<std::string, GzipFault> unpackedGzip(std::string_view bytes, std::uintmax_t limit) {
     const Decompressor unpacker(libdeflate_alloc_decompressor());
     if (!unpacker)
         throw std::bad_alloc();
@@ -74,9 +74,9 @@ std::variant<std::string, GzipFault> unpackedGzip(std::string_view bytes, std::u
         case LIBDEFLATE_SUCCESS:
             break;
         case LIBDEFLATE_INSUFFICIENT_SPACE:
-            return GzipFault::TooLarge;
+            return tl::unexpected(GzipFault::TooLarge);
         default:
-            return GzipFault::Damaged;
+            return tl::unexpected(GzipFault::Damaged);
         }
     } while (!onlyPadding(bytes));
     result.shrink_to_fit();

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <variant>
+#include <tl/expected.hpp>
 
 namespace easel::files {
 
@@ -19,7 +19,7 @@ enum class GzipFault : std::uint8_t {
 
 // What the members of the file hold, one after the other. Memory stays within the limit in bytes and what
 // such a file can hold at the most; throws std::bad_alloc where there is not so much.
-std::variant<std::string, GzipFault> unpackedGzip(std::string_view bytes, std::uintmax_t limit);
+tl::expected<std::string, GzipFault> unpackedGzip(std::string_view bytes, std::uintmax_t limit);
 
 // A file of one member without name or time, so that equal bytes give equal files. Throws std::bad_alloc.
 std::string packedGzip(std::string_view bytes);

@@ -7,12 +7,12 @@ namespace fs = std::filesystem;
 
 namespace easel::files {
 
-OrFileError<ScratchFolder> ScratchFolder::make() {
+Result<ScratchFolder> ScratchFolder::make() {
     std::error_code error;
     const auto folder = fs::temp_directory_path(error);
     auto pattern = (folder / "easel-XXXXXX").string();
     if (error || !::mkdtemp(pattern.data()))
-        return lastSystemError(folder);
+        return tl::unexpected(lastSystemError(folder));
     return ScratchFolder(pattern);
 }
 

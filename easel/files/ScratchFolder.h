@@ -1,7 +1,7 @@
 // A new folder of the system's temporary files that is gone, with all in it, when it goes out of scope.
 #pragma once
 
-#include "easel/files/FileError.h"
+#include "easel/files/Result.h"
 
 #include <utility>
 
@@ -9,7 +9,7 @@ namespace easel::files {
 
 class ScratchFolder {
   public:
-    static OrFileError<ScratchFolder> make();
+    static Result<ScratchFolder> make();
 
     ScratchFolder(ScratchFolder&& other) noexcept : path_(std::exchange(other.path_, {})) {}
     ScratchFolder& operator=(ScratchFolder&&) = delete;

@@ -105,17 +105,17 @@ std::string numbered(const std::string& name, int number) {
 }
 
 // Makes the note, which is what claims a name in a trash that other programs use too.
-FileOutcome claim(const fs::path& note, const std::string& text, Flushing flushing) {
+Result<> claim(const fs::path& note, const std::string& text, Flushing flushing) {
     FileDescriptor open(::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!open)
-        return lastSystemError(note);
+        return tl::unexpected(lastSystemError(note));
     const auto done = ::write(open.number(), text.data(), text.size());
     const bool isFlushed = flushing == Flushing::Later || ::fsync(open.number()) == 0;
     if (done == static_cast<ssize_t>(text.size()) && isFlushed && open.close())
         return {};
     auto error = lastSystemError(note);
     ::unlink(note.c_str());
-    return error;
+    return tl::unexpected(std::move(error));
 }
 
 } // namespace
@@ -127,15 +127,15 @@ TrashPlace::~TrashPlace() {
         ::unlink(note.c_str());
 }
 
-FileOutcome TrashPlace::add(const fs::path& trash, const std::string& name, const std::string& note,
-                            Flushing flushing) {
+Result<> TrashPlace::add(const fs::path& trash, const std::string& name, const std::string& note,
+                         Flushing flushing) {
     const auto file = trash / "files" / name;
     struct stat status {};
     if (::lstat(file.c_str(), &status) == 0)
-        return FileError{file, "the name is taken", std::make_error_code(std::errc::file_exists)};
+        return tl::unexpected(Error{file, "the name is taken", std::make_error_code(std::errc::file_exists)});
     const auto notePath = trash / "info" / (name + ".trashinfo");
-    if (auto failure = claim(notePath, note, flushing))
-        return failure;
+    if (auto claimed = claim(notePath, note, flushing); !claimed)
+        return claimed;
     notes_.push_back(notePath);
     files_.push_back(file);
     return {};
@@ -155,52 +155,51 @@ fs::path Trash::desktopHome() {
     return fs::path(home ? home : "/") / ".local" / "share" / "Trash";
 }
 
-OrFileError<TrashPlace> Trash::reserve(std::span<const fs::path> originals, Flushing flushing) const {
+Result<TrashPlace> Trash::reserve(std::span<const fs::path> originals, Flushing flushing) const {
     std::error_code ignored;
     const auto trash = chooseTrash(home_, fs::absolute(originals.front(), ignored).parent_path());
     if (!makeFolders(trash.folder))
-        return lastSystemError(trash.folder);
+        return tl::unexpected(lastSystemError(trash.folder));
     constexpr int kTries = 100'000;
     for (int number = 1; number < kTries; ++number) {
         TrashPlace place;
-        FileOutcome failure;
+        Result<> added;
         for (const auto& original : originals) {
             const auto note = noteFor(fs::absolute(original, ignored), trash);
-            failure = place.add(trash.folder, numbered(original.filename().string(), number), note, flushing);
-            if (failure)
+            added = place.add(trash.folder, numbered(original.filename().string(), number), note, flushing);
+            if (!added)
                 break;
         }
-        if (!failure)
+        if (added)
             return place;
-        if (failure->code != std::errc::file_exists)
-            return *failure;
+        if (added.error().code != std::errc::file_exists)
+            return tl::unexpected(added.error());
     }
-    return FileError{trash.folder, "the trash holds too many files of that name",
-                     std::make_error_code(std::errc::file_exists)};
+    return tl::unexpected(Error{trash.folder, "the trash holds too many files of that name",
+                                std::make_error_code(std::errc::file_exists)});
 }
 
-FileOutcome linkOrCopy(const fs::path& file, const fs::path& place) {
+Result<> linkOrCopy(const fs::path& file, const fs::path& place) {
     if (::link(file.c_str(), place.c_str()) == 0)
         return {};
     const auto content = readWholeFile(file);
-    if (const auto* error = std::get_if<FileError>(&content))
-        return *error;
-    return replaceFile(place, std::get<Bytes>(content));
+    if (!content)
+        return tl::unexpected(content.error());
+    return replaceFile(place, *content);
 }
 
-FileOutcome Trash::move(const fs::path& file) const {
+Result<> Trash::move(const fs::path& file) const {
     auto reserved = reserve(std::span(&file, 1));
-    if (const auto* error = std::get_if<FileError>(&reserved))
-        return *error;
-    auto& place = std::get<TrashPlace>(reserved);
-    const auto& target = place.files().front();
+    if (!reserved)
+        return tl::unexpected(reserved.error());
+    const auto& target = reserved->files().front();
     if (::rename(file.c_str(), target.c_str()) != 0) {
-        if (auto failure = linkOrCopy(file, target))
-            return failure;
+        if (auto copied = linkOrCopy(file, target); !copied)
+            return copied;
         if (::unlink(file.c_str()) != 0)
-            return lastSystemError(file);
+            return tl::unexpected(lastSystemError(file));
     }
-    place.keep();
+    reserved->keep();
     return flushFolder(file.parent_path());
 }
 

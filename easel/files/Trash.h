@@ -4,6 +4,8 @@
 #include "easel/files/AtomicFile.h"
 
 #include <span>
+#include <string>
+#include <vector>
 
 namespace easel::files {
 
@@ -24,8 +26,8 @@ class TrashPlace {
   private:
     friend class Trash;
     TrashPlace() = default;
-    FileOutcome add(const std::filesystem::path& trash, const std::string& name, const std::string& note,
-                    Flushing flushing);
+    Result<> add(const std::filesystem::path& trash, const std::string& name, const std::string& note,
+                 Flushing flushing);
 
     std::vector<std::filesystem::path> files_;
     std::vector<std::filesystem::path> notes_;
@@ -41,11 +43,11 @@ class Trash {
 
     /// Room for files that lie in one folder and stay together: all get the same number when a name is taken.
     /// A name that begins with "._" is numbered like the name behind it.
-    OrFileError<TrashPlace> reserve(std::span<const std::filesystem::path> originals,
-                                    Flushing flushing = Flushing::AtOnce) const;
+    Result<TrashPlace> reserve(std::span<const std::filesystem::path> originals,
+                               Flushing flushing = Flushing::AtOnce) const;
 
     /// Moves one file there.
-    [[nodiscard]] FileOutcome move(const std::filesystem::path& file) const;
+    [[nodiscard]] Result<> move(const std::filesystem::path& file) const;
 
   private:
     std::filesystem::path home_;
@@ -53,6 +55,6 @@ class Trash {
 
 /// Puts the file under `place`, so that both names hold its content: the same file where the file system
 /// allows, else a flushed copy.
-[[nodiscard]] FileOutcome linkOrCopy(const std::filesystem::path& file, const std::filesystem::path& place);
+[[nodiscard]] Result<> linkOrCopy(const std::filesystem::path& file, const std::filesystem::path& place);
 
 } // namespace easel::files

@@ -1,6 +1,8 @@
 // Code points to UTF-8 and back.
 #include "easel/files/Utf8.h"
 
+#include <optional>
+
 namespace easel::files {
 
 namespace {
@@ -33,20 +35,27 @@ Lead leadOf(unsigned char byte) {
     return {};
 }
 
-// The length of the character that begins at `at`, which is then in `character`; 0 if none does.
-std::size_t decode(std::string_view text, std::size_t at, char32_t& character) {
+struct Character {
+    char32_t value;
+    std::size_t length; // bytes
+};
+
+// The character that begins at `at`, or nothing if none does.
+std::optional<Character> decode(std::string_view text, std::size_t at) {
     const Lead lead = leadOf(static_cast<unsigned char>(text[at]));
     const auto length = static_cast<std::size_t>(lead.length);
     if (length == 0 || at + length > text.size())
-        return 0;
-    character = lead.bits;
+        return std::nullopt;
+    char32_t character = lead.bits;
     for (std::size_t i = 1; i < length; ++i) {
         const auto byte = static_cast<unsigned char>(text[at + i]);
         if ((byte & 0xc0) != 0x80)
-            return 0;
+            return std::nullopt;
         character = character << 6 | (byte & 0x3fu);
     }
-    return character >= lead.smallest && isCodePoint(character) ? length : 0;
+    if (character < lead.smallest || !isCodePoint(character))
+        return std::nullopt;
+    return Character{character, length};
 }
 
 } // namespace
@@ -67,10 +76,9 @@ std::string utf8Of(char32_t character) {
 std::vector<char32_t> codePointsOf(std::string_view utf8) {
     std::vector<char32_t> all;
     for (std::size_t at = 0; at < utf8.size();) {
-        char32_t character = kReplacement;
-        const std::size_t length = decode(utf8, at, character);
-        all.push_back(length == 0 ? kReplacement : character);
-        at += length == 0 ? 1 : length;
+        const Character character = decode(utf8, at).value_or(Character{kReplacement, 1});
+        all.push_back(character.value);
+        at += character.length;
     }
     return all;
 }

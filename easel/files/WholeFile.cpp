@@ -10,8 +10,8 @@
 namespace easel::files {
 namespace {
 
-OrFileError<Bytes> readAll(const FileDescriptor& open, std::size_t expected, std::uintmax_t limit,
-                           const std::filesystem::path& file) {
+Result<Bytes> readAll(const FileDescriptor& open, std::size_t expected, std::uintmax_t limit,
+                      const std::filesystem::path& file) {
     Bytes bytes;
     // One byte more than expected, so that the end of the file shows at the first read.
     bytes.resize(expected + 1);
@@ -23,12 +23,13 @@ OrFileError<Bytes> readAll(const FileDescriptor& open, std::size_t expected, std
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
-            return lastSystemError(file);
+            return tl::unexpected(lastSystemError(file));
         if (got == 0)
             break;
         filled += static_cast<std::size_t>(got);
         if (filled > limit)
-            return FileError{file, "the file is too large", std::make_error_code(std::errc::file_too_large)};
+            return tl::unexpected(
+                Error{file, "the file is too large", std::make_error_code(std::errc::file_too_large)});
     }
     bytes.resize(filled);
     return bytes;
@@ -36,27 +37,29 @@ OrFileError<Bytes> readAll(const FileDescriptor& open, std::size_t expected, std
 
 } // namespace
 
-FileError lastSystemError(const std::filesystem::path& file) {
+Error lastSystemError(const std::filesystem::path& file) {
     const std::error_code code(errno, std::generic_category());
     return {file, code.message(), code};
 }
 
-OrFileError<Bytes> readWholeFile(const std::filesystem::path& file, std::uintmax_t limit) {
+Result<Bytes> readWholeFile(const std::filesystem::path& file, std::uintmax_t limit) {
     const FileDescriptor open(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
     if (!open || ::fstat(open.number(), &status) != 0)
-        return lastSystemError(file);
+        return tl::unexpected(lastSystemError(file));
     if (S_ISDIR(status.st_mode))
-        return FileError{file, "it is a folder", std::make_error_code(std::errc::is_a_directory)};
+        return tl::unexpected(Error{file, "it is a folder", std::make_error_code(std::errc::is_a_directory)});
     if (!S_ISREG(status.st_mode))
-        return FileError{file, "it is not a regular file", std::make_error_code(std::errc::invalid_argument)};
+        return tl::unexpected(
+            Error{file, "it is not a regular file", std::make_error_code(std::errc::invalid_argument)});
     if (static_cast<std::uintmax_t>(status.st_size) > limit)
-        return FileError{file, "the file is too large", std::make_error_code(std::errc::file_too_large)};
+        return tl::unexpected(
+            Error{file, "the file is too large", std::make_error_code(std::errc::file_too_large)});
     try {
         return readAll(open, static_cast<std::size_t>(status.st_size), limit, file);
     } catch (const std::bad_alloc&) {
-        return FileError{file, "the file is larger than memory",
-                         std::make_error_code(std::errc::not_enough_memory)};
+        return tl::unexpected(Error{file, "the file is larger than memory",
+                                    std::make_error_code(std::errc::not_enough_memory)});
     }
 }
 

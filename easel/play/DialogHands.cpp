@@ -53,9 +53,7 @@ bool isControl(const runtime::DialogItem& item) {
 // Accents that are typed after their letters make one character with them, where the text as a whole can be
 // typed.
 std::string composed(const std::string& utf8) {
-    const classic::EncodedText encoded = classic::toMacRoman(utf8);
-    return encoded.outcome == classic::EncodingOutcome::Converted ? classic::fromMacRoman(encoded.text)
-                                                                  : utf8;
+    return classic::toMacRoman(utf8).map(classic::fromMacRoman).value_or(utf8);
 }
 
 } // namespace

@@ -28,8 +28,8 @@ void write(Session& session, const paint::Port& port, const paint::PixelRect& ar
     const std::ptrdiff_t width = port.imageWidth();
     const exports::PixelRows rows{port.pixels() + part.top * width + part.left, part.width(), part.height(),
                                   width * std::ptrdiff_t{sizeof(std::uint32_t)}};
-    if (const auto error = exports::writePng(session.resolve(file), rows))
-        throw PlayError(error->message());
+    if (const auto written = exports::writePng(session.resolve(file), rows); !written)
+        throw PlayError(written.error().message());
 }
 
 } // namespace

@@ -20,22 +20,22 @@ void open(Session& session, Arguments& arguments) {
     const std::filesystem::path file = fileIn(session, arguments);
     // What a save of this drawing left when the program was killed goes now.
     files::removeLeftovers(file.parent_path());
-    auto result = svg::readFile(file);
-    if (const auto* failure = std::get_if<svg::Failure>(&result))
-        throw PlayError(failure->message);
-    session.show(std::get<drawing::Drawing>(std::move(result)));
+    auto drawing = svg::readFile(file);
+    if (!drawing)
+        throw PlayError(drawing.error().message());
+    session.show(std::move(*drawing));
 }
 
 void save(Session& session, Arguments& arguments) {
     const std::filesystem::path file = fileIn(session, arguments);
-    if (const auto failure = svg::saveFile(session.frontWindow().drawing(), file))
-        throw PlayError(failure->message);
+    if (const auto saved = svg::saveFile(session.frontWindow().drawing(), file); !saved)
+        throw PlayError(saved.error().message());
 }
 
 void exportPicture(Session& session, Arguments& arguments) {
     const std::filesystem::path file = fileIn(session, arguments);
-    if (const files::FileOutcome error = exports::exportDrawing(session.frontWindow().drawing(), file))
-        throw PlayError(error->message());
+    if (const auto exported = exports::exportDrawing(session.frontWindow().drawing(), file); !exported)
+        throw PlayError(exported.error().message());
 }
 
 constexpr Command kCommands[] = {

@@ -29,8 +29,8 @@ void pictureOfWindow(Session& session, Arguments& arguments) {
         window.paintMarked();
     paint::Surface picture = copyOf(window.image());
     runtime::drawFeedback(window.feedback(), window.view().toImage(), picture.view());
-    if (const files::FileOutcome error = exports::writePng(file, exports::rowsOf(picture)))
-        throw PlayError(error->message());
+    if (const auto written = exports::writePng(file, exports::rowsOf(picture)); !written)
+        throw PlayError(written.error().message());
 }
 
 } // namespace easel::play

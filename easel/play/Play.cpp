@@ -7,7 +7,6 @@
 #include "easel/runtime/Storage.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -26,20 +25,17 @@ std::string contentOf(std::istream& stream) {
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-// Nothing, and a word to the user, if the file cannot be read.
-std::optional<std::string> readScript(const std::string& file, std::istream& input, std::ostream& messages) {
+files::Result<std::string> readScript(const std::string& file, std::istream& input) {
     if (file == kStandardInput)
         return contentOf(input);
     std::error_code error;
-    if (fs::is_directory(file, error)) {
-        messages << file << ": is a folder\n";
-        return std::nullopt;
-    }
+    if (fs::is_directory(file, error))
+        return tl::unexpected(files::Error{file, "is a folder", {}});
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
     if (!stream) {
-        messages << file << ": " << std::strerror(errno != 0 ? errno : EIO) << '\n';
-        return std::nullopt;
+        const std::error_code code(errno != 0 ? errno : EIO, std::generic_category());
+        return tl::unexpected(files::Error{file, code.message(), code});
     }
     return contentOf(stream);
 }
@@ -60,17 +56,19 @@ classic::StoragePlaces placesOf(const PlayRequest& request,
 
 PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::ostream& answers,
                          std::ostream& messages) {
-    auto script = readScript(request.file, input, messages);
-    if (!script)
+    auto script = readScript(request.file, input);
+    if (!script) {
+        messages << script.error().message() << '\n';
         return PlayOutcome::failed;
+    }
     std::optional<files::ScratchFolder> scratch;
     if (request.preferences.empty()) {
         auto made = files::ScratchFolder::make();
-        if (const auto* error = std::get_if<files::FileError>(&made)) {
-            messages << error->message() << '\n';
+        if (!made) {
+            messages << made.error().message() << '\n';
             return PlayOutcome::failed;
         }
-        scratch.emplace(std::get<files::ScratchFolder>(std::move(made)));
+        scratch.emplace(std::move(*made));
     }
     runtime::useStorage(placesOf(request, scratch));
     Session session({.script = std::move(*script),

@@ -59,9 +59,9 @@ bool Session::play() {
     if (user_.holdsButton())
         steps_.failAtEnd("the scenario ends while the mouse button is held");
     user_.letGo();
-    if (steps_.failure())
-        report(*steps_.failure());
-    return !steps_.failure();
+    if (!steps_.outcome())
+        report(steps_.outcome().error());
+    return steps_.outcome().has_value();
 }
 
 void Session::playStep(const Step& step) {
@@ -72,8 +72,8 @@ void Session::playStep(const Step& step) {
     }
 }
 
-void Session::report(const Failure& failure) {
-    say(plan_.name + ":" + std::to_string(failure.line) + ": " + failure.reason);
+void Session::report(const ScenarioError& error) {
+    say(plan_.name + ":" + std::to_string(error.line) + ": " + error.reason);
 }
 
 std::filesystem::path Session::resolve(const std::string& path) const {
@@ -126,8 +126,8 @@ runtime::PluginModule& Session::plugin() {
         } catch (const runtime::PluginError& error) {
             throw PlayError(error.what());
         }
-        if (plugin_->resourceTrouble())
-            say(*plugin_->resourceTrouble());
+        if (!plugin_->resources())
+            say(plugin_->resources().error().message());
     }
     return *plugin_;
 }

@@ -72,7 +72,7 @@ class Session {
 
   private:
     void playStep(const Step& step);
-    void report(const Failure& failure);
+    void report(const ScenarioError& error);
 
     SessionPlan plan_;
     Steps steps_;

@@ -6,7 +6,7 @@
 namespace easel::play {
 
 std::optional<Step> Steps::next() {
-    if (failure_)
+    if (!outcome_)
         return std::nullopt;
     try {
         if (waiting_.empty() && script_.next())
@@ -15,7 +15,7 @@ std::optional<Step> Steps::next() {
     } catch (const PlayError& error) {
         fail(script_.lineNumber(), error.what());
     }
-    if (failure_ || waiting_.empty())
+    if (!outcome_ || waiting_.empty())
         return std::nullopt;
     Step step = std::move(waiting_.front());
     waiting_.pop_front();
@@ -23,8 +23,8 @@ std::optional<Step> Steps::next() {
 }
 
 void Steps::fail(std::size_t line, const std::string& reason) {
-    if (!failure_)
-        failure_ = Failure{line, reason};
+    if (outcome_)
+        outcome_ = tl::unexpected(ScenarioError{line, reason});
     waiting_.clear();
 }
 

@@ -8,33 +8,34 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <tl/expected.hpp>
 
 namespace easel::play {
 
 // What made the scenario stop before its end.
-struct Failure {
+struct ScenarioError {
     std::size_t line = 0;
     std::string reason;
 };
 
 // Hands out one step after the other to whoever needs one: the session between calls of the plug-in, the user
-// while the plug-in waits. After a failure there are no more steps.
+// while the plug-in waits. After an error there are no more steps.
 class Steps {
   public:
     explicit Steps(std::string script) : script_(std::move(script)) {}
 
-    // Nothing at the end, and after a failure.
+    // Nothing at the end, and after an error.
     std::optional<Step> next();
-    // Keeps the first failure.
+    // Keeps the first error.
     void fail(std::size_t line, const std::string& reason);
     // The script is over where it must not be.
     void failAtEnd(const std::string& reason) { fail(script_.lineNumber(), reason); }
-    const std::optional<Failure>& failure() const { return failure_; }
+    const tl::expected<void, ScenarioError>& outcome() const { return outcome_; }
 
   private:
     Script script_;
     std::deque<Step> waiting_;
-    std::optional<Failure> failure_;
+    tl::expected<void, ScenarioError> outcome_;
 };
 
 } // namespace easel::play

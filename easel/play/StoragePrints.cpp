@@ -36,11 +36,9 @@ Json resourcesOf(const classic::ResourceFork& fork) {
 // A file whose resources cannot be read has none to show.
 Json resourcesIn(const classic::FilePair& file) {
     const auto header = classic::readHeader(file);
-    if (std::holds_alternative<files::FileError>(header))
+    if (!header)
         return Json::array();
-    const auto fork = classic::ResourceFork::read(std::get<classic::AppleDouble>(header).resourceFork());
-    const auto* const resources = std::get_if<classic::ResourceFork>(&fork);
-    return resources ? resourcesOf(*resources) : Json::array();
+    return classic::ResourceFork::read(header->resourceFork()).map(resourcesOf).value_or(Json::array());
 }
 
 Json fileOf(const classic::ListedFile& file) {
@@ -58,20 +56,20 @@ Json fileOf(const classic::ListedFile& file) {
 Json printTemplates(Session& session, Arguments&) {
     auto& files = runtime::theStorage().files();
     const auto folder = runtime::templateFolder(session.pluginFile(), files.places());
-    if (const auto* const error = std::get_if<files::FileError>(&folder))
-        throw PlayError(error->message());
+    if (!folder)
+        throw PlayError(folder.error().message());
     files.settle();
     Json templates = Json::array();
-    for (const auto& file : classic::listFolder(std::get<std::filesystem::path>(folder)).files)
+    for (const auto& file : classic::listFolder(*folder).files)
         templates.push_back(fileOf(file));
     return {{"templates", std::move(templates)}};
 }
 
 Json printDefaults(Session&, Arguments&) {
     const auto stored = runtime::theStorage().defaults().read();
-    if (const auto* const error = std::get_if<files::FileError>(&stored))
-        throw PlayError(error->message());
-    return {{"defaults", resourcesOf(std::get<classic::ResourceFork>(stored))}};
+    if (!stored)
+        throw PlayError(stored.error().message());
+    return {{"defaults", resourcesOf(*stored)}};
 }
 
 Json printResourceFiles(Session&, Arguments&) {

@@ -38,13 +38,13 @@ void Dialog::replaceSelection(DialogItem& field, const std::string& replacement)
 
 EditOutcome Dialog::typeCharacter(char32_t character) {
     DialogItem* field = focusedField();
-    const classic::EncodedText encoded = classic::toMacRoman(files::utf8Of(character));
-    if (field == nullptr || encoded.outcome != classic::EncodingOutcome::Converted || !fits(encoded.text))
+    const auto encoded = classic::toMacRoman(files::utf8Of(character));
+    if (field == nullptr || !encoded || !fits(*encoded))
         return EditOutcome::Refused;
     const auto selected = static_cast<std::size_t>(field->selection.to - field->selection.from);
-    if (field->text.size() - selected + encoded.text.size() > kLongestText)
+    if (field->text.size() - selected + encoded->size() > kLongestText)
         return EditOutcome::Refused;
-    replaceSelection(*field, encoded.text);
+    replaceSelection(*field, *encoded);
     return EditOutcome::Accepted;
 }
 
@@ -72,12 +72,12 @@ EditOutcome Dialog::eraseForward() {
 
 EditOutcome Dialog::enterText(int number, const std::string& utf8) {
     DialogItem* field = itemOfKind(number, ItemKind::EditText);
-    const classic::EncodedText encoded = classic::toMacRoman(utf8);
-    if (field == nullptr || encoded.outcome != classic::EncodingOutcome::Converted || !fits(encoded.text))
+    const auto encoded = classic::toMacRoman(utf8);
+    if (field == nullptr || !encoded || !fits(*encoded))
         return EditOutcome::Refused;
     moveFocus(number);
     field->selection = {0, static_cast<int>(field->text.size())};
-    replaceSelection(*field, encoded.text);
+    replaceSelection(*field, *encoded);
     return EditOutcome::Accepted;
 }
 

@@ -57,7 +57,7 @@ TextAlignment alignmentOf(classic::AlignmentResource alignment) {
 
 // The texts of resources are known to be in the host's encoding.
 std::string encoded(const std::string& utf8) {
-    return classic::toMacRoman(utf8).text;
+    return classic::toMacRoman(utf8).value_or("");
 }
 
 std::shared_ptr<Menu> menuOf(const classic::PluginResources& resources, int id) {

@@ -4,6 +4,7 @@
 #include "easel/classic/HostFiles.h"
 #include "host/Files.h"
 
+#include <optional>
 #include <span>
 #include <vector>
 

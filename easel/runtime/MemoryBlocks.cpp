@@ -35,11 +35,11 @@ char** MemoryBlocks::create(std::size_t size) {
     }
 }
 
-BlockOutcome MemoryBlocks::dispose(char** block) {
+tl::expected<void, BlockError> MemoryBlocks::dispose(char** block) {
     if (!find(block))
-        return BlockOutcome::NotABlock;
+        return tl::unexpected(BlockError::NotABlock);
     blocks_.erase(block);
-    return BlockOutcome::Done;
+    return {};
 }
 
 std::optional<std::size_t> MemoryBlocks::size(char** block) {
@@ -47,51 +47,51 @@ std::optional<std::size_t> MemoryBlocks::size(char** block) {
     return found ? std::optional(found->bytes.size()) : std::nullopt;
 }
 
-BlockOutcome MemoryBlocks::resize(char** block, std::size_t size) {
+tl::expected<void, BlockError> MemoryBlocks::resize(char** block, std::size_t size) {
     return change(block, size, [&](std::vector<char>& bytes) { sizeTo(bytes, size); });
 }
 
-BlockOutcome MemoryBlocks::append(char** block, std::span<const char> more) {
+tl::expected<void, BlockError> MemoryBlocks::append(char** block, std::span<const char> more) {
     const auto* const found = find(block);
     if (!found)
-        return BlockOutcome::NotABlock;
+        return tl::unexpected(BlockError::NotABlock);
     const auto end = found->bytes.size() + more.size();
     return change(block, end,
                   [&](std::vector<char>& bytes) { bytes.insert(bytes.end(), more.begin(), more.end()); });
 }
 
 template <class Change>
-BlockOutcome MemoryBlocks::change(char** block, std::size_t newSize, const Change& change) {
+tl::expected<void, BlockError> MemoryBlocks::change(char** block, std::size_t newSize, const Change& change) {
     auto* const found = find(block);
     if (!found)
-        return BlockOutcome::NotABlock;
+        return tl::unexpected(BlockError::NotABlock);
     if (found->place == Place::Locked && newSize > found->bytes.capacity())
-        return BlockOutcome::Locked;
+        return tl::unexpected(BlockError::Locked);
     try {
         change(found->bytes);
     } catch (const std::bad_alloc&) {
-        return BlockOutcome::NoMemory;
+        return tl::unexpected(BlockError::NoMemory);
     } catch (const std::length_error&) {
-        return BlockOutcome::NoMemory;
+        return tl::unexpected(BlockError::NoMemory);
     }
     found->address = found->bytes.data();
-    return BlockOutcome::Done;
+    return {};
 }
 
-BlockOutcome MemoryBlocks::lock(char** block) {
+tl::expected<void, BlockError> MemoryBlocks::lock(char** block) {
     return setPlace(block, Place::Locked);
 }
 
-BlockOutcome MemoryBlocks::unlock(char** block) {
+tl::expected<void, BlockError> MemoryBlocks::unlock(char** block) {
     return setPlace(block, Place::Movable);
 }
 
-BlockOutcome MemoryBlocks::setPlace(char** block, Place place) {
+tl::expected<void, BlockError> MemoryBlocks::setPlace(char** block, Place place) {
     auto* const found = find(block);
     if (!found)
-        return BlockOutcome::NotABlock;
+        return tl::unexpected(BlockError::NotABlock);
     found->place = place;
-    return BlockOutcome::Done;
+    return {};
 }
 
 MemoryBlocks::Block* MemoryBlocks::find(char** block) {

@@ -52,8 +52,7 @@ PluginModule::PluginModule(const fs::path& file) : file_(fs::absolute(file)) {
     if (!entry)
         throw PluginError(file_.string() + ": not a plug-in: it has no MainEntry");
     entry_ = reinterpret_cast<Entry>(entry);
-    if (const files::FileOutcome trouble = openPluginResources(resourceFolder()))
-        resourceTrouble_ = trouble->message();
+    resources_ = openPluginResources(resourceFolder());
 }
 
 PluginModule::~PluginModule() {

@@ -1,12 +1,12 @@
 // The plug-in as a loadable module: found, loaded, sent messages, unloaded.
 #pragma once
 
+#include "easel/files/Result.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <stdexcept>
-#include <string>
 
 struct XTNLParmBlk;
 
@@ -36,9 +36,8 @@ class PluginModule {
 
     const std::filesystem::path& file() const { return file_; }
 
-    // What is wrong with the plug-in's resources, naming the file; it then runs without texts, dialogs and
-    // pictures.
-    const std::optional<std::string>& resourceTrouble() const { return resourceTrouble_; }
+    // Whether the plug-in's resources could be read; if not, it runs without texts, dialogs and pictures.
+    const files::Result<>& resources() const { return resources_; }
 
     // The folder of the module's resources: beside the module, under its name.
     std::filesystem::path resourceFolder() const { return resourceFolder(file_); }
@@ -57,7 +56,7 @@ class PluginModule {
     std::filesystem::path file_;
     std::unique_ptr<void, Unload> library_;
     Entry entry_ = nullptr;
-    std::optional<std::string> resourceTrouble_;
+    files::Result<> resources_;
 };
 
 } // namespace easel::runtime

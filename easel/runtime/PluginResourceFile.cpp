@@ -21,13 +21,10 @@ const classic::PluginResources& pluginResources() {
     return current();
 }
 
-files::FileOutcome openPluginResources(const std::filesystem::path& folder) {
+files::Result<> openPluginResources(const std::filesystem::path& folder) {
     closePluginResources();
-    auto read = classic::PluginResources::read(folder);
-    if (auto* const error = std::get_if<files::FileError>(&read))
-        return std::move(*error);
-    current() = std::get<classic::PluginResources>(std::move(read));
-    return {};
+    return classic::PluginResources::read(folder).map(
+        [](classic::PluginResources&& resources) { current() = std::move(resources); });
 }
 
 void closePluginResources() {
@@ -39,7 +36,7 @@ void closePluginResources() {
 CStr255 GetIndString(short listId, short index) {
     easel::runtime::journal("GetIndString", listId, index);
     // The reader of the resources has made sure that every text can be converted.
-    return easel::classic::toMacRoman(easel::runtime::pluginResources().string(listId, index)).text;
+    return easel::classic::toMacRoman(easel::runtime::pluginResources().string(listId, index)).value_or("");
 }
 
 void GetIndString(CStr255& out, short listId, short index) {

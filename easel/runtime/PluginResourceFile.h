@@ -12,7 +12,7 @@ const classic::PluginResources& pluginResources();
 
 // Reads the resources in a module's resource folder, in place of those before. After an error (which names
 // the file) there are none.
-[[nodiscard]] files::FileOutcome openPluginResources(const std::filesystem::path& folder);
+[[nodiscard]] files::Result<> openPluginResources(const std::filesystem::path& folder);
 // To be called when the module is unloaded.
 void closePluginResources();
 

@@ -6,7 +6,7 @@
 namespace easel::runtime {
 
 ResourceFiles::ResourceFiles(classic::HostFiles& files, MemoryBlocks& blocks,
-                             classic::HostFiles::FailureReport report)
+                             classic::HostFiles::ErrorReport report)
     : files_(files), blocks_(blocks), report_(std::move(report)), open_(1) {}
 
 ResourceFiles::~ResourceFiles() {
@@ -18,19 +18,18 @@ std::int16_t ResourceFiles::open(const classic::FileSpec& spec, classic::Access 
     OpenFile file;
     file.access = access;
     auto opened = files_.open(spec, access);
-    if (auto* const whole = std::get_if<classic::OpenedFile>(&opened)) {
-        file.file = std::move(*whole);
+    // An error of the system means that there is nothing to see; one without, that what was seen is damaged.
+    if (!opened && opened.error().code)
+        return kNoFile;
+    if (opened) {
+        file.file = std::move(*opened);
         file.changed = file.file.state == classic::OpenedFile::State::Waiting;
         auto fork = classic::ResourceFork::read(file.file.header.resourceFork());
-        if (auto* const resources = std::get_if<classic::ResourceFork>(&fork))
-            file.fork = std::move(*resources);
+        if (fork)
+            file.fork = std::move(*fork);
         else
             file.condition = Condition::Damaged;
     } else {
-        // An error of the system means that there is nothing to see; one without, that what was seen is
-        // damaged.
-        if (std::get<files::FileError>(opened).code)
-            return kNoFile;
         file.condition = Condition::Damaged;
     }
     if (file.condition == Condition::Damaged && access == classic::Access::Write)
@@ -66,17 +65,17 @@ std::vector<std::int16_t> ResourceFiles::openFiles() const {
     return numbers;
 }
 
-ResourceFiles::Addition ResourceFiles::add(char** block, std::uint32_t type, std::int16_t id,
-                                           const std::string& name) {
+tl::expected<void, ResourceFiles::AdditionError>
+ResourceFiles::add(char** block, std::uint32_t type, std::int16_t id, const std::string& name) {
     const auto file = find(current_);
     if (file->access != classic::Access::Write)
-        return Addition::NotWritable;
+        return tl::unexpected(AdditionError::NotWritable);
     const auto size = blocks_.size(block);
     if (!size)
-        return Addition::NotABlock;
+        return tl::unexpected(AdditionError::NotABlock);
     file->fork.put({type, id, 0, name, files::Bytes(*block, *block + *size)});
     file->changed = true;
-    return Addition::Done;
+    return {};
 }
 
 char** ResourceFiles::get(std::uint32_t type, std::int16_t id) {
@@ -120,8 +119,8 @@ void ResourceFiles::write(OpenFile& file) {
         return;
     }
     file.file.header.setResourceFork(std::move(*fork));
-    if (const auto failure = files_.write(file.file))
-        report_(*failure);
+    if (const auto written = files_.write(file.file); !written)
+        report_(written.error());
 }
 
 std::int16_t ResourceFiles::freeNumber() {

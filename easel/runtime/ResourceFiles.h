@@ -6,6 +6,9 @@
 #include "easel/classic/ResourceFork.h"
 #include "easel/runtime/MemoryBlocks.h"
 
+#include <string>
+#include <vector>
+
 namespace easel::runtime {
 
 class ResourceFiles {
@@ -15,7 +18,7 @@ class ResourceFiles {
     static constexpr std::int16_t kNoFile = -1;
 
     /// `report` is told what a file that was closed could not be written for.
-    ResourceFiles(classic::HostFiles& files, MemoryBlocks& blocks, classic::HostFiles::FailureReport report);
+    ResourceFiles(classic::HostFiles& files, MemoryBlocks& blocks, classic::HostFiles::ErrorReport report);
     ~ResourceFiles();
     ResourceFiles(const ResourceFiles&) = delete;
     ResourceFiles& operator=(const ResourceFiles&) = delete;
@@ -33,9 +36,10 @@ class ResourceFiles {
     /// In the order in which they were opened.
     std::vector<std::int16_t> openFiles() const;
 
-    enum class Addition { Done, NotWritable, NotABlock };
+    enum class AdditionError { NotWritable, NotABlock };
     /// Adds a copy of the block to the current file. The name is Mac Roman.
-    Addition add(char** block, std::uint32_t type, std::int16_t id, const std::string& name);
+    tl::expected<void, AdditionError> add(char** block, std::uint32_t type, std::int16_t id,
+                                          const std::string& name);
     /// From the current file or those opened before it; null if none has it. The same block for the same
     /// resource.
     char** get(std::uint32_t type, std::int16_t id);
@@ -65,7 +69,7 @@ class ResourceFiles {
 
     classic::HostFiles& files_;
     MemoryBlocks& blocks_;
-    classic::HostFiles::FailureReport report_;
+    classic::HostFiles::ErrorReport report_;
     std::vector<OpenFile> open_;
     std::int16_t current_ = kHostFile;
 };

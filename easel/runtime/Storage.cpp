@@ -23,17 +23,16 @@ void tell(const std::string& message) {
 } // namespace
 
 Storage::Storage(const classic::StoragePlaces& places)
-    : files_(places, [this](const files::FileError& error) { tellFailure(error); }),
-      resourceFiles_(files_, MemoryBlocks::shared(),
-                     [this](const files::FileError& error) { tellFailure(error); }),
+    : files_(places, [this](const files::Error& error) { tellError(error); }),
+      resourceFiles_(files_, MemoryBlocks::shared(), [this](const files::Error& error) { tellError(error); }),
       defaults_(places) {}
 
-void Storage::tellFailure(const files::FileError& error) {
+void Storage::tellError(const files::Error& error) {
     if (keeping_ == Keeping::AsFarAsKnown)
         tell(error.message() + ". The change was not kept.");
 }
 
-void Storage::tellNothingIsKept(const files::FileError& error) {
+void Storage::tellNothingIsKept(const files::Error& error) {
     if (std::exchange(keeping_, Keeping::Nothing) == Keeping::AsFarAsKnown)
         tell(error.message() + ". The current gradient and templates will not be kept.");
 }

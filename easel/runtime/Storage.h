@@ -17,8 +17,8 @@ class Storage {
     const classic::DefaultsStore& defaults() const { return defaults_; }
 
     // Tells the user what could not be kept. Once it is known that nothing can be, there is no more to say.
-    void tellFailure(const files::FileError& error);
-    void tellNothingIsKept(const files::FileError& error);
+    void tellError(const files::Error& error);
+    void tellNothingIsKept(const files::Error& error);
 
   private:
     enum class Keeping { AsFarAsKnown, Nothing };

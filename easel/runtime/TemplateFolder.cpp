@@ -15,16 +15,16 @@ constexpr int kTemplateFolderText = 2;
 
 } // namespace
 
-files::OrFileError<std::filesystem::path> templateFolder(const std::filesystem::path& module,
-                                                         const classic::StoragePlaces& places) {
+files::Result<std::filesystem::path> templateFolder(const std::filesystem::path& module,
+                                                    const classic::StoragePlaces& places) {
     const auto folder = PluginModule::resourceFolder(module);
     const auto resources = classic::PluginResources::read(folder);
-    if (const auto* const error = std::get_if<files::FileError>(&resources))
-        return *error;
-    const auto text = std::get<classic::PluginResources>(resources).string(kTextsId, kTemplateFolderText);
-    const auto name = classic::nameOnDisk(classic::toMacRoman(text).text);
+    if (!resources)
+        return tl::unexpected(resources.error());
+    const auto text = resources->string(kTextsId, kTemplateFolderText);
+    const auto name = classic::nameOnDisk(classic::toMacRoman(text).value_or(""));
     if (!name)
-        return files::FileError{folder, "it has no name for the template folder", {}};
+        return tl::unexpected(files::Error{folder, "it has no name for the template folder", {}});
     return places.preferences / *name;
 }
 

@@ -2,14 +2,12 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
-#include "easel/svg/text/Fault.h"
+#include "easel/files/Result.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
-#include <variant>
 
 namespace easel::svg {
 
@@ -19,19 +17,18 @@ struct ReadOptions {
     std::uintmax_t largestFile = std::uintmax_t{512} << 20; // bytes, also of what is unpacked
 };
 
-using ReadResult = std::variant<drawing::Drawing, Failure>;
-
 // Files may be compressed with gzip, whatever their names. Nothing that the file refers to outside itself is
-// fetched.
-ReadResult readFile(const std::filesystem::path& file, const ReadOptions& options = {});
-// The bytes of a file; `name` is what messages call it.
-ReadResult readBytes(std::string bytes, const std::string& name, const ReadOptions& options = {});
+// fetched. The error's code is the system's, or an svg::Fault.
+files::Result<drawing::Drawing> readFile(const std::filesystem::path& file, const ReadOptions& options = {});
+// The bytes of a file; the error names `file`.
+files::Result<drawing::Drawing> readBytes(std::string bytes, const std::filesystem::path& file,
+                                          const ReadOptions& options = {});
 
 // The bytes of the file that holds the drawing: those it was read from, with the changed parts rewritten. A
 // drawing that was not changed gives the same bytes. What came compressed is compressed again.
 std::string toBytes(const drawing::Drawing& drawing);
 // Puts them into the file, whole or not at all, and marks the drawing as saved. Any other file than the one
 // that the drawing was read from is compressed if its name ends in ".svgz", and only then.
-std::optional<Failure> saveFile(drawing::Drawing& drawing, const std::filesystem::path& file);
+[[nodiscard]] files::Result<> saveFile(drawing::Drawing& drawing, const std::filesystem::path& file);
 
 } // namespace easel::svg

@@ -26,15 +26,14 @@ void checkBeginning(ByteView bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const ByteView bytes(data, size);
     checkBeginning(bytes);
-    const auto read = AppleDouble::read(bytes);
-    const auto* const file = std::get_if<AppleDouble>(&read);
+    const auto file = AppleDouble::read(bytes);
     if (!file)
         return 0;
     const auto place = findFinderInfo(bytes);
     if (place.answer == FinderInfoPlace::Answer::Here && place.info != file->finderInfo())
         std::abort();
     const auto written = file->write();
-    if (AppleDouble::read(written) != read)
+    if (AppleDouble::read(written) != file)
         std::abort();
     auto changed = *file;
     changed.setFinderInfo({1, 2});

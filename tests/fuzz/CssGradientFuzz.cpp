@@ -9,19 +9,18 @@
 using namespace easel::exchange;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto read = readCss({reinterpret_cast<const char*>(data), size});
-    if (const auto* const none = std::get_if<NoGradient>(&read)) {
-        if (none->reason.empty())
+    const auto read = readCss({reinterpret_cast<const char*>(data), size}, "fuzz.css");
+    if (!read) {
+        if (read.error().reason.empty())
             std::abort();
         return 0;
     }
-    const auto& gradient = std::get<ImportedGradient>(read).gradient;
+    const auto& gradient = read->gradient;
     const auto& stops = gradient.ColorList();
     if (stops.empty() || !std::is_sorted(stops.begin(), stops.end()))
         std::abort();
-    const auto again = readCss(writeCss(gradient).text);
-    const auto* const back = std::get_if<ImportedGradient>(&again);
-    if (stops.size() < 10'000 && (!back || back->gradient.Type() != gradient.Type()))
+    const auto again = readCss(writeCss(gradient).text, "fuzz.css");
+    if (stops.size() < 10'000 && (!again || again->gradient.Type() != gradient.Type()))
         std::abort();
     return 0;
 }

@@ -9,18 +9,18 @@
 using namespace easel::exchange;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto read = readGgr({reinterpret_cast<const char*>(data), size});
-    if (const auto* const none = std::get_if<NoGradient>(&read)) {
-        if (none->reason.empty())
+    const auto read = readGgr({reinterpret_cast<const char*>(data), size}, "fuzz.ggr");
+    if (!read) {
+        if (read.error().reason.empty())
             std::abort();
         return 0;
     }
-    const auto& gradient = std::get<ImportedGradient>(read);
+    const auto& gradient = *read;
     const auto& stops = gradient.gradient.ColorList();
     if (stops.empty() || !std::is_sorted(stops.begin(), stops.end()))
         std::abort();
     const auto written = writeGgr(gradient.gradient, gradient.name);
-    if (!std::holds_alternative<ImportedGradient>(readGgr(written.text)) && stops.size() < 10'000)
+    if (!readGgr(written.text, "fuzz.ggr") && stops.size() < 10'000)
         std::abort();
     return 0;
 }

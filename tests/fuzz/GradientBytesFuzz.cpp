@@ -27,8 +27,7 @@ Bytes sealed(ByteView bytes) {
 }
 
 void check(ByteView bytes) {
-    const auto read = gradientFromBytes(bytes);
-    const auto* const gradient = std::get_if<CGradientData>(&read);
+    const auto gradient = gradientFromBytes(bytes);
     if (!gradient)
         return;
     const auto written = gradientToBytes(*gradient);

@@ -9,18 +9,17 @@ using namespace easel::files;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto read = PluginResources::parse({reinterpret_cast<const char*>(data), size}, "f/f.xml");
-    if (const auto* const error = std::get_if<FileError>(&read)) {
-        if (error->reason.empty())
+    if (!read) {
+        if (read.error().reason.empty())
             std::abort();
         return 0;
     }
-    const auto& resources = std::get<PluginResources>(read);
     for (int id = -3; id < 10; ++id) {
-        if (resources.string(id, 1).size() > std::size_t{3} * 255)
+        if (read->string(id, 1).size() > std::size_t{3} * 255)
             std::abort();
-        const auto* const dialog = resources.dialog(id);
+        const auto* const dialog = read->dialog(id);
         for (std::size_t i = 0; dialog && i < dialog->items.size(); ++i)
-            if (dialog->items[i].kind == ItemResourceKind::Popup && !resources.menu(dialog->items[i].menu))
+            if (dialog->items[i].kind == ItemResourceKind::Popup && !read->menu(dialog->items[i].menu))
                 std::abort();
     }
     return 0;

@@ -7,16 +7,14 @@ using namespace easel::classic;
 using namespace easel::files;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto read = ResourceFork::read({data, size});
-    const auto* const fork = std::get_if<ResourceFork>(&read);
+    const auto fork = ResourceFork::read({data, size});
     if (!fork)
         return 0;
     const auto written = fork->write();
     if (!written)
         return 0;
-    const auto again = ResourceFork::read(*written);
+    const auto back = ResourceFork::read(*written);
     // Resources of one type come together when they are written, so compare one by one.
-    const auto* const back = std::get_if<ResourceFork>(&again);
     if (!back || back->resources().size() != fork->resources().size())
         std::abort();
     for (const auto& resource : fork->resources())

@@ -66,12 +66,12 @@ std::string contentOf(const std::string& file) {
 
 void look(const std::string& file, Tally& tally) {
     const auto read = easel::svg::readFile(file);
-    if (const auto* failure = std::get_if<easel::svg::Failure>(&read)) {
+    if (!read) {
         ++tally.refused;
-        std::cout << "refused: " << failure->message << "\n";
+        std::cout << "refused: " << read.error().message() << "\n";
         return;
     }
-    const auto& drawing = std::get<Drawing>(read);
+    const auto& drawing = *read;
     ++tally.opened;
     if (easel::svg::toBytes(drawing) != contentOf(file)) {
         ++tally.savedDifferently;
@@ -92,7 +92,7 @@ void showWorst(Tally& tally) {
     for (std::size_t i = 0; i < std::min(kShown, tally.compared.size()); ++i) {
         const Compared& compared = tally.compared[i];
         const auto read = easel::svg::readFile(compared.file);
-        const auto& drawing = std::get<Drawing>(read);
+        const auto& drawing = read.value();
         std::cout << compared.file << ": " << compared.difference.text() << "; "
                   << writePictures("gallery-" + std::to_string(i + 1), ours(drawing),
                                    librsvgs(compared.file, drawing))

@@ -56,18 +56,16 @@ inline easel::files::Bytes storedIn(const std::filesystem::path& folder, const s
     using namespace easel::files;
     const auto bytes = contentOf(folder / ("._" + name));
     const auto header = AppleDouble::read(viewOf(bytes));
-    if (!std::holds_alternative<AppleDouble>(header))
+    if (!header)
         return {};
-    const auto fork = ResourceFork::read(std::get<AppleDouble>(header).resourceFork());
-    const auto* const resources = std::get_if<ResourceFork>(&fork);
-    const auto* const resource = resources ? resources->find(kTemplateResource, 0) : nullptr;
+    const auto fork = ResourceFork::read(header->resourceFork());
+    const auto* const resource = fork ? fork->find(kTemplateResource, 0) : nullptr;
     return resource ? resource->data : Bytes();
 }
 
 // The number of stops stored, or 0 where no gradient is.
 inline std::size_t stopsStoredIn(const std::filesystem::path& folder, const std::string& name) {
-    const auto read = easel::classic::gradientFromBytes(storedIn(folder, name));
-    const auto* const gradient = std::get_if<CGradientData>(&read);
+    const auto gradient = easel::classic::gradientFromBytes(storedIn(folder, name));
     return gradient ? gradient->ColorList().size() : 0;
 }
 

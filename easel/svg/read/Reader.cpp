@@ -14,6 +14,8 @@
 namespace easel::svg {
 
 using drawing::Drawing;
+using files::Error;
+using files::Result;
 
 namespace {
 
@@ -34,10 +36,11 @@ Span findOwnBlock(const XmlTree& tree, const std::string& text) {
 
 std::string unpacked(std::string_view bytes, std::uintmax_t limit) {
     auto content = files::unpackedGzip(bytes, limit);
-    if (auto* const text = std::get_if<std::string>(&content))
-        return std::move(*text);
-    if (std::get<files::GzipFault>(content) == files::GzipFault::TooLarge)
-        throw ReadError{Fault::TooLarge, "the file is too large when it is unpacked"};
+    if (content)
+        return *std::move(content);
+    if (content.error() == files::GzipFault::TooLarge)
+        throw ReadError{std::make_error_code(std::errc::file_too_large),
+                        "the file is too large when it is unpacked"};
     throw ReadError{Fault::Damaged, "it is compressed, and what it holds is damaged or cut off"};
 }
 
@@ -60,7 +63,7 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
         source->decoded = decode(source->bytes, source->encoding);
     const std::string& text = source->text();
     if (source->bytes.size() > options.largestFile || text.size() > kLargestText)
-        throw ReadError{Fault::TooLarge, "the file is too large"};
+        throw ReadError{std::make_error_code(std::errc::file_too_large), "the file is too large"};
 
     const XmlTree tree(text);
     source->prefix = tree.prefix();
@@ -85,32 +88,35 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
             notes.sentences()};
 }
 
-ReadResult readNamed(std::string bytes, const std::string& name, const std::filesystem::path& file,
-                     const ReadOptions& options) {
+Error outOfMemory(const std::filesystem::path& file) {
+    return {file, "there is not enough memory for it", std::make_error_code(std::errc::not_enough_memory)};
+}
+
+// `source` is the file that the bytes are from, empty if they are from none.
+Result<Drawing> readNamed(std::string bytes, const std::filesystem::path& name,
+                          const std::filesystem::path& source, const ReadOptions& options) {
     try {
-        return readDrawing(std::move(bytes), file, options);
+        return readDrawing(std::move(bytes), source, options);
     } catch (const ReadError& error) {
-        return Failure{error.fault, name + ": " + error.reason};
+        return tl::unexpected(Error{name, error.reason, error.code});
     } catch (const std::bad_alloc&) {
-        return Failure{Fault::TooLarge, name + ": there is not enough memory for it"};
+        return tl::unexpected(outOfMemory(name));
     }
 }
 
 } // namespace
 
-ReadResult readBytes(std::string bytes, const std::string& name, const ReadOptions& options) {
-    return readNamed(std::move(bytes), name, {}, options);
+Result<Drawing> readBytes(std::string bytes, const std::filesystem::path& file, const ReadOptions& options) {
+    return readNamed(std::move(bytes), file, {}, options);
 }
 
-ReadResult readFile(const std::filesystem::path& file, const ReadOptions& options) {
+Result<Drawing> readFile(const std::filesystem::path& file, const ReadOptions& options) {
     try {
-        auto content = files::readWholeFile(file, options.largestFile);
-        if (const auto* const error = std::get_if<files::FileError>(&content))
-            return Failure{Fault::CannotRead, error->message()};
-        const auto& bytes = std::get<files::Bytes>(content);
-        return readNamed({bytes.begin(), bytes.end()}, file.string(), file, options);
+        return files::readWholeFile(file, options.largestFile).and_then([&](const files::Bytes& bytes) {
+            return readNamed({bytes.begin(), bytes.end()}, file, file, options);
+        });
     } catch (const std::bad_alloc&) {
-        return Failure{Fault::TooLarge, file.string() + ": there is not enough memory for it"};
+        return tl::unexpected(outOfMemory(file));
     }
 }
 

@@ -44,7 +44,7 @@ void TreeReader::tick() {
     const auto visited = static_cast<double>(visited_);
     const double part = visited / (static_cast<double>(scene_.tree.elementCount()) + visited / 2);
     if (!progress_(std::min(part, 1.0)))
-        throw ReadError{Fault::Cancelled, "opening it was cancelled"};
+        throw ReadError{std::make_error_code(std::errc::operation_canceled), "opening it was cancelled"};
 }
 
 Place TreeReader::rootPlace() {

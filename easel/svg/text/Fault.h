@@ -1,27 +1,20 @@
-// Why a drawing could not be opened or saved.
+// What can be wrong with the content of an SVG file, as the code of an error.
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include <system_error>
 
 namespace easel::svg {
 
-enum class Fault : std::uint8_t {
-    CannotRead, // missing, a folder, not permitted, a fault of the disk
-    Empty,
-    TooLarge, // more bytes than are read, or more than memory holds
-    Damaged,  // compressed bytes that cannot be unpacked
-    NotXml,   // also where the file is cut off
+enum class Fault {
+    Empty = 1,
+    Damaged, // compressed bytes that cannot be unpacked
+    NotXml,  // also where the file is cut off
     NotSvg,
     TooComplex, // shapes or texts repeated without measure
-    Cancelled,
-    CannotWrite,
 };
 
-// `message` names the file and the reason, in a sentence for the user.
-struct Failure {
-    Fault fault = Fault::CannotRead;
-    std::string message;
-};
+std::error_code make_error_code(Fault fault);
 
 } // namespace easel::svg
+
+template <> struct std::is_error_code_enum<easel::svg::Fault> : std::true_type {};

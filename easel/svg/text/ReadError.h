@@ -9,7 +9,7 @@
 namespace easel::svg {
 
 struct ReadError {
-    Fault fault;
+    std::error_code code;
     std::string reason; // without the file's name
 };
 

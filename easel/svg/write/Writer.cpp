@@ -66,16 +66,15 @@ std::string toBytes(const Drawing& drawing) {
     return bytesOf(drawing, packingOf(sourceOf(drawing)));
 }
 
-std::optional<Failure> saveFile(Drawing& drawing, const std::filesystem::path& file) {
+files::Result<> saveFile(Drawing& drawing, const std::filesystem::path& file) {
     try {
-        if (const auto error = files::replaceFile(
-                file, std::string_view(bytesOf(drawing, packingFor(file, sourceOf(drawing))))))
-            return Failure{Fault::CannotWrite, error->message()};
+        return files::replaceFile(file,
+                                  std::string_view(bytesOf(drawing, packingFor(file, sourceOf(drawing)))))
+            .map([&] { drawing.markSaved(); });
     } catch (const std::bad_alloc&) {
-        return Failure{Fault::CannotWrite, file.string() + ": there is not enough memory to write it"};
+        return tl::unexpected(files::Error{file, "there is not enough memory to write it",
+                                           std::make_error_code(std::errc::not_enough_memory)});
     }
-    drawing.markSaved();
-    return std::nullopt;
 }
 
 } // namespace easel::svg

@@ -10,8 +10,7 @@
 namespace easel::window {
 
 QImage pictureFile(const std::filesystem::path& file, QSize size, double ratio) {
-    const svg::ReadResult result = svg::readFile(file);
-    const auto* drawing = std::get_if<drawing::Drawing>(&result);
+    const auto drawing = svg::readFile(file);
     if (!drawing)
         return {};
     const auto pixels = [ratio](int length) { return static_cast<int>(std::ceil(length * ratio)); };

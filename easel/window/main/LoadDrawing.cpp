@@ -19,7 +19,7 @@ constexpr qint64 kFrame = 33;
 
 } // namespace
 
-svg::ReadResult loadDrawing(const QString& file, Interaction& interaction, QWidget* over) {
+files::Result<drawing::Drawing> loadDrawing(const QString& file, Interaction& interaction, QWidget* over) {
     const Waiting::Call call(interaction.waiting);
     const auto dialog =
         makeProgressDialog(QObject::tr("Opening %1 \u2026").arg(QFileInfo(file).fileName()), over);

@@ -11,6 +11,6 @@ namespace easel::window {
 struct Interaction;
 
 // What takes longer than half a second shows its progress and can be cancelled.
-svg::ReadResult loadDrawing(const QString& file, Interaction& interaction, QWidget* over);
+files::Result<drawing::Drawing> loadDrawing(const QString& file, Interaction& interaction, QWidget* over);
 
 } // namespace easel::window

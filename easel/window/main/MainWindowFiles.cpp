@@ -87,9 +87,9 @@ MainWindow::Saved MainWindow::saveAs() {
 }
 
 MainWindow::Saved MainWindow::saveTo(const QString& file) {
-    const auto failure = svg::saveFile(drawingWindow_.drawing(), QFile::encodeName(file).toStdString());
-    if (failure) {
-        tellProblem(failure->message, shared_.interaction.dialogs);
+    const auto saved = svg::saveFile(drawingWindow_.drawing(), QFile::encodeName(file).toStdString());
+    if (!saved) {
+        tellProblem(saved.error().message(), shared_.interaction.dialogs);
         drawingChanged();
         return Saved::No;
     }
@@ -135,14 +135,14 @@ void MainWindow::exportAs(const QString& suffix) {
     if (file.isEmpty())
         return;
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
-    files::FileOutcome error;
+    files::Result<> exported;
     workBeside(shared_.interaction, tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
                [&](const exports::Progress& progress) {
-                   error = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
+                   exported = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
                });
-    if (error && !exports::wasCancelled(*error))
-        tellProblem(error->message(), shared_.interaction.dialogs);
-    else if (!error)
+    if (!exported && !exported.error().isCancellation())
+        tellProblem(exported.error().message(), shared_.interaction.dialogs);
+    else if (exported)
         statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
 }
 

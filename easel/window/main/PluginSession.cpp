@@ -33,8 +33,8 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
 
 void PluginSession::load(const std::filesystem::path& module) {
     module_.emplace(module);
-    if (const files::FileOutcome outcome = runtime::openPluginResources(module_->resourceFolder()))
-        throw runtime::PluginError(outcome->message());
+    if (!module_->resources())
+        throw runtime::PluginError(module_->resources().error().message());
     module_->send(runtime::kStartUpMessage);
     for (const HostTool& tool : runtime::thePalette().tools())
         tools_.add(tool, iconOf(tool));

@@ -52,20 +52,25 @@ QImage pictureOf(const drawing::Drawing& drawing, double scale, const exports::P
     return image;
 }
 
-// The reason why there is no paper, or nothing.
-QString paintPage(const drawing::Drawing& drawing, const exports::PdfPage& page, const QImage& image,
-                  QPrinter& printer) {
+Printed notPrinted(Interaction& interaction, const QString& problem) {
+    tellProblem(problem.toStdString(), interaction.dialogs);
+    return Printed::No;
+}
+
+// Whether the printer could be started.
+bool paintPage(const drawing::Drawing& drawing, const exports::PdfPage& page, const QImage& image,
+               QPrinter& printer) {
     // Positions count from the paper's corner.
     printer.setFullPage(true);
     QPainter painter;
     if (!painter.begin(&printer))
-        return QObject::tr("The printer cannot be started.");
+        return false;
     const double dots = printer.resolution() / kPointsPerInch;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(page.left * dots, page.top * dots, drawing.width() * page.pointsAUnit * dots,
                              drawing.height() * page.pointsAUnit * dots),
                       image);
-    return {};
+    return true;
 }
 
 } // namespace
@@ -81,31 +86,27 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Interac
     const bool asPdf =
         printer.outputFormat() == QPrinter::PdfFormat && printer.colorMode() == QPrinter::Color;
     const std::filesystem::path file = QFile::encodeName(printer.outputFileName()).toStdString();
-    files::FileOutcome failure;
+    files::Result<> written;
     QImage image;
-    QString problem;
     try {
         workBeside(interaction, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
                    [&](const exports::Progress& progress) {
                        if (asPdf)
-                           failure = files::replaceFile(file, encodePdf(drawing, page, progress));
+                           written = files::replaceFile(file, encodePdf(drawing, page, progress));
                        else
                            image = pictureOf(drawing, page.pointsAUnit * kPrintResolution / kPointsPerInch,
                                              progress);
                    });
-        if (failure)
-            problem = QString::fromStdString(failure->message());
-        else if (!asPdf)
-            problem = paintPage(drawing, page, image, printer);
+        if (!written)
+            return notPrinted(interaction, QString::fromStdString(written.error().message()));
+        if (!asPdf && !paintPage(drawing, page, image, printer))
+            return notPrinted(interaction, QObject::tr("The printer cannot be started."));
     } catch (const exports::Cancelled&) {
         return Printed::Cancelled;
     } catch (const std::bad_alloc&) {
-        problem = QObject::tr("There is not enough memory to print this drawing.");
+        return notPrinted(interaction, QObject::tr("There is not enough memory to print this drawing."));
     }
-    if (problem.isEmpty())
-        return Printed::Yes;
-    tellProblem(problem.toStdString(), interaction.dialogs);
-    return Printed::No;
+    return Printed::Yes;
 }
 
 } // namespace easel::window

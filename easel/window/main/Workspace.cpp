@@ -56,20 +56,19 @@ void Workspace::openFile(const QString& file, QWidget* over) {
     std::optional<MainWindow::Awaiting> awaiting;
     if (place)
         awaiting.emplace(*place, file);
-    svg::ReadResult result = loadDrawing(file, shared_.interaction, over);
-    if (const auto* failure = std::get_if<svg::Failure>(&result)) {
-        if (failure->fault != svg::Fault::Cancelled)
-            tellProblem(failure->message, shared_.interaction.dialogs);
+    auto drawing = loadDrawing(file, shared_.interaction, over);
+    if (!drawing) {
+        if (!drawing.error().isCancellation())
+            tellProblem(drawing.error().message(), shared_.interaction.dialogs);
         if (!QFileInfo::exists(file))
             shared_.recentFiles.remove(file);
         return;
     }
-    auto& drawing = std::get<drawing::Drawing>(result);
     const QString path = QFileInfo(file).absoluteFilePath();
     if (place)
-        place->setDrawing(std::move(drawing), path);
+        place->setDrawing(std::move(*drawing), path);
     else
-        show(std::move(drawing), path);
+        show(std::move(*drawing), path);
     shared_.recentFiles.add(path);
 }
 

@@ -1,4 +1,5 @@
 #include "easel/classic/AppleDouble.h"
+#include "tests/support/ErrorOf.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -52,7 +53,7 @@ TEST(AppleDouble, ANewFileIsVersion2WithFinderInfoAndResourceFork) {
     EXPECT_EQ(numberAt<std::uint32_t>(bytes, 4), 0x00020000U);
     EXPECT_EQ(numberAt<std::uint16_t>(bytes, 24), 2U);
     EXPECT_EQ(std::string(bytes.begin() + 50, bytes.begin() + 58), "GTMP*Kst");
-    const auto back = std::get<AppleDouble>(AppleDouble::read(bytes));
+    const auto back = AppleDouble::read(bytes).value();
     EXPECT_EQ(back, file);
     EXPECT_EQ(back.finderInfo(), kInfo);
     EXPECT_EQ(Bytes(back.resourceFork().begin(), back.resourceFork().end()), (Bytes{1, 2, 3}));
@@ -62,8 +63,8 @@ TEST(AppleDouble, EntriesAreReadInAnyOrderInBothVersions) {
     for (const auto version : {AppleDouble::kVersion1, AppleDouble::kVersion2}) {
         const auto read = AppleDouble::read(
             handMade(version, {{2, "fork"}, {3, "Real Name"}, {9, kFinderEntry}}, "Macintosh       "));
-        ASSERT_TRUE(std::holds_alternative<AppleDouble>(read));
-        const auto& file = std::get<AppleDouble>(read);
+        ASSERT_TRUE(read);
+        const auto& file = read.value();
         EXPECT_EQ(file.version(), version);
         EXPECT_EQ(file.finderInfo(), kInfo);
         EXPECT_EQ(std::string(file.resourceFork().begin(), file.resourceFork().end()), "fork");
@@ -74,10 +75,10 @@ TEST(AppleDouble, UnknownEntriesAndTheRestOfTheFinderInfoAreKept) {
     const auto original = handMade(
         AppleDouble::kVersion1, {{0x8053567E, "private"}, {9, kFinderEntry + "attributes"}, {4, "a comment"}},
         "Macintosh       ");
-    auto file = std::get<AppleDouble>(AppleDouble::read(original));
+    auto file = AppleDouble::read(original).value();
     file.setFinderInfo({fourCharacters("TEXT"), fourCharacters("ttxt")});
     file.setResourceFork({9});
-    const auto back = std::get<AppleDouble>(AppleDouble::read(file.write()));
+    const auto back = AppleDouble::read(file.write()).value();
     EXPECT_EQ(back, file);
     ASSERT_EQ(back.entries().size(), 4U);
     EXPECT_EQ(back.entries()[0].data, Bytes({'p', 'r', 'i', 'v', 'a', 't', 'e'}));
@@ -89,8 +90,7 @@ TEST(AppleDouble, UnknownEntriesAndTheRestOfTheFinderInfoAreKept) {
 }
 
 TEST(AppleDouble, AFileWithoutTheseEntriesHasNoTypeAndNoFork) {
-    const auto file =
-        std::get<AppleDouble>(AppleDouble::read(handMade(AppleDouble::kVersion2, {}, "0123456789abcdef")));
+    const auto file = AppleDouble::read(handMade(AppleDouble::kVersion2, {}, "0123456789abcdef")).value();
     EXPECT_EQ(file.finderInfo(), FinderInfo{});
     EXPECT_TRUE(file.resourceFork().empty());
 }
@@ -100,10 +100,10 @@ TEST(AppleDouble, DamageIsNamed) {
     const auto damageWhen = [&](std::size_t offset, auto value) {
         auto bytes = whole;
         setNumber(bytes, offset, value);
-        return std::get<HeaderDamage>(AppleDouble::read(bytes));
+        return tests::errorOf(AppleDouble::read(bytes));
     };
-    EXPECT_EQ(std::get<HeaderDamage>(AppleDouble::read({})), HeaderDamage::TooShort);
-    EXPECT_EQ(std::get<HeaderDamage>(AppleDouble::read(ByteView(whole).first(49))), HeaderDamage::TooShort);
+    EXPECT_EQ(tests::errorOf(AppleDouble::read({})), HeaderDamage::TooShort);
+    EXPECT_EQ(tests::errorOf(AppleDouble::read(ByteView(whole).first(49))), HeaderDamage::TooShort);
     EXPECT_EQ(damageWhen(0, std::uint32_t{0x00051600}), HeaderDamage::NotAppleDouble);
     EXPECT_EQ(damageWhen(4, std::uint32_t{0x00030000}), HeaderDamage::UnknownVersion);
     EXPECT_EQ(damageWhen(24, std::uint16_t{0xFFFF}), HeaderDamage::TooShort);
@@ -114,7 +114,7 @@ TEST(AppleDouble, DamageIsNamed) {
         setNumber(sharing, at + 4, std::uint32_t{0});
         setNumber(sharing, at + 8, static_cast<std::uint32_t>(whole.size()));
     }
-    EXPECT_EQ(std::get<HeaderDamage>(AppleDouble::read(sharing)), HeaderDamage::EntriesOverlap);
+    EXPECT_EQ(tests::errorOf(AppleDouble::read(sharing)), HeaderDamage::EntriesOverlap);
 }
 
 TEST(AppleDouble, TheBeginningOfAFileTellsItsTypeOrHowMuchMoreToRead) {
@@ -143,7 +143,7 @@ TEST(AppleDouble, RandomDamageNeverReadsOutOfBounds) {
         bytes.resize(random() % (bytes.size() + 1));
         const auto place = findFinderInfo(bytes);
         const auto read = AppleDouble::read(bytes);
-        if (std::holds_alternative<AppleDouble>(read)) {
+        if (read) {
             EXPECT_NE(place.answer, FinderInfoPlace::Answer::NotAppleDouble);
         }
     }

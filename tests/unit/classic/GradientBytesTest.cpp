@@ -1,4 +1,5 @@
 #include "easel/classic/GradientBytes.h"
+#include "tests/support/ErrorOf.h"
 
 #include <bit>
 #include <gtest/gtest.h>
@@ -41,7 +42,7 @@ CGradientData sample() {
 }
 
 CGradientData readBack(const CGradientData& gradient) {
-    return std::get<CGradientData>(gradientFromBytes(*gradientToBytes(gradient)));
+    return gradientFromBytes(*gradientToBytes(gradient)).value();
 }
 
 std::uint32_t crc32(ByteView bytes) {
@@ -119,13 +120,13 @@ TEST(GradientBytes, EverySingleWrongBitIsNoticed) {
     for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
         auto bytes = whole;
         bytes[bit / 8] = static_cast<std::uint8_t>(bytes[bit / 8] ^ (1U << bit % 8));
-        EXPECT_TRUE(std::holds_alternative<GradientDamage>(gradientFromBytes(bytes))) << bit;
+        EXPECT_FALSE(gradientFromBytes(bytes)) << bit;
     }
 }
 
 TEST(GradientBytes, DamageIsNamed) {
     const auto whole = *gradientToBytes(sample());
-    const auto damageOf = [](ByteView bytes) { return std::get<GradientDamage>(gradientFromBytes(bytes)); };
+    const auto damageOf = [](ByteView bytes) { return tests::errorOf(gradientFromBytes(bytes)); };
     EXPECT_EQ(damageOf({}), GradientDamage::NotAGradient);
     auto later = whole;
     later[7] = 2;

@@ -20,10 +20,9 @@ constexpr FinderInfo kInfo{tests::kTemplateType, fourCharacters("*Kst")};
 class HostFilesTest : public testing::Test {
   protected:
     HostFilesTest()
-        : files_(StoragePlaces::within(base_ / "prefs"),
-                 [this](const FileError& e) { failures_.push_back(e); }) {
+        : files_(StoragePlaces::within(base_ / "prefs"), [this](const Error& e) { failures_.push_back(e); }) {
         const auto found = files_.findSecondaryFolder("Templates", FolderCreation::IfMissing);
-        EXPECT_FALSE(found.failure);
+        EXPECT_TRUE(found.usable);
         EXPECT_EQ(files_.resolve(found.spec.volume, found.spec.folder, ":Templates:JUNK", placeholder_),
                   FileResult::NoSuchFile);
     }
@@ -50,13 +49,13 @@ class HostFilesTest : public testing::Test {
         const auto spec = specOf(name);
         files_.remove(spec);
         files_.create(spec, kInfo);
-        auto opened = std::get<OpenedFile>(files_.open(spec, Access::Write));
+        auto opened = files_.open(spec, Access::Write).value();
         opened.header = tests::headerWith(content);
-        EXPECT_FALSE(files_.write(opened));
+        EXPECT_TRUE(files_.write(opened));
     }
 
     tests::TemporaryFolder base_;
-    std::vector<FileError> failures_;
+    std::vector<Error> failures_;
     HostFiles files_;
     FileSpec placeholder_;
 };
@@ -101,7 +100,7 @@ TEST_F(HostFilesTest, UnknownVolumesAndFoldersHaveTheirOwnResults) {
     EXPECT_EQ(files_.resolve(placeholder_.volume, 2, ":..:x", spec), FileResult::BadName);
     EXPECT_EQ(files_.remove(FileSpec{}), FileResult::BadName);
     EXPECT_EQ(files_.create(FileSpec{}, kInfo), FileResult::BadName);
-    EXPECT_TRUE(std::holds_alternative<FileError>(files_.open(FileSpec{}, Access::Write)));
+    EXPECT_FALSE(files_.open(FileSpec{}, Access::Write));
     EXPECT_TRUE(files_.list(0, 0).empty());
 }
 
@@ -115,7 +114,7 @@ TEST_F(HostFilesTest, ListingsHoldEveryFileOfTheTypeWhateverItsNameInAlphabetica
     writeContent(folder() / "._no data.GRD", "");
     fs::create_directory(folder() / "folder.GRD");
     EXPECT_THAT(listed(),
-                ElementsAre("Apple.GRD", toMacRoman("Caf\u00E9.GRD").text, "no ending", "zebra.GRD"));
+                ElementsAre("Apple.GRD", toMacRoman("Caf\u00E9.GRD").value(), "no ending", "zebra.GRD"));
     EXPECT_EQ(files_.list(placeholder_.volume, placeholder_.folder).size(), 6U);
 }
 
@@ -136,7 +135,7 @@ TEST_F(HostFilesTest, ATemplateWhoseHeaderFileIsDamagedIsListed) {
 
 TEST_F(HostFilesTest, AFileWithADecomposedNameIsFoundUnderTheComposedOne) {
     dropFile(folder(), "Cafe\u0301.GRD", "old");
-    const auto name = toMacRoman("Caf\u00E9.GRD").text;
+    const auto name = toMacRoman("Caf\u00E9.GRD").value();
     EXPECT_EQ(resolve(name), FileResult::Done);
     save(name, "new");
     EXPECT_EQ(keptIn(folder(), "Cafe\u0301.GRD"), "new");
@@ -150,10 +149,10 @@ TEST_F(HostFilesTest, DeletingAndMakingAFileIsOneChangeOnDisk) {
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "old");
     EXPECT_EQ(files_.create(spec, kInfo), FileResult::Done);
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "old");
-    auto opened = std::get<OpenedFile>(files_.open(spec, Access::Write));
+    auto opened = files_.open(spec, Access::Write).value();
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "old");
     opened.header = tests::headerWith("new");
-    EXPECT_FALSE(files_.write(opened));
+    EXPECT_TRUE(files_.write(opened));
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "new");
     EXPECT_EQ(keptIn(base_ / "prefs/Trash/files", "a.GRD"), "old");
 }
@@ -176,7 +175,7 @@ TEST_F(HostFilesTest, AFileThatIsMadeAndNeverOpenedIsThereWithoutResources) {
     EXPECT_THAT(listed(), ElementsAre("a.GRD"));
     EXPECT_EQ(files_.create(specOf("a.GRD"), kInfo), FileResult::AlreadyExists);
     const auto opened = files_.open(specOf("a.GRD"), Access::Read);
-    EXPECT_TRUE(std::get<OpenedFile>(opened).header.resourceFork().empty());
+    EXPECT_TRUE(opened.value().header.resourceFork().empty());
 }
 
 TEST_F(HostFilesTest, AChangeThatFailsLaterIsReported) {
@@ -198,12 +197,12 @@ TEST_F(HostFilesTest, AFolderThatVanishedIsMadeAgainByTheNextSave) {
 TEST_F(HostFilesTest, AFolderThatCannotBeMadeIsAFailureThatNamesIt) {
     writeContent(base_ / "prefs/Blocked", "a file");
     const auto found = files_.findSecondaryFolder("Blocked", FolderCreation::IfMissing);
-    ASSERT_TRUE(found.failure);
-    EXPECT_EQ(found.failure->file, base_ / "prefs/Blocked");
+    ASSERT_FALSE(found.usable);
+    EXPECT_EQ(found.usable.error().file, base_ / "prefs/Blocked");
     FileSpec spec;
     EXPECT_EQ(files_.resolve(found.spec.volume, found.spec.folder, ":Blocked:JUNK", spec),
               FileResult::NoSuchFolder);
-    EXPECT_TRUE(files_.findSecondaryFolder("../outside", FolderCreation::Never).failure);
+    EXPECT_FALSE(files_.findSecondaryFolder("../outside", FolderCreation::Never).usable);
     EXPECT_FALSE(fs::exists(base_ / "outside"));
 }
 
@@ -214,7 +213,7 @@ TEST_F(HostFilesTest, WhatACrashLeftIsClearedWhenTheFolderIsFoundNextTime) {
 }
 
 TEST_F(HostFilesTest, OfTwoProgramsOnOneFolderTheLaterSaveWinsAndBothSeeIt) {
-    HostFiles other(StoragePlaces::within(base_ / "prefs"), [](const FileError&) {});
+    HostFiles other(StoragePlaces::within(base_ / "prefs"), [](const Error&) {});
     other.findSecondaryFolder("Templates", FolderCreation::IfMissing);
     FileSpec placeholder;
     other.resolve(-1, 2, ":Templates:JUNK", placeholder);
@@ -223,11 +222,11 @@ TEST_F(HostFilesTest, OfTwoProgramsOnOneFolderTheLaterSaveWinsAndBothSeeIt) {
     save("a", "first");
     other.remove(spec);
     other.create(spec, kInfo);
-    auto opened = std::get<OpenedFile>(other.open(spec, Access::Write));
+    auto opened = other.open(spec, Access::Write).value();
     opened.header = tests::headerWith("the other's");
     save("a", "second");
     EXPECT_EQ(keptIn(folder(), "a"), "second");
-    EXPECT_FALSE(other.write(opened));
+    EXPECT_TRUE(other.write(opened));
     EXPECT_EQ(keptIn(folder(), "a"), "the other's");
     EXPECT_THAT(listed(), ElementsAre("a"));
     EXPECT_EQ(other.list(placeholder.volume, placeholder.folder).size(), 1U);

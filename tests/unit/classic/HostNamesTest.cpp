@@ -8,7 +8,7 @@ using namespace easel::classic;
 namespace {
 
 std::string mac(std::string_view utf8) {
-    return toMacRoman(utf8).text;
+    return toMacRoman(utf8).value();
 }
 
 TEST(HostNames, ASlashIsALetterAndBecomesAColonOnDisk) {

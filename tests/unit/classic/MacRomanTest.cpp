@@ -1,4 +1,5 @@
 #include "easel/classic/MacRoman.h"
+#include "tests/support/ErrorOf.h"
 
 #include <gtest/gtest.h>
 #include <iconv.h>
@@ -7,6 +8,8 @@
 using namespace easel::classic;
 
 namespace {
+
+using Kind = EncodingError::Kind;
 
 std::string iconvFromMacRoman(std::string bytes) {
     const iconv_t converter = iconv_open("UTF-8", "MACINTOSH");
@@ -25,8 +28,8 @@ TEST(MacRoman, EveryByteSurvivesTheWayThereAndBack) {
     for (int byte = 0; byte < 256; ++byte) {
         const std::string text(1, static_cast<char>(byte));
         const auto back = toMacRoman(fromMacRoman(text));
-        EXPECT_EQ(back.outcome, EncodingOutcome::Converted) << byte;
-        EXPECT_EQ(back.text, text) << byte;
+        ASSERT_TRUE(back) << byte;
+        EXPECT_EQ(*back, text) << byte;
     }
 }
 
@@ -44,25 +47,24 @@ TEST(MacRoman, AgreesWithTheSystemsTable) {
 }
 
 TEST(MacRoman, DecomposedTextBecomesTheComposedCharacter) {
-    EXPECT_EQ(toMacRoman("Cafe\u0301").text, toMacRoman("Caf\u00E9").text);
-    EXPECT_EQ(fromMacRoman(toMacRoman("A\u030Angstro\u0308m").text), "\u00C5ngstr\u00F6m");
-    EXPECT_EQ(toMacRoman("\u212B\u2126").text, toMacRoman("\u00C5\u03A9").text);
+    EXPECT_EQ(toMacRoman("Cafe\u0301").value(), toMacRoman("Caf\u00E9").value());
+    EXPECT_EQ(fromMacRoman(toMacRoman("A\u030Angstro\u0308m").value()), "\u00C5ngstr\u00F6m");
+    EXPECT_EQ(toMacRoman("\u212B\u2126").value(), toMacRoman("\u00C5\u03A9").value());
 }
 
 TEST(MacRoman, ACharacterItLacksIsNamedAndNothingIsMangled) {
-    const auto result = toMacRoman("Sunset \u65E5");
-    EXPECT_EQ(result.outcome, EncodingOutcome::NotInEncoding);
-    EXPECT_EQ(result.culprit, "\u65E5");
-    EXPECT_EQ(result.text, "");
-    EXPECT_EQ(toMacRoman("x\u0301").outcome, EncodingOutcome::NotInEncoding);
-    EXPECT_EQ(toMacRoman("\u0301").outcome, EncodingOutcome::NotInEncoding);
-    EXPECT_EQ(toMacRoman("\xF0\x9F\x8E\xA8").culprit, "\xF0\x9F\x8E\xA8");
+    const auto error = tests::errorOf(toMacRoman("Sunset \u65E5"));
+    EXPECT_EQ(error.kind, Kind::NotInEncoding);
+    EXPECT_EQ(error.culprit, "\u65E5");
+    EXPECT_EQ(tests::errorOf(toMacRoman("x\u0301")).kind, Kind::NotInEncoding);
+    EXPECT_EQ(tests::errorOf(toMacRoman("\u0301")).kind, Kind::NotInEncoding);
+    EXPECT_EQ(tests::errorOf(toMacRoman("\xF0\x9F\x8E\xA8")).culprit, "\xF0\x9F\x8E\xA8");
 }
 
 TEST(MacRoman, MalformedUtf8IsRefused) {
     for (const char* bytes : {"\xFF", "\xC0\x80", "\xC3", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80",
                               "a\x80", "\xC1\xBF", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xF5\x80\x80\x80"})
-        EXPECT_EQ(toMacRoman(bytes).outcome, EncodingOutcome::NotUtf8) << bytes;
+        EXPECT_EQ(tests::errorOf(toMacRoman(bytes)).kind, Kind::NotUtf8) << bytes;
 }
 
 } // namespace

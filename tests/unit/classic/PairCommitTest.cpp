@@ -30,7 +30,7 @@ class PairCommit : public testing::Test {
 };
 
 TEST_F(PairCommit, ANewFileHasAnEmptyDataForkAndItsHeaderAndNothingElse) {
-    EXPECT_FALSE(writePair(pair("a.GRD"), headerWith("new"), trash_));
+    EXPECT_TRUE(writePair(pair("a.GRD"), headerWith("new"), trash_));
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "new");
     EXPECT_EQ(contentOf(folder() / "a.GRD"), "");
     EXPECT_EQ(tests::entriesIn(folder()), 2U);
@@ -39,7 +39,7 @@ TEST_F(PairCommit, ANewFileHasAnEmptyDataForkAndItsHeaderAndNothingElse) {
 
 TEST_F(PairCommit, AReplacedFileLiesInTheTrashAsAWhole) {
     dropFile(folder(), "a.GRD", "old", tests::kTemplateType, "data");
-    EXPECT_FALSE(writePair(pair("a.GRD"), headerWith("new"), trash_));
+    EXPECT_TRUE(writePair(pair("a.GRD"), headerWith("new"), trash_));
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "new");
     EXPECT_EQ(contentOf(folder() / "a.GRD"), "");
     EXPECT_EQ(tests::entriesIn(folder()), 2U);
@@ -51,18 +51,18 @@ TEST_F(PairCommit, AReplacedFileLiesInTheTrashAsAWhole) {
 TEST_F(PairCommit, ADeletedFileLiesInTheTrashAsAWhole) {
     dropFile(folder(), "a.GRD", "old", tests::kTemplateType, "data");
     dropFile(folder(), "b.GRD", "other");
-    EXPECT_FALSE(trashPair(pair("a.GRD"), trash_));
+    EXPECT_TRUE(trashPair(pair("a.GRD"), trash_));
     EXPECT_EQ(tests::entriesIn(folder()), 2U);
     EXPECT_EQ(keptIn(trashFiles(), "a.GRD"), "old");
     EXPECT_EQ(contentOf(trashFiles() / "a.GRD"), "data");
-    EXPECT_TRUE(trashPair(pair("none"), trash_));
+    EXPECT_FALSE(trashPair(pair("none"), trash_));
 }
 
 TEST_F(PairCommit, WithoutATrashNothingIsReplacedOrDeleted) {
     writeContent(base_ / "Trash", "in the way");
     dropFile(folder(), "a.GRD", "old");
-    EXPECT_TRUE(writePair(pair("a.GRD"), headerWith("new"), trash_));
-    EXPECT_TRUE(trashPair(pair("a.GRD"), trash_));
+    EXPECT_FALSE(writePair(pair("a.GRD"), headerWith("new"), trash_));
+    EXPECT_FALSE(trashPair(pair("a.GRD"), trash_));
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "old");
     EXPECT_EQ(tests::entriesIn(folder()), 2U) << "a temporary file was left";
 }
@@ -70,7 +70,7 @@ TEST_F(PairCommit, WithoutATrashNothingIsReplacedOrDeleted) {
 TEST_F(PairCommit, AHeaderFileThatLostItsDataForkIsKeptInTheTrash) {
     dropFile(folder(), "a.GRD", "lost");
     fs::remove(folder() / "a.GRD");
-    EXPECT_FALSE(writePair(pair("a.GRD"), headerWith("new"), trash_));
+    EXPECT_TRUE(writePair(pair("a.GRD"), headerWith("new"), trash_));
     EXPECT_EQ(keptIn(folder(), "a.GRD"), "new");
     EXPECT_TRUE(fs::exists(trashFiles() / "._a.GRD"));
 }

@@ -36,11 +36,10 @@ inline std::string keptIn(const std::filesystem::path& folder, const std::string
         return "none";
     const auto bytes = contentOf(folder / ("._" + name));
     const auto header = AppleDouble::read(viewOf(bytes));
-    if (!std::holds_alternative<AppleDouble>(header))
+    if (!header)
         return "damaged";
-    const auto fork = ResourceFork::read(std::get<AppleDouble>(header).resourceFork());
-    const auto* const resources = std::get_if<ResourceFork>(&fork);
-    const auto* const resource = resources ? resources->find(kResourceType, 0) : nullptr;
+    const auto fork = ResourceFork::read(header->resourceFork());
+    const auto* const resource = fork ? fork->find(kResourceType, 0) : nullptr;
     return resource ? std::string(resource->data.begin(), resource->data.end()) : "damaged";
 }
 

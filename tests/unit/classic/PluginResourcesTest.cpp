@@ -1,4 +1,5 @@
 #include "easel/classic/PluginResources.h"
+#include "tests/support/ErrorOf.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -8,21 +9,20 @@ using namespace easel::files;
 
 namespace {
 
-OrFileError<PluginResources> parse(const std::string& inner) {
+Result<PluginResources> parse(const std::string& inner) {
     return PluginResources::parse("<resources>" + inner + "</resources>", "/plug/In/In.xml");
 }
 
 PluginResources parsed(const std::string& inner) {
     const auto result = parse(inner);
-    if (const auto* error = std::get_if<FileError>(&result))
-        ADD_FAILURE() << error->message();
-    return std::get<PluginResources>(result);
+    if (!result)
+        ADD_FAILURE() << result.error().message();
+    return result.value();
 }
 
 std::string refusal(const std::string& inner) {
     const auto result = parse(inner);
-    const auto* const error = std::get_if<FileError>(&result);
-    return error ? error->message() : "accepted";
+    return result ? "accepted" : result.error().message();
 }
 
 TEST(PluginResources, StringsCountFromOneAndAreTrimmed) {
@@ -106,7 +106,7 @@ TEST(PluginResources, WhatIsWrongIsNamedWithTheFileAndTheElement) {
 
 TEST(PluginResources, AFileThatIsNoResourceFileIsRefused) {
     const auto reasonFor = [](std::string_view xml) {
-        return std::get<FileError>(PluginResources::parse(xml, "f.xml")).reason;
+        return tests::errorOf(PluginResources::parse(xml, "f.xml")).reason;
     };
     EXPECT_NE(reasonFor("").find("XML"), std::string::npos);
     EXPECT_NE(reasonFor("<resources>").find("XML"), std::string::npos);
@@ -116,11 +116,11 @@ TEST(PluginResources, AFileThatIsNoResourceFileIsRefused) {
 TEST(PluginResources, TheFileHasTheNameOfItsFolder) {
     const tests::TemporaryFolder folder;
     const auto missing = PluginResources::read(folder / "Tool");
-    EXPECT_EQ(std::get<FileError>(missing).file, folder / "Tool/Tool.xml");
+    EXPECT_EQ(tests::errorOf(missing).file, folder / "Tool/Tool.xml");
     tests::writeContent(folder / "Tool/Tool.xml", "<resources><icon id='1' file='a.svg'/></resources>");
     const auto found = PluginResources::read(folder / "Tool");
-    ASSERT_TRUE(std::holds_alternative<PluginResources>(found));
-    EXPECT_EQ(std::get<PluginResources>(found).icon(1)->file, folder / "Tool/a.svg");
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found.value().icon(1)->file, folder / "Tool/a.svg");
 }
 
 } // namespace

@@ -11,18 +11,20 @@ using testing::IsEmpty;
 namespace {
 
 ImportedGradient imported(const std::string& text) {
-    const auto outcome = readCss(text);
-    if (const auto* none = std::get_if<NoGradient>(&outcome)) {
-        ADD_FAILURE() << text << ": " << none->reason;
+    const auto outcome = readCss(text, "test.css");
+    if (!outcome) {
+        ADD_FAILURE() << text << ": " << outcome.error().reason;
         return {};
     }
-    return std::get<ImportedGradient>(outcome);
+    return outcome.value();
 }
 
 std::string refusal(const std::string& text) {
-    const auto outcome = readCss(text);
-    const auto* const none = std::get_if<NoGradient>(&outcome);
-    return none ? none->reason : "accepted";
+    const auto outcome = readCss(text, "test.css");
+    if (outcome)
+        return "accepted";
+    EXPECT_EQ(outcome.error().file, "test.css");
+    return outcome.error().reason;
 }
 
 std::vector<double> positionsIn(const std::string& text) {

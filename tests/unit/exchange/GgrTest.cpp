@@ -15,18 +15,20 @@ std::string file(const std::string& segments, int count = 1) {
 }
 
 ImportedGradient imported(const std::string& text) {
-    const auto outcome = readGgr(text);
-    if (const auto* none = std::get_if<NoGradient>(&outcome)) {
-        ADD_FAILURE() << none->reason;
+    const auto outcome = readGgr(text, "test.ggr");
+    if (!outcome) {
+        ADD_FAILURE() << outcome.error().reason;
         return {};
     }
-    return std::get<ImportedGradient>(outcome);
+    return outcome.value();
 }
 
 std::string refusal(const std::string& text) {
-    const auto outcome = readGgr(text);
-    const auto* const none = std::get_if<NoGradient>(&outcome);
-    return none ? none->reason : "accepted";
+    const auto outcome = readGgr(text, "test.ggr");
+    if (outcome)
+        return "accepted";
+    EXPECT_EQ(outcome.error().file, "test.ggr");
+    return outcome.error().reason;
 }
 
 // The red channel of the ramp in 8-bit levels, as it is painted.

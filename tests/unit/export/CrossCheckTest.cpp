@@ -39,10 +39,10 @@ std::filesystem::path fileOf(const std::string& name) {
     return std::filesystem::path(TEST_DATA_DIR "/drawings") / (name + ".svg");
 }
 
-Drawing opened(easel::svg::ReadResult result) {
-    if (const auto* failure = std::get_if<easel::svg::Failure>(&result))
-        throw std::runtime_error(failure->message);
-    return std::get<Drawing>(std::move(result));
+Drawing opened(easel::files::Result<Drawing> result) {
+    if (!result)
+        throw std::runtime_error(result.error().message());
+    return std::move(*result);
 }
 
 Surface ours(const Drawing& drawing) {

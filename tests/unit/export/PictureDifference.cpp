@@ -70,9 +70,10 @@ std::string writePictures(const std::string& name, const Surface& one, const Sur
     std::filesystem::create_directories(folder);
     std::string problems;
     const auto write = [&](const char* which, const Surface& picture) {
-        if (const auto error = easel::exports::writePng(folder / (name + "-" + which + ".png"),
-                                                        easel::exports::rowsOf(picture)))
-            problems += error->message() + "\n";
+        const auto written =
+            easel::exports::writePng(folder / (name + "-" + which + ".png"), easel::exports::rowsOf(picture));
+        if (!written)
+            problems += written.error().message() + "\n";
     };
     write("one", one);
     write("other", other);

@@ -1,6 +1,8 @@
 // Unpacking gzip against what the gzip program makes, and against damage.
 #include "easel/files/Gzip.h"
 
+#include "tests/support/ErrorOf.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -24,16 +26,12 @@ const std::string kHello = fromHex("1f8b0800000000000203cb48cdc9c957c840905c003b
 
 std::string textOf(const std::string& bytes, std::uintmax_t limit = kLimit) {
     const auto result = unpackedGzip(bytes, limit);
-    const auto* const text = std::get_if<std::string>(&result);
-    EXPECT_TRUE(text);
-    return text ? *text : std::string();
+    EXPECT_TRUE(result);
+    return result.value_or("");
 }
 
 GzipFault faultOf(const std::string& bytes, std::uintmax_t limit = kLimit) {
-    const auto result = unpackedGzip(bytes, limit);
-    const auto* const fault = std::get_if<GzipFault>(&result);
-    EXPECT_TRUE(fault);
-    return fault ? *fault : GzipFault{};
+    return tests::errorOf(unpackedGzip(bytes, limit));
 }
 
 TEST(Gzip, UnpacksWhatTheGzipProgramPacked) {

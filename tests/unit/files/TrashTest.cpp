@@ -16,7 +16,7 @@ TEST(Trash, AFileMovesThereWithANoteOfWhereItWas) {
     const tests::TemporaryFolder folder;
     const auto file = folder / "my d\u00E9cor%.txt";
     writeContent(file, "kept");
-    EXPECT_FALSE(Trash(folder / "Trash").move(file));
+    EXPECT_TRUE(Trash(folder / "Trash").move(file));
     EXPECT_FALSE(fs::exists(file));
     EXPECT_EQ(contentOf(folder / "Trash/files/my d\u00E9cor%.txt"), "kept");
     const auto note = contentOf(folder / "Trash/info/my d\u00E9cor%.txt.trashinfo");
@@ -28,7 +28,7 @@ TEST(Trash, AFileMovesThereWithANoteOfWhereItWas) {
 TEST(Trash, TheTrashIsForItsOwnerOnly) {
     const tests::TemporaryFolder folder;
     writeContent(folder / "a", "1");
-    EXPECT_FALSE(Trash(folder / "data/Trash").move(folder / "a"));
+    EXPECT_TRUE(Trash(folder / "data/Trash").move(folder / "a"));
     for (const char* name : {"data/Trash", "data/Trash/files", "data/Trash/info"})
         EXPECT_EQ(fs::status(folder / name).permissions(), fs::perms::owner_all) << name;
 }
@@ -38,7 +38,7 @@ TEST(Trash, FilesOfOneNameGetNumbersAndNoneIsLost) {
     const Trash trash(folder / "Trash");
     for (const char* content : {"1", "2", "3"}) {
         writeContent(folder / "Sunset.GRD", content);
-        EXPECT_FALSE(trash.move(folder / "Sunset.GRD"));
+        EXPECT_TRUE(trash.move(folder / "Sunset.GRD"));
     }
     EXPECT_EQ(contentOf(folder / "Trash/files/Sunset.GRD"), "1");
     EXPECT_EQ(contentOf(folder / "Trash/files/Sunset.2.GRD"), "2");
@@ -51,10 +51,9 @@ TEST(Trash, FilesThatBelongTogetherGetTheSameNumber) {
     writeContent(folder / "Trash/files/._Sunset.GRD", "someone else's");
     const std::vector<fs::path> pair{folder / "Sunset.GRD", folder / "._Sunset.GRD"};
     auto place = Trash(folder / "Trash").reserve(pair);
-    ASSERT_TRUE(std::holds_alternative<TrashPlace>(place));
-    EXPECT_EQ(
-        std::get<TrashPlace>(place).files(),
-        (std::vector<fs::path>{folder / "Trash/files/Sunset.2.GRD", folder / "Trash/files/._Sunset.2.GRD"}));
+    ASSERT_TRUE(place);
+    EXPECT_EQ(place.value().files(), (std::vector<fs::path>{folder / "Trash/files/Sunset.2.GRD",
+                                                            folder / "Trash/files/._Sunset.2.GRD"}));
 }
 
 TEST(Trash, APlaceThatIsNotKeptLeavesNothing) {
@@ -62,8 +61,8 @@ TEST(Trash, APlaceThatIsNotKeptLeavesNothing) {
     writeContent(folder / "a", "1");
     {
         auto place = Trash(folder / "Trash").reserve(std::vector<fs::path>{folder / "a"});
-        ASSERT_TRUE(std::holds_alternative<TrashPlace>(place));
-        EXPECT_FALSE(linkOrCopy(folder / "a", std::get<TrashPlace>(place).files().front()));
+        ASSERT_TRUE(place);
+        EXPECT_TRUE(linkOrCopy(folder / "a", place.value().files().front()));
         EXPECT_EQ(tests::entriesIn(folder / "Trash/files"), 1U);
     }
     EXPECT_EQ(tests::entriesIn(folder / "Trash/files"), 0U);
@@ -75,9 +74,9 @@ TEST(Trash, AFileThatCannotBeMovedStays) {
     const tests::TemporaryFolder folder;
     writeContent(folder / "a", "1");
     writeContent(folder / "Trash", "a file where the trash should be");
-    EXPECT_TRUE(Trash(folder / "Trash").move(folder / "a"));
+    EXPECT_FALSE(Trash(folder / "Trash").move(folder / "a"));
     EXPECT_EQ(contentOf(folder / "a"), "1");
-    EXPECT_TRUE(Trash(folder / "T").move(folder / "none"));
+    EXPECT_FALSE(Trash(folder / "T").move(folder / "none"));
     EXPECT_EQ(tests::entriesIn(folder / "T/info"), 0U);
 }
 
@@ -93,7 +92,7 @@ TEST(Trash, AFileOnAnotherDeviceGoesToATrashThatTakesIt) {
         GTEST_SKIP() << "this machine has no second device to write on";
     const std::string name = "easel-test-" + std::to_string(::getpid());
     writeContent("/dev/shm/" + name, "far");
-    EXPECT_FALSE(Trash(folder / "Trash").move("/dev/shm/" + name));
+    EXPECT_TRUE(Trash(folder / "Trash").move("/dev/shm/" + name));
     EXPECT_FALSE(fs::exists("/dev/shm/" + name));
     const auto trash = fs::path("/dev/shm/.Trash-" + std::to_string(::getuid()));
     EXPECT_EQ(contentOf(trash / "files" / name), "far");

@@ -20,8 +20,8 @@ class EditorStage {
         easel::runtime::theHost().user = &user;
         const std::filesystem::path resources = folder_ / "Gradient";
         std::filesystem::copy(std::filesystem::path(SOURCE_DIR) / "Gradient" / "resources", resources);
-        const auto error = easel::runtime::openPluginResources(resources);
-        EXPECT_FALSE(error) << error->message();
+        const auto opened = easel::runtime::openPluginResources(resources);
+        EXPECT_TRUE(opened) << opened.error().message();
     }
     EditorStage(const EditorStage&) = delete;
     EditorStage& operator=(const EditorStage&) = delete;

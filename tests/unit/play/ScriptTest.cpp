@@ -3,6 +3,7 @@
 #include "easel/play/Arguments.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Steps.h"
+#include "tests/support/ErrorOf.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -80,15 +81,15 @@ TEST(Steps, EndWithTheFirstFailure) {
     steps.fail(1, "first");
     steps.fail(2, "second");
     EXPECT_FALSE(steps.next());
-    EXPECT_EQ(steps.failure()->line, 1u);
-    EXPECT_EQ(steps.failure()->reason, "first");
+    EXPECT_EQ(tests::errorOf(steps.outcome()).line, 1u);
+    EXPECT_EQ(tests::errorOf(steps.outcome()).reason, "first");
 }
 
 TEST(Steps, FailAtALineThatCannotBeRead) {
     Steps steps("one\ndrag 1\n");
     EXPECT_TRUE(steps.next());
     EXPECT_FALSE(steps.next());
-    EXPECT_EQ(steps.failure()->line, 2u);
+    EXPECT_EQ(tests::errorOf(steps.outcome()).line, 2u);
 }
 
 TEST(Arguments, ReadNumbersWhole) {

@@ -28,8 +28,8 @@ class DialogResourcesTest : public testing::Test {
     DialogResourcesTest() {
         std::filesystem::create_directories(folder_);
         std::ofstream(folder_ / "Test.xml") << kResources;
-        const auto error = openPluginResources(folder_);
-        EXPECT_FALSE(error) << error->message();
+        const auto opened = openPluginResources(folder_);
+        EXPECT_TRUE(opened) << opened.error().message();
     }
     ~DialogResourcesTest() override {
         closePluginResources();

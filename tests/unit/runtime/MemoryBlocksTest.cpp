@@ -1,4 +1,5 @@
 #include "easel/runtime/MemoryBlocks.h"
+#include "tests/support/ErrorOf.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -20,7 +21,7 @@ TEST(MemoryBlocks, ANewBlockHoldsItsSizeInZeroBytes) {
     ASSERT_NE(block, nullptr);
     EXPECT_EQ(blocks.size(block), 70U);
     EXPECT_EQ(std::vector<char>(*block, *block + 70), std::vector<char>(70));
-    EXPECT_EQ(blocks.dispose(block), BlockOutcome::Done);
+    EXPECT_TRUE(blocks.dispose(block));
     EXPECT_EQ(blocks.live(), 0U);
 }
 
@@ -36,22 +37,22 @@ TEST(MemoryBlocks, ResizingKeepsTheBytes) {
     MemoryBlocks blocks;
     char** const block = blocks.create(3);
     std::memcpy(*block, "abc", 3);
-    EXPECT_EQ(blocks.resize(block, 100'000), BlockOutcome::Done);
+    EXPECT_TRUE(blocks.resize(block, 100'000));
     EXPECT_EQ(std::memcmp(*block, "abc\0", 4), 0);
-    EXPECT_EQ(blocks.resize(block, 2), BlockOutcome::Done);
-    EXPECT_EQ(blocks.resize(block, 3), BlockOutcome::Done);
+    EXPECT_TRUE(blocks.resize(block, 2));
+    EXPECT_TRUE(blocks.resize(block, 3));
     EXPECT_EQ(std::memcmp(*block, "ab\0", 3), 0);
 }
 
 TEST(MemoryBlocks, AppendingKeepsTheBytesAndAddsOthers) {
     MemoryBlocks blocks;
     char** const block = blocks.create(0);
-    EXPECT_EQ(blocks.append(block, std::string("ab")), BlockOutcome::Done);
-    EXPECT_EQ(blocks.append(block, {}), BlockOutcome::Done);
-    EXPECT_EQ(blocks.append(block, std::string("cde")), BlockOutcome::Done);
+    EXPECT_TRUE(blocks.append(block, std::string("ab")));
+    EXPECT_TRUE(blocks.append(block, {}));
+    EXPECT_TRUE(blocks.append(block, std::string("cde")));
     EXPECT_EQ(blocks.size(block), 5U);
     EXPECT_EQ(std::memcmp(*block, "abcde", 5), 0);
-    EXPECT_EQ(blocks.append(nullptr, {}), BlockOutcome::NotABlock);
+    EXPECT_EQ(tests::errorOf(blocks.append(nullptr, {})), BlockError::NotABlock);
 }
 
 TEST(MemoryBlocks, ALockedBlockStaysInPlace) {
@@ -59,23 +60,23 @@ TEST(MemoryBlocks, ALockedBlockStaysInPlace) {
     char** const block = blocks.create(64);
     blocks.lock(block);
     const char* const place = *block;
-    EXPECT_EQ(blocks.resize(block, 1 << 20), BlockOutcome::Locked);
+    EXPECT_EQ(tests::errorOf(blocks.resize(block, 1 << 20)), BlockError::Locked);
     const std::string more(1 << 20, 'x');
-    EXPECT_EQ(blocks.append(block, more), BlockOutcome::Locked);
+    EXPECT_EQ(tests::errorOf(blocks.append(block, more)), BlockError::Locked);
     EXPECT_EQ(blocks.size(block), 64U);
-    EXPECT_EQ(blocks.resize(block, 10), BlockOutcome::Done);
+    EXPECT_TRUE(blocks.resize(block, 10));
     EXPECT_EQ(*block, place);
     blocks.unlock(block);
-    EXPECT_EQ(blocks.resize(block, 1 << 20), BlockOutcome::Done);
+    EXPECT_TRUE(blocks.resize(block, 1 << 20));
 }
 
 TEST(MemoryBlocks, MisuseIsCaughtAndCounted) {
     MemoryBlocks blocks;
     char** const block = blocks.create(8);
-    EXPECT_EQ(blocks.dispose(block), BlockOutcome::Done);
-    EXPECT_EQ(blocks.dispose(block), BlockOutcome::NotABlock);
-    EXPECT_EQ(blocks.lock(block), BlockOutcome::NotABlock);
-    EXPECT_EQ(blocks.resize(nullptr, 1), BlockOutcome::NotABlock);
+    EXPECT_TRUE(blocks.dispose(block));
+    EXPECT_EQ(tests::errorOf(blocks.dispose(block)), BlockError::NotABlock);
+    EXPECT_EQ(tests::errorOf(blocks.lock(block)), BlockError::NotABlock);
+    EXPECT_EQ(tests::errorOf(blocks.resize(nullptr, 1)), BlockError::NotABlock);
     char* stray = nullptr;
     EXPECT_EQ(blocks.size(&stray), std::nullopt);
     EXPECT_EQ(blocks.misuses(), 4U);
@@ -87,7 +88,7 @@ TEST(MemoryBlocks, AnImpossibleSizeIsRefusedAndTheBlockKept) {
     EXPECT_EQ(blocks.create(kTooLarge), nullptr);
     char** const block = blocks.create(5);
     std::memcpy(*block, "hello", 5);
-    EXPECT_EQ(blocks.resize(block, kTooLarge), BlockOutcome::NoMemory);
+    EXPECT_EQ(tests::errorOf(blocks.resize(block, kTooLarge)), BlockError::NoMemory);
     EXPECT_EQ(std::memcmp(*block, "hello", 5), 0);
     EXPECT_EQ(blocks.live(), 1U);
 }

@@ -1,5 +1,6 @@
 #include "easel/runtime/ResourceFiles.h"
 #include "easel/classic/DefaultsStore.h"
+#include "tests/support/ErrorOf.h"
 #include "tests/unit/classic/PairFixture.h"
 
 #include <gmock/gmock.h>
@@ -16,7 +17,7 @@ using tests::writeContent;
 
 namespace {
 
-using Addition = ResourceFiles::Addition;
+using AdditionError = ResourceFiles::AdditionError;
 
 class ResourceFilesTest : public testing::Test {
   protected:
@@ -41,7 +42,7 @@ class ResourceFilesTest : public testing::Test {
     MemoryBlocks blocks_;
     int failures_ = 0;
     int expectedFailures_ = 0;
-    HostFiles::FailureReport report_ = [this](const FileError&) { ++failures_; };
+    HostFiles::ErrorReport report_ = [this](const Error&) { ++failures_; };
     HostFiles files_{StoragePlaces::within(base_.path()), report_};
     ResourceFiles resources_{files_, blocks_, report_};
     FileSpec placeholder_;
@@ -52,7 +53,7 @@ TEST_F(ResourceFilesTest, WhatIsAddedIsWrittenAtCloseAndTheBlockStaysTheCallers)
     const auto number = resources_.open(specOf("a"), Access::Write);
     EXPECT_EQ(resources_.current(), number);
     char** const block = blockOf("gradient");
-    EXPECT_EQ(resources_.add(block, kResourceType, 0, ""), Addition::Done);
+    EXPECT_TRUE(resources_.add(block, kResourceType, 0, ""));
     (*block)[0] = 'G';
     EXPECT_EQ(keptIn(folder(), "a"), "none");
     resources_.close(number);
@@ -110,14 +111,15 @@ TEST_F(ResourceFilesTest, AFileThatCannotBeOpenedChangesNothing) {
     EXPECT_EQ(resources_.open(FileSpec{}, Access::Write), ResourceFiles::kNoFile);
     EXPECT_THAT(resources_.openFiles(), ElementsAre(ResourceFiles::kHostFile));
     char** const block = blockOf("x");
-    EXPECT_EQ(resources_.add(block, kResourceType, 0, ""), Addition::NotWritable);
+    EXPECT_EQ(tests::errorOf(resources_.add(block, kResourceType, 0, "")), AdditionError::NotWritable);
     EXPECT_EQ(contentOf(block), "x");
 }
 
 TEST_F(ResourceFilesTest, AFileOpenForReadingIsNeverWritten) {
     dropFile(folder(), "a", "old");
     const auto number = resources_.open(specOf("a"), Access::Read);
-    EXPECT_EQ(resources_.add(blockOf("new"), kResourceType, 0, ""), Addition::NotWritable);
+    EXPECT_EQ(tests::errorOf(resources_.add(blockOf("new"), kResourceType, 0, "")),
+              AdditionError::NotWritable);
     resources_.close(number);
     EXPECT_EQ(keptIn(folder(), "a"), "old");
     EXPECT_FALSE(std::filesystem::exists(base_ / "Trash"));
@@ -126,7 +128,7 @@ TEST_F(ResourceFilesTest, AFileOpenForReadingIsNeverWritten) {
 TEST_F(ResourceFilesTest, WhatIsNoBlockIsNotAdded) {
     files_.create(specOf("a"), {1, 1});
     const auto number = resources_.open(specOf("a"), Access::Write);
-    EXPECT_EQ(resources_.add(nullptr, kResourceType, 0, ""), Addition::NotABlock);
+    EXPECT_EQ(tests::errorOf(resources_.add(nullptr, kResourceType, 0, "")), AdditionError::NotABlock);
     resources_.close(number);
     EXPECT_EQ(keptIn(folder(), "a"), "damaged") << "it has no such resource";
 }
@@ -160,11 +162,11 @@ TEST_F(ResourceFilesTest, AWriteThatFailsIsReportedAndTheOldFileStays) {
 TEST(DefaultsStore, KeepsEachTypeAndIdByItself) {
     const tests::TemporaryFolder base;
     const DefaultsStore store(StoragePlaces::within(base / "not/yet/there"));
-    EXPECT_TRUE(std::get<ResourceFork>(store.read()).resources().empty());
-    EXPECT_FALSE(store.put({1, 10001, 0, "Gradient Default", {1, 2}}));
-    EXPECT_FALSE(store.put({1, 10002, 0, "Other", {3}}));
-    EXPECT_FALSE(store.put({1, 10001, 0, "Gradient Default", {4}}));
-    const auto fork = std::get<ResourceFork>(store.read());
+    EXPECT_TRUE(store.read().value().resources().empty());
+    EXPECT_TRUE(store.put({1, 10001, 0, "Gradient Default", {1, 2}}));
+    EXPECT_TRUE(store.put({1, 10002, 0, "Other", {3}}));
+    EXPECT_TRUE(store.put({1, 10001, 0, "Gradient Default", {4}}));
+    const auto fork = store.read().value();
     EXPECT_EQ(fork.resources().size(), 2U);
     EXPECT_EQ(fork.find(1, 10001)->data, Bytes{4});
     EXPECT_EQ(fork.find(1, 10001)->name, "Gradient Default");
@@ -176,9 +178,9 @@ TEST(DefaultsStore, ADamagedFileIsAnErrorAndGoesToTheTrashBeforeItIsReplaced) {
     const tests::TemporaryFolder base;
     const DefaultsStore store(StoragePlaces::within(base.path()));
     writeContent(store.file(), "rubbish of some length");
-    EXPECT_EQ(std::get<FileError>(store.read()).file, store.file());
-    EXPECT_FALSE(store.put({1, 1, 0, "", {7}}));
-    EXPECT_EQ(std::get<ResourceFork>(store.read()).find(1, 1)->data, Bytes{7});
+    EXPECT_EQ(tests::errorOf(store.read()).file, store.file());
+    EXPECT_TRUE(store.put({1, 1, 0, "", {7}}));
+    EXPECT_EQ(store.read().value().find(1, 1)->data, Bytes{7});
     EXPECT_EQ(tests::contentOf(base / "Trash/files/Defaults.rsrc"), "rubbish of some length");
 }
 
@@ -186,18 +188,18 @@ TEST(DefaultsStore, TwoStoresWithOneFileSeeEachOthersChanges) {
     const tests::TemporaryFolder base;
     const DefaultsStore one(StoragePlaces::within(base.path()));
     const DefaultsStore other(StoragePlaces::within(base.path()));
-    EXPECT_FALSE(one.put({1, 1, 0, "", {1}}));
-    EXPECT_FALSE(other.put({1, 2, 0, "", {2}}));
-    EXPECT_FALSE(one.put({1, 1, 0, "", {3}}));
-    EXPECT_EQ(std::get<ResourceFork>(other.read()).resources().size(), 2U);
-    EXPECT_EQ(std::get<ResourceFork>(other.read()).find(1, 1)->data, Bytes{3});
+    EXPECT_TRUE(one.put({1, 1, 0, "", {1}}));
+    EXPECT_TRUE(other.put({1, 2, 0, "", {2}}));
+    EXPECT_TRUE(one.put({1, 1, 0, "", {3}}));
+    EXPECT_EQ(other.read().value().resources().size(), 2U);
+    EXPECT_EQ(other.read().value().find(1, 1)->data, Bytes{3});
 }
 
 TEST(DefaultsStore, AFileThatCannotBeReadIsLeftAlone) {
     const tests::TemporaryFolder base;
     const DefaultsStore store(StoragePlaces::within(base.path()));
     std::filesystem::create_directory(store.file());
-    EXPECT_TRUE(store.put({1, 1, 0, "", {1}}));
+    EXPECT_FALSE(store.put({1, 1, 0, "", {1}}));
     EXPECT_TRUE(std::filesystem::is_directory(store.file()));
 }
 

@@ -1,4 +1,6 @@
 // Files that are no drawings, or mean harm: each gets an error that names it and says why.
+#include "easel/svg/text/Fault.h"
+#include "tests/support/ErrorOf.h"
 #include "tests/unit/svg/ReadHelp.h"
 
 #include <gmock/gmock.h>
@@ -9,23 +11,23 @@
 
 namespace {
 
-using easel::svg::Failure;
+using easel::files::Error;
 using easel::svg::Fault;
 using easel::svg::readBytes;
 
-Failure failureOf(const std::string& text) {
+Error errorOf(const std::string& text) {
     // The processor's time, since other programs may have it too.
     const std::clock_t begin = std::clock();
     const auto result = readBytes(text, "bad.svg");
     EXPECT_LT(std::clock() - begin, 20 * CLOCKS_PER_SEC);
-    const auto* const failure = std::get_if<Failure>(&result);
-    if (!failure) {
+    if (result) {
         ADD_FAILURE() << "was read: " << text.substr(0, 200);
         return {};
     }
-    EXPECT_EQ(failure->message.substr(0, 9), "bad.svg: ") << failure->message;
-    EXPECT_GT(failure->message.size(), 15U);
-    return *failure;
+    const std::string message = result.error().message();
+    EXPECT_EQ(message.substr(0, 9), "bad.svg: ") << message;
+    EXPECT_GT(message.size(), 15U);
+    return result.error();
 }
 
 std::string repeated(const std::string& text, std::size_t times) {
@@ -38,38 +40,38 @@ std::string repeated(const std::string& text, std::size_t times) {
 
 TEST(BadInput, MissingFilesAndFoldersAreNamed) {
     const auto folder = std::filesystem::temp_directory_path();
-    for (const auto& path : {folder / "no-such-file.svg", folder}) {
-        const auto result = easel::svg::readFile(path);
-        const auto& failure = std::get<Failure>(result);
-        EXPECT_EQ(failure.fault, Fault::CannotRead);
-        EXPECT_NE(failure.message.find(path.string()), std::string::npos);
+    for (const auto& [path, code] :
+         {std::pair(folder / "no-such-file.svg", std::errc::no_such_file_or_directory),
+          {folder, std::errc::is_a_directory}}) {
+        const Error error = tests::errorOf(easel::svg::readFile(path));
+        EXPECT_EQ(error.code, code);
+        EXPECT_NE(error.message().find(path.string()), std::string::npos);
     }
 }
 
 TEST(BadInput, AnEmptyFileIsRefused) {
-    EXPECT_EQ(failureOf("").fault, Fault::Empty);
+    EXPECT_EQ(errorOf("").code, Fault::Empty);
 }
 
 TEST(BadInput, ATruncatedFileIsRefused) {
     const std::string whole = svgFile("<g><rect width='1' height='1'/></g>");
     for (const std::size_t size : {whole.size() - 1, whole.size() - 6, whole.size() - 12, std::size_t{30}})
-        EXPECT_EQ(failureOf(whole.substr(0, size)).fault, Fault::NotXml) << size;
+        EXPECT_EQ(errorOf(whole.substr(0, size)).code, Fault::NotXml) << size;
 }
 
 TEST(BadInput, WhatIsNotXmlOrNotSvgIsRefused) {
-    EXPECT_EQ(failureOf("plain text").fault, Fault::NotXml);
-    EXPECT_EQ(failureOf(std::string("\x89PNG\r\n\x1a\n\0\0", 10)).fault, Fault::NotXml);
-    EXPECT_EQ(failureOf("<a><b></a></b>").fault, Fault::NotXml);
-    EXPECT_EQ(failureOf("<html><body/></html>").fault, Fault::NotSvg);
-    EXPECT_EQ(failureOf("<svg xmlns='http://example.com/other'/>").fault, Fault::NotSvg);
+    EXPECT_EQ(errorOf("plain text").code, Fault::NotXml);
+    EXPECT_EQ(errorOf(std::string("\x89PNG\r\n\x1a\n\0\0", 10)).code, Fault::NotXml);
+    EXPECT_EQ(errorOf("<a><b></a></b>").code, Fault::NotXml);
+    EXPECT_EQ(errorOf("<html><body/></html>").code, Fault::NotSvg);
+    EXPECT_EQ(errorOf("<svg xmlns='http://example.com/other'/>").code, Fault::NotSvg);
 }
 
 TEST(BadInput, AFileAboveTheLimitIsRefusedWithoutBeingRead) {
     const auto path = std::filesystem::temp_directory_path() / "easel-too-large.svg";
     std::ofstream(path) << "<svg/>";
     std::filesystem::resize_file(path, std::uintmax_t{20} << 30);
-    const auto result = easel::svg::readFile(path);
-    EXPECT_TRUE(std::holds_alternative<Failure>(result));
+    EXPECT_EQ(tests::errorOf(easel::svg::readFile(path)).code, std::errc::file_too_large);
     std::filesystem::remove(path);
 }
 
@@ -141,7 +143,7 @@ TEST(BadInput, ExponentialUseIsRefusedInBoundedTime) {
     for (int i = 1; i < 40; ++i)
         content += "<g id='u" + std::to_string(i) + "'>" +
                    repeated("<use href='#u" + std::to_string(i - 1) + "'/>", 10) + "</g>";
-    EXPECT_EQ(failureOf(svgFile(content)).fault, Fault::TooComplex);
+    EXPECT_EQ(errorOf(svgFile(content)).code, Fault::TooComplex);
 }
 
 TEST(BadInput, EntityBombsAreRefused) {
@@ -149,8 +151,8 @@ TEST(BadInput, EntityBombsAreRefused) {
     for (int i = 1; i < 12; ++i)
         types +=
             "<!ENTITY e" + std::to_string(i) + " '" + repeated("&e" + std::to_string(i - 1) + ";", 10) + "'>";
-    EXPECT_EQ(failureOf("<!DOCTYPE svg [" + types + "]><svg style='&e11;'/>").fault, Fault::TooComplex);
-    EXPECT_EQ(failureOf("<!DOCTYPE svg [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><svg style='&a;'/>").fault,
+    EXPECT_EQ(errorOf("<!DOCTYPE svg [" + types + "]><svg style='&e11;'/>").code, Fault::TooComplex);
+    EXPECT_EQ(errorOf("<!DOCTYPE svg [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><svg style='&a;'/>").code,
               Fault::NotXml);
 }
 

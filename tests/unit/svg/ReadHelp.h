@@ -10,11 +10,11 @@
 
 inline easel::drawing::Drawing readOk(const std::string& text) {
     auto result = easel::svg::readBytes(text, "test.svg");
-    if (const auto* const failure = std::get_if<easel::svg::Failure>(&result)) {
-        ADD_FAILURE() << failure->message;
+    if (!result) {
+        ADD_FAILURE() << result.error().message();
         return easel::drawing::Drawing::create(1, 1);
     }
-    return std::move(std::get<easel::drawing::Drawing>(result));
+    return std::move(*result);
 }
 
 // A file of 100 by 100 units with this content.
