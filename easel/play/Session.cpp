@@ -121,11 +121,10 @@ void Session::paintForPictures() {
 
 runtime::PluginModule& Session::plugin() {
     if (!plugin_) {
-        try {
-            plugin_ = std::make_unique<runtime::PluginModule>(plan_.plugin);
-        } catch (const runtime::PluginError& error) {
-            throw PlayError(error.what());
-        }
+        auto loaded = runtime::PluginModule::load(plan_.plugin);
+        if (!loaded)
+            throw PlayError(loaded.error().message());
+        plugin_ = std::move(*loaded);
         if (!plugin_->resources())
             say(plugin_->resources().error().message());
     }

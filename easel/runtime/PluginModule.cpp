@@ -25,15 +25,16 @@ std::string linkerReason(const fs::path& file) {
     return reason;
 }
 
-void requireRegularFile(const fs::path& file) {
+files::Result<> checkRegularFile(const fs::path& file) {
     std::error_code error;
     const fs::file_status status = fs::status(file, error);
     if (status.type() == fs::file_type::not_found)
-        throw PluginError(file.string() + ": no such file");
+        return tl::unexpected(files::Error{file, "no such file", {}});
     if (error)
-        throw PluginError(file.string() + ": " + error.message());
+        return tl::unexpected(files::Error{file, error.message(), error});
     if (!fs::is_regular_file(status))
-        throw PluginError(file.string() + ": not a file");
+        return tl::unexpected(files::Error{file, "not a file", {}});
+    return {};
 }
 
 } // namespace
@@ -42,17 +43,23 @@ void PluginModule::Unload::operator()(void* library) const {
     dlclose(library);
 }
 
-PluginModule::PluginModule(const fs::path& file) : file_(fs::absolute(file)) {
-    requireRegularFile(file_);
+PluginModule::PluginModule(fs::path file, Library library, Entry entry)
+    : file_(std::move(file)), library_(std::move(library)), entry_(entry),
+      resources_(openPluginResources(resourceFolder())) {}
+
+files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& given) {
+    const fs::path file = fs::absolute(given);
+    if (const auto checked = checkRegularFile(file); !checked)
+        return tl::unexpected(checked.error());
     dlerror();
-    library_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
-    if (!library_)
-        throw PluginError(file_.string() + ": cannot be loaded: " + linkerReason(file_));
-    void* entry = dlsym(library_.get(), "MainEntry");
+    Library library(dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL));
+    if (!library)
+        return tl::unexpected(files::Error{file, "cannot be loaded: " + linkerReason(file), {}});
+    void* entry = dlsym(library.get(), "MainEntry");
     if (!entry)
-        throw PluginError(file_.string() + ": not a plug-in: it has no MainEntry");
-    entry_ = reinterpret_cast<Entry>(entry);
-    resources_ = openPluginResources(resourceFolder());
+        return tl::unexpected(files::Error{file, "not a plug-in: it has no MainEntry", {}});
+    return std::unique_ptr<PluginModule>(
+        new PluginModule(file, std::move(library), reinterpret_cast<Entry>(entry)));
 }
 
 PluginModule::~PluginModule() {

@@ -6,26 +6,19 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <stdexcept>
 
 struct XTNLParmBlk;
 
 namespace easel::runtime {
-
-// Why a module cannot be used, naming the file: "FILE: reason".
-class PluginError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 constexpr std::int16_t kStartUpMessage = 1;
 constexpr std::int16_t kShutDownMessage = 2;
 
 class PluginModule {
   public:
-    // Loads the module, finds its entry and opens its resources. Throws PluginError if the file is missing,
-    // no module, or lacks the entry.
-    explicit PluginModule(const std::filesystem::path& file);
+    // Loads the module, finds its entry and opens its resources. An error if the file is missing, no module,
+    // or lacks the entry.
+    static files::Result<std::unique_ptr<PluginModule>> load(const std::filesystem::path& file);
     // Takes the plug-in's tools out of the palette and unloads the module.
     ~PluginModule();
     PluginModule(const PluginModule&) = delete;
@@ -52,10 +45,13 @@ class PluginModule {
     struct Unload {
         void operator()(void* library) const;
     };
+    using Library = std::unique_ptr<void, Unload>;
+
+    PluginModule(std::filesystem::path file, Library library, Entry entry);
 
     std::filesystem::path file_;
-    std::unique_ptr<void, Unload> library_;
-    Entry entry_ = nullptr;
+    Library library_;
+    Entry entry_;
     files::Result<> resources_;
 };
 

@@ -23,24 +23,26 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
     : tools_(tools), waiting_(waiting) {
     if (!preferences.empty())
         runtime::useStorage({preferences, classic::StoragePlaces::ofUser().trash});
-    try {
-        load(module.empty() ? runtime::PluginModule::defaultFile() : module);
-    } catch (const runtime::PluginError& error) {
-        problem_ =
-            QObject::tr("%1\n\nEasel runs without this tool.").arg(QString::fromStdString(error.what()));
-    }
+    const auto loaded = load(module.empty() ? runtime::PluginModule::defaultFile() : module);
+    if (!loaded)
+        problem_ = QObject::tr("%1\n\nEasel runs without this tool.")
+                       .arg(QString::fromStdString(loaded.error().message()));
 }
 
-void PluginSession::load(const std::filesystem::path& module) {
-    module_.emplace(module);
+files::Result<> PluginSession::load(const std::filesystem::path& module) {
+    auto loaded = runtime::PluginModule::load(module);
+    if (!loaded)
+        return tl::unexpected(loaded.error());
+    module_ = std::move(*loaded);
     if (!module_->resources())
-        throw runtime::PluginError(module_->resources().error().message());
+        return module_->resources();
     module_->send(runtime::kStartUpMessage);
     for (const HostTool& tool : runtime::thePalette().tools())
         tools_.add(tool, iconOf(tool));
     // Whoever starts a drawing program with one special tool most likely wants that tool.
     if (!runtime::thePalette().tools().empty())
         tools_.activate(1);
+    return {};
 }
 
 PluginSession::~PluginSession() {

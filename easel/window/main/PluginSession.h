@@ -6,7 +6,7 @@
 #include <QString>
 
 #include <filesystem>
-#include <optional>
+#include <memory>
 
 namespace easel::window {
 
@@ -29,11 +29,11 @@ class PluginSession {
     const QString& problem() const { return problem_; }
 
   private:
-    void load(const std::filesystem::path& module);
+    files::Result<> load(const std::filesystem::path& module);
 
     ToolChoice& tools_;
     Waiting& waiting_;
-    std::optional<runtime::PluginModule> module_;
+    std::unique_ptr<runtime::PluginModule> module_;
     QString problem_;
 };
 

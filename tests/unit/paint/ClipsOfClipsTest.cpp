@@ -22,7 +22,7 @@ class Clipped {
             easel::svg::readBytes("<svg xmlns='http://www.w3.org/2000/svg' width='100' height='100'>" +
                                       clips + "<rect " + rectangle + " " + attributes + "/></svg>",
                                   "clips.svg");
-        renderDrawing(std::get<Drawing>(read), surface_.view(), {});
+        renderDrawing(read.value(), surface_.view(), {});
     }
     bool shows(int x, int y) { return (surface_.row(y)[x] >> 24) > 128; }
 

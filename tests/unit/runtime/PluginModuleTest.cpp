@@ -9,22 +9,19 @@
 
 namespace {
 
-using easel::runtime::PluginError;
 using easel::runtime::PluginModule;
 using testing::HasSubstr;
 using testing::StartsWith;
 
 // Why the file cannot be loaded, behind its name.
 std::string reasonFor(const std::filesystem::path& file) {
-    try {
-        const PluginModule module(file);
-    } catch (const PluginError& error) {
-        const std::string message = error.what();
-        const std::string name = file.string() + ": ";
-        EXPECT_THAT(message, StartsWith(name));
-        return message.substr(std::min(name.size(), message.size()));
-    }
-    return "it was loaded";
+    const auto loaded = PluginModule::load(file);
+    if (loaded)
+        return "it was loaded";
+    const std::string message = loaded.error().message();
+    const std::string name = file.string() + ": ";
+    EXPECT_THAT(message, StartsWith(name));
+    return message.substr(std::min(name.size(), message.size()));
 }
 
 TEST(PluginModule, NamesFileAndReasonOfWhatIsNoModule) {
