@@ -90,6 +90,18 @@ std::optional<GgrSegment> segmentFrom(std::string_view line) {
     return withoutBlanks(line).empty() ? std::optional(segment) : std::nullopt;
 }
 
+// Half way between the colors at the middle. A segment whose middle lies on its left end starts half way, and
+// one whose middle lies on its right end ends there.
+void addStraight(std::list<CGradientColor>& stops, const GgrSegment& segment) {
+    const double length = segment.right - segment.left;
+    const bool even = std::abs(segment.middle - (segment.left + segment.right) / 2) <= kGap / 10;
+    addStop(stops, segment.left, rounded(segment.leftColor));
+    if (!even && length > 0)
+        addStop(stops, segment.middle, rounded(between(segment.leftColor, segment.rightColor, 0.5)));
+    if (even || segment.middle < segment.right)
+        addStop(stops, segment.right, rounded(segment.rightColor));
+}
+
 void addSegment(std::list<CGradientColor>& stops, const GgrSegment& segment) {
     if (segment.blending == GgrBlending::Step) {
         for (const auto& [position, color] : {std::pair(segment.left, segment.leftColor),
@@ -98,12 +110,7 @@ void addSegment(std::list<CGradientColor>& stops, const GgrSegment& segment) {
                                               {segment.right, segment.rightColor}})
             addStop(stops, position, rounded(color));
     } else if (segment.isStraight()) {
-        addStop(stops, segment.left, rounded(segment.leftColor));
-        const double length = segment.right - segment.left;
-        if (std::abs(segment.middle - (segment.left + segment.right) / 2) > kGap / 10 && length > 0)
-            addStop(stops, segment.middle,
-                    rounded(segment.colorAt((segment.middle - segment.left) / length)));
-        addStop(stops, segment.right, rounded(segment.rightColor));
+        addStraight(stops, segment);
     } else {
         addCurve(stops, segment.left, segment.right, [&](double part) { return segment.colorAt(part); });
     }

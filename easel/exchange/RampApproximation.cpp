@@ -12,11 +12,6 @@ constexpr double kTolerance = 0.4 / 255;
 constexpr int kDeepest = 18;
 constexpr int kPointsLookedAt = 12;
 
-CurveColor between(const CurveColor& a, const CurveColor& b, double part) {
-    return {std::lerp(a.red, b.red, part), std::lerp(a.green, b.green, part),
-            std::lerp(a.blue, b.blue, part)};
-}
-
 double distance(const CurveColor& a, const CurveColor& b) {
     return std::max({std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
 }
@@ -56,6 +51,11 @@ class Divider {
 };
 
 } // namespace
+
+CurveColor between(const CurveColor& a, const CurveColor& b, double part) {
+    return {std::lerp(a.red, b.red, part), std::lerp(a.green, b.green, part),
+            std::lerp(a.blue, b.blue, part)};
+}
 
 RGBColor rounded(const CurveColor& color) {
     const auto channel = [](double value) {

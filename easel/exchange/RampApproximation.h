@@ -15,6 +15,8 @@ struct CurveColor {
     double blue = 0;
 };
 
+CurveColor between(const CurveColor& a, const CurveColor& b, double part);
+
 RGBColor rounded(const CurveColor& color);
 
 /// The color at a part (0 to 1) of the way.

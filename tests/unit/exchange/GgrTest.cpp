@@ -59,6 +59,20 @@ TEST(Ggr, AMidpointIsAThirdStopHalfWayInColor) {
     EXPECT_EQ(middle.ColorRGB().red, 32768);
 }
 
+// Where the middle has no way before it, the first half of the blend takes no room; likewise the second.
+TEST(Ggr, AMidpointOnAnEndLeavesOneHalfOfTheBlend) {
+    const auto left = imported(file("0 0 1" + kBlackToWhite + "0 0\n")).gradient;
+    const auto right = imported(file("0 1 1" + kBlackToWhite + "0 0\n")).gradient;
+    for (const double t : {0.01, 0.25, 0.5, 0.75, 0.99}) {
+        EXPECT_NEAR(redAt(left, t), 255 * (0.5 + t / 2), 0.01);
+        EXPECT_NEAR(redAt(right, t), 255 * t / 2, 0.01);
+    }
+    const auto pair =
+        imported(file("0 0.5 0.5" + kBlackToWhite + "0 0\n0.5 0.5 1" + kBlackToWhite + "0 0\n", 2));
+    EXPECT_NEAR(redAt(pair.gradient, 0.4999), 255 * 0.5, 0.1);
+    EXPECT_NEAR(redAt(pair.gradient, 0.5001), 255 * 0.5, 0.1);
+}
+
 TEST(Ggr, ASegmentThatBeginsInAnotherColorIsAHardStop) {
     const auto result = imported(file("0 0.25 0.5 1 0 0 1 1 0 0 1 0 0\n0.5 0.75 1 0 0 1 1 0 0 1 1 0 0\n", 2));
     std::vector<double> positions;
