@@ -41,8 +41,9 @@ void SetPortDialogPort(DialogRef dialog);
 
 /// A filter that sees the events of a modal dialog first; true if it dealt with one and set the item hit.
 using ModalFilterUPP = bool (*)(DialogRef dialog, EventRecord* event, short* itemHit);
-/// The host's filter: Return and Enter stand for item 1, Escape for item 2. Plug-ins hand it to ModalDialog
-/// and do not call it, so a host that knows these keys by other means may give it any value.
+/// The host's filter: Return and Enter stand for the dialog's default button, Escape for its cancel button,
+/// as its resource names them. Plug-ins hand it to ModalDialog and do not call it, so a host that knows these
+/// keys by other means may give it any value.
 extern ModalFilterUPP const StdDlogFilterUPP;
 /// Runs the front dialog until an enabled item is hit and gives the item's number. A hit is:
 /// - of a button, a press and release in it, or its key;

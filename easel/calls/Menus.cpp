@@ -1,9 +1,9 @@
-// Menus, as the host interface names them.
+// Implements host/Menus.h.
 #include "host/Menus.h"
 
 #include "easel/classic/MacRoman.h"
-#include "easel/runtime/Journal.h"
 #include "easel/runtime/Menus.h"
+#include "easel/runtime/Process.h"
 
 #include <algorithm>
 #include <limits>

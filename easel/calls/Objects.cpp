@@ -1,20 +1,28 @@
-// Objects of a drawing as the host interface hands them out.
+// Implements host/Objects.h.
 #include "host/Objects.h"
 
 #include "easel/drawing/ShapeGradient.h"
+#include "easel/runtime/DrawingWindow.h"
+#include "easel/runtime/FieldHash.h"
+#include "easel/runtime/FillPatterns.h"
 #include "easel/runtime/HostObject.h"
 #include "easel/runtime/HostPoint.h"
-#include "easel/runtime/Journal.h"
+#include "easel/runtime/HostWindow.h"
+#include "easel/runtime/PickFilter.h"
+#include "easel/runtime/PolygonOutline.h"
+#include "easel/runtime/Process.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace drawing = easel::drawing;
 using easel::runtime::journal;
+using easel::runtime::process;
 
 namespace {
 
-// Anything with fewer corners has no inside that a gradient could fill.
-constexpr std::size_t kFewestCorners = 3;
+// How far from an outline a click still means the object, in screen pixels.
+constexpr double kReach = 3;
 
 const drawing::Object* objectOf(TessObject const* object) {
     return object && object->State() ? object->State()->object.get() : nullptr;
@@ -29,37 +37,15 @@ template <class Change> void changeOwn(const std::shared_ptr<HostObject>& state,
     state->object = std::make_shared<const drawing::Object>(std::move(own));
 }
 
-const SharedResourcePtr<CPatRecord>& blackPattern() {
-    static const SharedResourcePtr<CPatRecord> black(
-        new CPatRecord({0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff}));
-    return black;
+// Null for a list of no drawing.
+drawing::Drawing* drawingOf(CTessObjList const& list) {
+    return list.State() ? &list.State()->window->drawing() : nullptr;
 }
 
-drawing::FillPattern patternKind(SharedResourcePtr<CPatRecord> const& pattern) {
-    const CPatRecord* rows = pattern;
-    if (!rows)
-        return drawing::FillPattern::None;
-    const CPatRecord* black = blackPattern();
-    return rows->Rows() == black->Rows() ? drawing::FillPattern::SolidBlack : drawing::FillPattern::Other;
-}
-
-// All corners finite and enough of them in at least one contour; otherwise an empty path.
-drawing::Path polygonOutline(const drawing::Path& outline, double tolerance) {
-    drawing::Path polygon;
-    bool hasInside = false;
-    for (const drawing::Contour& contour : flatten(outline, tolerance)) {
-        for (std::size_t i = 0; i < contour.points.size(); ++i) {
-            if (!isFinite(contour.points[i]))
-                return {};
-            if (i == 0)
-                polygon.moveTo(contour.points[i]);
-            else
-                polygon.lineTo(contour.points[i]);
-        }
-        polygon.close();
-        hasInside = hasInside || contour.points.size() >= kFewestCorners;
-    }
-    return hasInside ? polygon : drawing::Path();
+// Null if the list has no object at the index.
+drawing::Drawing* drawingWith(CTessObjList const& list, long index) {
+    drawing::Drawing* own = drawingOf(list);
+    return own && index >= 0 && static_cast<std::size_t>(index) < own->size() ? own : nullptr;
 }
 
 } // namespace
@@ -67,15 +53,12 @@ drawing::Path polygonOutline(const drawing::Path& outline, double tolerance) {
 CPatRecord::~CPatRecord() = default;
 
 std::uint32_t CPatRecord::HashID() const {
-    std::uint32_t hash = 2166136261u;
-    for (const std::uint8_t row : rows_)
-        hash = (hash ^ row) * 16777619u;
-    return hash;
+    return easel::runtime::hashOf(rows_);
 }
 
 SharedResourcePtr<CPatRecord> kBlackPat() {
     journal("kBlackPat");
-    return blackPattern();
+    return easel::runtime::blackPattern();
 }
 
 short TessObject::WhatObject() const {
@@ -103,7 +86,9 @@ void TessObject::SetGradient(SharedResourcePtr<CGradient> const& gradient) {
 
 void TessObject::SetFillPattern(SharedResourcePtr<CPatRecord> const& pattern) {
     journal("TessObject::SetFillPattern");
-    changeOwn(state_, [&](drawing::Object& object) { object.setFillPattern(patternKind(pattern)); });
+    changeOwn(state_, [&](drawing::Object& object) {
+        object.setFillPattern(easel::runtime::fillPatternOf(pattern));
+    });
 }
 
 void CloneItem(TessObject const* object, TessObject& clone) {
@@ -118,7 +103,7 @@ void ObjToPoly(TessObject const* object, TessObject& polygon, double tolerance) 
     const drawing::Object* source = objectOf(object);
     if (!source || !(tolerance > 0))
         return;
-    drawing::Path outline = polygonOutline(source->outline, tolerance);
+    drawing::Path outline = easel::runtime::polygonOutline(source->outline, tolerance);
     if (outline.empty())
         return;
     drawing::Object flat;
@@ -131,4 +116,65 @@ void ObjToPoly(TessObject const* object, TessObject& polygon, double tolerance) 
 void RecoverObject(TessObject& polygon) {
     journal("RecoverObject");
     polygon = TessObject();
+}
+
+TessObject CTessObjList::operator[](long index) const {
+    const drawing::Drawing* own = drawingWith(*this, index);
+    if (!own)
+        return {};
+    return TessObject(std::make_shared<HostObject>(HostObject{own->object(static_cast<std::size_t>(index))}));
+}
+
+SelDescrimT const descrimAllOff{};
+
+void GetSelDescrim(SelDescrimT& filter) {
+    journal("GetSelDescrim");
+    filter = process().pickFilter();
+}
+
+void SetSelDescrim(SelDescrimT filter) {
+    journal("SetSelDescrim");
+    process().pickFilter() = filter;
+}
+
+void SetOneSelDescrim(short kind) {
+    journal("SetOneSelDescrim", kind);
+    easel::runtime::admit(process().pickFilter(), kind);
+}
+
+bool PickObj(DWindow* window, TPoint<double> where, long& index, CTessObjList& list) {
+    journal("PickObj");
+    if (!window)
+        return false;
+    easel::runtime::DrawingWindow& own = *window->State().window;
+    const drawing::KindSet kinds = easel::runtime::kindsIn(process().pickFilter());
+    const auto found = own.drawing().pick(easel::runtime::toPoint(where), kReach / own.view().zoom, kinds);
+    if (!found)
+        return false;
+    index = static_cast<long>(*found);
+    list = CTessObjList(std::make_shared<HostObjectList>(HostObjectList{&own}));
+    return true;
+}
+
+void DeleteUObj(long index, CTessObjList const& list) {
+    journal("DeleteUObj", index);
+    if (drawing::Drawing* own = drawingWith(list, index))
+        own->erase(static_cast<std::size_t>(index));
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes lists by value.
+void InsertObj(TessObject const& object, long index, CTessObjList list) {
+    journal("InsertObj", index);
+    drawing::Drawing* own = drawingOf(list);
+    if (!own || !object.State())
+        return;
+    const std::size_t place = std::min(static_cast<std::size_t>(std::max(index, 0L)), own->size());
+    own->insert(place, object.State()->object);
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes lists by value.
+void SelObject(long index, CTessObjList list) {
+    journal("SelObject", index);
+    if (drawing::Drawing* own = drawingWith(list, index))
+        own->select(static_cast<std::size_t>(index));
 }

@@ -1,34 +1,33 @@
-// Registration of tools, as the host interface names it.
+// Implements host/Palette.h.
 #include "host/Palette.h"
 
 #include "easel/classic/MacRoman.h"
-#include "easel/runtime/Host.h"
-#include "easel/runtime/Journal.h"
-#include "easel/runtime/ToolPalette.h"
+#include "easel/runtime/Process.h"
 
 #include <limits>
 
 using easel::runtime::journal;
-using easel::runtime::thePalette;
+using easel::runtime::process;
 
 namespace {
 
 constexpr short kNoRoom = -1;
 
-// Takes what is written for a number that no tool has.
-HostTool& nobody() {
-    static HostTool tool(0, PaletteElement{});
-    return tool;
+// The palette is its own window, so the reference is never looked into. It has to be there when the library
+// is loaded, before any palette is.
+constexpr char kPaletteWindow = 0;
+
+OpaqueWindowPtr* paletteWindow() {
+    return reinterpret_cast<OpaqueWindowPtr*>(const_cast<char*>(&kPaletteWindow));
 }
 
 } // namespace
 
-// The palette is its own window: the reference is never looked into.
-OpaqueWindowPtr* roloPalette = reinterpret_cast<OpaqueWindowPtr*>(&thePalette());
+OpaqueWindowPtr* roloPalette = paletteWindow();
 
 TPalette* GetTPaletteFromWindowRef(OpaqueWindowPtr* window) {
     journal("GetTPaletteFromWindowRef");
-    return window == reinterpret_cast<OpaqueWindowPtr*>(&thePalette()) ? &thePalette() : nullptr;
+    return window == paletteWindow() ? &process().palette() : nullptr;
 }
 
 short AddTool(TPalette* palette, PaletteElement element, short& row, short& toolNumber) {
@@ -43,7 +42,7 @@ short AddTool(TPalette* palette, PaletteElement element, short& row, short& tool
 void AddXTNLToolName(short nameCode, short toolNumber, CStr32 name) {
     const std::string text = easel::classic::fromMacRoman(name.Text());
     journal("AddXTNLToolName", nameCode, toolNumber, text);
-    if (HostTool* tool = thePalette().find(toolNumber)) {
+    if (HostTool* tool = process().palette().find(toolNumber)) {
         tool->nameCode = nameCode;
         tool->name = text;
     }
@@ -51,8 +50,8 @@ void AddXTNLToolName(short nameCode, short toolNumber, CStr32 name) {
 
 ToolRec& GetTool(short toolNumber) {
     journal("GetTool", toolNumber);
-    HostTool* tool = thePalette().find(toolNumber);
-    return tool ? tool->record : nobody().record;
+    HostTool* tool = process().palette().find(toolNumber);
+    return tool ? tool->record : process().palette().nobody().record;
 }
 
 ToolMethodRec& ToolRec::ToolMethods() {

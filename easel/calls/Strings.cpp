@@ -1,15 +1,24 @@
-// Implements the length-prefixed strings and the number formatting of host/Strings.h.
+// Implements host/Strings.h.
 #include "host/Strings.h"
+
+#include "easel/classic/MacRoman.h"
+#include "easel/runtime/CFString.h"
+#include "easel/runtime/Process.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstring>
 
+using easel::runtime::journal;
+using easel::runtime::process;
+
 namespace {
 
 constexpr unsigned char kLongCapacity = 255;
 constexpr unsigned char kShortCapacity = 31;
+
+constexpr __CFAllocator kAllocator;
 
 } // namespace
 
@@ -85,6 +94,21 @@ CStr32::CStr32(CPString const& other) : CPString(kShortCapacity) {
     Assign(other.Text());
 }
 
+CStr255 GetIndString(short listId, short index) {
+    journal("GetIndString", listId, index);
+    // The reader of the resources has made sure that every text can be converted.
+    return easel::classic::toMacRoman(process().plugin().resources().string(listId, index)).value_or("");
+}
+
+void GetIndString(CStr255& out, short listId, short index) {
+    out = GetIndString(listId, index);
+}
+
+void GetIndString(unsigned char* out, short listId, short index) {
+    const CStr255 text = GetIndString(listId, index);
+    std::memcpy(out, text.PascalBytes(), text.Length() + 1);
+}
+
 void DoubleToStr(double value, short precision, CStr255& out) {
     // The largest double has 309 digits before the point. What is longer than a string is cut there.
     std::array<char, 512> text{};
@@ -92,4 +116,24 @@ void DoubleToStr(double value, short precision, CStr255& out) {
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals).ptr;
     out.Assign({text.data(), static_cast<std::size_t>(end - text.data())});
+}
+
+CFAllocatorRef const kCFAllocatorDefault = &kAllocator;
+
+CFStringRef CFStringCreateWithPascalString(CFAllocatorRef, unsigned char const* bytes,
+                                           CFStringEncoding encoding) {
+    if (!bytes || encoding != kCFStringEncodingMacRoman)
+        return nullptr;
+    return new __CFString{easel::classic::fromMacRoman(CStr255::FromPascal(bytes).Text())};
+}
+
+CFStringRef CFRetain(CFStringRef string) {
+    if (string)
+        ++string->references;
+    return string;
+}
+
+void CFRelease(CFStringRef string) {
+    if (string && --string->references == 0)
+        delete string;
 }

@@ -1,27 +1,36 @@
-// Drawing windows and the feedback in them, as the host interface names them.
+// Implements host/Windows.h.
 #include "host/Windows.h"
 
 #include "easel/runtime/DrawingWindow.h"
-#include "easel/runtime/Host.h"
-#include "easel/runtime/HostGraphics.h"
+#include "easel/runtime/FeedbackRounds.h"
 #include "easel/runtime/HostWindow.h"
-#include "easel/runtime/Journal.h"
+#include "easel/runtime/Process.h"
 #include "easel/runtime/User.h"
-#include "host/Drawing.h"
 
+using easel::runtime::Dialog;
 using easel::runtime::DrawingWindow;
 using easel::runtime::journal;
-using easel::runtime::theHost;
+using easel::runtime::process;
 
 namespace {
 
 // Waits for the mouse, and tells whether its button is held beyond the window's edge.
 bool mouseIsDragged(const DrawingWindow& outOf) {
-    const easel::runtime::MouseState mouse = theHost().user->waitWhileDown();
+    const easel::runtime::MouseState mouse = process().user().waitWhileDown();
     return mouse.down && !outOf.view().seen().contains(mouse.at);
 }
 
 } // namespace
+
+// A dialog's window is known by the same reference as the dialog.
+void ShowWindow(OpaqueWindowPtr* window) {
+    journal("ShowWindow");
+    Dialog* dialog = process().dialogs().find(reinterpret_cast<OpaqueDialogPtr*>(window));
+    if (dialog == nullptr || dialog->shown())
+        return;
+    dialog->show();
+    process().user().dialogShown(*dialog);
+}
 
 OpaqueGrafPtr* DWindow::GetMacPort() {
     journal("DWindow::GetMacPort");
@@ -46,57 +55,42 @@ void DWindow::InvalSelection() {
 void DWindow::SetIDCursor(long cursorId) {
     journal("DWindow::SetIDCursor", cursorId);
     state_->window->setCursor(cursorId);
-    theHost().user->setCursor(*state_->window, cursorId);
+    process().user().setCursor(*state_->window, cursorId);
 }
 
 void DWindow::ScrollWDiag(bool wait) {
     journal("DWindow::ScrollWDiag", wait);
     DrawingWindow& window = *state_->window;
     do
-        theHost().user->scrollTowardsMouse(window);
+        process().user().scrollTowardsMouse(window);
     while (wait && mouseIsDragged(window));
 }
 
 DWindow* ActiveDrawingWindow() {
     journal("ActiveDrawingWindow");
-    DrawingWindow* window = theHost().activeWindow;
+    DrawingWindow* window = process().activeWindow();
     return window ? &window->ref() : nullptr;
 }
 
-// The lines of one round and where they are to be shown; no window shows nothing.
-struct CSyncronizedBuffer::State {
-    explicit State(DrawingWindow* shownIn) : window(shownIn), environment(graphics) {}
-
-    void show() {
-        if (!window)
-            return;
-        window->setFeedback(graphics.lines);
-        theHost().user->present(*window);
-    }
-
-    DrawingWindow* window;
-    HostGraphics graphics;
-    CGraphicsEnvironment environment;
+struct CSyncronizedBuffer::State : easel::runtime::FeedbackRounds {
+    using FeedbackRounds::FeedbackRounds;
 };
 
 CSyncronizedBuffer::CSyncronizedBuffer(DWindow* window, bool wholeWindow)
-    : state_(std::make_unique<State>(window ? window->State().window : nullptr)) {
+    : state_(std::make_unique<State>(window ? window->State().window : nullptr, process().user())) {
     journal("CSyncronizedBuffer", wholeWindow);
 }
 
-CSyncronizedBuffer::~CSyncronizedBuffer() {
-    state_->graphics.lines.clear();
-    state_->show();
-}
+CSyncronizedBuffer::~CSyncronizedBuffer() = default;
 
 void CSyncronizedBuffer::RefreshAndBeginDrawing() {
     journal("CSyncronizedBuffer::RefreshAndBeginDrawing");
-    state_->graphics.lines.clear();
+    state_->begin();
 }
 
 CGraphicsEnvironment* CSyncronizedBuffer::GetGEnv() {
     journal("CSyncronizedBuffer::GetGEnv");
-    return &state_->environment;
+    return &state_->environment();
 }
 
 void CSyncronizedBuffer::EndDrawingAndUpdateScreen() {

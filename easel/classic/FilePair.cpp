@@ -1,6 +1,7 @@
 // Looking at files of the host on disk.
 #include "easel/classic/FilePair.h"
 
+#include "easel/classic/TemplateInfo.h"
 #include "easel/files/FileDescriptor.h"
 #include "easel/files/WholeFile.h"
 
@@ -14,7 +15,6 @@ namespace {
 // Beyond this nobody has entries; a descriptor that points there is damage.
 constexpr std::uint64_t kFarthestInfo = 1U << 20;
 constexpr std::uintmax_t kLargestHeader = 64U << 20;
-constexpr FinderInfo kTemplateInfo{fourCharacters("GTMP"), fourCharacters("*Kst")};
 
 FinderInfo infoOfDamaged(const FilePair& file) {
     return file.name.ends_with(".GRD") ? kTemplateInfo : FinderInfo{};

@@ -86,6 +86,10 @@ bool isYes(const pugi::xml_node& node, const char* attribute) {
     return node.attribute(attribute).value() == std::string_view("yes");
 }
 
+bool isNo(const pugi::xml_node& node, const char* attribute) {
+    return node.attribute(attribute).value() == std::string_view("no");
+}
+
 template <class Value> struct Word {
     std::string_view text;
     Value value;
@@ -164,9 +168,9 @@ MenuResource menuFrom(const pugi::xml_node& node) {
     for (const auto& child : node.children()) {
         const std::string_view name = child.name();
         if (name == "entry")
-            menu.push_back({MenuEntryResource::Kind::Choice, textOf(child)});
+            menu.push_back({MenuEntryResource::Kind::Choice, textOf(child), !isNo(child, "enabled")});
         else if (name == "separator")
-            menu.push_back({MenuEntryResource::Kind::Separator, {}});
+            menu.push_back({MenuEntryResource::Kind::Separator, {}, true});
         else if (child.type() == pugi::node_element)
             fail(child, "is no kind of menu entry");
     }

@@ -42,6 +42,7 @@ struct MenuEntryResource {
     enum class Kind { Choice, Separator };
     Kind kind = Kind::Choice;
     std::string text;
+    bool enabled = true; ///< of a choice; a disabled one is shown and cannot be chosen
 };
 using MenuResource = std::vector<MenuEntryResource>;
 

@@ -2,6 +2,7 @@
 #include "easel/exchange/TemplateFile.h"
 
 #include "easel/classic/GradientBytes.h"
+#include "easel/classic/TemplateInfo.h"
 
 #include <optional>
 
@@ -47,7 +48,7 @@ std::optional<classic::AppleDouble> templateHeader(const CGradientData& gradient
     if (!written)
         return std::nullopt;
     classic::AppleDouble header;
-    header.setFinderInfo({kTemplateType, kTemplateCreator});
+    header.setFinderInfo(classic::kTemplateInfo);
     header.setResourceFork(std::move(*written));
     return header;
 }

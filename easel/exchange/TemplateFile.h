@@ -9,9 +9,6 @@
 
 namespace easel::exchange {
 
-inline constexpr std::uint32_t kTemplateType = classic::fourCharacters("GTMP");
-inline constexpr std::uint32_t kTemplateCreator = classic::fourCharacters("*Kst");
-
 /// The gradient of a template, or why it has none.
 files::Result<CGradientData> readTemplate(const classic::FilePair& file);
 /// The same from a resource fork; the error names `file`.

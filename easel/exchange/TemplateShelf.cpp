@@ -4,6 +4,7 @@
 #include "easel/classic/HostNames.h"
 #include "easel/classic/MacRoman.h"
 #include "easel/classic/PairCommit.h"
+#include "easel/classic/TemplateInfo.h"
 #include "easel/exchange/TemplateFile.h"
 
 namespace fs = std::filesystem;
@@ -34,7 +35,7 @@ std::string withoutEnding(const std::string& name) {
 std::vector<std::string> TemplateShelf::names() const {
     std::vector<std::string> names;
     for (const auto& file : classic::listFolder(folder_).files)
-        if (file.info.type == kTemplateType)
+        if (file.info.type == classic::kTemplateInfo.type)
             names.push_back(withoutEnding(classic::fromMacRoman(file.hostName)));
     return names;
 }
@@ -81,7 +82,7 @@ Result<FilePair> TemplateShelf::find(const std::string& name) const {
         if (!encoded)
             continue;
         for (const auto& file : files)
-            if (file.info.type == kTemplateType && file.hostName == *encoded)
+            if (file.info.type == classic::kTemplateInfo.type && file.hostName == *encoded)
                 return file.file;
     }
     return tl::unexpected(Error{name, "there is no template of that name in " + folder_.string(),

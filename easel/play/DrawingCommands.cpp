@@ -4,7 +4,6 @@
 #include "easel/play/NewObject.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
-#include "easel/runtime/Host.h"
 #include "easel/runtime/PickFilter.h"
 
 namespace easel::play {
@@ -49,19 +48,19 @@ void redo(Session& session, Arguments& arguments) {
     session.frontWindow().drawing().redo();
 }
 
-void snap(Session&, Arguments& arguments) {
+void snap(Session& session, Arguments& arguments) {
     const std::string& what = arguments.text("grid or object");
     const runtime::Switch state = arguments.onOff() ? runtime::Switch::on : runtime::Switch::off;
     arguments.done();
     if (what == "grid")
-        runtime::theHost().snap.grid = state;
+        session.process().snap().grid = state;
     else if (what == "object")
-        runtime::theHost().snap.object = state;
+        session.process().snap().object = state;
     else
         throw PlayError("\"" + what + "\" is neither grid nor object");
 }
 
-void filter(Session&, Arguments& arguments) {
+void filter(Session& session, Arguments& arguments) {
     drawing::KindSet kinds;
     if (arguments.takeIf("all"))
         kinds = drawing::KindSet::all();
@@ -74,7 +73,7 @@ void filter(Session&, Arguments& arguments) {
             kinds.add(*kind);
         } while (!arguments.empty());
     arguments.done();
-    runtime::theHost().pickFilter = runtime::filterOf(kinds);
+    session.process().pickFilter() = runtime::filterOf(kinds);
 }
 
 constexpr Command kCommands[] = {

@@ -5,7 +5,6 @@
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
-#include "easel/runtime/Journal.h"
 
 #include <map>
 
@@ -13,8 +12,8 @@ namespace easel::play {
 
 namespace {
 
-Json printJournal(Session&, Arguments&) {
-    return {{"journal", runtime::hostJournal().take()}};
+Json printJournal(Session& session, Arguments&) {
+    return {{"journal", session.process().journal().take()}};
 }
 
 Json printDialog(Session& session, Arguments&) {

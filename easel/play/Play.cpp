@@ -4,7 +4,7 @@
 #include "easel/files/ScratchFolder.h"
 #include "easel/play/Session.h"
 #include "easel/runtime/PluginModule.h"
-#include "easel/runtime/Storage.h"
+#include "easel/runtime/Process.h"
 
 #include <cerrno>
 #include <fstream>
@@ -70,16 +70,17 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
         }
         scratch.emplace(std::move(*made));
     }
-    runtime::useStorage(placesOf(request, scratch));
+    runtime::Process process(placesOf(request, scratch));
     Session session({.script = std::move(*script),
                      .name = request.file,
                      .folder = folderOf(request.file),
                      .plugin = request.plugin.empty() ? runtime::PluginModule::defaultFile() : request.plugin,
                      .answers = &answers,
-                     .messages = &messages});
+                     .messages = &messages},
+                    process);
     const bool played = session.play();
     session.unloadPlugin();
-    runtime::theStorage().files().settle();
+    process.storage().files().settle();
     return played ? PlayOutcome::played : PlayOutcome::failed;
 }
 

@@ -5,10 +5,8 @@
 #include "easel/drawing/ShapeGradient.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
-#include "easel/runtime/Host.h"
 #include "easel/runtime/HostPoint.h"
 #include "easel/runtime/PickFilter.h"
-#include "easel/runtime/ToolPalette.h"
 
 namespace easel::play {
 
@@ -103,9 +101,9 @@ Json optionalNumber(std::optional<long> number) {
     return number ? Json(*number) : Json(nullptr);
 }
 
-Json filterNames() {
+Json filterNames(const SelDescrimT& filter) {
     Json names = Json::array();
-    const drawing::KindSet kinds = runtime::kindsIn(runtime::theHost().pickFilter);
+    const drawing::KindSet kinds = runtime::kindsIn(filter);
     for (const drawing::Kind kind : drawing::kAllKinds)
         if (kinds.has(kind))
             names.push_back(std::string(kindName(kind)));
@@ -192,7 +190,7 @@ Json printWindow(Session& session, Arguments&) {
         return {{"window", nullptr}};
     const runtime::DrawingWindow& window = session.frontWindow();
     const drawing::Drawing& drawing = window.drawing();
-    const runtime::SnapSwitches& snap = runtime::theHost().snap;
+    const runtime::SnapSwitches& snap = session.process().snap();
     return {{"window",
              {{"objects", objectsOf(drawing)},
               {"selection", selectionOf(drawing)},
@@ -200,16 +198,16 @@ Json printWindow(Session& session, Arguments&) {
               {"undoLevels", drawing.undoLevels()},
               {"redoLevels", drawing.redoLevels()},
               {"cursor", optionalNumber(window.cursor())},
-              {"pickFilter", filterNames()},
+              {"pickFilter", filterNames(session.process().pickFilter())},
               {"gridSnap", snap.grid == runtime::Switch::on},
               {"objectSnap", snap.object == runtime::Switch::on},
               {"beeps", session.user().beeps()},
               {"dirty", drawing.dirty()}}}};
 }
 
-Json printPalette(Session&, Arguments&) {
+Json printPalette(Session& session, Arguments&) {
     Json tools = Json::array();
-    for (const HostTool& tool : runtime::thePalette().tools())
+    for (const HostTool& tool : session.process().palette().tools())
         tools.push_back(toolOf(tool));
     return {{"palette", std::move(tools)}};
 }

@@ -5,8 +5,6 @@
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Waiting.h"
-#include "easel/runtime/Host.h"
-#include "easel/runtime/ToolPalette.h"
 
 #include <algorithm>
 #include <limits>
@@ -41,17 +39,11 @@ bool playAtAnyTime(Session& session, const Step& step) {
     return true;
 }
 
-Session::Session(SessionPlan plan)
-    : plan_(std::move(plan)), steps_(plan_.script), user_(*this),
-      looksAtPictures_(plan_.script.find("picture") != std::string::npos) {
-    runtime::theHost().user = &user_;
-}
+Session::Session(SessionPlan plan, runtime::Process& process)
+    : process_(process), plan_(std::move(plan)), steps_(plan_.script), user_(*this), inFront_(process, user_),
+      looksAtPictures_(plan_.script.find("picture") != std::string::npos) {}
 
-Session::~Session() {
-    plugin_.reset();
-    windows_.clear();
-    runtime::theHost().user = nullptr;
-}
+Session::~Session() = default;
 
 bool Session::play() {
     while (const auto step = steps_.next())
@@ -92,8 +84,8 @@ void Session::say(const std::string& message) {
 }
 
 void Session::show(drawing::Drawing drawing) {
-    windows_.push_back(std::make_unique<runtime::DrawingWindow>(std::move(drawing)));
-    runtime::theHost().activeWindow = windows_.back().get();
+    windows_.push_back(std::make_unique<runtime::DrawingWindow>(std::move(drawing), process_));
+    windows_.back()->activate();
 }
 
 runtime::DrawingWindow& Session::frontWindow() {
@@ -121,7 +113,7 @@ void Session::paintForPictures() {
 
 runtime::PluginModule& Session::plugin() {
     if (!plugin_) {
-        auto loaded = runtime::PluginModule::load(plan_.plugin);
+        auto loaded = runtime::PluginModule::load(plan_.plugin, process_);
         if (!loaded)
             throw PlayError(loaded.error().message());
         plugin_ = std::move(*loaded);
@@ -132,7 +124,7 @@ runtime::PluginModule& Session::plugin() {
 }
 
 const HostTool& Session::activeTool() const {
-    const auto& tools = runtime::thePalette().tools();
+    const auto& tools = process_.palette().tools();
     if (tools.empty())
         throw PlayError("no tool is active; the scenario has to start the plug-in first");
     return tools.back();

@@ -6,6 +6,7 @@
 #include "easel/play/Steps.h"
 #include "easel/runtime/DrawingWindow.h"
 #include "easel/runtime/PluginModule.h"
+#include "easel/runtime/Process.h"
 
 #include <filesystem>
 #include <iosfwd>
@@ -14,10 +15,9 @@
 #include <string>
 #include <vector>
 
-struct HostTool;
-
 namespace easel::play {
 
+// Streams are not owned and outlive the session.
 struct SessionPlan {
     std::string script;
     std::string name;             // what messages call the scenario
@@ -29,8 +29,8 @@ struct SessionPlan {
 
 class Session {
   public:
-    // While it lives, the session is the host's user.
-    explicit Session(SessionPlan plan);
+    // While it lives, the session is the user of the process, which outlives it.
+    Session(SessionPlan plan, runtime::Process& process);
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -40,6 +40,7 @@ class Session {
     bool play();
 
     // --- For commands.
+    runtime::Process& process() { return process_; }
     ScriptedUser& user() { return user_; }
     Steps& steps() { return steps_; }
     std::filesystem::path resolve(const std::string& path) const;
@@ -74,9 +75,11 @@ class Session {
     void playStep(const Step& step);
     void report(const ScenarioError& error);
 
+    runtime::Process& process_;
     SessionPlan plan_;
     Steps steps_;
     ScriptedUser user_;
+    runtime::UserScope inFront_;
     std::vector<std::unique_ptr<runtime::DrawingWindow>> windows_; // the front one last
     // Held so that no address is used twice.
     std::vector<drawing::ObjectGradient> knownGradients_;

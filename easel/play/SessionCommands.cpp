@@ -2,7 +2,6 @@
 #include "easel/play/Command.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
-#include "easel/runtime/Journal.h"
 #include "easel/runtime/ToolCalls.h"
 
 #include <limits>
@@ -43,13 +42,13 @@ void cursor(Session& session, Arguments& arguments) {
     runtime::updateToolCursor(session.activeTool(), session.frontWindow());
 }
 
-void switchJournal(Session&, Arguments& arguments) {
+void switchJournal(Session& session, Arguments& arguments) {
     const bool on = arguments.onOff();
     arguments.done();
     if (on)
-        runtime::hostJournal().switchOn();
+        session.process().journal().switchOn();
     else
-        runtime::hostJournal().switchOff();
+        session.process().journal().switchOff();
 }
 
 constexpr Command kCommands[] = {

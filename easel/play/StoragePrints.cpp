@@ -3,7 +3,6 @@
 #include "easel/play/PlayError.h"
 #include "easel/play/Prints.h"
 #include "easel/play/Session.h"
-#include "easel/runtime/Storage.h"
 #include "easel/runtime/TemplateFolder.h"
 
 namespace easel::play {
@@ -54,7 +53,7 @@ Json fileOf(const classic::ListedFile& file) {
 } // namespace
 
 Json printTemplates(Session& session, Arguments&) {
-    auto& files = runtime::theStorage().files();
+    auto& files = session.process().storage().files();
     const auto folder = runtime::templateFolder(session.pluginFile(), files.places());
     if (!folder)
         throw PlayError(folder.error().message());
@@ -65,15 +64,15 @@ Json printTemplates(Session& session, Arguments&) {
     return {{"templates", std::move(templates)}};
 }
 
-Json printDefaults(Session&, Arguments&) {
-    const auto stored = runtime::theStorage().defaults().read();
+Json printDefaults(Session& session, Arguments&) {
+    const auto stored = session.process().storage().defaults().read();
     if (!stored)
         throw PlayError(stored.error().message());
     return {{"defaults", resourcesOf(*stored)}};
 }
 
-Json printResourceFiles(Session&, Arguments&) {
-    const auto& files = runtime::theStorage().resourceFiles();
+Json printResourceFiles(Session& session, Arguments&) {
+    const auto& files = session.process().storage().resourceFiles();
     return {{"resourceFiles", {{"current", files.current()}, {"open", files.openFiles()}}}};
 }
 

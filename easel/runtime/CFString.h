@@ -5,9 +5,19 @@
 
 #include <string>
 
+struct __CFString {
+    std::string text; // UTF-8
+    mutable int references = 1;
+};
+
+// There is one way to allocate a string.
+struct __CFAllocator {};
+
 namespace easel::runtime {
 
 // The object's text in UTF-8; empty for null.
-std::string utf8Of(CFStringRef string);
+inline std::string utf8Of(CFStringRef string) {
+    return string != nullptr ? string->text : std::string();
+}
 
 } // namespace easel::runtime

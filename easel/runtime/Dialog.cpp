@@ -2,7 +2,7 @@
 #include "easel/runtime/Dialog.h"
 
 #include "easel/paint/Port.h"
-#include "easel/runtime/CurrentPort.h"
+#include "easel/runtime/Ports.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,11 +19,11 @@ paint::Port portFor(int width, int height, const DialogScreen& screen) {
 
 } // namespace
 
-Dialog::Dialog(DialogDescription description, const DialogScreen& screen)
+Dialog::Dialog(DialogDescription description, const DialogScreen& screen, Ports& ports)
     : id_(description.id), title_(std::move(description.title)), width_(description.width),
-      height_(description.height), items_(std::move(description.items)), screen_(screen),
+      height_(description.height), items_(std::move(description.items)), screen_(screen), ports_(ports),
       port_(std::make_unique<paint::Port>(portFor(width_, height_, screen))) {
-    registerPort(*port_);
+    ports_.add(*port_);
     const auto field = std::find_if(items_.begin(), items_.end(),
                                     [](const DialogItem& each) { return each.kind == ItemKind::EditText; });
     if (field != items_.end())
@@ -32,7 +32,7 @@ Dialog::Dialog(DialogDescription description, const DialogScreen& screen)
 }
 
 Dialog::~Dialog() {
-    forgetPort(*port_);
+    ports_.forget(*port_);
 }
 
 DialogItem* Dialog::find(int number) {
@@ -53,6 +53,12 @@ const DialogItem* Dialog::itemAt(paint::PixelPoint point) const {
     const auto found = std::find_if(items_.begin(), items_.end(),
                                     [point](const DialogItem& each) { return each.bounds.contains(point); });
     return found == items_.end() ? nullptr : &*found;
+}
+
+int Dialog::itemWithRole(ButtonRole role) const {
+    const auto found = std::find_if(items_.begin(), items_.end(),
+                                    [role](const DialogItem& each) { return each.role == role; });
+    return found == items_.end() ? 0 : found->number;
 }
 
 void Dialog::changed(int item, ItemChange change) {
@@ -130,7 +136,7 @@ bool Dialog::hasInvalidItems() const {
 }
 
 void Dialog::drawInvalidItems() {
-    const CurrentPortScope current(*port_);
+    const CurrentPortScope current(ports_, *port_);
     for (DialogItem& each : items_) {
         if (!std::exchange(each.invalid, false))
             continue;

@@ -18,6 +18,8 @@ class Port;
 
 namespace easel::runtime {
 
+class Ports;
+
 // What a dialog is built from.
 struct DialogDescription {
     int id = 0;
@@ -62,15 +64,13 @@ enum class EditOutcome { Accepted, Refused };
 
 enum class DialogKey { Enter, Escape };
 
-// The items that Enter and Escape stand for; 0 for none.
-struct KeyItems {
-    int enter = 0;
-    int escape = 0;
-};
+// Whether Enter and Escape stand for the default and the cancel button.
+enum class StandardKeys { Off, On };
 
 class Dialog {
   public:
-    Dialog(DialogDescription description, const DialogScreen& screen);
+    // Its port joins the ports, which outlive the dialog.
+    Dialog(DialogDescription description, const DialogScreen& screen, Ports& ports);
     ~Dialog();
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
@@ -84,6 +84,8 @@ class Dialog {
     const DialogItem* item(int number) const;
     // The item with the lowest number whose bounds hold the point, or null.
     const DialogItem* itemAt(paint::PixelPoint point) const;
+    // The number of the first item that has the role, or 0.
+    int itemWithRole(ButtonRole role) const;
     // The item with the keyboard focus, or 0. A dialog opens with its first edit field focused.
     int focus() const { return focus_; }
     bool shown() const { return shown_; }
@@ -120,7 +122,7 @@ class Dialog {
     void setText(int item, std::string text);
     void setValue(int item, int value);
     void setDrawProcedure(int item, ItemDrawProcedure procedure);
-    void setKeyItems(const KeyItems& items) { keyItems_ = items; }
+    void setStandardKeys(StandardKeys keys) { standardKeys_ = keys; }
     void invalidate(int item);
     void show();
 
@@ -159,8 +161,9 @@ class Dialog {
     int focus_ = 0;
     bool shown_ = false;
     std::deque<int> hits_;
-    KeyItems keyItems_;
+    StandardKeys standardKeys_ = StandardKeys::Off;
     DialogScreen screen_;
+    Ports& ports_;
     std::unique_ptr<paint::Port> port_;
     DialogObserver* observer_ = nullptr;
 };

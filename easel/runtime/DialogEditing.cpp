@@ -120,7 +120,8 @@ void Dialog::hit(int number) {
 }
 
 void Dialog::pressKey(DialogKey key) {
-    hit(key == DialogKey::Enter ? keyItems_.enter : keyItems_.escape);
+    if (standardKeys_ == StandardKeys::On)
+        hit(itemWithRole(key == DialogKey::Enter ? ButtonRole::Default : ButtonRole::Cancel));
 }
 
 std::optional<int> Dialog::takeHit() {

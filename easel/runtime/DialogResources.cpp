@@ -2,8 +2,6 @@
 #include "easel/runtime/DialogResources.h"
 
 #include "easel/classic/MacRoman.h"
-#include "easel/classic/PluginResources.h"
-#include "easel/runtime/PluginResourceFile.h"
 
 namespace easel::runtime {
 
@@ -64,8 +62,8 @@ std::shared_ptr<Menu> menuOf(const classic::PluginResources& resources, int id) 
     auto menu = std::make_shared<Menu>();
     if (const classic::MenuResource* entries = resources.menu(id))
         for (const classic::MenuEntryResource& entry : *entries)
-            menu->append(
-                {encoded(entry.text), true, entry.kind == classic::MenuEntryResource::Kind::Separator});
+            menu->append({encoded(entry.text), entry.enabled,
+                          entry.kind == classic::MenuEntryResource::Kind::Separator});
     return menu;
 }
 
@@ -89,8 +87,7 @@ DialogItem itemOf(const classic::PluginResources& resources, const ItemResource&
 
 } // namespace
 
-std::optional<DialogDescription> dialogDescription(int id) {
-    const classic::PluginResources& resources = pluginResources();
+std::optional<DialogDescription> dialogDescription(const classic::PluginResources& resources, int id) {
     const classic::DialogResource* resource = resources.dialog(id);
     if (resource == nullptr)
         return std::nullopt;
@@ -100,8 +97,8 @@ std::optional<DialogDescription> dialogDescription(int id) {
     return description;
 }
 
-std::optional<Alert> alertDescription(int id) {
-    const classic::AlertResource* resource = pluginResources().alert(id);
+std::optional<Alert> alertDescription(const classic::PluginResources& resources, int id) {
+    const classic::AlertResource* resource = resources.alert(id);
     if (resource == nullptr)
         return std::nullopt;
     return Alert{id, resource->title, resource->text, resource->detail, resource->confirm, resource->decline};

@@ -1,6 +1,7 @@
 // Dialogs and alerts as the plug-in's resources describe them.
 #pragma once
 
+#include "easel/classic/PluginResources.h"
 #include "easel/runtime/Alert.h"
 #include "easel/runtime/Dialog.h"
 
@@ -9,7 +10,7 @@
 namespace easel::runtime {
 
 // A fresh description, with menus of its own; none if there is no such dialog.
-std::optional<DialogDescription> dialogDescription(int id);
-std::optional<Alert> alertDescription(int id);
+std::optional<DialogDescription> dialogDescription(const classic::PluginResources& resources, int id);
+std::optional<Alert> alertDescription(const classic::PluginResources& resources, int id);
 
 } // namespace easel::runtime

@@ -4,8 +4,7 @@
 #include "easel/paint/Port.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/paint/pixels/Surface.h"
-#include "easel/runtime/CurrentPort.h"
-#include "easel/runtime/Host.h"
+#include "easel/runtime/Process.h"
 #include "easel/runtime/User.h"
 
 #include <algorithm>
@@ -60,25 +59,30 @@ void whiten(paint::Surface& image, const paint::PixelBox& box) {
 
 } // namespace
 
-DrawingWindow::DrawingWindow(drawing::Drawing drawing)
-    : port_(std::make_unique<paint::Port>(paint::PixelRect{0, 0, 1, 1}, 1.0, kWhite & 0xffffff)),
+DrawingWindow::DrawingWindow(drawing::Drawing drawing, Process& process)
+    : process_(process),
+      port_(std::make_unique<paint::Port>(paint::PixelRect{0, 0, 1, 1}, 1.0, kWhite & 0xffffff)),
       drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)) {
-    registerPort(*port_);
+    process_.ports().add(*port_);
     mark(view_.seen());
     listen();
 }
 
 DrawingWindow::~DrawingWindow() {
-    forgetPort(*port_);
-    if (theHost().activeWindow == this)
-        theHost().activeWindow = nullptr;
+    process_.ports().forget(*port_);
+    if (process_.activeWindow() == this)
+        process_.setActiveWindow(nullptr);
+}
+
+void DrawingWindow::activate() {
+    process_.setActiveWindow(this);
 }
 
 void DrawingWindow::listen() {
     drawing_.setChangeListener([this](const drawing::Box& area) {
         mark(area);
-        if (User* user = theHost().user)
-            user->repaint(*this, area);
+        if (process_.hasUser())
+            process_.user().repaint(*this, area);
     });
 }
 

@@ -25,18 +25,24 @@ struct ConstructionLine {
     drawing::Point to;
 };
 
+class Process;
+
 class DrawingWindow {
   public:
-    // The view shows the whole drawing at scale 1 until it is set.
-    explicit DrawingWindow(drawing::Drawing drawing);
+    // The view shows the whole drawing at scale 1 until it is set. The process outlives the window.
+    DrawingWindow(drawing::Drawing drawing, Process& process);
     ~DrawingWindow();
     DrawingWindow(const DrawingWindow&) = delete;
     DrawingWindow& operator=(const DrawingWindow&) = delete;
 
+    Process& process() const { return process_; }
     drawing::Drawing& drawing() { return drawing_; }
     const drawing::Drawing& drawing() const { return drawing_; }
     // Another drawing takes the place of the one shown, of which nothing stays; the view does.
     void setDrawing(drawing::Drawing drawing);
+
+    // Makes this the front drawing window.
+    void activate();
 
     // Setting the view marks everything for repainting.
     const View& view() const { return view_; }
@@ -72,6 +78,7 @@ class DrawingWindow {
   private:
     void listen();
 
+    Process& process_;
     HostWindow handle_{this};
     DWindow ref_{handle_};
     std::unique_ptr<paint::Port> port_;

@@ -21,11 +21,6 @@ std::vector<std::string> Journal::take() {
     return std::exchange(lines_, {});
 }
 
-Journal& hostJournal() {
-    static Journal journal;
-    return journal;
-}
-
 std::string journalWord(bool value) {
     return value ? "true" : "false";
 }

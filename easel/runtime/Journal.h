@@ -17,7 +17,9 @@ class Journal {
     void switchOn() { on_ = true; }
     void switchOff() { on_ = false; }
 
-    void add(std::string line) { lines_.push_back(std::move(line)); }
+    // Notes an operation under the name that the interface gives it. Plain numbers, truth values and texts
+    // (UTF-8) go in, in the order of the call; pointers, points, rectangles and objects are left out.
+    template <class... Values> void note(std::string_view operation, const Values&... values);
 
     // Gives the lines written since the last call and forgets them.
     std::vector<std::string> take();
@@ -26,9 +28,6 @@ class Journal {
     std::vector<std::string> lines_;
     bool on_ = false;
 };
-
-// The one journal of the process.
-Journal& hostJournal();
 
 // One argument as the journal writes it: numbers so that reading them back gives the same value, texts
 // (UTF-8) in quotes.
@@ -51,18 +50,15 @@ template <class Value> std::string journalArgument(const Value& value) {
         return journalWord(std::string_view(value));
 }
 
-// Reports an operation under the name that the interface gives it. Plain numbers, truth values and texts go
-// in, in the order of the call; pointers, points, rectangles and objects are left out.
-template <class... Values> void journal(std::string_view operation, const Values&... values) {
-    Journal& log = hostJournal();
-    if (!log.isOn())
+template <class... Values> void Journal::note(std::string_view operation, const Values&... values) {
+    if (!on_)
         return;
     std::string line(operation);
     line += '(';
     [[maybe_unused]] const char* separator = "";
     ((line += separator, line += journalArgument(values), separator = ", "), ...);
     line += ')';
-    log.add(std::move(line));
+    lines_.push_back(std::move(line));
 }
 
 } // namespace easel::runtime

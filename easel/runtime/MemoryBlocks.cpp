@@ -15,11 +15,6 @@ void sizeTo(std::vector<char>& bytes, std::size_t size) {
 
 } // namespace
 
-MemoryBlocks& MemoryBlocks::shared() {
-    static MemoryBlocks blocks;
-    return blocks;
-}
-
 char** MemoryBlocks::create(std::size_t size) {
     try {
         auto block = std::make_unique<Block>();

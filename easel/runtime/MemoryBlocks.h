@@ -22,9 +22,6 @@ enum class BlockError {
 /// Used on the user-interface thread only, as all of the host interface is.
 class MemoryBlocks {
   public:
-    /// The blocks of this process.
-    static MemoryBlocks& shared();
-
     /// A block of that many zero bytes, or null when memory runs out. Disposed of by its owner.
     char** create(std::size_t size);
     tl::expected<void, BlockError> dispose(char** block);

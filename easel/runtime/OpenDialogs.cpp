@@ -27,13 +27,8 @@ Dialog* OpenDialogs::owning(const paint::Port& port) {
     return found == dialogs_.end() ? nullptr : found->get();
 }
 
-OpenDialogs& openDialogs() {
-    static OpenDialogs dialogs;
-    return dialogs;
-}
-
-void flushFrontDialog() {
-    if (Dialog* dialog = openDialogs().front())
+void OpenDialogs::flushFront() {
+    if (Dialog* dialog = front())
         dialog->flush();
 }
 

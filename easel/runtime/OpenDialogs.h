@@ -26,15 +26,12 @@ class OpenDialogs {
     // The dialog that draws in this port, or null.
     Dialog* owning(const paint::Port& port);
 
+    // Tells the observer of the front dialog what has been drawn. Called before the plug-in waits for the
+    // mouse, since it draws while a button is held without ever returning to the loop that runs the dialog.
+    void flushFront();
+
   private:
     std::vector<std::unique_ptr<Dialog>> dialogs_;
 };
-
-// Those of this process.
-OpenDialogs& openDialogs();
-
-// Tells the observer of the front dialog what has been drawn. Called before the plug-in waits for the mouse,
-// since it draws while a button is held without ever returning to the loop that runs the dialog.
-void flushFrontDialog();
 
 } // namespace easel::runtime

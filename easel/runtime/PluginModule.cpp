@@ -1,8 +1,7 @@
 // Loads the plug-in with the dynamic linker.
 #include "easel/runtime/PluginModule.h"
 
-#include "easel/runtime/PluginResourceFile.h"
-#include "easel/runtime/ToolPalette.h"
+#include "easel/runtime/Process.h"
 
 #include <dlfcn.h>
 
@@ -43,11 +42,11 @@ void PluginModule::Unload::operator()(void* library) const {
     dlclose(library);
 }
 
-PluginModule::PluginModule(fs::path file, Library library, Entry entry)
-    : file_(std::move(file)), library_(std::move(library)), entry_(entry),
-      resources_(openPluginResources(resourceFolder())) {}
+PluginModule::PluginModule(fs::path file, Library library, Entry entry, Process& process)
+    : process_(process), file_(std::move(file)), library_(std::move(library)), entry_(entry),
+      resources_(process.plugin().open(resourceFolder())) {}
 
-files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& given) {
+files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& given, Process& process) {
     const fs::path file = fs::absolute(given);
     if (const auto checked = checkRegularFile(file); !checked)
         return tl::unexpected(checked.error());
@@ -59,12 +58,12 @@ files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& 
     if (!entry)
         return tl::unexpected(files::Error{file, "not a plug-in: it has no MainEntry", {}});
     return std::unique_ptr<PluginModule>(
-        new PluginModule(file, std::move(library), reinterpret_cast<Entry>(entry)));
+        new PluginModule(file, std::move(library), reinterpret_cast<Entry>(entry), process));
 }
 
 PluginModule::~PluginModule() {
-    thePalette().clear();
-    closePluginResources();
+    process_.palette().clear();
+    process_.plugin().close();
 }
 
 std::int32_t PluginModule::send(std::int16_t message) {

@@ -11,15 +11,18 @@ struct XTNLParmBlk;
 
 namespace easel::runtime {
 
+class Process;
+
 constexpr std::int16_t kStartUpMessage = 1;
 constexpr std::int16_t kShutDownMessage = 2;
 
 class PluginModule {
   public:
     // Loads the module, finds its entry and opens its resources. An error if the file is missing, no module,
-    // or lacks the entry.
-    static files::Result<std::unique_ptr<PluginModule>> load(const std::filesystem::path& file);
-    // Takes the plug-in's tools out of the palette and unloads the module.
+    // or lacks the entry. The process outlives the module.
+    static files::Result<std::unique_ptr<PluginModule>> load(const std::filesystem::path& file,
+                                                             Process& process);
+    // Takes the plug-in's tools out of the palette, closes its resources and unloads the module.
     ~PluginModule();
     PluginModule(const PluginModule&) = delete;
     PluginModule& operator=(const PluginModule&) = delete;
@@ -47,8 +50,9 @@ class PluginModule {
     };
     using Library = std::unique_ptr<void, Unload>;
 
-    PluginModule(std::filesystem::path file, Library library, Entry entry);
+    PluginModule(std::filesystem::path file, Library library, Entry entry, Process& process);
 
+    Process& process_;
     std::filesystem::path file_;
     Library library_;
     Entry entry_;

@@ -7,13 +7,18 @@
 
 namespace easel::runtime {
 
-// Without a plug-in there are none, and every look-up finds nothing.
-const classic::PluginResources& pluginResources();
+class PluginResourceFile {
+  public:
+    // Without a plug-in there are none, and every look-up finds nothing.
+    const classic::PluginResources& resources() const { return resources_; }
 
-// Reads the resources in a module's resource folder, in place of those before. After an error (which names
-// the file) there are none.
-[[nodiscard]] files::Result<> openPluginResources(const std::filesystem::path& folder);
-// To be called when the module is unloaded.
-void closePluginResources();
+    // Reads the resources in a module's resource folder. After an error (which names the file) there are
+    // none.
+    [[nodiscard]] files::Result<> open(const std::filesystem::path& folder);
+    void close() { resources_ = {}; }
+
+  private:
+    classic::PluginResources resources_;
+};
 
 } // namespace easel::runtime

@@ -2,11 +2,17 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
-#include "easel/runtime/Host.h"
 
 namespace easel::runtime {
 
 class DrawingWindow;
+
+enum class Switch { off, on };
+
+struct SnapSwitches {
+    Switch grid = Switch::off;
+    Switch object = Switch::off;
+};
 
 // The point, in drawing coordinates, or what it snaps to: with object snap the nearest end of a side or curve
 // within a few screen pixels, else with grid snap the nearest grid point.

@@ -1,15 +1,22 @@
-// Where the host keeps things on disk: one set of files, resource files and defaults for the whole process.
+// Where the host keeps things on disk: one set of files, resource files and defaults.
 #pragma once
 
 #include "easel/classic/DefaultsStore.h"
 #include "easel/runtime/Enumeration.h"
 #include "easel/runtime/ResourceFiles.h"
 
+#include <functional>
+#include <string>
+
 namespace easel::runtime {
 
 class Storage {
   public:
-    explicit Storage(const classic::StoragePlaces& places);
+    // Says something to the user.
+    using Tell = std::function<void(const std::string&)>;
+
+    // Resources are read into the blocks, which outlive the storage.
+    Storage(const classic::StoragePlaces& places, MemoryBlocks& blocks, Tell tell);
 
     classic::HostFiles& files() { return files_; }
     Enumeration& enumeration() { return enumeration_; }
@@ -23,17 +30,12 @@ class Storage {
   private:
     enum class Keeping { AsFarAsKnown, Nothing };
 
+    Tell tell_;
     Keeping keeping_ = Keeping::AsFarAsKnown;
     classic::HostFiles files_;
     Enumeration enumeration_;
     ResourceFiles resourceFiles_;
     classic::DefaultsStore defaults_;
 };
-
-// The one storage of the process: the user's own places until others are set.
-Storage& theStorage();
-
-// To be called before the plug-in is loaded. Open files of earlier places are closed.
-void useStorage(const classic::StoragePlaces& places);
 
 } // namespace easel::runtime

@@ -51,12 +51,3 @@ HostTool* TPalette::find(short number) {
                                     [&](const HostTool& tool) { return tool.number == number; });
     return found == tools_.end() ? nullptr : &*found;
 }
-
-namespace easel::runtime {
-
-TPalette& thePalette() {
-    static TPalette palette;
-    return palette;
-}
-
-} // namespace easel::runtime

@@ -41,13 +41,10 @@ class TPalette {
     // To be called when the module behind the tools is unloaded. Numbers begin anew.
     void clear() { tools_.clear(); }
 
+    // Takes what is written for a number that no tool has.
+    HostTool& nobody() { return nobody_; }
+
   private:
     std::deque<HostTool> tools_;
+    HostTool nobody_{0, PaletteElement{}};
 };
-
-namespace easel::runtime {
-
-// The one palette of the process.
-TPalette& thePalette();
-
-} // namespace easel::runtime

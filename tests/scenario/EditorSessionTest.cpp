@@ -189,6 +189,20 @@ TEST(EditorSession, WhatADialogCannotTakeIsAnError) {
     }
 }
 
+TEST(EditorSession, AnEntryThatTheResourcesDisableCannotBeChosen) {
+    const Player player;
+    const PluginCopy plugin(player.folder());
+    plugin.replaceInResources("<entry>Delete Templates", "<entry enabled=\"no\">Delete Templates");
+    Player other;
+    other.setPlugin(plugin.module());
+    const std::string script = "new 400 300\nstart\noptions\nprint dialog\nchoose 9 ";
+    const Played refused = other.play(script + "2\n");
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_THAT(refused.messages, testing::HasSubstr("entry 2 of item 9 cannot be chosen"));
+    EXPECT_EQ(refused["dialog"]["items"][8]["menu"].size(), 4u) << "it is shown all the same";
+    EXPECT_EQ(other.play(script + "4\nhit 2\n").exitCode, 0);
+}
+
 TEST(EditorSession, ButtonsAreHitOnlyByAReleaseInsideThem) {
     const Played played =
         playWithTool(openEditorOn(kThreeStops) +

@@ -1,5 +1,7 @@
 // Mouse, keyboard and wheel on the canvas.
 #include "easel/window/canvas/Canvas.h"
+
+#include "easel/runtime/Process.h"
 #include "easel/window/look/CursorImages.h"
 #include "easel/window/look/PathConversion.h"
 #include "easel/window/waiting/Interaction.h"
@@ -177,7 +179,7 @@ void Canvas::refreshCursor() {
 }
 
 void Canvas::showCursor(long id) {
-    viewport()->setCursor(cursorWithId(id, devicePixelRatioF()));
+    viewport()->setCursor(cursorWithId(id, window_.process().plugin().resources(), devicePixelRatioF()));
 }
 
 } // namespace easel::window

@@ -1,7 +1,6 @@
 // Calls the tool and cleans up behind a call that was cancelled.
 #include "easel/window/canvas/PluginTool.h"
 
-#include "easel/runtime/Host.h"
 #include "easel/runtime/ToolCalls.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/waiting/Interaction.h"
@@ -15,7 +14,7 @@ PluginTool::PluginTool(const HostTool& tool, Interaction& interaction)
 
 void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
     runtime::DrawingWindow& window = canvas.drawingWindow();
-    runtime::theHost().activeWindow = &window;
+    window.activate();
     interaction_.pointer.pressed(canvas, event.position());
     const std::size_t levels = window.drawing().undoLevels();
     runtime::ToolOutcome outcome = runtime::ToolOutcome::declined;

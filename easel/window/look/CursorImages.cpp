@@ -1,7 +1,6 @@
 // Makes each cursor once for every resolution.
 #include "easel/window/look/CursorImages.h"
 
-#include "easel/runtime/PluginResourceFile.h"
 #include "easel/window/look/PictureFile.h"
 
 #include <QPainter>
@@ -14,8 +13,6 @@
 namespace easel::window {
 namespace {
 
-constexpr long kArrow = 0;
-constexpr long kPlainToolCursor = 606;
 constexpr int kPlainSize = 32;
 constexpr int kPlainHotSpot = 15;
 
@@ -40,12 +37,12 @@ QCursor plainToolCursor(double ratio) {
     return QCursor(QPixmap::fromImage(image), kPlainHotSpot, kPlainHotSpot);
 }
 
-QCursor makeCursor(long id, double ratio) {
-    if (id == kArrow)
+QCursor makeCursor(long id, const classic::PluginResources& resources, double ratio) {
+    if (id == kArrowCursor)
         return {Qt::ArrowCursor};
     if (id == kPlainToolCursor)
         return plainToolCursor(ratio);
-    const classic::CursorResource* resource = runtime::pluginResources().cursor(static_cast<int>(id));
+    const classic::CursorResource* resource = resources.cursor(static_cast<int>(id));
     if (!resource)
         return {Qt::ArrowCursor};
     const QImage image = pictureFile(resource->file, {resource->width, resource->height}, ratio);
@@ -56,11 +53,11 @@ QCursor makeCursor(long id, double ratio) {
 
 } // namespace
 
-QCursor cursorWithId(long id, double ratio) {
+QCursor cursorWithId(long id, const classic::PluginResources& resources, double ratio) {
     static std::map<std::pair<long, double>, QCursor> made;
     const auto [at, isNew] = made.try_emplace({id, ratio});
     if (isNew)
-        at->second = makeCursor(id, ratio);
+        at->second = makeCursor(id, resources, ratio);
     return at->second;
 }
 

@@ -1,12 +1,17 @@
 // Cursors by their resource ids, drawn at the resolution of the screen.
 #pragma once
 
+#include "easel/classic/PluginResources.h"
+
 #include <QCursor>
 
 namespace easel::window {
 
-// 0 is the arrow, 606 the host's plain tool cursor, others come from the plug-in's resources; an unknown id
-// gives the arrow.
-QCursor cursorWithId(long id, double ratio);
+// The cursors of the host's own, by their resource ids: the arrow and the plain one of tools.
+inline constexpr long kArrowCursor = 0;
+inline constexpr long kPlainToolCursor = 606;
+
+// One of these, or one of the plug-in's resources; an unknown id gives the arrow.
+QCursor cursorWithId(long id, const classic::PluginResources& resources, double ratio);
 
 } // namespace easel::window

@@ -1,7 +1,7 @@
 // Puts the window together and keeps it in step with its drawing.
 #include "easel/window/main/MainWindow.h"
 
-#include "easel/runtime/Host.h"
+#include "easel/runtime/Process.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/SelectTool.h"
 #include "easel/window/look/Theme.h"
@@ -42,8 +42,8 @@ QString titleOf(const QString& drawing) {
 } // namespace
 
 MainWindow::MainWindow(SharedParts& shared, drawing::Drawing drawing, const QString& file)
-    : shared_(shared), drawingWindow_(std::move(drawing)), file_(file), notice_(new NoticeBar),
-      closing_(shared.interaction.waiting, [this] { close(); }) {
+    : shared_(shared), drawingWindow_(std::move(drawing), shared.process), file_(file),
+      notice_(new NoticeBar), closing_(shared.interaction.waiting, [this] { close(); }) {
     setAttribute(Qt::WA_DeleteOnClose);
     canvas_ = new Canvas(drawingWindow_, shared_.interaction, shared_.canvases);
     auto* middle = new QWidget;
@@ -213,7 +213,13 @@ void MainWindow::snapChanged() {
     const auto state = [](const QAction& action) {
         return action.isChecked() ? runtime::Switch::on : runtime::Switch::off;
     };
-    runtime::theHost().snap = {state(*snapGrid_), state(*snapObject_)};
+    shared_.process.snap() = {state(*snapGrid_), state(*snapObject_)};
+}
+
+void MainWindow::showSnap() {
+    const runtime::SnapSwitches& snap = shared_.process.snap();
+    snapGrid_->setChecked(snap.grid == runtime::Switch::on);
+    snapObject_->setChecked(snap.object == runtime::Switch::on);
 }
 
 void MainWindow::chooseAppearance(QAction* chosen) {
@@ -232,11 +238,10 @@ void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
-    runtime::theHost().activeWindow = &drawingWindow_;
+    drawingWindow_.activate();
     shared_.interaction.dialogs.setFrontWindow(this);
     // The switches belong to the program; another window may have changed them.
-    snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
-    snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);
+    showSnap();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -109,6 +109,7 @@ class MainWindow : public QMainWindow {
     void zoomActual();
     void zoomFit();
     void snapChanged();
+    void showSnap();
     void chooseAppearance(QAction* chosen);
     void showShortcuts();
     void showAbout();

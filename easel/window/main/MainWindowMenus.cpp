@@ -1,5 +1,4 @@
 // The window's menus, tool bar and tool palette.
-#include "easel/runtime/Host.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/look/Icons.h"
 #include "easel/window/look/Theme.h"
@@ -158,8 +157,7 @@ void MainWindow::buildViewMenu() {
     snapObject_->setIcon(icon(IconName::Magnet));
     for (QAction* action : {snapGrid_, snapObject_})
         action->setCheckable(true);
-    snapGrid_->setChecked(runtime::theHost().snap.grid == runtime::Switch::on);
-    snapObject_->setChecked(runtime::theHost().snap.object == runtime::Switch::on);
+    showSnap();
     menu->addActions({snapGrid_, snapObject_});
     menu->addSeparator();
     QMenu* looks = menu->addMenu(tr("&Appearance"));

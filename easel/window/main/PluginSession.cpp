@@ -1,9 +1,7 @@
 // Loads the plug-in and collects its tools.
 #include "easel/window/main/PluginSession.h"
 
-#include "easel/runtime/PluginResourceFile.h"
-#include "easel/runtime/Storage.h"
-#include "easel/runtime/ToolPalette.h"
+#include "easel/runtime/Process.h"
 #include "easel/window/look/PictureIcon.h"
 #include "easel/window/main/ToolChoice.h"
 #include "easel/window/waiting/Waiting.h"
@@ -11,18 +9,16 @@
 namespace easel::window {
 namespace {
 
-QIcon iconOf(const HostTool& tool) {
-    const classic::IconResource* resource = runtime::pluginResources().icon(tool.element.icon);
+QIcon iconOf(const HostTool& tool, const classic::PluginResources& resources) {
+    const classic::IconResource* resource = resources.icon(tool.element.icon);
     return resource ? pictureIcon(resource->file) : QIcon();
 }
 
 } // namespace
 
-PluginSession::PluginSession(const std::filesystem::path& module, const std::filesystem::path& preferences,
+PluginSession::PluginSession(const std::filesystem::path& module, runtime::Process& process,
                              ToolChoice& tools, Waiting& waiting)
-    : tools_(tools), waiting_(waiting) {
-    if (!preferences.empty())
-        runtime::useStorage({preferences, classic::StoragePlaces::ofUser().trash});
+    : process_(process), tools_(tools), waiting_(waiting) {
     const auto loaded = load(module.empty() ? runtime::PluginModule::defaultFile() : module);
     if (!loaded)
         problem_ = QObject::tr("%1\n\nEasel runs without this tool.")
@@ -30,17 +26,20 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::fil
 }
 
 files::Result<> PluginSession::load(const std::filesystem::path& module) {
-    auto loaded = runtime::PluginModule::load(module);
+    auto loaded = runtime::PluginModule::load(module, process_);
     if (!loaded)
         return tl::unexpected(loaded.error());
     module_ = std::move(*loaded);
-    if (!module_->resources())
-        return module_->resources();
+    if (!module_->resources()) {
+        const files::Result<> trouble = module_->resources();
+        module_.reset();
+        return trouble;
+    }
     module_->send(runtime::kStartUpMessage);
-    for (const HostTool& tool : runtime::thePalette().tools())
-        tools_.add(tool, iconOf(tool));
+    for (const HostTool& tool : process_.palette().tools())
+        tools_.add(tool, iconOf(tool, process_.plugin().resources()));
     // Whoever starts a drawing program with one special tool most likely wants that tool.
-    if (!runtime::thePalette().tools().empty())
+    if (!process_.palette().tools().empty())
         tools_.activate(1);
     return {};
 }
@@ -51,8 +50,6 @@ PluginSession::~PluginSession() {
     const Waiting::Call call(waiting_);
     module_->send(runtime::kShutDownMessage);
     tools_.removePluginTools();
-    runtime::thePalette().clear();
-    runtime::closePluginResources();
 }
 
 } // namespace easel::window

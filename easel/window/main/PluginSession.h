@@ -18,9 +18,9 @@ class Waiting;
 // problem to tell.
 class PluginSession {
   public:
-    // Empty paths stand for the usual places.
-    PluginSession(const std::filesystem::path& module, const std::filesystem::path& preferences,
-                  ToolChoice& tools, Waiting& waiting);
+    // An empty path stands for the usual place. The others outlive the session.
+    PluginSession(const std::filesystem::path& module, runtime::Process& process, ToolChoice& tools,
+                  Waiting& waiting);
     ~PluginSession();
     PluginSession(const PluginSession&) = delete;
     PluginSession& operator=(const PluginSession&) = delete;
@@ -31,6 +31,7 @@ class PluginSession {
   private:
     files::Result<> load(const std::filesystem::path& module);
 
+    runtime::Process& process_;
     ToolChoice& tools_;
     Waiting& waiting_;
     std::unique_ptr<runtime::PluginModule> module_;

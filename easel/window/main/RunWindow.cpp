@@ -1,8 +1,7 @@
 // Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
 #include "easel/window/main/RunWindow.h"
 
-#include "easel/runtime/Host.h"
-#include "easel/runtime/Storage.h"
+#include "easel/runtime/Process.h"
 #include "easel/window/look/EaselStyle.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/Application.h"
@@ -40,13 +39,21 @@ void reportMessages(QtMsgType type, const QMessageLogContext&, const QString& te
         std::fprintf(stderr, "easel: %s\n", qUtf8Printable(text));
 }
 
-void openFirstWindows(Workspace& workspace, const StartUp& startUp) {
+// The places of this user, but for the preferences if the command line names a folder for them.
+classic::StoragePlaces placesFor(const StartUp& startUp) {
+    classic::StoragePlaces places = classic::StoragePlaces::ofUser();
+    if (!startUp.preferences.empty())
+        places.preferences = startUp.preferences;
+    return places;
+}
+
+void openFirstWindows(Workspace& workspace, const StartUp& startUp, runtime::Process& process) {
     // The first window is there before its drawing is read, and shows itself if that takes a while.
     const QPointer<MainWindow> first = &workspace.newDrawing();
     for (const std::filesystem::path& file : startUp.files)
         workspace.openFile(QFile::decodeName(file.c_str()), first);
     // Once the user looks at the window, what the gradient editor will ask for first is made ready.
-    QTimer::singleShot(kAtLeisure, [] { runtime::theStorage().files().prepareListing(); });
+    QTimer::singleShot(kAtLeisure, [&process] { process.storage().files().prepareListing(); });
 }
 
 } // namespace
@@ -68,21 +75,17 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     applyAppearance(storedAppearance());
     QApplication::setStyle(new EaselStyle);
 
-    SharedParts shared(startUp.version);
+    easel::runtime::Process process(placesFor(startUp));
+    SharedParts shared(startUp.version, process);
     DesktopUser user(shared.interaction, shared.canvases);
-    easel::runtime::theHost().user = &user;
-    int result = 0;
-    {
-        Workspace workspace(shared);
-        PluginSession plugin(startUp.plugin, startUp.preferences, shared.tools, shared.interaction.waiting);
-        const TerminationSignals signals([&workspace] { workspace.quit(); });
-        QTimer::singleShot(0, &workspace, [&] {
-            openFirstWindows(workspace, startUp);
-            if (!plugin.problem().isEmpty())
-                tellProblem(plugin.problem().toStdString(), shared.interaction.dialogs);
-        });
-        result = QApplication::exec();
-    }
-    easel::runtime::theHost().user = nullptr;
-    return result;
+    const easel::runtime::UserScope inFront(process, user);
+    Workspace workspace(shared);
+    PluginSession plugin(startUp.plugin, process, shared.tools, shared.interaction.waiting);
+    const TerminationSignals signals([&workspace] { workspace.quit(); });
+    QTimer::singleShot(0, &workspace, [&] {
+        openFirstWindows(workspace, startUp, process);
+        if (!plugin.problem().isEmpty())
+            tellProblem(plugin.problem().toStdString(), shared.interaction.dialogs);
+    });
+    return QApplication::exec();
 }

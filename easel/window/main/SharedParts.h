@@ -9,12 +9,19 @@
 #include <string>
 #include <utility>
 
+namespace easel::runtime {
+class Process;
+}
+
 namespace easel::window {
 
 struct SharedParts {
-    explicit SharedParts(std::string programVersion) : version(std::move(programVersion)) {}
+    // The process outlives the parts.
+    SharedParts(std::string programVersion, runtime::Process& hostProcess)
+        : version(std::move(programVersion)), process(hostProcess) {}
 
     const std::string version;
+    runtime::Process& process;
     Interaction interaction;
     OpenCanvases canvases;
     RecentFiles recentFiles;

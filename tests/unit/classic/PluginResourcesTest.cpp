@@ -37,7 +37,7 @@ TEST(PluginResources, StringsCountFromOneAndAreTrimmed) {
 
 TEST(PluginResources, ADialogHasItsItemsInTheOrderOfTheirNumbers) {
     const auto resources =
-        parsed("<menu id='7'><entry>Save\u2026</entry><separator/><entry>(x;y</entry></menu>"
+        parsed("<menu id='7'><entry>Save\u2026</entry><separator/><entry enabled='no'>(x;y</entry></menu>"
                "<dialog id='5000' title='Edit' width='448' height='432'>"
                "<popup item='2' bounds='16 24 48 216' menu='7' tip='t'/>"
                "<button item='1' bounds='384 336 416 424' title='OK' default='yes' label='l'/>"
@@ -62,6 +62,8 @@ TEST(PluginResources, ADialogHasItsItemsInTheOrderOfTheirNumbers) {
     EXPECT_EQ(resources.menu(7)->at(0).text, "Save\u2026");
     EXPECT_EQ(resources.menu(7)->at(1).kind, MenuEntryResource::Kind::Separator);
     EXPECT_EQ(resources.menu(7)->at(2).text, "(x;y");
+    EXPECT_TRUE(resources.menu(7)->at(0).enabled);
+    EXPECT_FALSE(resources.menu(7)->at(2).enabled);
     EXPECT_EQ(resources.dialog(1), nullptr);
 }
 

@@ -27,8 +27,8 @@ class Listening : public IdleUser {
 
 TEST(CanvasClick, OnAnObjectThatCannotCarryAGradientBeepsAndIsNotHandled) {
     Listening user;
-    const EditorStage stage(user);
-    easel::runtime::DrawingWindow shown(easel::drawing::Drawing::create(100, 100));
+    EditorStage stage(user);
+    easel::runtime::DrawingWindow shown(easel::drawing::Drawing::create(100, 100), stage.process());
     HostWindow state{&shown};
     DWindow window(state);
     EXPECT_FALSE(GradientTool(&window, EventRecord(), {5.0, 5.0}));

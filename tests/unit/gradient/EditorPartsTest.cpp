@@ -5,7 +5,6 @@
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/EditorSession.h"
 #include "easel/runtime/Dialog.h"
-#include "easel/runtime/OpenDialogs.h"
 #include "tests/unit/gradient/EditorStage.h"
 #include "tests/unit/gradient/ScriptedUser.h"
 
@@ -135,15 +134,12 @@ TEST(EditorParts, AnExceptionInAHandlerGivesThePortBackAndLeavesTheCallersGradie
     struct Interrupted {};
     ScriptedUser user({[](Dialog& editor) { editor.enterText(kPositionItem, "30"); },
                        [](Dialog&) { throw Interrupted(); }});
-    const EditorStage stage(user);
+    EditorStage stage(user);
     InitTemplates("Interrupted");
     CGradientData gradient = gradientOf({{{1, 1, 1}, 0.0}, {{2, 2, 2}, 1.0}});
     EXPECT_THROW(ModalEditGradient(gradient), Interrupted);
     EXPECT_EQ(gradient.ColorList().front().Percent(), 0.0);
-    EXPECT_EQ(easel::runtime::theHost().currentPort, nullptr);
-    // The dialog is left open, as nobody disposed of it.
-    while (Dialog* left = easel::runtime::openDialogs().front())
-        DisposeDialog(left->ref());
+    EXPECT_EQ(stage.process().ports().current(), nullptr);
 }
 
 } // namespace

@@ -2,9 +2,7 @@
 // user.
 #pragma once
 
-#include "easel/runtime/Host.h"
-#include "easel/runtime/PluginResourceFile.h"
-#include "easel/runtime/Storage.h"
+#include "easel/runtime/Process.h"
 #include "host/Gradient.h"
 #include "tests/support/IdleUser.h"
 #include "tests/support/TemporaryFolder.h"
@@ -15,25 +13,22 @@ namespace tests {
 
 class EditorStage {
   public:
-    explicit EditorStage(easel::runtime::User& user) {
-        easel::runtime::useStorage(easel::classic::StoragePlaces::within(folder_.path()));
-        easel::runtime::theHost().user = &user;
+    explicit EditorStage(easel::runtime::User& user) : inFront_(process_, user) {
         const std::filesystem::path resources = folder_ / "Gradient";
         std::filesystem::copy(std::filesystem::path(SOURCE_DIR) / "Gradient" / "resources", resources);
-        const auto opened = easel::runtime::openPluginResources(resources);
+        const auto opened = process_.plugin().open(resources);
         EXPECT_TRUE(opened) << opened.error().message();
     }
     EditorStage(const EditorStage&) = delete;
     EditorStage& operator=(const EditorStage&) = delete;
-    ~EditorStage() {
-        easel::runtime::closePluginResources();
-        easel::runtime::theHost().user = nullptr;
-    }
 
+    easel::runtime::Process& process() { return process_; }
     const std::filesystem::path& folder() const { return folder_.path(); }
 
   private:
     TemporaryFolder folder_;
+    easel::runtime::Process process_{easel::classic::StoragePlaces::within(folder_.path())};
+    easel::runtime::UserScope inFront_;
 };
 
 inline CGradientData gradientOf(std::initializer_list<CGradientColor> stops) {

@@ -2,6 +2,7 @@
 #include "Gradient/TemplateUtil/LastDAIndex.h"
 #include "Gradient/model/GradientBlock.h"
 #include "host/Files.h"
+#include "tests/support/HostTest.h"
 
 #include <gtest/gtest.h>
 
@@ -14,13 +15,15 @@ long LastIndexOfBytes(long size) {
 
 } // namespace
 
-TEST(LastDAIndex, CountsWholeRecordsOnly) {
+using LastDAIndexTest = tests::HostTest;
+
+TEST_F(LastDAIndexTest, CountsWholeRecordsOnly) {
     EXPECT_EQ(LastIndexOfBytes(140), 1);
     EXPECT_EQ(LastIndexOfBytes(139), 0);
     EXPECT_EQ(LastIndexOfBytes(69), -1);
 }
 
-TEST(LastDAIndex, OfAnEmptyBlockAndOfNoneIsBeforeTheFirst) {
+TEST_F(LastDAIndexTest, OfAnEmptyBlockAndOfNoneIsBeforeTheFirst) {
     EXPECT_EQ(LastIndexOfBytes(0), -1);
     EXPECT_EQ(LastDAIndex<FSSpec>(nullptr), -1);
 }

@@ -3,10 +3,8 @@
 #include "Gradient/editor/EditorItems.h"
 #include "Gradient/editor/EditorState.h"
 #include "Gradient/editor/Swatches.h"
-#include "easel/runtime/CurrentPort.h"
-#include "easel/runtime/Dialog.h"
-#include "easel/runtime/Journal.h"
 #include "easel/paint/Port.h"
+#include "easel/runtime/Dialog.h"
 #include "tests/unit/gradient/DrawnGradient.h"
 #include "tests/unit/gradient/EditorStage.h"
 
@@ -38,11 +36,20 @@ class SwatchProcedures : public testing::Test {
 
     Port& port() const { return easel::runtime::Dialog::from(dialog_).port(); }
 
-    template <typename Draw> void expectThePortKept(Draw draw, const char* what) const {
+    template <typename Draw> void expectThePortKept(Draw draw, const char* what) {
         const PortState before = port().state();
         draw();
         EXPECT_EQ(port().state(), before) << what;
-        EXPECT_EQ(&easel::runtime::currentPort(), &port()) << what;
+        EXPECT_EQ(&stage_.process().ports().target(), &port()) << what;
+    }
+
+    // The host's calls made while something is drawn.
+    template <typename Draw> std::vector<std::string> callsOf(Draw draw) {
+        easel::runtime::Journal& journal = stage_.process().journal();
+        journal.switchOn();
+        draw();
+        journal.switchOff();
+        return journal.take();
     }
 
     IdleUser user_;
@@ -124,15 +131,6 @@ TEST_F(SwatchProcedures, AFilledMarkerHasNoHolesWhateverThePensPatternWas) {
         for (int column = -row; column <= row; ++column)
             ASSERT_EQ(port().pixels()[(50 + row) * port().imageWidth() + 100 + column], 0xff000000u)
                 << column << ' ' << row;
-}
-
-// The host's calls made while something is drawn.
-template <typename Draw> std::vector<std::string> callsOf(Draw draw) {
-    easel::runtime::hostJournal().take();
-    easel::runtime::hostJournal().switchOn();
-    draw();
-    easel::runtime::hostJournal().switchOff();
-    return easel::runtime::hostJournal().take();
 }
 
 TEST_F(SwatchProcedures, AMarkerIsDrawnStepByStepInItsOwnColorAndPen) {

@@ -4,7 +4,6 @@
 #include "Gradient/TemplateUtil/TemplateStore.h"
 #include "Gradient/model/GradientBlock.h"
 #include "easel/runtime/CFString.h"
-#include "easel/runtime/Journal.h"
 #include "tests/unit/gradient/EditorStage.h"
 
 #include <gmock/gmock.h>
@@ -27,7 +26,6 @@ class Asked : public IdleUser {
 class TemplateFiles : public testing::Test {
   protected:
     TemplateFiles() : stage_(user_) { InitTemplates(kFolder); }
-    ~TemplateFiles() override { easel::runtime::hostJournal().switchOff(); }
 
     static void save(const std::string& name) {
         const StOwnedBlock block(MakeGradientData(CGradientData()));
@@ -79,10 +77,10 @@ TEST_F(TemplateFiles, TheCurrentResourceFileComesBackEvenIfAnotherWasOpenedAfter
 }
 
 TEST_F(TemplateFiles, LoadingANameThatIsNotThereOpensNothingAndStillMakesTheFileCurrentAgain) {
-    easel::runtime::hostJournal().take();
-    easel::runtime::hostJournal().switchOn();
+    stage_.process().journal().take();
+    stage_.process().journal().switchOn();
     EXPECT_FALSE(loads("missing.GRD"));
-    EXPECT_THAT(easel::runtime::hostJournal().take(),
+    EXPECT_THAT(stage_.process().journal().take(),
                 ElementsAre("CurResFile()", testing::MatchesRegex("FSMakeFSSpec\\(.*, \"missing.GRD\"\\)"),
                             "UseResFile(1)"));
 }

@@ -1,7 +1,6 @@
 // The base of dialogs that delete: what it asks for, in which order it deletes, and that it destroys itself.
 #include "easel/runtime/DeletionList.h"
-#include "easel/runtime/Host.h"
-#include "easel/runtime/Storage.h"
+#include "easel/runtime/Process.h"
 #include "easel/runtime/User.h"
 #include "host/Dialogs.h"
 #include "tests/support/IdleUser.h"
@@ -55,21 +54,19 @@ class ThingsDialog : public DeleteDialog {
 class ListUser : public IdleUser {
   public:
     using Act = std::function<void(DeletionList&)>;
-    explicit ListUser(Act act) : act_(std::move(act)) { easel::runtime::theHost().user = this; }
-    ~ListUser() override { easel::runtime::theHost().user = nullptr; }
-    ListUser(const ListUser&) = delete;
-    ListUser& operator=(const ListUser&) = delete;
+    explicit ListUser(Act act) : act_(std::move(act)) {}
     void runDeletion(DeletionList& list) override { act_(list); }
 
   private:
     Act act_;
 };
 
-bool runDialog(Record& record, const ListUser::Act& act) {
+bool runDialog(Record& record, const ListUser::Act& act, bool multiple = true) {
     const TemporaryFolder folder;
-    easel::runtime::useStorage(easel::classic::StoragePlaces::within(folder.path()));
-    const ListUser user(act);
-    return (new ThingsDialog(record))->Run();
+    easel::runtime::Process process(easel::classic::StoragePlaces::within(folder.path()));
+    ListUser user(act);
+    const easel::runtime::UserScope inFront(process, user);
+    return (new ThingsDialog(record, multiple))->Run();
 }
 
 std::vector<std::string> textsOf(DeletionList& list) {
@@ -180,11 +177,13 @@ TEST(DeletionDialog, IsDestroyedAlsoWhenRunThrows) {
 
 TEST(DeletionDialog, OneRowAtATimeWhereSeveralAreNotAllowed) {
     Record record{.things = {"a", "b"}};
-    const ListUser user([](DeletionList& list) {
-        list.select({1, 0});
-        EXPECT_THAT(list.selection(), testing::ElementsAre(0));
-    });
-    (new ThingsDialog(record, false))->Run();
+    runDialog(
+        record,
+        [](DeletionList& list) {
+            list.select({1, 0});
+            EXPECT_THAT(list.selection(), testing::ElementsAre(0));
+        },
+        false);
 }
 
 TEST(DeletionList, LeavesOutRowsThatAreNotThereAndRepeatedOnes) {

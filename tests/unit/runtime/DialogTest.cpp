@@ -1,8 +1,7 @@
 // The dialog model: what a person does to it and what its observer hears of the program's changes.
 #include "easel/runtime/Dialog.h"
 #include "easel/paint/Port.h"
-#include "easel/runtime/CurrentPort.h"
-#include "easel/runtime/Host.h"
+#include "easel/runtime/Ports.h"
 
 #include <gtest/gtest.h>
 
@@ -18,19 +17,26 @@ DialogItem itemOf(int number, ItemKind kind, paint::PixelRect bounds = {}) {
 }
 
 std::vector<int> gDrawn;
+const Ports* gPorts = nullptr;
 
 void recordDrawing(OpaqueDialogPtr* dialog, short item) {
     gDrawn.push_back(item);
-    EXPECT_EQ(theHost().currentPort, &Dialog::from(dialog).port());
+    EXPECT_EQ(gPorts->current(), &Dialog::from(dialog).port());
 }
 
 class DialogTest : public testing::Test {
   protected:
+    DialogTest() { gPorts = &ports_; }
+    ~DialogTest() override { gPorts = nullptr; }
+
     static DialogDescription description() {
         DialogDescription made{7, "Seven", 200, 100, {}};
         made.items = {itemOf(1, ItemKind::Button),   itemOf(2, ItemKind::Button),
                       itemOf(3, ItemKind::EditText), itemOf(4, ItemKind::UserDrawn, {10, 10, 20, 60}),
                       itemOf(5, ItemKind::Popup),    itemOf(6, ItemKind::UserDrawn)};
+        // Not in their usual places.
+        made.items[0].role = ButtonRole::Cancel;
+        made.items[1].role = ButtonRole::Default;
         made.items[4].menu = std::make_shared<Menu>();
         for (const char* text : {"First", "Second", "-", "Fourth"})
             made.items[4].menu->append({text, true, *text == '-'});
@@ -51,7 +57,8 @@ class DialogTest : public testing::Test {
         return last;
     }
 
-    Dialog dialog_{description(), {}};
+    Ports ports_;
+    Dialog dialog_{description(), {}, ports_};
 };
 
 TEST_F(DialogTest, OpensWithItsFirstEditFieldFocused) {
@@ -138,7 +145,7 @@ TEST_F(DialogTest, ShowingSelectsTheFocusedTextUnlessTheProgramSelectedSomething
     dialog_.setText(3, "50.00");
     dialog_.show();
     EXPECT_EQ(field().selection, (TextSelection{0, 5}));
-    Dialog other(description(), {});
+    Dialog other(description(), {}, ports_);
     other.setText(3, "50.00");
     other.selectText(3, {1, 2});
     other.show();
@@ -162,13 +169,24 @@ TEST_F(DialogTest, APopupAcceptsEveryValueUpToTheCountThatItsMenuHasByThen) {
     EXPECT_EQ(dialog_.item(5)->value, 5004);
 }
 
-TEST_F(DialogTest, EnterAndEscapeStandForTheItemsThatWereAgreed) {
+TEST_F(DialogTest, EnterAndEscapeStandForTheDefaultAndTheCancelButtonWhileTheStandardKeysAreOn) {
     dialog_.pressKey(DialogKey::Enter);
     EXPECT_TRUE(hits().empty());
-    dialog_.setKeyItems({1, 2});
+    dialog_.setStandardKeys(StandardKeys::On);
     dialog_.pressKey(DialogKey::Escape);
     dialog_.pressKey(DialogKey::Enter);
-    EXPECT_EQ(hits(), (std::vector<int>{2, 1}));
+    EXPECT_EQ(hits(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(DialogTest, EnterAndEscapeStandForNothingWhereNoButtonHasTheirRole) {
+    DialogDescription without = description();
+    for (DialogItem& item : without.items)
+        item.role = ButtonRole::Plain;
+    Dialog dialog(std::move(without), {}, ports_);
+    dialog.setStandardKeys(StandardKeys::On);
+    dialog.pressKey(DialogKey::Escape);
+    dialog.pressKey(DialogKey::Enter);
+    EXPECT_FALSE(dialog.hasHit());
 }
 
 TEST_F(DialogTest, DrawsInvalidItemsOnceInTheOrderOfTheirNumbers) {
@@ -177,7 +195,7 @@ TEST_F(DialogTest, DrawsInvalidItemsOnceInTheOrderOfTheirNumbers) {
     gDrawn.clear();
     dialog_.drawInvalidItems();
     EXPECT_EQ(gDrawn, (std::vector<int>{4, 6}));
-    EXPECT_EQ(theHost().currentPort, nullptr) << "as it was before";
+    EXPECT_EQ(ports_.current(), nullptr) << "as it was before";
     dialog_.drawInvalidItems();
     EXPECT_EQ(gDrawn, (std::vector<int>{4, 6}));
     dialog_.invalidate(6);
@@ -189,21 +207,20 @@ TEST_F(DialogTest, DrawsInvalidItemsOnceInTheOrderOfTheirNumbers) {
 TEST_F(DialogTest, AnotherScreenGivesAFreshImageAtItsResolutionAndKeepsThePortCurrent) {
     dialog_.setDrawProcedure(4, recordDrawing);
     dialog_.drawInvalidItems();
-    setCurrentPort(&dialog_.port());
+    ports_.makeCurrent(&dialog_.port());
     dialog_.setScreen({2.0, {0x101010, 0, 0}});
-    EXPECT_EQ(theHost().currentPort, &dialog_.port());
+    EXPECT_EQ(ports_.current(), &dialog_.port());
     EXPECT_EQ(dialog_.port().imageWidth(), 400);
     EXPECT_EQ(dialog_.port().pixels()[0], 0xff101010u);
     EXPECT_TRUE(dialog_.item(4)->invalid);
-    setCurrentPort(nullptr);
 }
 
 TEST_F(DialogTest, NoPortIsCurrentOnceItsDialogIsGone) {
     {
-        Dialog other(description(), {});
-        setCurrentPort(&other.port());
+        Dialog other(description(), {}, ports_);
+        ports_.makeCurrent(&other.port());
     }
-    EXPECT_EQ(theHost().currentPort, nullptr);
+    EXPECT_EQ(ports_.current(), nullptr);
 }
 
 TEST_F(DialogTest, FindsTheItemUnderAPoint) {

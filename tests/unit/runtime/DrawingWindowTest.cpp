@@ -1,10 +1,10 @@
 // The image of a drawing window and the host's operations on its objects.
 #include "easel/runtime/DrawingWindow.h"
 #include "easel/paint/pixels/Surface.h"
-#include "easel/runtime/Host.h"
 #include "easel/runtime/PickFilter.h"
 #include "easel/runtime/Snap.h"
 #include "host/Objects.h"
+#include "tests/support/HostTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,13 +26,13 @@ drawing::ObjectPtr blackBox(const drawing::Box& box, drawing::Kind kind = drawin
     return sealed(std::move(object));
 }
 
-class DrawingWindowTest : public testing::Test {
+class DrawingWindowTest : public tests::HostTest {
   protected:
     std::uint32_t pixel(int x, int y) const { return window.image().row(y)[x]; }
 
     static constexpr std::uint32_t kWhite = 0xffffffff;
     static constexpr std::uint32_t kBlack = 0xff000000;
-    runtime::DrawingWindow window{drawing::Drawing::create(100, 50)};
+    runtime::DrawingWindow window{drawing::Drawing::create(100, 50), process_};
 };
 
 TEST_F(DrawingWindowTest, ShowsChangesOnlyOnceTheyArePainted) {
@@ -185,9 +185,11 @@ TEST(PickFilter, IgnoresNumbersBeyondItsBits) {
     EXPECT_NE(filter, descrimAllOff);
 }
 
-TEST(ObjToPoly, MakesAPolygonOfAnythingWithAnInside) {
+using ObjToPolyTest = tests::HostTest;
+
+TEST_F(ObjToPolyTest, MakesAPolygonOfAnythingWithAnInside) {
     // No drawing is needed for an object that is in none.
-    runtime::DrawingWindow window{drawing::Drawing::create(100, 100)};
+    runtime::DrawingWindow window{drawing::Drawing::create(100, 100), process_};
     drawing::Object ellipse;
     ellipse.kind = drawing::Kind::Ellipse;
     ellipse.outline = drawing::ellipsePath({50, 50}, 40, 20);

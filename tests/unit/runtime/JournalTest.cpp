@@ -8,29 +8,29 @@
 
 namespace {
 
-using easel::runtime::hostJournal;
-using easel::runtime::journal;
+using easel::runtime::Journal;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(Journal, WritesNumbersTruthValuesAndTextsInTheOrderOfTheCall) {
-    hostJournal().switchOn();
-    journal("Plain");
-    journal("DWindow::SetUndo", 3L);
-    journal("Mixed", short{-5}, true, 0.07, std::string("a \"b\" \\"), 4000000000u, false);
-    hostJournal().switchOff();
-    EXPECT_THAT(hostJournal().take(),
-                ElementsAre("Plain()", "DWindow::SetUndo(3)",
-                            R"(Mixed(-5, true, 0.07, "a \"b\" \\", 4000000000, false))"));
+TEST(JournalTest, WritesNumbersTruthValuesAndTextsInTheOrderOfTheCall) {
+    Journal journal;
+    journal.switchOn();
+    journal.note("Plain");
+    journal.note("DWindow::SetUndo", 3L);
+    journal.note("Mixed", short{-5}, true, 0.07, std::string("a \"b\" \\"), 4000000000u, false);
+    journal.switchOff();
+    EXPECT_THAT(journal.take(), ElementsAre("Plain()", "DWindow::SetUndo(3)",
+                                            R"(Mixed(-5, true, 0.07, "a \"b\" \\", 4000000000, false))"));
 }
 
-TEST(Journal, IsEmptiedWhenItIsTakenAndKeepsNothingWhileOff) {
-    hostJournal().switchOn();
-    journal("One");
-    hostJournal().switchOff();
-    journal("Two");
-    EXPECT_THAT(hostJournal().take(), ElementsAre("One()"));
-    EXPECT_THAT(hostJournal().take(), IsEmpty());
+TEST(JournalTest, IsEmptiedWhenItIsTakenAndKeepsNothingWhileOff) {
+    Journal journal;
+    journal.switchOn();
+    journal.note("One");
+    journal.switchOff();
+    journal.note("Two");
+    EXPECT_THAT(journal.take(), ElementsAre("One()"));
+    EXPECT_THAT(journal.take(), IsEmpty());
 }
 
 } // namespace

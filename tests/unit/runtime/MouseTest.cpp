@@ -1,9 +1,9 @@
 // How the host interface reads the mouse and shows the feedback of a drag.
 #include "host/Mouse.h"
 #include "easel/runtime/DrawingWindow.h"
-#include "easel/runtime/Host.h"
 #include "host/Drawing.h"
 #include "host/Windows.h"
+#include "tests/support/HostTest.h"
 #include "tests/support/IdleUser.h"
 
 #include <gmock/gmock.h>
@@ -50,20 +50,13 @@ class DraggingUser : public tests::IdleUser {
     long cursor = 0;
 };
 
-class MouseTest : public testing::Test {
+class MouseTest : public tests::HostTest {
   protected:
-    MouseTest() {
-        runtime::theHost().user = &user;
-        runtime::theHost().activeWindow = &window;
-    }
-    ~MouseTest() override {
-        runtime::theHost().user = nullptr;
-        runtime::theHost().activeWindow = nullptr;
-        runtime::theHost().snap = {};
-    }
+    MouseTest() { window.activate(); }
 
     DraggingUser user;
-    runtime::DrawingWindow window{drawing::Drawing::create(100, 50)};
+    runtime::UserScope inFront{process_, user};
+    runtime::DrawingWindow window{drawing::Drawing::create(100, 50), process_};
 };
 
 TEST_F(MouseTest, PointsArePassedHorizontalCoordinateForHorizontal) {
@@ -131,7 +124,7 @@ TEST_F(MouseTest, FeedbackIsShownRoundByRoundAndTakenAwayAtTheEnd) {
 }
 
 TEST_F(MouseTest, FeedbackWithoutAWindowShowsNothing) {
-    runtime::theHost().activeWindow = nullptr;
+    process_.setActiveWindow(nullptr);
     EXPECT_EQ(ActiveDrawingWindow(), nullptr);
     {
         CSyncronizedBuffer buffer(nullptr, true);

@@ -1,7 +1,7 @@
 // Loading modules that are none.
 #include "easel/runtime/PluginModule.h"
 
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/HostTest.h"
 
 #include <dlfcn.h>
 #include <gmock/gmock.h>
@@ -14,8 +14,8 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 // Why the file cannot be loaded, behind its name.
-std::string reasonFor(const std::filesystem::path& file) {
-    const auto loaded = PluginModule::load(file);
+std::string reasonFor(const std::filesystem::path& file, easel::runtime::Process& process) {
+    const auto loaded = PluginModule::load(file, process);
     if (loaded)
         return "it was loaded";
     const std::string message = loaded.error().message();
@@ -24,24 +24,25 @@ std::string reasonFor(const std::filesystem::path& file) {
     return message.substr(std::min(name.size(), message.size()));
 }
 
-TEST(PluginModule, NamesFileAndReasonOfWhatIsNoModule) {
-    const tests::TemporaryFolder folder;
-    tests::writeContent(folder / "text.so", "this is not a module");
-    tests::writeContent(folder / "empty.so", "");
-    EXPECT_EQ(reasonFor(folder / "missing.so"), "no such file");
-    EXPECT_EQ(reasonFor(folder.path()), "not a file");
-    EXPECT_THAT(reasonFor(folder / "text.so"), HasSubstr("cannot be loaded"));
-    EXPECT_THAT(reasonFor(folder / "empty.so"), HasSubstr("cannot be loaded"));
+using PluginModuleTest = tests::HostTest;
+
+TEST_F(PluginModuleTest, NamesFileAndReasonOfWhatIsNoModule) {
+    tests::writeContent(folder_ / "text.so", "this is not a module");
+    tests::writeContent(folder_ / "empty.so", "");
+    EXPECT_EQ(reasonFor(folder_ / "missing.so", process_), "no such file");
+    EXPECT_EQ(reasonFor(folder_.path(), process_), "not a file");
+    EXPECT_THAT(reasonFor(folder_ / "text.so", process_), HasSubstr("cannot be loaded"));
+    EXPECT_THAT(reasonFor(folder_ / "empty.so", process_), HasSubstr("cannot be loaded"));
 }
 
-TEST(PluginModule, NeedsTheEntry) {
+TEST_F(PluginModuleTest, NeedsTheEntry) {
     // The host's own library is a module without the entry.
     Dl_info library{};
     ASSERT_NE(dladdr(reinterpret_cast<const void*>(&easel::runtime::PluginModule::defaultFile), &library), 0);
-    EXPECT_THAT(reasonFor(std::filesystem::absolute(library.dli_fname)), HasSubstr("MainEntry"));
+    EXPECT_THAT(reasonFor(std::filesystem::absolute(library.dli_fname), process_), HasSubstr("MainEntry"));
 }
 
-TEST(PluginModule, IsExpectedBesideTheProgram) {
+TEST(PluginModuleFile, IsExpectedBesideTheProgram) {
     const std::filesystem::path file = PluginModule::defaultFile();
     EXPECT_EQ(file.filename(), "Gradient.so");
     EXPECT_EQ(file.parent_path().filename(), "plugins");

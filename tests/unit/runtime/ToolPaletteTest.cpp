@@ -1,5 +1,6 @@
 // Registration of tools with the host.
 #include "easel/runtime/ToolPalette.h"
+#include "tests/support/HostTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,12 +8,9 @@
 namespace {
 
 using easel::runtime::SlotOwner;
-using easel::runtime::thePalette;
 
-class ToolPaletteTest : public testing::Test {
+class ToolPaletteTest : public tests::HostTest {
   protected:
-    ~ToolPaletteTest() override { thePalette().clear(); }
-
     static short addTool() {
         short row = -1;
         short number = 0;
@@ -26,9 +24,9 @@ class ToolPaletteTest : public testing::Test {
 TEST_F(ToolPaletteTest, NumbersToolsFromOneInTheOrderTheyCome) {
     EXPECT_EQ(addTool(), 1);
     EXPECT_EQ(addTool(), 2);
-    EXPECT_EQ(thePalette().tools().size(), 2u);
-    EXPECT_EQ(thePalette().find(2)->element.icon, 5100);
-    EXPECT_EQ(thePalette().find(3), nullptr);
+    EXPECT_EQ(process_.palette().tools().size(), 2u);
+    EXPECT_EQ(process_.palette().find(2)->element.icon, 5100);
+    EXPECT_EQ(process_.palette().find(3), nullptr);
 }
 
 TEST_F(ToolPaletteTest, KnowsWhoFillsEachSlot) {
@@ -36,7 +34,7 @@ TEST_F(ToolPaletteTest, KnowsWhoFillsEachSlot) {
     ToolMethodRec& methods = GetTool(number).ToolMethods();
     methods.options = [] {};
     methods.slot3 = nullptr;
-    const HostTool& tool = *thePalette().find(number);
+    const HostTool& tool = *process_.palette().find(number);
     for (int slot = 1; slot <= 8; ++slot)
         EXPECT_EQ(tool.slotOwner(slot), slot == 4   ? SlotOwner::plugin
                                         : slot == 3 ? SlotOwner::none
@@ -50,7 +48,7 @@ TEST_F(ToolPaletteTest, KeepsFlagsAndNames) {
     GetTool(number).SetToolFlag(5, true);
     GetTool(number).SetToolFlag(5, false);
     AddXTNLToolName(1024, number, CStr32(CStr255("Gradient")));
-    const HostTool& tool = *thePalette().find(number);
+    const HostTool& tool = *process_.palette().find(number);
     EXPECT_THAT(tool.flags, testing::ElementsAre(short{0}));
     EXPECT_EQ(tool.name, "Gradient");
     EXPECT_EQ(tool.nameCode, 1024);
@@ -59,7 +57,7 @@ TEST_F(ToolPaletteTest, KeepsFlagsAndNames) {
 TEST_F(ToolPaletteTest, IgnoresNumbersThatNoToolHas) {
     GetTool(77).SetToolFlag(0, true);
     AddXTNLToolName(1024, -1, CStr32());
-    EXPECT_TRUE(thePalette().tools().empty());
+    EXPECT_TRUE(process_.palette().tools().empty());
 }
 
 TEST_F(ToolPaletteTest, TakesNoToolForAnotherWindow) {

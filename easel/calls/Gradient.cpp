@@ -1,42 +1,22 @@
-// The gradient record, the shared gradient and the kinds of objects that carry one.
-#include "easel/drawing/Object.h"
-#include "easel/runtime/Journal.h"
+// Implements host/Gradient.h.
 #include "host/Gradient.h"
 
+#include "easel/classic/GradientBytes.h"
+#include "easel/drawing/Object.h"
+#include "easel/runtime/FieldHash.h"
+#include "easel/runtime/Process.h"
+
 #include <algorithm>
-#include <bit>
 #include <iterator>
 
 using easel::drawing::Kind;
+using easel::runtime::journal;
+using easel::runtime::process;
 
 namespace {
 
 constexpr RGBColor kBlack{0, 0, 0};
 constexpr RGBColor kWhite{65535, 65535, 65535};
-
-// The 32-bit FNV-1a hash, fed with whole numbers, lowest byte first.
-class FieldHash {
-  public:
-    void add(std::uint64_t value, int bytes) {
-        for (; bytes > 0; --bytes, value >>= 8)
-            hash_ = (hash_ ^ static_cast<std::uint8_t>(value)) * 16777619u;
-    }
-    void add(double value) { add(std::bit_cast<std::uint64_t>(value), 8); }
-    void add(float value) { add(std::bit_cast<std::uint32_t>(value), 4); }
-    void add(TPoint<double> const& point) {
-        add(point.v);
-        add(point.h);
-    }
-    void add(RGBColor const& color) {
-        add(color.red, 2);
-        add(color.green, 2);
-        add(color.blue, 2);
-    }
-    std::uint32_t value() const { return hash_; }
-
-  private:
-    std::uint32_t hash_ = 2166136261u;
-};
 
 } // namespace
 
@@ -104,18 +84,7 @@ CGradientData const& CGradient::GetGradientData() const {
 }
 
 std::uint32_t CGradient::HashID() const {
-    FieldHash hash;
-    hash.add(static_cast<std::uint64_t>(data_.Type()), 4);
-    hash.add(data_.Angle());
-    hash.add(data_.Start());
-    hash.add(data_.End());
-    hash.add(data_.StartRadius());
-    hash.add(data_.EndRadius());
-    for (CGradientColor const& stop : data_.ColorList()) {
-        hash.add(stop.ColorRGB());
-        hash.add(stop.Percent());
-    }
-    return hash.value();
+    return easel::runtime::hashOf(data_);
 }
 
 std::int32_t const kGradObjIDs[] = {
@@ -124,6 +93,28 @@ std::int32_t const kGradObjIDs[] = {
 std::int32_t const kNumGradObjIDs = static_cast<std::int32_t>(std::size(kGradObjIDs));
 
 bool IsGradientCapable(long kind) {
-    easel::runtime::journal("IsGradientCapable", kind);
+    journal("IsGradientCapable", kind);
     return std::find(std::begin(kGradObjIDs), std::end(kGradObjIDs), kind) != std::end(kGradObjIDs);
+}
+
+Handle MakeGradientData(CGradientData const& data) {
+    journal("MakeGradientData");
+    const auto bytes = easel::classic::gradientToBytes(data);
+    if (!bytes)
+        return nullptr;
+    Handle const block = process().blocks().create(bytes->size());
+    if (block)
+        std::copy(bytes->begin(), bytes->end(), *block);
+    return block;
+}
+
+bool ExtractGradientInfo(char* bytes, long size, CGradientData& out) {
+    journal("ExtractGradientInfo", size);
+    if (!bytes || size < 0)
+        return false;
+    const auto gradient = easel::classic::gradientFromBytes(
+        {reinterpret_cast<const std::uint8_t*>(bytes), static_cast<std::size_t>(size)});
+    if (gradient)
+        out = *gradient;
+    return gradient.has_value();
 }

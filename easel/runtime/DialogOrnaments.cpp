@@ -1,0 +1,45 @@
+// Draws the line between groups of items and the shadow of swatches.
+#include "easel/runtime/DialogOrnaments.h"
+
+#include "easel/paint/Port.h"
+#include "easel/runtime/ThemeColor.h"
+
+namespace easel::runtime {
+
+namespace {
+
+constexpr int kShadowWidth = 2;
+
+// Gives the port a plain pen of that color (0xRRGGBB) for a scope.
+class PlainPen {
+  public:
+    PlainPen(paint::Port& port, std::uint32_t color) : port_(port), saved_(port.state()) {
+        port_.state().pen = {};
+        port_.state().foreground = portColorOf(color);
+    }
+    PlainPen(const PlainPen&) = delete;
+    PlainPen& operator=(const PlainPen&) = delete;
+    ~PlainPen() { port_.state() = saved_; }
+
+  private:
+    paint::Port& port_;
+    paint::PortState saved_;
+};
+
+} // namespace
+
+void drawSeparator(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& bounds) {
+    const PlainPen pen(port, theme.separator);
+    const int middle = (bounds.top + bounds.bottom) / 2;
+    port.paintRect({middle, bounds.left, middle + 1, bounds.right});
+}
+
+// Two bars, below and to the right, as if the light came from the upper left.
+void drawShadow(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& swatch) {
+    const PlainPen pen(port, theme.shadow);
+    port.paintRect(
+        {swatch.top + kShadowWidth, swatch.right, swatch.bottom + kShadowWidth, swatch.right + kShadowWidth});
+    port.paintRect({swatch.bottom, swatch.left + kShadowWidth, swatch.bottom + kShadowWidth, swatch.right});
+}
+
+} // namespace easel::runtime
