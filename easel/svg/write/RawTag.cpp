@@ -1,6 +1,5 @@
 #include "easel/svg/write/RawTag.h"
 
-#include "easel/svg/style/Css.h"
 #include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Tags.h"
 
@@ -62,41 +61,6 @@ std::string_view RawTag::value(std::string_view name) const {
     const RawAttribute* const attribute = find(name);
     return attribute ? text_.substr(attribute->value.begin, attribute->value.end - attribute->value.begin)
                      : std::string_view();
-}
-
-void stateFill(Splices& splices, std::string_view text, const RawTag& tag, const std::string& fill,
-               FillStatement statement) {
-    const RawAttribute* const style = tag.find("style");
-    const std::string_view styleText = tag.value("style");
-    const std::string strong = statement == FillStatement::Style ? " !important" : "";
-    // Of several declarations the last one counts.
-    const Declaration* stated = nullptr;
-    const std::vector<Declaration> declarations = parseDeclarations(styleText);
-    for (const Declaration& declaration : declarations)
-        if (declaration.name == "fill")
-            stated = &declaration;
-    if (stated) {
-        const auto begin = static_cast<std::size_t>(stated->value.data() - text.data());
-        const bool isStrong = stated->importance == Importance::Important;
-        splices.replace(begin, begin + stated->value.size(), isStrong ? fill : fill + strong);
-        return;
-    }
-    // A style that is written by way of an entity may hold a fill, too; what comes after it is stronger.
-    const bool hidden = styleText.find('&') != std::string_view::npos;
-    if (statement == FillStatement::Style || hidden) {
-        if (!style) {
-            splices.insert(tag.attributesEnd(), " style=\"fill:" + fill + strong + '"');
-            return;
-        }
-        const std::string_view before = trimmed(styleText);
-        const std::string separator = before.empty() || before.back() == ';' ? "" : ";";
-        splices.insert(style->value.end, separator + "fill:" + fill + strong);
-        return;
-    }
-    if (const RawAttribute* const attribute = tag.find("fill"))
-        splices.replace(attribute->value.begin, attribute->value.end, fill);
-    else
-        splices.insert(tag.attributesEnd(), " fill=\"" + fill + '"');
 }
 
 } // namespace easel::svg

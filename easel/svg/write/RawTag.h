@@ -2,11 +2,8 @@
 #pragma once
 
 #include "easel/svg/text/Source.h"
-#include "easel/svg/write/Splices.h"
 
 #include <cstddef>
-#include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -42,13 +39,5 @@ class RawTag {
     std::string_view name_;
     std::vector<RawAttribute> attributes_;
 };
-
-// How strong a stated fill must be to count.
-enum class FillStatement : std::uint8_t { Attribute, Style };
-
-// States the fill of an element in its start tag and leaves the rest of the tag as it is. `fill` is a paint
-// without quotes in it. As a Style the statement is stronger than every style sheet.
-void stateFill(Splices& splices, std::string_view text, const RawTag& tag, const std::string& fill,
-               FillStatement statement);
 
 } // namespace easel::svg

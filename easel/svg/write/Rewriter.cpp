@@ -1,6 +1,7 @@
 #include "easel/svg/write/Rewriter.h"
 
 #include "easel/svg/text/Tags.h"
+#include "easel/svg/write/FillStatement.h"
 #include "easel/svg/write/ObjectText.h"
 #include "easel/svg/write/RawTag.h"
 #include "easel/svg/write/Repetition.h"
@@ -84,15 +85,39 @@ void Rewriter::gatherChanges() {
 
 void Rewriter::addChange(const ElementSpan& element, std::string fill) {
     changes_[element.use].push_back({element.tagBegin, std::move(fill)});
-    // A repetition with a change is written out, and so are those around it.
-    for (std::uint32_t inner = element.use; inner != 0;) {
-        const std::uint32_t outer = source_.repetitions[inner - 1].parent;
-        std::vector<std::uint32_t>& known = changedInside_[outer];
-        if (std::find(known.begin(), known.end(), inner) != known.end())
-            break;
-        known.push_back(inner);
-        inner = outer;
+    if (element.use == 0)
+        keepCopiesOf(element.tagBegin);
+    else
+        writeOut(element.use);
+}
+
+void Rewriter::writeOut(std::uint32_t repetition) {
+    for (std::uint32_t inner = repetition; inner != 0;) {
+        const Repetition& place = source_.repetitions[inner - 1];
+        if (!writtenOut_.insert(inner).second)
+            return;
+        changedInside_[place.parent].push_back(inner);
+        if (place.parent == 0)
+            keepCopiesOf(place.useTag);
+        inner = place.parent;
     }
+}
+
+void Rewriter::keepCopiesOf(std::uint32_t tag) {
+    if (copies_.empty())
+        gatherCopies();
+    const auto [begin, end] = copies_.equal_range(tag);
+    for (auto copy = begin; copy != end; ++copy)
+        writeOut(copy->second);
+}
+
+void Rewriter::gatherCopies() {
+    for (const ElementSpan& element : source_.objects)
+        if (element.use != 0)
+            copies_.emplace(element.tagBegin, element.use);
+    for (const Repetition& inner : source_.repetitions)
+        if (inner.parent != 0)
+            copies_.emplace(inner.useTag, inner.parent);
 }
 
 void Rewriter::applyChanges(std::uint32_t repetition, Splices& splices) const {
@@ -105,7 +130,7 @@ void Rewriter::applyChanges(std::uint32_t repetition, Splices& splices) const {
             else if (change.fill.empty())
                 removeElement(splices, text_, change.tag);
             else
-                stateFill(splices, text_, RawTag(text_, change.tag), change.fill, statement);
+                stateFill(splices, RawTag(text_, change.tag), change.fill, statement);
         }
     }
     if (const auto found = changedInside_.find(repetition); found != changedInside_.end()) {

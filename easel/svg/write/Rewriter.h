@@ -8,6 +8,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace easel::svg {
@@ -28,6 +29,12 @@ class Rewriter {
 
     void gatherChanges();
     void addChange(const drawing::ElementSpan& element, std::string fill);
+    // Has a repetition written out, and so those around it.
+    void writeOut(std::uint32_t repetition);
+    // What repeats the element that begins here, or something around it, is written out as it was: only the
+    // element itself changes, as on the screen.
+    void keepCopiesOf(std::uint32_t tag);
+    void gatherCopies();
 
     // Adds what happens to the elements that one repetition made (0: that stand in the file) to the splices.
     void applyChanges(std::uint32_t repetition, Splices& splices) const;
@@ -42,9 +49,12 @@ class Rewriter {
     std::string lineBreak_;
     GradientBlock gradients_;
     std::vector<std::string> newObjects_;
-    // By repetition: changes of its own elements, and repetitions inside it that have changes.
+    // By repetition: changes of its own elements, and repetitions inside it that are written out.
     std::unordered_map<std::uint32_t, std::vector<Change>> changes_;
     std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> changedInside_;
+    std::unordered_set<std::uint32_t> writtenOut_;
+    // By the place of a start tag: the repetitions that the element is part of, without those that are none.
+    std::unordered_multimap<std::uint32_t, std::uint32_t> copies_;
 };
 
 } // namespace easel::svg
