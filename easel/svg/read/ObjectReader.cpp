@@ -27,16 +27,32 @@ struct OwnGradient {
     drawing::Remainder remainder;
 };
 
+bool hasExtent(const Gradient& gradient) {
+    if (const auto* const line = std::get_if<drawing::LinearGeometry>(&gradient.geometry))
+        return line->start != line->end;
+    return std::get<drawing::RadialGeometry>(gradient.geometry).radius > 0;
+}
+
+// Whether an element that was placed so may be the standard form. On a shape without width or height the
+// standard form has no extent, and is placed as a color or not at all.
+bool placesAs(const std::optional<Gradient>& standard, const PlacedPaint& placed,
+              const drawing::Affine& units) {
+    const auto* const foreign = std::get_if<Gradient>(&placed);
+    if (!standard)
+        return true;
+    return foreign ? alike(*standard, *foreign) : !hasExtent(*standard) || !units.invertible();
+}
+
 // The record and remainder that are written beside the gradient, as long as they still tell the same as the
 // gradient itself: other programs change the one and leave the other.
-std::optional<OwnGradient> writtenGradient(const GradientElement& element, const Gradient& placed,
-                                           const drawing::Path& outline) {
+std::optional<OwnGradient> writtenGradient(const GradientElement& element, const PlacedPaint& placed,
+                                           const Object& object) {
     const auto record = parseRecord(element.own.record);
     const auto remainder = parseRemainder(element.own.opacity, element.own.ellipse);
     if (!record || !remainder)
         return std::nullopt;
-    const auto standard = drawing::standardGradient(*record, &*remainder, outline);
-    if (standard && !alike(*standard, placed))
+    const auto standard = drawing::standardGradient(*record, &*remainder, object.outline);
+    if (!placesAs(standard, placed, unitsOf(object)))
         return std::nullopt;
     return OwnGradient{*record, *remainder};
 }
@@ -138,8 +154,7 @@ void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedS
         object.fill = paintWithoutGradient(style.fill, style);
     } else {
         PlacedPaint placed = place(*element, at);
-        const auto* const foreign = std::get_if<Gradient>(&placed);
-        if (foreign && carriesGradient(object.kind) && setGradient(object, *element, *foreign))
+        if (carriesGradient(object.kind) && setGradient(object, *element, placed))
             return;
         object.fill = kept(std::move(placed));
     }
@@ -147,10 +162,10 @@ void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedS
     object.fillPattern = isGradient ? FillPattern::SolidBlack : patternOf(object.fill);
 }
 
-bool ObjectReader::setGradient(Object& object, const GradientElement& element, const Gradient& placed) {
-    auto own = writtenGradient(element, placed, object.outline);
-    if (!own)
-        own = plainRecord(placed, object.outline);
+bool ObjectReader::setGradient(Object& object, const GradientElement& element, const PlacedPaint& placed) {
+    auto own = writtenGradient(element, placed, object);
+    if (const auto* const foreign = std::get_if<Gradient>(&placed); foreign && !own)
+        own = plainRecord(*foreign, object.outline);
     if (!own)
         return false;
     object.gradient = drawing::ObjectGradient(new CGradient(own->record));

@@ -29,7 +29,7 @@ class ObjectReader {
     void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
     // False if the gradient stays as the file says.
     static bool setGradient(drawing::Object& object, const GradientElement& element,
-                            const drawing::Gradient& placed);
+                            const PlacedPaint& placed);
     drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const;
     drawing::Paint paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const;
     // Null if the paint is no gradient of the file.

@@ -7,6 +7,7 @@
 #include "easel/svg/text/Source.h"
 #include "easel/svg/write/GradientText.h"
 #include "easel/svg/write/ObjectText.h"
+#include "easel/svg/write/ReadBack.h"
 #include "easel/svg/write/Rewriter.h"
 
 namespace easel::svg {
@@ -50,12 +51,15 @@ Packing packingFor(const std::filesystem::path& file, const Source* source) {
     return equalIgnoringCase(file.extension().string(), ".svgz") ? Packing::Gzip : Packing::None;
 }
 
-std::string bytesOf(const Drawing& drawing, Packing packing) {
+std::string unpackedBytes(const Drawing& drawing) {
     const Source* const source = sourceOf(drawing);
-    std::string bytes = source ? Rewriter(drawing, *source).rewritten() : newFile(drawing);
+    return source ? Rewriter(drawing, *source).rewritten() : newFile(drawing);
+}
+
+// Another program may have compressed the bytes of the file in another way; unchanged, they stay as they are.
+std::string packed(std::string bytes, const Source* source, Packing packing) {
     if (packing == Packing::None)
         return bytes;
-    // Another program may have compressed the same bytes in another way.
     const bool unchanged = packingOf(source) == Packing::Gzip && bytes == source->bytes;
     return unchanged ? source->packed : files::packedGzip(bytes);
 }
@@ -63,14 +67,19 @@ std::string bytesOf(const Drawing& drawing, Packing packing) {
 } // namespace
 
 std::string toBytes(const Drawing& drawing) {
-    return bytesOf(drawing, packingOf(sourceOf(drawing)));
+    const Source* const source = sourceOf(drawing);
+    return packed(unpackedBytes(drawing), source, packingOf(source));
 }
 
 files::Result<> saveFile(Drawing& drawing, const std::filesystem::path& file) {
     try {
-        return files::replaceFile(file,
-                                  std::string_view(bytesOf(drawing, packingFor(file, sourceOf(drawing)))))
-            .map([&] { drawing.markSaved(); });
+        const Source* const source = sourceOf(drawing);
+        std::string bytes = unpackedBytes(drawing);
+        if (!source || bytes != source->bytes)
+            if (const auto lost = lostIn(bytes, drawing))
+                return tl::unexpected(files::Error{file, *lost + "; nothing was saved", {}});
+        bytes = packed(std::move(bytes), source, packingFor(file, source));
+        return files::replaceFile(file, std::string_view(bytes)).map([&] { drawing.markSaved(); });
     } catch (const std::bad_alloc&) {
         return tl::unexpected(files::Error{file, "there is not enough memory to write it",
                                            std::make_error_code(std::errc::not_enough_memory)});

@@ -1,0 +1,91 @@
+#include "easel/svg/write/ReadBack.h"
+
+#include "easel/drawing/ShapeGradient.h"
+#include "easel/svg/Document.h"
+#include "easel/svg/text/RecordText.h"
+#include "easel/svg/text/Source.h"
+
+#include <map>
+#include <vector>
+
+namespace easel::svg {
+
+using drawing::ColorPaint;
+using drawing::Drawing;
+using drawing::ElementSpan;
+using drawing::FillOrigin;
+using drawing::NoPaint;
+using drawing::Object;
+using drawing::ObjectPtr;
+using drawing::Paint;
+
+namespace {
+
+// The objects in the order of their elements in the file: those that keep theirs, then those that get one.
+std::vector<ObjectPtr> inFileOrder(const Drawing& drawing) {
+    std::map<ElementSpan, ObjectPtr> kept;
+    std::vector<ObjectPtr> added;
+    drawing.forEach([&](const ObjectPtr& object) {
+        const bool keeps = object->source.inFile() && kept.emplace(object->source, object).second;
+        if (!keeps && !object->outline.empty())
+            added.push_back(object);
+    });
+    std::vector<ObjectPtr> objects;
+    if (const auto* const source = dynamic_cast<const Source*>(drawing.source().get()))
+        for (const ElementSpan& element : source->objects)
+            if (const auto found = kept.find(element); found != kept.end())
+                objects.push_back(found->second);
+    objects.insert(objects.end(), added.begin(), added.end());
+    return objects;
+}
+
+// Record and remainder as the text that stands for them to the bit; empty without a record.
+std::string gradientText(const Object& object) {
+    if (!object.showsGradient())
+        return {};
+    const drawing::Remainder none;
+    const drawing::Remainder& remainder = object.remainder ? *object.remainder : none;
+    return recordText(drawing::gradientIn(object.gradient)->GetGradientData()) + '|' +
+           opacityText(remainder) + '|' + ellipseText(remainder);
+}
+
+bool sameFill(const Object& meant, const Object& read) {
+    if (meant.showsGradient())
+        return gradientText(meant) == gradientText(read);
+    const Paint fill = drawing::plainFillOf(meant);
+    const Paint readFill = read.showsGradient() ? Paint() : read.fill;
+    if (std::holds_alternative<NoPaint>(fill))
+        return std::holds_alternative<NoPaint>(read.fill) && !read.showsGradient();
+    const auto* const color = std::get_if<ColorPaint>(&fill);
+    const auto* const readColor = std::get_if<ColorPaint>(&readFill);
+    return !color || (readColor && color->color == readColor->color);
+}
+
+std::string nameOf(const Object& object, std::size_t number) {
+    const std::string id(object.id.text());
+    return id.empty() ? "object " + std::to_string(number) : "the object \"" + id + '"';
+}
+
+} // namespace
+
+std::optional<std::string> lostIn(const std::string& bytes, const Drawing& drawing) {
+    const files::Result<Drawing> read = readBytes(bytes, {});
+    if (!read)
+        return "it could not be opened again: " + read.error().reason;
+    const Drawing& again = *read;
+    const std::vector<ObjectPtr> objects = inFileOrder(drawing);
+    if (again.size() != objects.size())
+        return "it would hold " + std::to_string(again.size()) + " objects instead of " +
+               std::to_string(objects.size());
+    std::optional<std::string> lost;
+    std::size_t at = 0;
+    again.forEach([&](const ObjectPtr& readObject) {
+        const Object& meant = *objects[at++];
+        const bool changed = meant.fillOrigin == FillOrigin::Edited || !meant.source.inFile();
+        if (!lost && changed && !sameFill(meant, *readObject))
+            lost = "the fill of " + nameOf(meant, at) + " would not be read back as it is now";
+    });
+    return lost;
+}
+
+} // namespace easel::svg
