@@ -33,14 +33,20 @@ bool hasExtent(const Gradient& gradient) {
     return std::get<drawing::RadialGeometry>(gradient.geometry).radius > 0;
 }
 
-// Whether an element that was placed so may be the standard form. On a shape without width or height the
-// standard form has no extent, and is placed as a color or not at all.
-bool placesAs(const std::optional<Gradient>& standard, const PlacedPaint& placed,
-              const drawing::Affine& units) {
+// Whether the element, placed so on a shape of these units, may be the standard form. On a shape without
+// width or height the standard form has no extent, and is placed as a color or not at all.
+bool mayBe(const Gradient& standard, const GradientElement& element, const PlacedPaint& placed,
+           const drawing::Affine& units) {
+    const bool sameMap = element.transform == units.inverse() * standard.toDrawing;
     const auto* const foreign = std::get_if<Gradient>(&placed);
-    if (!standard)
-        return true;
-    return foreign ? alike(*standard, *foreign) : !hasExtent(*standard) || !units.invertible();
+    if (!foreign)
+        return !hasExtent(standard) || !units.invertible() ||
+               (sameMap && !(units * element.transform).invertible());
+    // With a map that is nearly flat, rounding puts what was written as the same far away.
+    Gradient gradient = *foreign;
+    if (sameMap)
+        gradient.toDrawing = standard.toDrawing;
+    return alike(standard, gradient);
 }
 
 // The record and remainder that are written beside the gradient, as long as they still tell the same as the
@@ -52,7 +58,7 @@ std::optional<OwnGradient> writtenGradient(const GradientElement& element, const
     if (!record || !remainder)
         return std::nullopt;
     const auto standard = drawing::standardGradient(*record, &*remainder, object.outline);
-    if (!placesAs(standard, placed, unitsOf(object)))
+    if (standard && !mayBe(*standard, element, placed, unitsOf(object)))
         return std::nullopt;
     return OwnGradient{*record, *remainder};
 }
