@@ -147,6 +147,26 @@ TEST(PdfFile, GradientsAreShadingsAndTheSameTwoKinds) {
     EXPECT_NE(text.find("0 0 225 150"), std::string::npos);
 }
 
+TEST(VectorExports, CarryOpacityAndEllipsesWithoutPictures) {
+    CGradientData record;
+    record.SetType(kRadialGradient);
+    Object object = *withGradient("a", {0, 0, 90, 90}, record);
+    object.setWholeGradient(object.gradient, std::make_shared<const Remainder>(
+                                                 Remainder{{{0, 0.25}, {1, 1}}, Affine{2, 0, 0, 0.5, 0, 0}}));
+    const auto drawing = drawingOf({sealed(object)});
+    const auto bytes = encodePdf(drawing, pageOf(drawing, 1));
+    const std::string text(bytes.begin(), bytes.end());
+    EXPECT_NE(text.find("/SMask"), std::string::npos);
+    EXPECT_NE(text.find("/ShadingType 3"), std::string::npos);
+    EXPECT_EQ(text.find("/Subtype /Image"), std::string::npos);
+
+    const auto document = parsed(encodeSvg(drawing, 1));
+    const auto gradient = document.child("svg").child("defs").child("radialGradient");
+    EXPECT_TRUE(gradient.attribute("gradientTransform"));
+    EXPECT_EQ(gradient.first_child().attribute("stop-opacity").as_double(), 0.25);
+    EXPECT_FALSE(document.child("svg").child("image"));
+}
+
 // What is painted on the page, as PDF writes it; it is the first stream of the file.
 std::string pageContent(const easel::files::Bytes& pdf) {
     constexpr std::string_view kBegin = "stream\n";
