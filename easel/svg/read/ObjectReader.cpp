@@ -68,11 +68,11 @@ std::optional<OwnGradient> writtenGradient(const GradientElement& element, const
 std::optional<OwnGradient> plainRecord(const Gradient& placed, const drawing::Path& outline) {
     if (!placed.ramp.opaque())
         return std::nullopt;
-    drawing::GradientDescription description = drawing::describe(placed, outline);
+    const drawing::GradientDescription description = drawing::describe(placed, outline);
     if (description.loss != drawing::Loss::None || !description.remainder.empty() ||
         description.record.ColorList().size() > placed.ramp.stops().size() + 2)
         return std::nullopt;
-    return OwnGradient{std::move(description.record), {}};
+    return OwnGradient{description.record, {}};
 }
 
 Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyle& style) {
