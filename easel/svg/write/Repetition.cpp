@@ -38,12 +38,14 @@ std::string attributesOf(const std::string& text, const RawTag& tag,
     return result;
 }
 
-// An id may stand in one place of a file only, and that is where it was.
-void removeIds(const std::string& text, std::size_t begin, std::size_t end, Splices& splices) {
+// An id may stand in one place of a file only, and that is where it was. Where style sheets ask for it the
+// copy would look different without.
+void removeIds(const std::string& text, std::size_t begin, std::size_t end, const IdSet& kept,
+               Splices& splices) {
     std::size_t at = begin;
     while ((at = text.find('<', at)) < end) {
         const RawTag tag(text, at);
-        if (const RawAttribute* const id = tag.find("id"))
+        if (const RawAttribute* const id = tag.find("id"); id && !kept.contains(std::string(tag.value("id"))))
             splices.replace(id->whole.begin, id->whole.end, "");
         at = tag.span().end;
     }
@@ -52,11 +54,13 @@ void removeIds(const std::string& text, std::size_t begin, std::size_t end, Spli
 } // namespace
 
 std::string writtenOut(const std::string& text, const Repetition& repetition, const std::string& prefix,
-                       Splices& splices) {
+                       const IdSet& idsInSheets, Splices& splices) {
     const RawTag use(text, repetition.useTag);
     const RawTag target(text, repetition.targetTag);
     const std::size_t targetEnd = elementEnd(text, repetition.targetTag);
-    removeIds(text, repetition.targetTag, targetEnd, splices);
+    // A second place of an id is harmless behind the first, which is what references find.
+    const bool isBehind = repetition.useTag > repetition.targetTag;
+    removeIds(text, repetition.targetTag, targetEnd, isBehind ? idsInSheets : IdSet(), splices);
     const std::string group = prefix + "g";
     const std::string viewport = prefix + "svg";
     const std::string open =

@@ -6,12 +6,15 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 namespace easel::svg {
 
+using IdSet = std::unordered_set<std::string>;
+
 // A group that looks like the `use` element: a copy of the repeated element, with the splices in it and
-// without ids.
+// without ids, but for those that style sheets may ask for.
 std::string writtenOut(const std::string& text, const Repetition& repetition, const std::string& prefix,
-                       Splices& splices);
+                       const IdSet& idsInSheets, Splices& splices);
 
 } // namespace easel::svg

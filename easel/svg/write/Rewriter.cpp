@@ -34,6 +34,17 @@ std::unordered_set<std::string> referencedIds(const std::string& text) {
     return ids;
 }
 
+// All names that stand in the text as they do in selectors of style sheets: "#id {", "#id.class".
+IdSet idsInSelectors(const std::string& text) {
+    IdSet ids;
+    for (std::size_t at = text.find('#'); at != std::string::npos; at = text.find('#', at + 1)) {
+        const std::size_t end = text.find_first_of("\"'()<;{,.:>+~[ \t\r\n", at);
+        if (end != std::string::npos && std::string_view("\"'()<;").find(text[end]) == std::string_view::npos)
+            ids.insert(text.substr(at + 1, end - at - 1));
+    }
+    return ids;
+}
+
 // Removes an element together with the blanks that set it on a line of its own.
 void removeElement(Splices& splices, const std::string& text, std::size_t tag) {
     std::size_t begin = tag;
@@ -145,7 +156,7 @@ std::string Rewriter::expanded(std::uint32_t repetition) const {
     const Repetition& place = source_.repetitions[repetition - 1];
     Splices splices;
     applyChanges(repetition, splices);
-    return writtenOut(text_, place, source_.prefix, splices);
+    return writtenOut(text_, place, source_.prefix, idsInSheets_, splices);
 }
 
 std::string Rewriter::keptGradients(const std::string& newText) const {
@@ -203,6 +214,8 @@ std::string Rewriter::rewritten() {
     gatherChanges();
     if (changes_.empty() && newObjects_.empty())
         return source_.bytes;
+    if (!writtenOut_.empty() && source_.sheetsStateFill)
+        idsInSheets_ = idsInSelectors(text_);
     Splices splices;
     applyChanges(0, splices);
     addBlock(splices);

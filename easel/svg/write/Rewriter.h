@@ -4,6 +4,7 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/write/GradientText.h"
+#include "easel/svg/write/Repetition.h"
 #include "easel/svg/write/Splices.h"
 
 #include <string>
@@ -53,6 +54,7 @@ class Rewriter {
     std::unordered_map<std::uint32_t, std::vector<Change>> changes_;
     std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> changedInside_;
     std::unordered_set<std::uint32_t> writtenOut_;
+    IdSet idsInSheets_; // if anything is written out
     // By the place of a start tag: the repetitions that the element is part of, without those that are none.
     std::unordered_multimap<std::uint32_t, std::uint32_t> copies_;
 };

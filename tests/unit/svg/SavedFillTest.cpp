@@ -112,6 +112,13 @@ TEST(SavedFill, OfWhatARepetitionRepeatsLeavesTheRepetitionsOfThatRepetition) {
     EXPECT_EQ(savedFills(drawing), "record red ");
 }
 
+TEST(SavedFill, OfAnOriginalThatASheetColorsByItsIdLeavesItsCopies) {
+    Drawing drawing = readOk(svgFile("<style>#a{fill:#ff0000}</style><rect id='a' width='9' height='9'/>"
+                                     "<use href='#a' x='20'/><use href='#a' x='40'/>"));
+    giveGradient(drawing, 0, someRecord());
+    EXPECT_EQ(savedFills(drawing), "record red red ");
+}
+
 TEST(SavedFill, OfADeletedOriginalStaysWithItsCopies) {
     Drawing drawing =
         readOk(svgFile("<rect id='a' width='9' height='9' fill='red'/><use href='#a' x='20'/>"));
