@@ -262,6 +262,7 @@ StGrafPortSaver::~StGrafPortSaver() {
 struct StThemeDrawingState::State {
     easel::runtime::PenScope pen{process().ports()};
     easel::runtime::ForegroundScope foreground{process().ports()};
+    easel::runtime::BackgroundScope background{process().ports()};
 };
 
 StThemeDrawingState::StThemeDrawingState() : state_(std::make_unique<State>()) {

@@ -2,6 +2,7 @@
 #include "host/Menus.h"
 
 #include "easel/classic/MacRoman.h"
+#include "easel/runtime/MenuSyntax.h"
 #include "easel/runtime/Menus.h"
 #include "easel/runtime/Process.h"
 
@@ -35,7 +36,8 @@ void DeleteMenuItem(OpaqueMenuRef* ref, short item) {
 void AppendMenu(OpaqueMenuRef* ref, CStr255 const& text) {
     journal("AppendMenu", easel::classic::fromMacRoman(text.Text()));
     if (Menu* menu = menuOf(ref))
-        menu->append({text.Text(), true, false});
+        for (easel::runtime::MenuEntry& entry : easel::runtime::menuEntriesIn(text.Text()))
+            menu->append(std::move(entry));
 }
 
 void SetMenuItemText(OpaqueMenuRef* ref, short item, CStr255 const& text) {

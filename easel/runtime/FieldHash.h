@@ -16,8 +16,9 @@ class FieldHash {
         for (; bytes > 0; --bytes, value >>= 8)
             hash_ = (hash_ ^ static_cast<std::uint8_t>(value)) * 16777619u;
     }
-    void add(double value) { add(std::bit_cast<std::uint64_t>(value), 8); }
-    void add(float value) { add(std::bit_cast<std::uint32_t>(value), 4); }
+    // Adding 0 turns a negative zero into the ordinary one: equal numbers have equal hashes.
+    void add(double value) { add(std::bit_cast<std::uint64_t>(value + 0.0), 8); }
+    void add(float value) { add(std::bit_cast<std::uint32_t>(value + 0.0F), 4); }
     void add(const TPoint<double>& point) {
         add(point.v);
         add(point.h);

@@ -29,6 +29,7 @@ template <auto part> class PortPartScope {
 
 using PenScope = PortPartScope<&paint::PortState::pen>;
 using ForegroundScope = PortPartScope<&paint::PortState::foreground>;
+using BackgroundScope = PortPartScope<&paint::PortState::background>;
 using ClipScope = PortPartScope<&paint::PortState::clip>;
 
 } // namespace easel::runtime

@@ -6,8 +6,10 @@
 namespace easel::runtime {
 
 ResourceFiles::ResourceFiles(classic::HostFiles& files, MemoryBlocks& blocks,
-                             classic::HostFiles::ErrorReport report)
-    : files_(files), blocks_(blocks), report_(std::move(report)), open_(1) {}
+                             classic::HostFiles::ErrorReport unwritten,
+                             classic::HostFiles::ErrorReport unreadable)
+    : files_(files), blocks_(blocks), unwritten_(std::move(unwritten)), unreadable_(std::move(unreadable)),
+      open_(1) {}
 
 ResourceFiles::~ResourceFiles() {
     while (open_.size() > 1)
@@ -18,22 +20,22 @@ std::int16_t ResourceFiles::open(const classic::FileSpec& spec, classic::Access 
     OpenFile file;
     file.access = access;
     auto opened = files_.open(spec, access);
-    // An error of the system means that there is nothing to see; one without, that what was seen is damaged.
-    if (!opened && opened.error().code)
+    if (!opened) {
+        // An error of the system means that there is nothing to see; one without, that what was seen is
+        // damaged.
+        if (!opened.error().code && access == classic::Access::Read)
+            unreadable_(opened.error());
         return kNoFile;
-    if (opened) {
-        file.file = std::move(*opened);
-        file.changed = file.file.state == classic::OpenedFile::State::Waiting;
-        auto fork = classic::ResourceFork::read(file.file.header.resourceFork());
-        if (fork)
-            file.fork = std::move(*fork);
-        else
-            file.condition = Condition::Damaged;
-    } else {
-        file.condition = Condition::Damaged;
     }
-    if (file.condition == Condition::Damaged && access == classic::Access::Write)
+    file.file = std::move(*opened);
+    file.changed = file.file.state == classic::OpenedFile::State::Waiting;
+    auto fork = classic::ResourceFork::read(file.file.header.resourceFork());
+    if (!fork) {
+        if (access == classic::Access::Read)
+            unreadable_({file.file.file.data(), "its resources are damaged", {}});
         return kNoFile;
+    }
+    file.fork = std::move(*fork);
     file.number = freeNumber();
     open_.push_back(std::move(file));
     current_ = open_.back().number;
@@ -101,13 +103,12 @@ char** ResourceFiles::load(OpenFile& file, std::uint32_t type, std::int16_t id) 
         if (loaded.type == type && loaded.id == id)
             return loaded.block;
     const auto* const resource = file.fork.find(type, id);
-    if (!resource && file.condition == Condition::Whole)
+    if (!resource)
         return nullptr;
-    char** const block = blocks_.create(resource ? resource->data.size() : 0);
+    char** const block = blocks_.create(resource->data.size());
     if (!block)
         return nullptr;
-    if (resource)
-        std::copy(resource->data.begin(), resource->data.end(), *block);
+    std::copy(resource->data.begin(), resource->data.end(), *block);
     file.loaded.push_back({type, id, block});
     return block;
 }
@@ -115,12 +116,12 @@ char** ResourceFiles::load(OpenFile& file, std::uint32_t type, std::int16_t id) 
 void ResourceFiles::write(OpenFile& file) {
     auto fork = file.fork.write();
     if (!fork) {
-        report_({file.file.file.data(), "its resources are larger than a resource file can be", {}});
+        unwritten_({file.file.file.data(), "its resources are larger than a resource file can be", {}});
         return;
     }
     file.file.header.setResourceFork(std::move(*fork));
     if (const auto written = files_.write(file.file); !written)
-        report_(written.error());
+        unwritten_(written.error());
 }
 
 std::int16_t ResourceFiles::freeNumber() {

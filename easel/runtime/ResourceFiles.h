@@ -17,15 +17,16 @@ class ResourceFiles {
     static constexpr std::int16_t kHostFile = 1;
     static constexpr std::int16_t kNoFile = -1;
 
-    /// `report` is told what a file that was closed could not be written for.
-    ResourceFiles(classic::HostFiles& files, MemoryBlocks& blocks, classic::HostFiles::ErrorReport report);
+    /// `unwritten` is told what a file that was closed could not be written for, `unreadable` which file was
+    /// to be opened for reading and is damaged.
+    ResourceFiles(classic::HostFiles& files, MemoryBlocks& blocks, classic::HostFiles::ErrorReport unwritten,
+                  classic::HostFiles::ErrorReport unreadable);
     ~ResourceFiles();
     ResourceFiles(const ResourceFiles&) = delete;
     ResourceFiles& operator=(const ResourceFiles&) = delete;
 
-    /// Opens a file and makes it current. kNoFile where there is none; a damaged one opens for reading, and
-    /// answers every question for a resource with an empty block, so that a reader sees damage rather than
-    /// nothing.
+    /// Opens a file and makes it current. kNoFile where there is none, or one without resources that can be
+    /// read.
     std::int16_t open(const classic::FileSpec& spec, classic::Access access);
     std::int16_t current() const { return current_; }
     /// Changes nothing unless the file is open.
@@ -46,7 +47,6 @@ class ResourceFiles {
     void detach(char** block);
 
   private:
-    enum class Condition { Whole, Damaged };
     struct LoadedBlock {
         std::uint32_t type;
         std::int16_t id;
@@ -55,7 +55,6 @@ class ResourceFiles {
     struct OpenFile {
         std::int16_t number = kHostFile;
         classic::Access access = classic::Access::Read;
-        Condition condition = Condition::Whole;
         classic::OpenedFile file;
         classic::ResourceFork fork;
         bool changed = false;
@@ -69,7 +68,8 @@ class ResourceFiles {
 
     classic::HostFiles& files_;
     MemoryBlocks& blocks_;
-    classic::HostFiles::ErrorReport report_;
+    classic::HostFiles::ErrorReport unwritten_;
+    classic::HostFiles::ErrorReport unreadable_;
     std::vector<OpenFile> open_;
     std::int16_t current_ = kHostFile;
 };

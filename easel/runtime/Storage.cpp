@@ -7,7 +7,9 @@ namespace easel::runtime {
 
 Storage::Storage(const classic::StoragePlaces& places, MemoryBlocks& blocks, Tell tell)
     : tell_(std::move(tell)), files_(places, [this](const files::Error& error) { tellError(error); }),
-      resourceFiles_(files_, blocks, [this](const files::Error& error) { tellError(error); }),
+      resourceFiles_(
+          files_, blocks, [this](const files::Error& error) { tellError(error); },
+          [this](const files::Error& error) { tell_(error.message() + ". It could not be read."); }),
       defaults_(places) {}
 
 void Storage::tellError(const files::Error& error) {

@@ -173,7 +173,9 @@ TEST(TemplateStore, AFileWithoutTheResourceLeavesTheGradientAsItWas) {
     EXPECT_EQ(stopsStoredIn(templateFolder(player), "after.GRD"), 3U);
 }
 
-TEST(TemplateStore, ADamagedTemplateIsListedAndGivesTheDefaultGradient) {
+// Bytes that are no gradient give the default one; a file that cannot be read at all changes nothing and is
+// named.
+TEST(TemplateStore, ADamagedGradientGivesTheDefaultAndADamagedFileLeavesTheGradientAsItWas) {
     auto bytes = *classic::gradientToBytes(threeStopGradient());
     bytes[40] ^= 1;
     const Player player;
@@ -183,13 +185,17 @@ TEST(TemplateStore, ADamagedTemplateIsListedAndGivesTheDefaultGradient) {
     const auto header = contentOf(templateFolder(player) / "._2 cut.GRD");
     writeContent(templateFolder(player) / "._2 cut.GRD", header.substr(0, header.size() / 2));
     writeContent(templateFolder(player) / "._3 rubbish.GRD", std::string(300, '?'));
-    const auto played = player.playToEnd(inEditor("print dialog\n"));
-    EXPECT_THAT(offered(played["dialog"]), ElementsAre("1 flipped.GRD", "2 cut.GRD", "3 rubbish.GRD"));
-    for (const char* entry : {"5", "6", "7"}) {
-        player.playToEnd(inEditor(kAddStop + "choose 9 " + entry + "\n" + saveAs("zzz") +
-                                  (*entry == '5' ? "" : "answer yes\n")));
-        EXPECT_EQ(storedIn(templateFolder(player), "zzz.GRD"), *classic::gradientToBytes(CGradientData()))
-            << entry;
+    const auto shown = player.playToEnd(inEditor("print dialog\n"));
+    EXPECT_THAT(offered(shown["dialog"]), ElementsAre("1 flipped.GRD", "2 cut.GRD", "3 rubbish.GRD"));
+
+    player.playToEnd(inEditor(kAddStop + "choose 9 5\n" + saveAs("zzz")));
+    EXPECT_EQ(storedIn(templateFolder(player), "zzz.GRD"), *classic::gradientToBytes(CGradientData()));
+    for (const auto& [entry, name] : {std::pair("6", "2 cut.GRD"), {"7", "3 rubbish.GRD"}}) {
+        const auto played =
+            player.play(inEditor(kAddStop + "choose 9 " + entry + "\n" + saveAs("zzz") + "answer yes\n"));
+        EXPECT_EQ(played.exitCode, 0);
+        EXPECT_THAT(played.messages, testing::HasSubstr(name));
+        EXPECT_EQ(stopsStoredIn(templateFolder(player), "zzz.GRD"), 3U) << "the stop that was added is kept";
     }
 }
 

@@ -59,11 +59,16 @@ bool takeOpacity(std::string_view text, std::vector<drawing::OpacityStop>& stops
     return stop.position >= least && stop.position <= 1 && stop.opacity >= 0 && stop.opacity <= 1;
 }
 
+// The ordinary zero for a negative one.
+float plain(float angle) {
+    return angle + 0.0F;
+}
+
 } // namespace
 
 std::string recordText(const CGradientData& record) {
     std::string text =
-        std::to_string(static_cast<std::int32_t>(record.Type())) + ' ' + numberText(record.Angle());
+        std::to_string(static_cast<std::int32_t>(record.Type())) + ' ' + numberText(plain(record.Angle()));
     for (const TPoint<double>& point : {record.Start(), record.End()})
         text += ' ' + numberText(point.h) + ' ' + numberText(point.v);
     text += ' ' + numberText(static_cast<float>(record.StartRadius()));

@@ -59,7 +59,7 @@ DeletionWindow::DeletionWindow(runtime::DeletionList& list, QWidget* parent)
     deleteButton_ = buttons->addButton(tr("Delete"), QDialogButtonBox::AcceptRole);
     // While nothing is selected Delete is disabled, and Return must not turn to Cancel instead.
     buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &DeletionWindow::confirm);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
@@ -83,11 +83,17 @@ void DeletionWindow::selectionChanged() {
     deleteButton_->setDefault(list_.canConfirm());
 }
 
+// The list stays in sight while the question is put, so that the user sees what is about to go.
+void DeletionWindow::confirm() {
+    list_.command(runtime::DeletionCommand::Ok);
+    if (!list_.isOpen())
+        accept();
+}
+
 void runDeletionWindow(runtime::DeletionList& list, Interaction& interaction) {
     DeletionWindow dialog(list, interaction.dialogs.parentForNext());
-    while (list.isOpen() && !interaction.waiting.cancelled())
-        list.command(interaction.dialogs.run(dialog) ? runtime::DeletionCommand::Ok
-                                                     : runtime::DeletionCommand::Cancel);
+    if (!interaction.dialogs.run(dialog) && list.isOpen() && !interaction.waiting.cancelled())
+        list.command(runtime::DeletionCommand::Cancel);
     if (list.isOpen())
         list.close();
 }

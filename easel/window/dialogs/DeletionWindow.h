@@ -22,6 +22,7 @@ class DeletionWindow : public QDialog {
     DeletionWindow(runtime::DeletionList& list, QWidget* parent);
 
   private:
+    void confirm();
     void selectionChanged();
 
     runtime::DeletionList& list_;

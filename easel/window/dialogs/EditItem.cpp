@@ -62,6 +62,12 @@ void EditItem::refuse(const QString& attempted) {
     setAccessibleDescription(reason);
 }
 
+// A click in the field counts as a hit of it, like a keystroke.
+void EditItem::mousePressEvent(QMouseEvent* event) {
+    QLineEdit::mousePressEvent(event);
+    dialog_.hit(item_);
+}
+
 void EditItem::selectionMoved() {
     if (following_)
         return;

@@ -17,6 +17,9 @@ class EditItem : public QLineEdit, public ItemWidget {
     QWidget* widget() override { return this; }
     void modelChanged(runtime::ItemChange change) override;
 
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+
   private:
     void edited(const QString& text);
     void refuse(const QString& attempted);

@@ -37,6 +37,15 @@ TEST(GradientRecord, NarrowsAPercentThatIsSetAndNotOneThatIsGiven) {
     EXPECT_EQ(stop.Percent(), 0.30000001192092896);
 }
 
+TEST(GradientRecord, RecordsOfEqualNumbersHaveEqualKeys) {
+    CGradientData record;
+    const std::uint32_t key = keyOf(record);
+    record.SetAngle(-0.0F);
+    record.SetStartRadius(-0.0F);
+    record.ColorList().front() = CGradientColor({0, 0, 0}, -0.0);
+    EXPECT_EQ(keyOf(record), key);
+}
+
 TEST(GradientRecord, KeyDependsOnEveryField) {
     const auto changed = [](const std::function<void(CGradientData&)>& change) {
         CGradientData record;

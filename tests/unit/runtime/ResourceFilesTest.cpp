@@ -44,7 +44,9 @@ class ResourceFilesTest : public testing::Test {
     int expectedFailures_ = 0;
     HostFiles::ErrorReport report_ = [this](const Error&) { ++failures_; };
     HostFiles files_{StoragePlaces::within(base_.path()), report_};
-    ResourceFiles resources_{files_, blocks_, report_};
+    std::vector<std::filesystem::path> unreadable_;
+    ResourceFiles resources_{files_, blocks_, report_,
+                             [this](const Error& error) { unreadable_.push_back(error.file); }};
     FileSpec placeholder_;
 };
 
@@ -133,17 +135,19 @@ TEST_F(ResourceFilesTest, WhatIsNoBlockIsNotAdded) {
     EXPECT_EQ(keptIn(folder(), "a"), "damaged") << "it has no such resource";
 }
 
-TEST_F(ResourceFilesTest, ADamagedFileAnswersWithAnEmptyBlock) {
+TEST_F(ResourceFilesTest, ADamagedFileDoesNotOpenAndIsNamedToWhoeverWouldReadIt) {
     dropFile(folder(), "a", "x");
     const auto header = tests::contentOf(folder() / "._a");
     for (const auto& damaged : {header.substr(0, header.size() - 10), std::string("rubbish")}) {
         writeContent(folder() / "._a", damaged);
-        const auto number = resources_.open(specOf("a"), Access::Read);
-        ASSERT_NE(number, ResourceFiles::kNoFile);
-        EXPECT_EQ(contentOf(resources_.get(kResourceType, 0)), "");
-        resources_.close(number);
+        unreadable_.clear();
+        EXPECT_EQ(resources_.open(specOf("a"), Access::Read), ResourceFiles::kNoFile);
+        ASSERT_EQ(unreadable_.size(), 1U);
+        EXPECT_EQ(unreadable_[0].filename(), "._a");
         EXPECT_EQ(resources_.open(specOf("a"), Access::Write), ResourceFiles::kNoFile);
     }
+    EXPECT_EQ(unreadable_.size(), 1U) << "who writes is told otherwise";
+    EXPECT_EQ(resources_.current(), ResourceFiles::kHostFile);
     EXPECT_EQ(blocks_.live(), 0U);
 }
 
