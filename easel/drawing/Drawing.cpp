@@ -92,12 +92,22 @@ void Drawing::amend(std::size_t index, const ObjectPtr& object) {
 
 bool Drawing::undo() {
     const Step* step = history_.takeUndo(selectedSlots());
-    if (!step)
-        return false;
-    for (auto edit = step->edits.rbegin(); edit != step->edits.rend(); ++edit)
+    if (step)
+        revert(*step);
+    return step != nullptr;
+}
+
+bool Drawing::takeBack() {
+    const std::optional<Step> step = history_.takeBack();
+    if (step)
+        revert(*step);
+    return step.has_value();
+}
+
+void Drawing::revert(const Step& step) {
+    for (auto edit = step.edits.rbegin(); edit != step.edits.rend(); ++edit)
         revert(*edit);
-    restoreSelection(step->selectionBefore);
-    return true;
+    restoreSelection(step.selectionBefore);
 }
 
 bool Drawing::redo() {

@@ -75,6 +75,9 @@ class Drawing {
     // Bring back objects, order and selection; false if there is nothing to undo or redo.
     bool undo();
     bool redo();
+    // Undoes the step of the last `prepareUndo` as if it had never been: it cannot be redone, and what could
+    // be redone before it can be again. False if nothing changed since that `prepareUndo`.
+    bool takeBack();
     // Whether the drawing differs from what was last read or saved.
     bool dirty() const { return history_.dirty(); }
     void markSaved() { history_.markSaved(); }
@@ -101,6 +104,7 @@ class Drawing {
     ObjectPtr takeOut(Slot slot);
     void apply(const Edit& edit);
     void revert(const Edit& edit);
+    void revert(const Step& step);
     std::vector<Slot> selectedSlots() const { return {selection_.begin(), selection_.end()}; }
     void restoreSelection(const std::vector<Slot>& slots);
     void changed(const ObjectPtr& object);

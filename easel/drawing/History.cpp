@@ -5,6 +5,7 @@
 namespace easel::drawing {
 
 void History::prepare(long kind, std::vector<Slot> selection) {
+    settle();
     open_ = false;
     preparedKind_ = kind;
     prepared_ = Step{kind, {}, std::move(selection), {}, revision_, revision_};
@@ -18,7 +19,8 @@ void History::close() {
 void History::record(Edit edit) {
     revision_ = ++lastRevision_;
     if (prepared_) {
-        undone_.clear();
+        displaced_ = std::exchange(undone_, {});
+        mayTakeBack_ = true;
         done_.push_back(std::move(*prepared_));
         prepared_.reset();
         open_ = true;
@@ -41,8 +43,26 @@ void History::lastStepChangedNothing() {
     done_.back().revisionAfter = revision_;
 }
 
+void History::settle() {
+    mayTakeBack_ = false;
+    displaced_.clear();
+}
+
+std::optional<Step> History::takeBack() {
+    close();
+    if (!mayTakeBack_)
+        return std::nullopt;
+    Step step = std::move(done_.back());
+    done_.pop_back();
+    undone_ = std::exchange(displaced_, {});
+    mayTakeBack_ = false;
+    revision_ = revision_ == step.revisionAfter ? step.revisionBefore : ++lastRevision_;
+    return step;
+}
+
 const Step* History::takeUndo(std::vector<Slot> selection) {
     close();
+    settle();
     if (done_.empty())
         return nullptr;
     undone_.push_back(std::move(done_.back()));
@@ -57,6 +77,7 @@ const Step* History::takeUndo(std::vector<Slot> selection) {
 
 const Step* History::takeRedo() {
     close();
+    settle();
     if (undone_.empty())
         return nullptr;
     done_.push_back(std::move(undone_.back()));

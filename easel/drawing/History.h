@@ -52,15 +52,22 @@ class History {
     // Moves the step to the other side and gives it; null if there is none. The selection is the present one.
     const Step* takeUndo(std::vector<Slot> selection);
     const Step* takeRedo();
+    // Forgets the last step, which was recorded after the last `prepare`, and gives it; what could be redone
+    // before it can be redone again. Nothing if no step was recorded since then.
+    std::optional<Step> takeBack();
 
     bool dirty() const { return revision_ != savedRevision_; }
     void markSaved() { savedRevision_ = revision_; }
 
   private:
+    void settle();
+
     std::vector<Step> done_;
     std::vector<Step> undone_;
     std::optional<Step> prepared_; // prepared, nothing changed yet
     bool open_ = false;            // the last step of `done_` takes further changes
+    bool mayTakeBack_ = false;     // the last step of `done_` came with the last `prepare`
+    std::vector<Step> displaced_;  // what the last step made impossible to redo, while it may be taken back
     std::optional<long> preparedKind_;
     std::uint64_t revision_ = 0;
     std::uint64_t lastRevision_ = 0;

@@ -185,4 +185,34 @@ TEST(Drawing, RandomEditsMatchAPlainListAndUndoRetracesEveryState) {
     EXPECT_EQ(present(), states.back());
 }
 
+TEST(Drawing, WhatIsTakenBackIsNoStepAndLeavesRedoAsItWas) {
+    Drawing drawing = threeRectangles();
+    drawing.prepareUndo(3);
+    drawing.erase(0);
+    drawing.undo();
+    drawing.select(1);
+    drawing.prepareUndo(3);
+    drawing.unselectAll();
+    drawing.erase(2);
+    drawing.closeUndo();
+    EXPECT_TRUE(drawing.takeBack());
+    EXPECT_EQ(ids(drawing), "abc");
+    EXPECT_TRUE(drawing.selected(1));
+    EXPECT_FALSE(drawing.dirty());
+    EXPECT_EQ(drawing.undoLevels(), 0U);
+    EXPECT_FALSE(drawing.takeBack()) << "once";
+    EXPECT_TRUE(drawing.redo());
+    EXPECT_EQ(ids(drawing), "bc") << "what was undone before, not what was taken back";
+}
+
+TEST(Drawing, AnEarlierStepIsNotTakenBack) {
+    Drawing drawing = threeRectangles();
+    drawing.prepareUndo(3);
+    drawing.erase(0);
+    drawing.prepareUndo(3);
+    EXPECT_FALSE(drawing.takeBack()) << "nothing changed since";
+    EXPECT_EQ(ids(drawing), "bc");
+    EXPECT_EQ(drawing.undoLevels(), 1U);
+}
+
 } // namespace
