@@ -13,6 +13,8 @@
 #include "easel/runtime/ToolPalette.h"
 #include "host/Objects.h"
 
+#include <utility>
+
 namespace easel::runtime {
 
 class DrawingWindow;
@@ -66,16 +68,18 @@ class Process {
     Storage storage_;
 };
 
-// Makes somebody the user of the process for a scope.
+// Makes somebody the user of the process for a scope; then it is whoever was before.
 class UserScope {
   public:
-    UserScope(Process& process, User& user) : process_(process) { process_.user_ = &user; }
+    UserScope(Process& process, User& user)
+        : process_(process), before_(std::exchange(process.user_, &user)) {}
     UserScope(const UserScope&) = delete;
     UserScope& operator=(const UserScope&) = delete;
-    ~UserScope() { process_.user_ = nullptr; }
+    ~UserScope() { process_.user_ = before_; }
 
   private:
     Process& process_;
+    User* before_;
 };
 
 // The process that is alive, for the operations of the interface, which are free functions: all other code is

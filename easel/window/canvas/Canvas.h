@@ -48,6 +48,11 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void marked();
     // The drawing, its selection or its history changed.
     void reportChange() { Q_EMIT changed(); }
+    // A plug-in's tool gets a press at this place of the viewport, and is through with it.
+    void reportPress(QPointF place) { Q_EMIT toolPressed(toLocal(place)); }
+    void reportRelease() { Q_EMIT toolReleased(); }
+    // The next click goes to no tool but picks something up.
+    void pickUpNext();
     // Shows at once what the window's image and feedback now hold.
     void presentNow();
     // Shows the cursor with this resource id while the pointer is over the canvas.
@@ -70,6 +75,9 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void zoomChanged(double zoom);
     void pointerAt(QPointF inDrawing);
     void pointerLeft();
+    void toolPressed(easel::drawing::Point inDrawing);
+    void toolReleased();
+    void pickedUp(easel::drawing::Point inDrawing);
 
   protected:
     bool viewportEvent(QEvent* event) override;
@@ -91,6 +99,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     bool panning() const { return panFrom_.has_value(); }
     void startPan(QPointF from);
     void endPan();
+    void pickUp(QPointF place);
+    void breakOff();
     void updateScrollBars();
     void showMiddle();
     void updateView();
@@ -112,6 +122,7 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     std::optional<QPointF> panFrom_;
     QPoint panStart_;
     bool spaceDown_ = false;
+    bool picksUp_ = false;
     std::optional<QRectF> marquee_;
     QRect shownFeedback_;
     double flash_ = 0;

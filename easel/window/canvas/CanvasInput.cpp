@@ -22,6 +22,8 @@ namespace {
 // One notch of a wheel, in the units of wheel events.
 constexpr double kNotch = 120;
 constexpr double kZoomPerNotch = 1.2;
+// Held with a click, they pick up what is there, whatever the tool.
+constexpr Qt::KeyboardModifiers kPickUpKeys = Qt::AltModifier | Qt::ShiftModifier;
 
 } // namespace
 
@@ -30,8 +32,11 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         return;
     const bool pans =
         event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && spaceDown_);
+    const bool picksUp = picksUp_ || (event->modifiers() & kPickUpKeys) == kPickUpKeys;
     if (pans)
         startPan(event->position());
+    else if (event->button() == Qt::LeftButton && picksUp)
+        pickUp(event->position());
     else if (event->button() == Qt::LeftButton && tool_)
         tool_->press(*this, *event);
 }
@@ -52,7 +57,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         return;
     tool_->move(*this, *event);
     if (event->buttons() == Qt::NoButton)
-        tool_->updateCursor(*this);
+        refreshCursor();
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event) {
@@ -85,6 +90,24 @@ bool Canvas::holdsBack(const QEvent& event) {
 void Canvas::handOverHeld() {
     for (std::unique_ptr<QMouseEvent>& event : std::exchange(held_, {}))
         QCoreApplication::postEvent(viewport(), event.release());
+}
+
+void Canvas::pickUpNext() {
+    picksUp_ = true;
+    viewport()->setCursor(Qt::CrossCursor);
+}
+
+void Canvas::pickUp(QPointF place) {
+    picksUp_ = false;
+    refreshCursor();
+    Q_EMIT pickedUp(toLocal(place));
+}
+
+void Canvas::breakOff() {
+    picksUp_ = false;
+    if (tool_)
+        tool_->breakOff(*this);
+    refreshCursor();
 }
 
 void Canvas::startPan(QPointF from) {
@@ -125,6 +148,10 @@ void Canvas::keyPressEvent(QKeyEvent* event) {
     if (interaction_.waiting.busy()) {
         if (event->key() == Qt::Key_Escape)
             interaction_.waiting.cancelAll();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        breakOff();
         return;
     }
     if (event->key() == Qt::Key_Space) {
@@ -174,7 +201,7 @@ bool Canvas::viewportEvent(QEvent* event) {
 }
 
 void Canvas::refreshCursor() {
-    if (tool_ && !interaction_.waiting.busy() && !panning() && !spaceDown_)
+    if (tool_ && !interaction_.waiting.busy() && !panning() && !spaceDown_ && !picksUp_)
         tool_->updateCursor(*this);
 }
 

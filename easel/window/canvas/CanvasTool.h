@@ -17,6 +17,8 @@ class CanvasTool {
     virtual void press(Canvas& canvas, const QMouseEvent& event) = 0;
     virtual void move(Canvas&, const QMouseEvent&) {}
     virtual void release(Canvas&, const QMouseEvent&) {}
+    // The user wants nothing to come of what was begun with the last press.
+    virtual void breakOff(Canvas&) {}
     // The pointer is over the canvas, or a key changed: show the right cursor.
     virtual void updateCursor(Canvas& canvas) = 0;
 };

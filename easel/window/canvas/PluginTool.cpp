@@ -7,7 +7,19 @@
 
 #include <QMouseEvent>
 
+#include <vector>
+
 namespace easel::window {
+
+namespace {
+
+void reselect(drawing::Drawing& drawing, const std::vector<std::size_t>& selection) {
+    drawing.unselectAll();
+    for (const std::size_t index : selection)
+        drawing.select(index);
+}
+
+} // namespace
 
 PluginTool::PluginTool(const HostTool& tool, Interaction& interaction)
     : tool_(tool), interaction_(interaction) {}
@@ -17,17 +29,22 @@ void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
     window.activate();
     interaction_.pointer.pressed(canvas, event.position());
     const std::size_t levels = window.drawing().undoLevels();
+    const std::vector<std::size_t> selection = window.drawing().selection();
+    canvas.reportPress(event.position());
     runtime::ToolOutcome outcome = runtime::ToolOutcome::declined;
     {
         const Waiting::Call call(interaction_.waiting);
         const InputGate::Scope scope(interaction_.gate, &canvas);
         outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(event.position()));
         // A drag that was broken off has let go of the button where it stood; nothing was to come of it.
-        if (interaction_.waiting.cancelled() && window.drawing().undoLevels() > levels)
-            window.drawing().undo();
+        if (interaction_.waiting.cancelled() && window.drawing().undoLevels() > levels) {
+            window.drawing().takeBack();
+            reselect(window.drawing(), selection);
+        }
     }
     canvas.marked();
     canvas.reportChange();
+    canvas.reportRelease();
     canvas.refreshCursor();
     if (outcome == runtime::ToolOutcome::declined)
         Q_EMIT declined();

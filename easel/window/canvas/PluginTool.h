@@ -21,6 +21,7 @@ class PluginTool : public QObject, public CanvasTool {
     void press(Canvas& canvas, const QMouseEvent& event) override;
     void updateCursor(Canvas& canvas) override;
     void openOptions();
+    const HostTool& tool() const { return tool_; }
 
   Q_SIGNALS:
     // The click found nothing that the tool could work on.

@@ -35,6 +35,7 @@ void selectWithin(drawing::Drawing& drawing, const drawing::Box& area) {
 
 void SelectTool::press(Canvas& canvas, const QMouseEvent& event) {
     drawing::Drawing& drawing = canvas.drawingWindow().drawing();
+    selectedBefore_ = drawing.selection();
     const bool adds = (event.modifiers() & Qt::ShiftModifier) != 0;
     const auto hit =
         drawing.pick(canvas.toLocal(event.position()), kReach / canvas.zoom(), drawing::KindSet::all());
@@ -67,6 +68,18 @@ void SelectTool::release(Canvas& canvas, const QMouseEvent& event) {
     area.add(canvas.toLocal(marquee.topLeft()));
     area.add(canvas.toLocal(marquee.bottomRight()));
     selectWithin(canvas.drawingWindow().drawing(), area);
+    canvas.reportChange();
+}
+
+void SelectTool::breakOff(Canvas& canvas) {
+    if (!marqueeFrom_)
+        return;
+    marqueeFrom_.reset();
+    canvas.showMarquee({});
+    drawing::Drawing& drawing = canvas.drawingWindow().drawing();
+    drawing.unselectAll();
+    for (const std::size_t index : selectedBefore_)
+        drawing.select(index);
     canvas.reportChange();
 }
 

@@ -4,7 +4,9 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/window/canvas/CanvasTool.h"
 
+#include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace easel::window {
 
@@ -14,10 +16,12 @@ class SelectTool : public CanvasTool {
     void press(Canvas& canvas, const QMouseEvent& event) override;
     void move(Canvas& canvas, const QMouseEvent& event) override;
     void release(Canvas& canvas, const QMouseEvent& event) override;
+    void breakOff(Canvas& canvas) override;
     void updateCursor(Canvas& canvas) override;
 
   private:
     std::optional<QPointF> marqueeFrom_;
+    std::vector<std::size_t> selectedBefore_; // the press
 };
 
 void selectAll(drawing::Drawing& drawing);

@@ -28,7 +28,9 @@ void addMenu(QTreeWidget& list, const QMenu& menu) {
     auto* group = new QTreeWidgetItem(&list, {withoutMnemonic(menu.title())});
     group->setFirstColumnSpanned(true);
     for (const QAction* action : menu.actions())
-        if (!action->shortcut().isEmpty())
+        if (action->menu() && !action->menu()->isEmpty())
+            addMenu(list, *action->menu());
+        else if (!action->shortcut().isEmpty())
             new QTreeWidgetItem(group, {withoutMnemonic(action->text()),
                                         action->shortcut().toString(QKeySequence::NativeText)});
 }
@@ -39,6 +41,7 @@ void addMouse(QTreeWidget& list) {
         std::pair{QObject::tr("Turn a linear gradient"), QObject::tr("Drag (Shift: in steps of 15\u00b0)")},
         std::pair{QObject::tr("Move the center of a radial gradient"), QObject::tr("Press")},
         std::pair{QObject::tr("Edit the gradient of a shape"), QObject::tr("Alt-click or Ctrl-click")},
+        std::pair{QObject::tr("Copy the gradient of a shape"), QObject::tr("Alt-Shift-click")},
         std::pair{QObject::tr("Edit the current gradient"), QObject::tr("Double-click the tool")},
         std::pair{QObject::tr("Zoom about the pointer"), QObject::tr("Ctrl and wheel")},
         std::pair{QObject::tr("Move the view"), QObject::tr("Wheel, middle button, or Space and drag")},

@@ -5,6 +5,7 @@
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/SelectTool.h"
 #include "easel/window/look/Theme.h"
+#include "easel/window/main/GradientMenu.h"
 #include "easel/window/main/HelpDialogs.h"
 #include "easel/window/main/NoticeBar.h"
 #include "easel/window/main/SharedParts.h"
@@ -87,6 +88,7 @@ void MainWindow::setDrawing(drawing::Drawing drawing, const QString& file) {
     drawingWindow_.setDrawing(std::move(drawing));
     file_ = file;
     notice_->tell(joined(drawingWindow_.drawing().notes()));
+    toldCosts_.clear();
     // The canvas has to have its place beside the notice before it fits the drawing in.
     centralWidget()->layout()->activate();
     drawingChanged();
@@ -142,6 +144,8 @@ void MainWindow::drawingChanged() {
     undo_->setEnabled(drawing.undoLevels() > 0);
     redo_->setEnabled(drawing.redoLevels() > 0);
     delete_->setEnabled(drawing.hasSelection());
+    gradientMenu_->followSelection();
+    showWhatIsKept();
     setWindowTitle(titleOf(name()));
     setWindowModified(drawing.dirty());
     setWindowFilePath(file_);
@@ -153,9 +157,9 @@ void MainWindow::toolChanged() {
     for (QAction* action : toolActions_->actions())
         action->setChecked(action->data().toULongLong() == shared_.tools.activeIndex());
     canvas_->setTool(tool.tool);
-    message_->setText(tool.plugin
-                          ? tr("Click or drag on a shape; hold Alt or Ctrl and click to edit its colors")
-                          : tr("Click to select, Shift-click to add, drag to select several"));
+    toolMessage_ = tool.plugin ? tr("Click or drag on a shape; hold Alt or Ctrl and click to edit its colors")
+                               : tr("Click to select, Shift-click to add, drag to select several");
+    showWhatIsKept();
 }
 
 void MainWindow::nothingToPaint() {

@@ -1,12 +1,17 @@
 // The window of one drawing: menus, tools, canvas and status line.
 #pragma once
 
+#include "easel/drawing/GradientCommands.h"
+#include "easel/drawing/GradientDescription.h"
 #include "easel/runtime/DrawingWindow.h"
 #include "easel/window/waiting/CancelFirst.h"
 
 #include <QMainWindow>
 #include <QString>
 
+#include <cstddef>
+#include <optional>
+#include <set>
 #include <vector>
 
 class QAction;
@@ -19,6 +24,7 @@ class QToolButton;
 namespace easel::window {
 
 class Canvas;
+class GradientMenu;
 class NoticeBar;
 struct SharedParts;
 
@@ -98,6 +104,16 @@ class MainWindow : public QMainWindow {
     QString chosenFile(const QString& title, const QString& name, const QString& filter);
     QString baseName() const;
 
+    // MainWindowGradients.cpp
+    void buildGradientMenu(QMenu& edit);
+    void gradientPressed(drawing::Point at);
+    void gradientReleased();
+    void gradientPickedUp(drawing::Point at);
+    void rememberCost();
+    void gradientsEdited();
+    void tellCost(drawing::Loss loss);
+    void showWhatIsKept();
+
     // MainWindow.cpp
     void undo();
     void redo();
@@ -127,6 +143,18 @@ class MainWindow : public QMainWindow {
     NoticeBar* notice_;
     CancelFirst closing_;
 
+    // The gradient that a tool was pressed on, and how many undo levels there were.
+    struct Pressed {
+        std::optional<drawing::WholeGradient> gradient;
+        std::size_t undoLevels = 0;
+    };
+    std::optional<Pressed> pressed_;
+    drawing::Loss cost_ = drawing::Loss::None; // of the first change of what is about to be changed
+    std::size_t levelsBefore_ = 0;
+    std::set<drawing::Loss> toldCosts_;
+    QString toolMessage_;
+
+    GradientMenu* gradientMenu_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     QAction* delete_ = nullptr;

@@ -129,6 +129,7 @@ void MainWindow::buildEditMenu() {
     options_->setIcon(icon(IconName::Options));
     options_->setEnabled(shared_.tools.tools().size() > 1);
     menu->addAction(options_);
+    buildGradientMenu(*menu);
 }
 
 void MainWindow::buildViewMenu() {

@@ -1,7 +1,9 @@
 // Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
 #include "easel/window/main/RunWindow.h"
 
+#include "easel/runtime/PluginModule.h"
 #include "easel/runtime/Process.h"
+#include "easel/runtime/TemplateFolder.h"
 #include "easel/window/look/EaselStyle.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/Application.h"
@@ -47,6 +49,13 @@ classic::StoragePlaces placesFor(const StartUp& startUp) {
     return places;
 }
 
+// Empty if there is none to be found.
+std::filesystem::path folderOfTemplates(const StartUp& startUp) {
+    const auto found = runtime::templateFolder(
+        startUp.plugin.empty() ? runtime::PluginModule::defaultFile() : startUp.plugin, placesFor(startUp));
+    return found ? *found : std::filesystem::path();
+}
+
 void openFirstWindows(Workspace& workspace, const StartUp& startUp, runtime::Process& process) {
     // The first window is there before its drawing is read, and shows itself if that takes a while.
     const QPointer<MainWindow> first = &workspace.newDrawing();
@@ -81,6 +90,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     const easel::runtime::UserScope inFront(process, user);
     Workspace workspace(shared);
     PluginSession plugin(startUp.plugin, process, shared.tools, shared.interaction.waiting);
+    shared.templateFolder = folderOfTemplates(startUp);
     const TerminationSignals signals([&workspace] { workspace.quit(); });
     QTimer::singleShot(0, &workspace, [&] {
         openFirstWindows(workspace, startUp, process);

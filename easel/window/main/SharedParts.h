@@ -1,11 +1,14 @@
 // What all windows have in common: one of each for the program.
 #pragma once
 
+#include "easel/drawing/GradientCommands.h"
 #include "easel/window/canvas/OpenCanvases.h"
 #include "easel/window/main/RecentFiles.h"
 #include "easel/window/main/ToolChoice.h"
 #include "easel/window/waiting/Interaction.h"
 
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -26,6 +29,8 @@ struct SharedParts {
     OpenCanvases canvases;
     RecentFiles recentFiles;
     ToolChoice tools{interaction};
+    std::optional<drawing::WholeGradient> copiedGradient;
+    std::filesystem::path templateFolder; // empty without a plug-in
 };
 
 } // namespace easel::window
