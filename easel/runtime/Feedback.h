@@ -8,7 +8,8 @@
 
 namespace easel::runtime {
 
-// Draws construction lines, black and one image pixel wide, on top of what the surface shows.
+// Draws construction lines on top of what the surface shows: black, one image pixel wide, between two light
+// edges as wide, so that they can be seen on any color.
 void drawFeedback(const std::vector<ConstructionLine>& lines, const drawing::Affine& toImage,
                   const paint::SurfaceView& surface);
 

@@ -82,6 +82,27 @@ picture after.png
     EXPECT_EQ(picture("after.png"), before);
 }
 
+TEST(WindowPicture, ShowsTheLineOfADragOnADarkGroundToo) {
+    const Player player;
+    player.playToEnd(R"(
+new 200 100
+start
+add rect r 0 0 200 100
+gradient r 1 0 0 0 1 1 0:0,0,0 1:0,0,0
+press 20 50.5
+move 120 50.5
+move 60 50.5
+picture dragged.png
+release
+)");
+    const Picture picture(player.folder() / "dragged.png");
+    EXPECT_EQ(picture.at(70, 50), kBlack);
+    for (const int beside : {49, 51})
+        EXPECT_GT(redOf(picture.at(70, beside)), 0x80) << "a light edge beside the black line";
+    for (const int beyond : {48, 52})
+        EXPECT_EQ(picture.at(70, beyond), kBlack);
+}
+
 TEST(WindowPicture, DoesNotRepaintWhatIsOnlyMarkedWhileTheButtonIsHeld) {
     const Player player;
     player.playToEnd(R"(
