@@ -65,6 +65,52 @@ TEST_F(GradientMenuTest, AGradientIsPastedOntoSeveralShapesAndOneUndoTakesItBack
     EXPECT_EQ(saved(), before);
 }
 
+TEST_F(GradientMenuTest, AGradientIsPickedUpByAClickThatChangesNothing) {
+    startWithDrawing();
+    screen().key("ctrl+shift+i");
+    screen().click(onScreen(kGradMiddle.x, kGradMiddle.y));
+    screen().key("v");
+    select({kPlainMiddle});
+    screen().key("ctrl+shift+v");
+    EXPECT_TRUE(colorVanishes(kPlain));
+    screen().key("g");
+    screen().keyDown("Alt_L");
+    screen().keyDown("Shift_L");
+    screen().click(onScreen(420, 290));
+    screen().keyUp("Shift_L");
+    screen().keyUp("Alt_L");
+    screen().key("v");
+    select({kMarkerMiddle});
+    screen().key("ctrl+shift+v");
+    EXPECT_TRUE(colorVanishes(kMarker));
+    const std::string after = saved();
+    EXPECT_THAT(gradientOf(after, "plain"), HasSubstr("#203080"));
+    EXPECT_THAT(gradientOf(after, "marker"), HasSubstr("#a02040"));
+    EXPECT_THAT(gradientOf(after, "grad"), HasSubstr("id=\"l\"")) << "still as the file had it";
+    EXPECT_FALSE(hasWindow("Gradient"));
+}
+
+TEST_F(GradientMenuTest, ATemplateIsAppliedAndRemovedLeavingItsFirstColor) {
+    const std::filesystem::path ramp = folder() / "ramp.css";
+    std::ofstream(ramp) << "linear-gradient(90deg, #0a64c8 0%, #f0f0f0 100%)";
+    Process import({EASEL_PROGRAM, "templates", "import", ramp.string(), "--name", "Sea"}, environment(),
+                   (folder() / "import.log").string());
+    ASSERT_EQ(import.wait(10s), 0);
+    startWithDrawing();
+    screen().key("v");
+    select({kPlainMiddle});
+    screen().moveTo(onScreen(300, 200));
+    screen().key("ctrl+shift+p");
+    ASSERT_TRUE(eventually([&] { return screen().popupAt(onScreen(310, 210)); }));
+    screen().key("Down");
+    screen().key("Return");
+    EXPECT_TRUE(colorVanishes(kPlain));
+    EXPECT_TRUE(eventually([&] { return difference(pixelAt(62, 110), 0x0a64c8) < 8; }));
+    screen().key("ctrl+shift+Delete");
+    EXPECT_TRUE(eventually([&] { return pixelAt(250, 110) == 0x0a64c8; }));
+    EXPECT_THAT(saved(), HasSubstr("fill=\"#0a64c8\""));
+}
+
 TEST_F(GradientMenuTest, TheCurrentGradientIsAppliedWithoutOpeningTheEditor) {
     startWithDrawing();
     screen().key("v");
