@@ -161,6 +161,25 @@ TEST_F(GradientMenuTest, ADragThatIsBrokenOffIsNoStepForUndoOrRedo) {
     EXPECT_EQ(quit(), 0) << "nothing to ask about";
 }
 
+// The notice takes room above the page, which moves down a little.
+TEST_F(GradientMenuTest, AChangeThatCostsSomethingIsToldAndNoOther) {
+    std::string svg = contents(drawing());
+    const std::string exact = "r=\"138.924440\"";
+    svg.replace(svg.find(exact), exact.size(), R"(r="50" fx="520" fr="20")");
+    std::ofstream(drawing()) << svg;
+    startWithDrawing();
+    const int top = waitForColor(kPlain).top;
+    screen().key("v");
+    select({kGradMiddle});
+    const std::uint32_t before = pixelAt(64, 300);
+    screen().key("ctrl+shift+r");
+    EXPECT_TRUE(eventually([&] { return pixelAt(64, 300) != before; }));
+    EXPECT_EQ(waitForColor(kPlain).top, top) << "a linear gradient costs nothing";
+    select({{420, 290}});
+    screen().key("ctrl+shift+r");
+    EXPECT_TRUE(eventually([&] { return waitForColor(kPlain).top > top + 5; })) << "the focus has moved";
+}
+
 TEST_F(GradientMenuTest, AGlowThatIsDraggedStaysAGlow) {
     std::ifstream sample(std::string(SOURCE_DIR) + "/samples/landscape.svg");
     std::string svg((std::istreambuf_iterator<char>(sample)), {});
