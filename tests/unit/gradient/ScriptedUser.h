@@ -22,7 +22,9 @@ class ScriptedUser : public IdleUser {
             steps_[next_++](dialog);
         return static_cast<std::int16_t>(dialog.takeHit().value_or(kOKItem));
     }
-    easel::runtime::Answer confirm(const easel::runtime::Alert&) override { return easel::runtime::Answer::yes; }
+    easel::runtime::Answer confirm(const easel::runtime::Alert&) override {
+        return easel::runtime::Answer::yes;
+    }
 
   private:
     std::vector<Step> steps_;
