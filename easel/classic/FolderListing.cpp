@@ -2,6 +2,7 @@
 #include "easel/classic/FolderListing.h"
 
 #include "easel/classic/HostNames.h"
+#include "easel/text/Ascii.h"
 
 #include <algorithm>
 #include <compare>
@@ -11,13 +12,6 @@
 namespace fs = std::filesystem;
 
 namespace easel::classic {
-namespace {
-
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-} // namespace
 
 FolderListing listFolder(const fs::path& folder) {
     FolderListing listing;
@@ -51,7 +45,8 @@ std::optional<ListedFile> listedFile(FilePair file) {
 bool isListedBefore(const ListedFile& a, const ListedFile& b) {
     const auto byLetter = std::lexicographical_compare_three_way(
         a.hostName.begin(), a.hostName.end(), b.hostName.begin(), b.hostName.end(), [](char x, char y) {
-            return static_cast<unsigned char>(lowered(x)) <=> static_cast<unsigned char>(lowered(y));
+            return static_cast<unsigned char>(text::lowerCase(x)) <=>
+                   static_cast<unsigned char>(text::lowerCase(y));
         });
     // Names that differ in case only have an order too, and so have two spellings of one name on disk.
     return std::is_neq(byLetter) ? std::is_lt(byLetter)

@@ -1,6 +1,8 @@
 // The standard Mac Roman table, with the canonical equivalents of its characters.
 #include "easel/classic/MacRoman.h"
 
+#include "easel/text/Utf8.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -97,48 +99,6 @@ char32_t canonical(char32_t character) {
     return character;
 }
 
-void appendUtf8(std::string& text, char32_t character) {
-    const auto put = [&](char32_t bits) {
-        text.push_back(static_cast<char>(static_cast<unsigned char>(bits)));
-    };
-    if (character < 0x80) {
-        put(character);
-    } else if (character < 0x800) {
-        put(0xC0 | (character >> 6));
-        put(0x80 | (character & 0x3F));
-    } else {
-        put(0xE0 | (character >> 12));
-        put(0x80 | ((character >> 6) & 0x3F));
-        put(0x80 | (character & 0x3F));
-    }
-}
-
-struct Decoded {
-    char32_t character;
-    std::size_t length;
-};
-
-// The first character of the text, or nothing where it is overlong, cut short, a surrogate or out of range.
-std::optional<Decoded> decodeFirst(std::string_view utf8) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
-    const unsigned char lead = byte(0);
-    if (lead < 0x80)
-        return Decoded{lead, 1};
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || utf8.size() < length)
-        return std::nullopt;
-    char32_t character = lead & (0xFFU >> (length + 1));
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0) != 0x80)
-            return std::nullopt;
-        character = (character << 6) | (byte(i) & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
-    if (character < smallest[length] || character > 0x10FFFF || (character >= 0xD800 && character < 0xE000))
-        return std::nullopt;
-    return Decoded{character, length};
-}
-
 } // namespace
 
 tl::expected<std::string, EncodingError> toMacRoman(std::string_view utf8) {
@@ -146,7 +106,7 @@ tl::expected<std::string, EncodingError> toMacRoman(std::string_view utf8) {
     std::string result;
     std::optional<char32_t> previous;
     for (std::size_t at = 0; at < utf8.size();) {
-        const auto decoded = decodeFirst(utf8.substr(at));
+        const auto decoded = text::firstCharacter(utf8.substr(at));
         if (!decoded)
             return tl::unexpected(EncodingError{Kind::NotUtf8, {}});
         const auto character = canonical(decoded->character);
@@ -169,7 +129,7 @@ std::string fromMacRoman(std::string_view macRoman) {
     utf8.reserve(macRoman.size());
     for (const char c : macRoman) {
         const auto byte = static_cast<unsigned char>(c);
-        appendUtf8(utf8, byte < 128 ? char32_t{byte} : kHighCharacters[byte - 128U]);
+        text::appendUtf8(utf8, byte < 128 ? char32_t{byte} : kHighCharacters[byte - 128U]);
     }
     return utf8;
 }

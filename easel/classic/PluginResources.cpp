@@ -3,6 +3,7 @@
 
 #include "easel/classic/MacRoman.h"
 #include "easel/files/WholeFile.h"
+#include "easel/text/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -13,6 +14,8 @@
 
 namespace easel::classic {
 namespace {
+
+using text::trimmed;
 
 constexpr std::uintmax_t kLargestFile = 16U << 20;
 constexpr std::size_t kMostItems = 1000;
@@ -32,14 +35,6 @@ std::string describe(const pugi::xml_node& node) {
 
 [[noreturn]] void fail(const pugi::xml_node& node, const std::string& reason) {
     throw Flaw{describe(node) + " " + reason};
-}
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    const auto first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 std::string hostText(const pugi::xml_node& node, std::string_view text) {

@@ -2,6 +2,7 @@
 #include "easel/exchange/CssGradient.h"
 #include "easel/exchange/CssStops.h"
 #include "easel/exchange/CssText.h"
+#include "easel/text/Ascii.h"
 
 #include <cmath>
 #include <numbers>
@@ -10,6 +11,7 @@
 namespace easel::exchange {
 namespace {
 
+using text::lowerCase;
 using Words = std::vector<std::string_view>;
 
 enum class Mixing { Untold, InSrgbAsTold };

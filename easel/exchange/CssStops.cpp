@@ -4,6 +4,7 @@
 #include "easel/exchange/CssText.h"
 #include "easel/exchange/RampApproximation.h"
 #include "easel/svg/style/Color.h"
+#include "easel/text/Ascii.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +13,8 @@
 
 namespace easel::exchange {
 namespace {
+
+using text::lowerCase;
 
 constexpr double kUnplaced = std::numeric_limits<double>::quiet_NaN();
 constexpr std::size_t kMostParts = 10'000;

@@ -1,16 +1,20 @@
 // Splits CSS text at blanks and commas outside brackets.
 #include "easel/exchange/CssText.h"
 
+#include "easel/text/Ascii.h"
+
 #include <charconv>
 #include <cmath>
 
 namespace easel::exchange {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n\f";
+using text::isSpace;
+using text::lowerCase;
+using text::trimmed;
 
 bool isNameCharacter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-';
+    return text::isLetter(c) || text::isDigit(c) || c == '-';
 }
 
 std::string withoutComments(std::string_view text) {
@@ -25,12 +29,6 @@ std::string withoutComments(std::string_view text) {
         text = end == std::string_view::npos ? std::string_view() : text.substr(end + 2);
     }
     return result;
-}
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(kBlanks);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 // Calls `found` for each character outside brackets.
@@ -99,7 +97,7 @@ std::vector<std::string_view> words(std::string_view text) {
             found.push_back(text.substr(begin, end - begin));
     };
     outsideBrackets(text, [&](std::size_t i) {
-        if (kBlanks.find(text[i]) != std::string_view::npos) {
+        if (isSpace(text[i])) {
             take(i);
             begin = i + 1;
         }
@@ -120,14 +118,6 @@ std::optional<CssNumber> numberIn(std::string_view word) {
         if (!(c >= 'a' && c <= 'z') && c != '%')
             return std::nullopt;
     return CssNumber{value, std::move(unit)};
-}
-
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    return lower;
 }
 
 std::string quoted(std::string_view text) {

@@ -29,7 +29,6 @@ struct CssNumber {
 /// The word as a finite number with its unit, if it is one.
 std::optional<CssNumber> numberIn(std::string_view word);
 
-std::string lowerCase(std::string_view text);
 /// In double quotes, for messages.
 std::string quoted(std::string_view text);
 

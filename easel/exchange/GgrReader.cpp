@@ -2,6 +2,7 @@
 #include "easel/exchange/Ggr.h"
 
 #include "easel/exchange/GgrSegment.h"
+#include "easel/text/Ascii.h"
 
 #include <array>
 #include <charconv>
@@ -10,6 +11,8 @@
 
 namespace easel::exchange {
 namespace {
+
+using text::trimmed;
 
 constexpr std::size_t kMostSegments = 10'000;
 constexpr std::size_t kMostStops = 1'000'000;
@@ -25,15 +28,9 @@ std::string_view takeLine(std::string_view& text) {
     return line;
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 // A finite number at the front of the line, which is then cut off.
 std::optional<double> takeNumber(std::string_view& line) {
-    line = withoutBlanks(line);
+    line = trimmed(line);
     double number = 0;
     const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
     if (error != std::errc() || !std::isfinite(number))
@@ -80,14 +77,14 @@ std::optional<GgrSegment> segmentFrom(std::string_view line) {
         return std::nullopt;
     segment.blending = static_cast<GgrBlending>(*blending);
     segment.coloring = static_cast<GgrColoring>(*coloring);
-    for (int end = 0; end < 2 && !withoutBlanks(line).empty(); ++end) {
+    for (int end = 0; end < 2 && !trimmed(line).empty(); ++end) {
         constexpr int kLastColorSource = 4;
         const auto source = takeCode(line, kLastColorSource);
         if (!source)
             return std::nullopt;
         segment.hasPaletteColors |= *source != 0;
     }
-    return withoutBlanks(line).empty() ? std::optional(segment) : std::nullopt;
+    return trimmed(line).empty() ? std::optional(segment) : std::nullopt;
 }
 
 // Half way between the colors at the middle. A segment whose middle lies on its left end starts half way, and
@@ -148,18 +145,18 @@ files::Result<ImportedGradient> readGgr(std::string_view text, const std::filesy
     };
     ImportedGradient result;
     std::size_t lineNumber = 1;
-    if (withoutBlanks(takeLine(text)) != "GIMP Gradient")
+    if (trimmed(takeLine(text)) != "GIMP Gradient")
         return flaw("it is no GIMP gradient");
     auto line = takeLine(text);
     ++lineNumber;
     constexpr std::string_view kName = "Name:";
     if (line.starts_with(kName)) {
-        result.name = withoutBlanks(line.substr(kName.size()));
+        result.name = trimmed(line.substr(kName.size()));
         line = takeLine(text);
         ++lineNumber;
     }
     const auto count = takeCode(line, static_cast<int>(kMostSegments));
-    if (!count || *count == 0 || !withoutBlanks(line).empty())
+    if (!count || *count == 0 || !trimmed(line).empty())
         return flaw(inLine(lineNumber, "is no number of segments from 1 to 10000"));
     std::vector<GgrSegment> segments;
     auto& stops = result.gradient.ColorList();

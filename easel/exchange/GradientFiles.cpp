@@ -11,6 +11,7 @@
 #include "easel/exchange/TemplateFile.h"
 #include "easel/files/AtomicFile.h"
 #include "easel/files/WholeFile.h"
+#include "easel/text/Ascii.h"
 
 namespace fs = std::filesystem;
 
@@ -25,10 +26,7 @@ constexpr std::uintmax_t kLargestFile = 64U << 20;
 enum class Format { Template, MacBinary, Ggr, Svg, Css, Unknown };
 
 Format formatOf(const fs::path& file) {
-    auto ending = file.extension().string();
-    for (char& c : ending)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
+    const std::string ending = text::lowerCase(file.extension().string());
     if (ending == ".grd")
         return Format::Template;
     if (ending == ".bin")

@@ -6,6 +6,7 @@
 #include "easel/export/SvgText.h"
 #include "easel/files/AtomicFile.h"
 #include "easel/paint/RenderDrawing.h"
+#include "easel/text/Ascii.h"
 
 #include <algorithm>
 #include <new>
@@ -24,12 +25,6 @@ constexpr double kPaintingShare = 0.6;
 using files::Error;
 using files::Result;
 using std::filesystem::path;
-
-std::string lowerCased(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return text;
-}
 
 void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, double scale,
                   const Progress& progress) {
@@ -67,7 +62,7 @@ Result<> exportOutlines(const drawing::Drawing& drawing, const path& file, const
 
 Result<> exportDrawing(const drawing::Drawing& drawing, const path& file, const SizeRequest& size,
                        const Progress& progress) {
-    const std::string ending = lowerCased(file.extension().string());
+    const std::string ending = text::lowerCase(file.extension().string());
     try {
         if (ending == ".png")
             return exportPng(drawing, file, size, progress);

@@ -2,10 +2,10 @@
 #include "easel/play/DialogHands.h"
 
 #include "easel/classic/MacRoman.h"
-#include "easel/files/Utf8.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/ScriptedUser.h"
 #include "easel/runtime/Dialog.h"
+#include "easel/text/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
@@ -139,7 +139,7 @@ void DialogHands::type(runtime::Dialog& dialog, Arguments& arguments) {
     const std::string text = arguments.text("the text");
     arguments.done();
     checkFocus(dialog);
-    for (const char32_t key : files::codePointsOf(composed(text)))
+    for (const char32_t key : text::codePointsOf(composed(text)))
         keys_.push_back(key);
 }
 

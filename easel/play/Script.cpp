@@ -1,8 +1,8 @@
 // Cuts a scenario into lines and words.
 #include "easel/play/Script.h"
 
-#include "easel/files/Utf8.h"
 #include "easel/play/PlayError.h"
+#include "easel/text/Utf8.h"
 
 #include <algorithm>
 
@@ -12,14 +12,6 @@ namespace {
 
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\v' || c == '\f';
-}
-
-// Decoding replaces what is malformed, so that only well-formed text comes back as it was.
-bool isUtf8(std::string_view text) {
-    std::string again;
-    for (const char32_t character : files::codePointsOf(text))
-        again += files::utf8Of(character);
-    return again == text;
 }
 
 // Reads a quoted word whose opening quote is at `at`; leaves `at` behind the closing one.
@@ -50,7 +42,7 @@ std::string plainWord(std::string_view line, std::size_t& at) {
 } // namespace
 
 std::vector<std::string> splitWords(std::string_view line) {
-    if (!isUtf8(line))
+    if (!text::isUtf8(line))
         throw PlayError("the line is not UTF-8 text");
     std::vector<std::string> words;
     std::size_t at = 0;

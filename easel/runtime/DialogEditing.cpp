@@ -2,7 +2,7 @@
 #include "easel/runtime/Dialog.h"
 
 #include "easel/classic/MacRoman.h"
-#include "easel/files/Utf8.h"
+#include "easel/text/Utf8.h"
 
 #include <algorithm>
 
@@ -38,7 +38,7 @@ void Dialog::replaceSelection(DialogItem& field, const std::string& replacement)
 
 EditOutcome Dialog::typeCharacter(char32_t character) {
     DialogItem* field = focusedField();
-    const auto encoded = classic::toMacRoman(files::utf8Of(character));
+    const auto encoded = classic::toMacRoman(text::utf8Of(character));
     if (field == nullptr || !encoded || !fits(*encoded))
         return EditOutcome::Refused;
     const auto selected = static_cast<std::size_t>(field->selection.to - field->selection.from);

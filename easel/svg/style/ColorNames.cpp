@@ -1,5 +1,7 @@
 #include "easel/svg/style/ColorNames.h"
 
+#include "easel/text/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -170,10 +172,7 @@ constexpr std::size_t kLongestName = 20;
 std::optional<std::uint32_t> namedColor(std::string_view name) {
     if (name.size() > kLongestName)
         return std::nullopt;
-    std::string lower(name);
-    for (char& c : lower)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
+    const std::string lower = text::lowerCase(name);
     const auto* const found =
         std::lower_bound(kColors.begin(), kColors.end(), lower,
                          [](const NamedColor& color, const std::string& key) { return color.name < key; });

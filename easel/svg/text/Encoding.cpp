@@ -1,45 +1,18 @@
 #include "easel/svg/text/Encoding.h"
 
 #include "easel/svg/text/Scanner.h"
+#include "easel/text/Utf8.h"
 
 namespace easel::svg {
 
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-
-void appendUtf8(std::string& text, char32_t c) {
-    const auto add = [&text](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
-    if (c < 0x80) {
-        add(c);
-    } else if (c < 0x800) {
-        add(0xC0 | c >> 6);
-        add(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        add(0xE0 | c >> 12);
-        add(0x80 | (c >> 6 & 0x3F));
-        add(0x80 | (c & 0x3F));
-    } else {
-        add(0xF0 | c >> 18);
-        add(0x80 | (c >> 12 & 0x3F));
-        add(0x80 | (c >> 6 & 0x3F));
-        add(0x80 | (c & 0x3F));
-    }
-}
-
-// The character at `at`, which is moved past it. The text is well formed: `decode` made it, or we wrote it.
-char32_t takeUtf8(std::string_view text, std::size_t& at) {
-    const auto byte = [&text](std::size_t i) {
-        return i < text.size() ? static_cast<char32_t>(static_cast<unsigned char>(text[i])) : char32_t{0x80};
-    };
-    const char32_t first = byte(at++);
-    if (first < 0xC0)
-        return first;
-    const int more = first < 0xE0 ? 1 : first < 0xF0 ? 2 : 3;
-    char32_t c = first & (0x3Fu >> more);
-    for (int i = 0; i < more; ++i)
-        c = c << 6 | (byte(at++) & 0x3F);
-    return c;
+// The character at `at`, which is moved past it.
+char32_t takeCharacter(std::string_view text, std::size_t& at) {
+    const auto first =
+        text::firstCharacter(text.substr(at)).value_or(text::DecodedCharacter{text::kReplacement, 1});
+    at += first.length;
+    return first.character;
 }
 
 char32_t unitAt(std::string_view bytes, std::size_t at, Encoding encoding) {
@@ -63,10 +36,10 @@ std::string decodeUtf16(std::string_view bytes, Encoding encoding) {
         const char32_t unit = unitAt(bytes, at, encoding);
         const char32_t next = at + 3 < bytes.size() ? unitAt(bytes, at + 2, encoding) : 0;
         if (isHighSurrogate(unit) && isLowSurrogate(next)) {
-            appendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
+            text::appendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
             at += 2;
         } else {
-            appendUtf8(text, isHighSurrogate(unit) || isLowSurrogate(unit) ? kReplacement : unit);
+            text::appendUtf8(text, isHighSurrogate(unit) || isLowSurrogate(unit) ? text::kReplacement : unit);
         }
     }
     return text;
@@ -82,7 +55,7 @@ void appendUnit(std::string& bytes, char32_t unit, Encoding encoding) {
 std::string encodeUtf16(std::string_view text, Encoding encoding) {
     std::string bytes;
     for (std::size_t at = 0; at < text.size();) {
-        const char32_t c = takeUtf8(text, at);
+        const char32_t c = takeCharacter(text, at);
         if (c < 0x10000) {
             appendUnit(bytes, c, encoding);
         } else {
@@ -140,7 +113,7 @@ std::string decode(std::string_view bytes, Encoding encoding) {
     std::string text;
     text.reserve(bytes.size());
     for (const char c : bytes)
-        appendUtf8(text, static_cast<unsigned char>(c));
+        text::appendUtf8(text, static_cast<unsigned char>(c));
     return text;
 }
 
@@ -151,7 +124,7 @@ std::string encode(std::string_view text, Encoding encoding) {
         return encodeUtf16(text, encoding);
     std::string bytes;
     for (std::size_t at = 0; at < text.size();) {
-        const char32_t c = takeUtf8(text, at);
+        const char32_t c = takeCharacter(text, at);
         if (c < 0x100)
             bytes += static_cast<char>(static_cast<unsigned char>(c));
         else
@@ -170,7 +143,7 @@ std::vector<std::size_t> byteOffsets(std::string_view text, Encoding encoding,
     std::size_t byte = 0;
     for (const std::size_t wanted : textOffsets) {
         while (at < wanted)
-            byte += sizeIn(encoding, takeUtf8(text, at));
+            byte += sizeIn(encoding, takeCharacter(text, at));
         result.push_back(byte);
     }
     return result;

@@ -56,7 +56,7 @@ class PathParser {
 
     bool atNumber() const {
         const char c = scanner_.peek();
-        return (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
+        return text::isDigit(c) || c == '+' || c == '-' || c == '.';
     }
 
     bool one(char segment) {

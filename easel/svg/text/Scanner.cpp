@@ -8,36 +8,12 @@ namespace easel::svg {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool isWordByte(char c) {
-    return (lower(c) >= 'a' && lower(c) <= 'z') || isDigit(c) || c == '-' || c == '_' ||
+    return text::isLetter(c) || text::isDigit(c) || c == '-' || c == '_' ||
            static_cast<unsigned char>(c) >= 0x80;
 }
 
 } // namespace
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size())
-        return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
-        if (lower(a[i]) != lower(b[i]))
-            return false;
-    return true;
-}
 
 void Scanner::skipSpaces() {
     while (!rest_.empty() && isSpace(rest_.front()))
@@ -81,7 +57,7 @@ std::optional<double> Scanner::number() {
     if (digits != end && *digits == '.')
         ++digits;
     // The library also reads "inf" and "nan", which are no numbers here.
-    if (digits == end || !isDigit(*digits))
+    if (digits == end || !text::isDigit(*digits))
         return std::nullopt;
     double value = 0;
     const auto [after, error] = std::from_chars(begin, end, value);

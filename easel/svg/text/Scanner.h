@@ -1,17 +1,16 @@
 // Reads numbers, words and separators from the text of an attribute.
 #pragma once
 
+#include "easel/text/Ascii.h"
+
 #include <optional>
 #include <string_view>
 
 namespace easel::svg {
 
-inline bool isSpace(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
-}
-std::string_view trimmed(std::string_view text);
-// Letters A to Z only; the keywords of SVG and CSS have no others.
-bool equalIgnoringCase(std::string_view a, std::string_view b);
+using text::equalIgnoringCase;
+using text::isSpace;
+using text::trimmed;
 
 class Scanner {
   public:

@@ -1,9 +1,9 @@
 // Single characters of UTF-8 text.
-#include "easel/files/Utf8.h"
+#include "easel/text/Utf8.h"
 
 #include <gtest/gtest.h>
 
-namespace easel::files {
+namespace easel::text {
 namespace {
 
 TEST(Utf8, WritesCharactersOfEveryLength) {
@@ -36,5 +36,14 @@ TEST(Utf8, ReplacesWhatIsNoCharacter) {
     EXPECT_EQ(codePointsOf("\xe2\x82"), (std::vector<char32_t>{0xfffd, 0xfffd})) << "cut off";
 }
 
+TEST(Utf8, TellsWhatIsWellFormed) {
+    EXPECT_TRUE(isUtf8(""));
+    EXPECT_TRUE(isUtf8("a\u00e9\u20ac\U0001f600\ufffd"));
+    for (const char* bytes : {"\xFF", "\xC0\x80", "\xC3", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80",
+                              "a\x80", "\xC1\xBF", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xF5\x80\x80\x80"})
+        EXPECT_FALSE(isUtf8(bytes)) << bytes;
+    EXPECT_FALSE(isUtf8(std::string_view("\u20ac").substr(0, 2))) << "cut off";
+}
+
 } // namespace
-} // namespace easel::files
+} // namespace easel::text
