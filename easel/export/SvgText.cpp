@@ -5,12 +5,11 @@
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectInk.h"
 #include "easel/svg/style/Color.h"
-#include "easel/svg/text/Number.h"
-#include "easel/svg/text/Transform.h"
 #include "easel/svg/write/ElementText.h"
-#include "easel/svg/write/GradientText.h"
+#include "easel/svg/write/GradientElement.h"
+#include "easel/svg/write/StyleText.h"
 
-#include <cmath>
+#include <algorithm>
 #include <map>
 
 namespace easel::exports {
@@ -19,28 +18,14 @@ using drawing::Affine;
 using drawing::Object;
 using svg::attribute;
 using svg::attributeUnless;
-using svg::numberText;
 using svg::pathText;
+using svg::referenceTo;
+using svg::transformAttribute;
 
 namespace {
 
 double opacityOf(double value) {
     return value > 0 ? std::min(value, 1.0) : 0;
-}
-
-std::string_view joinText(drawing::LineJoin join) {
-    return join == drawing::LineJoin::Round ? "round" : join == drawing::LineJoin::Bevel ? "bevel" : "";
-}
-
-std::string_view capText(drawing::LineCap cap) {
-    return cap == drawing::LineCap::Round ? "round" : cap == drawing::LineCap::Square ? "square" : "";
-}
-
-std::string dashText(const std::vector<double>& dashes) {
-    std::string text;
-    for (const double dash : dashes)
-        text.append(text.empty() ? "" : " ").append(numberText(dash));
-    return text;
 }
 
 class SvgWriter {
@@ -55,9 +40,7 @@ class SvgWriter {
     }
 
     std::string document(double width, double height, double scale) const {
-        return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + attribute("width", width * scale) +
-               attribute("height", height * scale) +
-               attribute("viewBox", "0 0 " + numberText(width) + " " + numberText(height)) + ">\n" +
+        return svg::documentTag(width, height, scale) + "\n" +
                (definitions_.empty() ? "" : "<defs>\n" + definitions_ + "</defs>\n") + body_ + "</svg>\n";
     }
 
@@ -95,18 +78,13 @@ class SvgWriter {
         const Affine toOwn = own.inverse();
         if (object.markers)
             body_ += "<g" + attributeUnless(1, "opacity", opacityOf(style.opacity)) + ">\n";
-        body_ += "<path" + attribute("id", object.id.text());
-        if (own != Affine{})
-            body_ += attribute("transform", svg::transformText(own));
+        body_ += "<path" + attribute("id", object.id.text()) + transformAttribute("transform", own);
         body_ +=
             attribute("d", pathText(own == Affine{} ? object.outline : object.outline.transformed(toOwn)));
-        body_ += fillText(object, toOwn);
-        if (object.fillRule == drawing::FillRule::EvenOdd)
-            body_ += attribute("fill-rule", "evenodd");
+        body_ += fillText(object, toOwn) + svg::ruleText("fill-rule", object.fillRule);
         if (stroked)
             body_ += strokeText(object, toOwn);
-        if (style.first == drawing::PaintStep::Stroke)
-            body_ += attribute("paint-order", "stroke");
+        body_ += svg::paintOrderText(style.first);
         if (!object.markers)
             body_ += attributeUnless(1, "opacity", opacityOf(style.opacity));
         body_ += "/>\n";
@@ -128,11 +106,7 @@ class SvgWriter {
         const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
         return inkText("stroke", ink.ink(), stroke.opacity, toOwn) +
                attributeUnless(1, "stroke-width", stroke.width) +
-               attribute("stroke-linejoin", joinText(stroke.join)) +
-               attribute("stroke-linecap", capText(stroke.cap)) +
-               attributeUnless(4, "stroke-miterlimit", stroke.miterLimit) +
-               attribute("stroke-dasharray", dashText(stroke.dashes)) +
-               attributeUnless(0, "stroke-dashoffset", stroke.dashOffset);
+               svg::penText(stroke, svg::Defaults::LeftOut);
     }
 
     std::string inkText(const std::string& property, const paint::Ink& ink, double opacity,
@@ -141,7 +115,7 @@ class SvgWriter {
             const std::optional<drawing::RampStop> only = onlyColor(**gradient);
             if (only)
                 return inkText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
-            return attribute(property, "url(#" + gradientName(withinUnitRange(**gradient), toOwn) + ")") +
+            return attribute(property, referenceTo(gradientName(withinUnitRange(**gradient), toOwn))) +
                    attributeUnless(1, property + "-opacity", opacityOf(opacity));
         }
         const auto& paint = std::get<drawing::ColorPaint>(ink);
@@ -150,19 +124,12 @@ class SvgWriter {
     }
     // Gradients that come out alike are written once.
     std::string gradientName(const drawing::Gradient& gradient, const Affine& toOwn) {
-        const std::string element = std::holds_alternative<drawing::LinearGeometry>(gradient.geometry)
-                                        ? "linearGradient"
-                                        : "radialGradient";
-        const Affine map = toOwn * gradient.toDrawing;
+        const std::string element(svg::gradientElementName(gradient.geometry));
         std::string text = attribute("gradientUnits", "userSpaceOnUse") +
-                           svg::geometryText(gradient.geometry) + svg::spreadText(gradient.spread);
-        if (map != Affine{})
-            text += attribute("gradientTransform", svg::transformText(map));
-        text += ">";
+                           svg::geometryText(gradient.geometry) + svg::spreadText(gradient.spread) +
+                           transformAttribute("gradientTransform", toOwn * gradient.toDrawing) + ">";
         for (const drawing::RampStop& stop : gradient.ramp.stops())
-            text += "<stop" + attribute("offset", stop.position) +
-                    attribute("stop-color", svg::colorText(stop.color)) +
-                    attributeUnless(1, "stop-opacity", opacityOf(stop.opacity)) + "/>";
+            text += svg::stopText(stop);
         text += "</" + element + ">\n";
         std::string& name = gradientNames_[text];
         if (name.empty()) {
@@ -173,7 +140,7 @@ class SvgWriter {
     }
 
     std::string clipAttribute(const drawing::ClipPath* clip) {
-        return clip ? attribute("clip-path", "url(#" + clipName(*clip) + ")") : std::string();
+        return clip ? attribute("clip-path", referenceTo(clipName(*clip))) : std::string();
     }
     std::string clipName(const drawing::ClipPath& clip) {
         if (const auto known = clipNames_.find(&clip); known != clipNames_.end())
@@ -181,10 +148,8 @@ class SvgWriter {
         // Inner ones first: while their text is being made, ours must not be begun.
         std::string text = clipAttribute(clip.clip.get()) + ">\n";
         for (const drawing::ClipShape& shape : clip.shapes) {
-            text += "<path" + attribute("d", pathText(shape.outline)) + clipAttribute(shape.clip.get());
-            if (shape.rule == drawing::FillRule::EvenOdd)
-                text += attribute("clip-rule", "evenodd");
-            text += "/>\n";
+            text += "<path" + attribute("d", pathText(shape.outline)) + clipAttribute(shape.clip.get()) +
+                    svg::ruleText("clip-rule", shape.rule) + "/>\n";
         }
         const std::string name = newName("clip");
         definitions_ += "<clipPath" + attribute("id", name) + text + "</clipPath>\n";

@@ -1,7 +1,8 @@
-// Writes attributes and path data.
+// Writes attributes, path data and the start tag of a document.
 #include "easel/svg/write/ElementText.h"
 
 #include "easel/svg/text/Number.h"
+#include "easel/svg/text/Transform.h"
 
 #include <cmath>
 #include <initializer_list>
@@ -51,6 +52,19 @@ std::string attributeUnless(double assumed, std::string_view name, double value)
     return value == assumed ? std::string() : attribute(name, value);
 }
 
+std::string attributeUnless(std::string_view assumed, std::string_view name, std::string_view value) {
+    return value == assumed ? std::string() : attribute(name, value);
+}
+
+std::string transformAttribute(std::string_view name, const drawing::Affine& map) {
+    return map == drawing::Affine() ? std::string() : attribute(name, transformText(map));
+}
+
+std::string referenceTo(std::string_view id) {
+    std::string text = "url(#";
+    return text.append(id).append(")");
+}
+
 std::string pathText(const drawing::Path& path) {
     std::string text;
     const drawing::Point* next = path.points().data();
@@ -76,6 +90,12 @@ std::string pathText(const drawing::Path& path) {
         }
     }
     return text;
+}
+
+std::string documentTag(double width, double height, double scale) {
+    return "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") + attribute("width", width * scale) +
+           attribute("height", height * scale) +
+           attribute("viewBox", "0 0 " + numberText(width) + ' ' + numberText(height)) + '>';
 }
 
 } // namespace easel::svg

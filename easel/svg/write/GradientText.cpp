@@ -3,10 +3,9 @@
 #include "easel/drawing/ShapeGradient.h"
 #include "easel/drawing/StandardGradient.h"
 #include "easel/svg/style/Color.h"
-#include "easel/svg/text/Number.h"
 #include "easel/svg/text/RecordText.h"
-#include "easel/svg/text/Transform.h"
 #include "easel/svg/write/ElementText.h"
+#include "easel/svg/write/GradientElement.h"
 
 #include <algorithm>
 #include <charconv>
@@ -18,7 +17,6 @@ using drawing::ColorPaint;
 using drawing::Gradient;
 using drawing::LinearGeometry;
 using drawing::Object;
-using drawing::RadialGeometry;
 using drawing::Ramp;
 using drawing::RampStop;
 using drawing::Spread;
@@ -26,12 +24,6 @@ using drawing::Spread;
 namespace {
 
 constexpr std::string_view kNameBegin = "easel-gradient-";
-
-std::string stopText(const RampStop& stop, const std::string& prefix) {
-    std::string text = '<' + prefix + "stop" + attribute("offset", stop.position) +
-                       attribute("stop-color", colorText(stop.color));
-    return text + attributeUnless(1, "stop-opacity", stop.opacity) + "/>";
-}
 
 // The colors alone, for a record whose geometry on its object is not finite.
 Gradient colorsOf(const CGradientData& record) {
@@ -55,24 +47,6 @@ std::string ownAttributes(const CGradientData& record, const drawing::Remainder*
 }
 
 } // namespace
-
-std::string geometryText(const std::variant<LinearGeometry, RadialGeometry>& geometry) {
-    if (const auto* const line = std::get_if<LinearGeometry>(&geometry))
-        return attribute("x1", line->start.x) + attribute("y1", line->start.y) +
-               attribute("x2", line->end.x) + attribute("y2", line->end.y);
-    const auto& circles = std::get<RadialGeometry>(geometry);
-    std::string text = attribute("cx", circles.centre.x) + attribute("cy", circles.centre.y) +
-                       attribute("r", circles.radius);
-    if (circles.focus != circles.centre)
-        text += attribute("fx", circles.focus.x) + attribute("fy", circles.focus.y);
-    return text + attributeUnless(0, "fr", circles.focusRadius);
-}
-
-std::string spreadText(Spread spread) {
-    if (spread == Spread::Pad)
-        return {};
-    return attribute("spreadMethod", spread == Spread::Reflect ? "reflect" : "repeat");
-}
 
 GradientBlock::GradientBlock(std::string_view text, std::string prefix) : prefix_(std::move(prefix)) {
     for (std::size_t at = text.find(kNameBegin); at != std::string_view::npos;
@@ -99,19 +73,16 @@ std::string GradientBlock::addForeign(const Gradient& gradient, const Object& ob
 
 std::string GradientBlock::addElement(const Gradient& gradient, const Affine& toUnits,
                                       const std::string& ownAttributes) {
-    const bool isLinear = std::holds_alternative<LinearGeometry>(gradient.geometry);
-    const std::string name = prefix_ + (isLinear ? "linearGradient" : "radialGradient");
+    const std::string name = prefix_ + std::string(gradientElementName(gradient.geometry));
     const std::string id = std::string(kNameBegin) + std::to_string(++lastNumber_);
-    std::string text =
-        '<' + name + " id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\"" + geometryText(gradient.geometry);
-    const Affine transform = toUnits * gradient.toDrawing;
-    if (transform != Affine())
-        text += " gradientTransform=\"" + transformText(transform) + '"';
-    text += spreadText(gradient.spread) + ownAttributes + '>';
+    std::string text = '<' + name + " id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\"" +
+                       geometryText(gradient.geometry) +
+                       transformAttribute("gradientTransform", toUnits * gradient.toDrawing) +
+                       spreadText(gradient.spread) + ownAttributes + '>';
     for (const RampStop& stop : gradient.ramp.stops())
         text += stopText(stop, prefix_);
     elements_.push_back(text + "</" + name + '>');
-    return "url(#" + id + ')';
+    return referenceTo(id);
 }
 
 std::string GradientBlock::text(std::string_view lineBreak) const {

@@ -1,4 +1,4 @@
-// Gradient elements as text.
+// The gradients of a file that is being written, and the fills that refer to them.
 #pragma once
 
 #include "easel/drawing/Object.h"
@@ -6,14 +6,9 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace easel::svg {
-
-// Attributes of a gradient element, each with a leading blank; none for what is assumed anyway.
-std::string geometryText(const std::variant<drawing::LinearGeometry, drawing::RadialGeometry>& geometry);
-std::string spreadText(drawing::Spread spread);
 
 // Gathers the gradients that objects refer to, each under a name of its own.
 class GradientBlock {

@@ -2,10 +2,8 @@
 
 #include "easel/svg/style/Color.h"
 #include "easel/svg/text/Number.h"
-#include "easel/svg/text/Transform.h"
 #include "easel/svg/write/ElementText.h"
-
-#include <array>
+#include "easel/svg/write/StyleText.h"
 
 namespace easel::svg {
 
@@ -101,8 +99,6 @@ Element elementFor(Kind kind, const Path& path) {
 }
 
 std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock& gradients) {
-    static constexpr std::array<const char*, 3> kJoins = {"miter", "round", "bevel"};
-    static constexpr std::array<const char*, 3> kCaps = {"butt", "round", "square"};
     std::string text;
     double opacity = stroke.opacity;
     if (const auto* const color = std::get_if<ColorPaint>(&stroke.paint)) {
@@ -115,18 +111,7 @@ std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock
     }
     text += attribute("stroke-width", stroke.width);
     text += attributeUnless(1, "stroke-opacity", opacity);
-    text += attribute("stroke-linejoin", kJoins[static_cast<std::size_t>(stroke.join)]);
-    text += attribute("stroke-linecap", kCaps[static_cast<std::size_t>(stroke.cap)]);
-    text += attribute("stroke-miterlimit", stroke.miterLimit);
-    if (!stroke.dashes.empty()) {
-        std::string dashes;
-        for (const double dash : stroke.dashes) {
-            dashes += dashes.empty() ? "" : " ";
-            dashes += numberText(dash);
-        }
-        text += attribute("stroke-dasharray", dashes) + attribute("stroke-dashoffset", stroke.dashOffset);
-    }
-    return text;
+    return text + penText(stroke, Defaults::Stated);
 }
 
 std::string fillAttributes(const Object& object, GradientBlock& gradients) {
@@ -136,11 +121,8 @@ std::string fillAttributes(const Object& object, GradientBlock& gradients) {
         fill = gradients.addForeign(**foreign, object);
     if (const auto* const color = std::get_if<ColorPaint>(&object.fill); color && !object.showsGradient())
         opacity *= color->opacity;
-    std::string text = attribute("fill", fill.empty() ? "none" : fill);
-    text += attributeUnless(1, "fill-opacity", opacity);
-    if (object.fillRule == drawing::FillRule::EvenOdd)
-        text += attribute("fill-rule", "evenodd");
-    return text;
+    return attribute("fill", fill.empty() ? "none" : fill) + attributeUnless(1, "fill-opacity", opacity) +
+           ruleText("fill-rule", object.fillRule);
 }
 
 } // namespace
@@ -155,13 +137,9 @@ std::string objectText(const Object& object, const Affine& placeToDrawing, const
     const Style& style = styleOf(object);
     std::string text = '<' + prefix + element.name;
     text += attribute("id", object.id.text()) + element.geometry;
-    if (const Affine transform = placeToDrawing.inverse() * units; transform != Affine())
-        text += attribute("transform", transformText(transform));
+    text += transformAttribute("transform", placeToDrawing.inverse() * units);
     text += fillAttributes(object, gradients) + strokeText(object, style.stroke, gradients);
-    text += attributeUnless(1, "opacity", style.opacity);
-    if (style.first == drawing::PaintStep::Stroke)
-        text += attribute("paint-order", "stroke");
-    return text + "/>";
+    return text + attributeUnless(1, "opacity", style.opacity) + paintOrderText(style.first) + "/>";
 }
 
 } // namespace easel::svg

@@ -2,9 +2,9 @@
 #include "easel/files/AtomicFile.h"
 #include "easel/files/Gzip.h"
 #include "easel/svg/Document.h"
-#include "easel/svg/text/Number.h"
 #include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Source.h"
+#include "easel/svg/write/ElementText.h"
 #include "easel/svg/write/GradientText.h"
 #include "easel/svg/write/ObjectText.h"
 #include "easel/svg/write/ReadBack.h"
@@ -22,11 +22,8 @@ std::string newFile(const Drawing& drawing) {
     drawing.forEach([&](const drawing::ObjectPtr& object) {
         objects += "  " + objectText(*object, drawing::Affine(), {}, gradients) + '\n';
     });
-    const std::string width = numberText(drawing.width());
-    const std::string height = numberText(drawing.height());
-    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
-                       width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + ' ' + height + "\">\n";
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" +
+                       documentTag(drawing.width(), drawing.height()) + '\n';
     if (!gradients.empty())
         text += std::string("  <defs ") + kOwnBlockAttribute + "=\"" + kOwnBlockValue + "\">" +
                 gradients.text("\n    ") + "\n  </defs>\n";

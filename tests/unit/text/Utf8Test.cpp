@@ -42,7 +42,7 @@ TEST(Utf8, TellsWhatIsWellFormed) {
     for (const char* bytes : {"\xFF", "\xC0\x80", "\xC3", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80",
                               "a\x80", "\xC1\xBF", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xF5\x80\x80\x80"})
         EXPECT_FALSE(isUtf8(bytes)) << bytes;
-    EXPECT_FALSE(isUtf8(std::string_view("\u20ac").substr(0, 2))) << "cut off";
+    EXPECT_FALSE(firstCharacter(std::string_view("\u20ac").substr(0, 2))) << "the rest is beyond its end";
 }
 
 } // namespace
