@@ -46,8 +46,10 @@ void ChangeTimes::recolorObject(std::size_t index) {
 void ChangeTimes::repaint() {
     const drawing::Point corner = toSurface_({dirty_.left, dirty_.top});
     const drawing::Point end = toSurface_({dirty_.right, dirty_.bottom});
-    const paint::PixelBox box{static_cast<int>(corner.x) - 1, static_cast<int>(corner.y) - 1,
-                              static_cast<int>(end.x) + 2, static_cast<int>(end.y) + 2};
+    const paint::PixelRect box{.left = static_cast<int>(corner.x) - 1,
+                               .top = static_cast<int>(corner.y) - 1,
+                               .right = static_cast<int>(end.x) + 2,
+                               .bottom = static_cast<int>(end.y) + 2};
     paint::renderDrawing(drawing_, surface_.view().clippedTo(box), toSurface_, 1);
     dirty_ = {};
 }

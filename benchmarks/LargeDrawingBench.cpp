@@ -82,7 +82,8 @@ class Fitted {
     double repaintTime(int side) {
         const int x = surface_.width() / 2;
         const int y = surface_.height() / 2;
-        const paint::SurfaceView area = surface_.view().clippedTo({x, y, x + side, y + side});
+        const paint::SurfaceView area =
+            surface_.view().clippedTo({.left = x, .top = y, .right = x + side, .bottom = y + side});
         std::vector<double> times;
         times.reserve(kRuns);
         for (int i = 0; i < kRuns; ++i)

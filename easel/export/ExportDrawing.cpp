@@ -31,8 +31,9 @@ void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, doub
     const int rows = kBandRows * kBandsAThread * static_cast<int>(paint::usefulThreads());
     for (int top = 0; top < surface.height(); top += rows) {
         progress.tell(static_cast<double>(top) / surface.height());
-        paint::renderDrawing(drawing, surface.view().clippedTo({0, top, surface.width(), top + rows}),
-                             drawing::Affine::scaling(scale, scale));
+        paint::renderDrawing(
+            drawing, surface.view().clippedTo({.top = top, .right = surface.width(), .bottom = top + rows}),
+            drawing::Affine::scaling(scale, scale));
     }
 }
 

@@ -16,7 +16,7 @@ void paintShape(const SurfaceView& view, const drawing::ClipShape& shape, const 
                 Painter& painter, int depth) {
     if (!shape.clip || depth == kDeepest)
         return painter.fill(view, shape.outline, shape.rule, toLayer, drawing::ColorPaint{});
-    const PixelBox place = pixelsUnder(shape.outline.bounds(), toLayer, view.clip());
+    const PixelRect place = pixelsUnder(shape.outline.bounds(), toLayer, view.clip());
     if (place.empty())
         return;
     Layer narrowed(place);
@@ -38,8 +38,8 @@ void applyClip(Layer& layer, const drawing::ClipPath& clip, const drawing::Affin
 
 } // namespace
 
-PixelBox pixelsInside(const drawing::ClipPath& clip, const drawing::Affine& toSurface,
-                      const PixelBox& limit) {
+PixelRect pixelsInside(const drawing::ClipPath& clip, const drawing::Affine& toSurface,
+                       const PixelRect& limit) {
     drawing::Box box;
     for (const drawing::ClipShape& shape : clip.shapes)
         box.add(shape.outline.bounds());

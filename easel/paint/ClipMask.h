@@ -8,7 +8,8 @@
 namespace easel::paint {
 
 // The pixels that the clip path may leave visible, within `limit`.
-PixelBox pixelsInside(const drawing::ClipPath& clip, const drawing::Affine& toSurface, const PixelBox& limit);
+PixelRect pixelsInside(const drawing::ClipPath& clip, const drawing::Affine& toSurface,
+                       const PixelRect& limit);
 
 // Leaves of the layer what lies inside the clip path and the clip paths that narrow it in turn. `toLayer`
 // maps to the layer's own pixels.

@@ -58,7 +58,7 @@ int clampedToInt(double value, int low, int high) {
 
 } // namespace
 
-PixelBox pixelsUnder(const drawing::Box& box, const drawing::Affine& toSurface, const PixelBox& limit) {
+PixelRect pixelsUnder(const drawing::Box& box, const drawing::Affine& toSurface, const PixelRect& limit) {
     if (box.empty())
         return {};
     drawing::Box mapped;
@@ -70,13 +70,13 @@ PixelBox pixelsUnder(const drawing::Box& box, const drawing::Affine& toSurface, 
             return limit;
         mapped.add(p);
     }
-    return {clampedToInt(std::floor(mapped.left), limit.left, limit.right),
-            clampedToInt(std::floor(mapped.top), limit.top, limit.bottom),
-            clampedToInt(std::ceil(mapped.right), limit.left, limit.right),
-            clampedToInt(std::ceil(mapped.bottom), limit.top, limit.bottom)};
+    return {.left = clampedToInt(std::floor(mapped.left), limit.left, limit.right),
+            .top = clampedToInt(std::floor(mapped.top), limit.top, limit.bottom),
+            .right = clampedToInt(std::ceil(mapped.right), limit.left, limit.right),
+            .bottom = clampedToInt(std::ceil(mapped.bottom), limit.top, limit.bottom)};
 }
 
-Layer::Layer(const PixelBox& place) : place_(place), pixels_(place.width(), place.height()) {}
+Layer::Layer(const PixelRect& place) : place_(place), pixels_(place.width(), place.height()) {}
 
 drawing::Affine Layer::mapped(const drawing::Affine& toSurface) const {
     return drawing::Affine::translation(-place_.left, -place_.top) * toSurface;
@@ -94,7 +94,7 @@ void Layer::maskWith(const Layer& mask) {
 void Layer::layOn(const SurfaceView& surface, double opacity) const {
     const auto weight = static_cast<std::uint32_t>(std::lrint(std::clamp(opacity, 0.0, 1.0) * kFull));
     const std::array<std::uint32_t, 256> kept = keptUnder(weight);
-    const PixelBox box = place_.intersection(surface.clip());
+    const PixelRect box = place_.intersection(surface.clip());
     for (int y = box.top; y < box.bottom; ++y) {
         std::uint32_t* const below = surface.row(y);
         const std::uint32_t* const above = pixels_.row(y - place_.top);

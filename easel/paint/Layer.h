@@ -9,17 +9,17 @@ namespace easel::paint {
 
 // The pixels that the box touches after the map, within `limit`. A box that is not finite gives the whole
 // limit.
-PixelBox pixelsUnder(const drawing::Box& box, const drawing::Affine& toSurface, const PixelBox& limit);
+PixelRect pixelsUnder(const drawing::Box& box, const drawing::Affine& toSurface, const PixelRect& limit);
 
 class Layer {
   public:
     // Transparent; `place` is the part of the surface below that the layer covers, not empty.
-    explicit Layer(const PixelBox& place);
+    explicit Layer(const PixelRect& place);
 
     // The layer's pixels, and the map to them in place of one to the surface below.
     SurfaceView view() { return pixels_.view(); }
     drawing::Affine mapped(const drawing::Affine& toSurface) const;
-    const PixelBox& place() const { return place_; }
+    const PixelRect& place() const { return place_; }
 
     // Multiplies each pixel by the alpha of the mask's pixel; both layers cover the same place.
     void maskWith(const Layer& mask);
@@ -27,7 +27,7 @@ class Layer {
     void layOn(const SurfaceView& surface, double opacity) const;
 
   private:
-    PixelBox place_;
+    PixelRect place_;
     Surface pixels_;
 };
 

@@ -20,7 +20,7 @@ constexpr double kStrokeTolerance = 0.02; // pixels
 // Layers in layers beyond this depth are painted straight on, so that hostile files cannot use up the memory.
 constexpr std::uint32_t kDeepestLayer = 100;
 
-PixelBox pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelBox& limit) {
+PixelRect pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelRect& limit) {
     drawing::Box box;
     for (const ObjectPtr& object : objects)
         box.add(object->paintBounds());
@@ -52,7 +52,7 @@ void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, 
         return;
     if (group.depth > kDeepestLayer || (group.opacity >= 1 && !group.clip))
         return paintWithin(&group, objects, surface, toSurface);
-    PixelBox place = pixelsUnder(objects, toSurface, surface.clip());
+    PixelRect place = pixelsUnder(objects, toSurface, surface.clip());
     if (group.clip)
         place = pixelsInside(*group.clip, toSurface, place);
     if (place.empty())
@@ -66,7 +66,7 @@ void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, 
 }
 
 void ObjectPainter::paintObject(const Object& object, const SurfaceView& surface, const Affine& toSurface) {
-    const PixelBox place = pixelsUnder(object.paintBounds(), toSurface, surface.clip());
+    const PixelRect place = pixelsUnder(object.paintBounds(), toSurface, surface.clip());
     const double opacity = drawing::styleOf(object).opacity;
     if (place.empty() || !(opacity > 0))
         return;

@@ -24,7 +24,7 @@ drawing::RampColor colorOf(const drawing::ColorPaint& paint) {
 constexpr int kSmallWidth = 128;
 constexpr int kSmallHeight = 128;
 
-void fetch(const SurfaceView& surface, const PixelBox& area) {
+void fetch(const SurfaceView& surface, const PixelRect& area) {
     constexpr int kLine = 16; // pixels
     for (int y = area.top; y < area.bottom; ++y) {
         const volatile std::uint32_t* row = surface.row(y);
@@ -41,7 +41,7 @@ struct ParameterRange {
     double highest;
 };
 
-template <class Map> ParameterRange cornersRange(const Map& map, const PixelBox& area) {
+template <class Map> ParameterRange cornersRange(const Map& map, const PixelRect& area) {
     ParameterRange range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
     for (const int x : {area.left, area.right}) {
         for (const int y : {area.top, area.bottom}) {
@@ -52,10 +52,10 @@ template <class Map> ParameterRange cornersRange(const Map& map, const PixelBox&
     return range;
 }
 
-ParameterRange rangeOf(const LinearMap& map, const PixelBox& area) {
+ParameterRange rangeOf(const LinearMap& map, const PixelRect& area) {
     return cornersRange(map, area);
 }
-ParameterRange rangeOf(const RadialMap& map, const PixelBox& area) {
+ParameterRange rangeOf(const RadialMap& map, const PixelRect& area) {
     return {-map.radius / map.radiusStep, cornersRange(map, area).highest};
 }
 
@@ -63,7 +63,7 @@ ParameterRange rangeOf(const RadialMap& map, const PixelBox& area) {
 
 // Calls `use` with the shader for the ink, which serves the pixels of `area`.
 template <class Use>
-void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const Affine& toSurface,
+void Painter::withShader(const SurfaceView& surface, const PixelRect& area, const Affine& toSurface,
                          const Ink& ink, double opacity, const Use& use) {
     opacity = drawing::validOpacity(opacity);
     if (const auto* color = std::get_if<drawing::ColorPaint>(&ink)) {
@@ -98,7 +98,7 @@ void Painter::withShader(const SurfaceView& surface, const PixelBox& area, const
 
 void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Affine& toSurface,
                     const Ink& ink, double opacity) {
-    const PixelBox area = rasteriser_.bounds();
+    const PixelRect area = rasteriser_.bounds();
     if (area.empty())
         return;
     if (area.width() <= kSmallWidth && area.height() <= kSmallHeight)
@@ -122,7 +122,7 @@ void Painter::fill(const SurfaceView& surface, std::span<const drawing::Contour>
 }
 
 void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const Ink& ink, double opacity) {
-    const PixelBox& clip = surface.clip();
+    const PixelRect& clip = surface.clip();
     if (clip.empty())
         return;
     const PixelSpan whole[] = {{clip.left, clip.right}};

@@ -37,7 +37,7 @@ class Painter {
 
   private:
     template <class Use>
-    void withShader(const SurfaceView& surface, const PixelBox& area, const drawing::Affine& toSurface,
+    void withShader(const SurfaceView& surface, const PixelRect& area, const drawing::Affine& toSurface,
                     const Ink& ink, double opacity, const Use& use);
     void sweep(const SurfaceView& surface, drawing::FillRule rule, const drawing::Affine& toSurface,
                const Ink& ink, double opacity);

@@ -23,8 +23,10 @@ std::uint32_t pixelOf(const PortColor& color) {
 PixelRect unionOf(const PixelRect& a, const PixelRect& b) {
     if (a.empty())
         return b;
-    return {std::min(a.top, b.top), std::min(a.left, b.left), std::max(a.bottom, b.bottom),
-            std::max(a.right, b.right)};
+    return {.left = std::min(a.left, b.left),
+            .top = std::min(a.top, b.top),
+            .right = std::max(a.right, b.right),
+            .bottom = std::max(a.bottom, b.bottom)};
 }
 
 } // namespace
@@ -53,11 +55,14 @@ int Port::scaled(int length) const {
 }
 
 PixelRect Port::imageRect(const PixelRect& rect) const {
-    return {imageV(rect.top), imageH(rect.left), imageV(rect.bottom), imageH(rect.right)};
+    return {.left = imageH(rect.left),
+            .top = imageV(rect.top),
+            .right = imageH(rect.right),
+            .bottom = imageV(rect.bottom)};
 }
 
 PixelRect Port::imageClip() const {
-    return intersection(imageRect(state_.clip), {0, 0, imageHeight_, imageWidth_});
+    return imageRect(state_.clip).intersection({.right = imageWidth_, .bottom = imageHeight_});
 }
 
 PixelRect Port::takeDamage() {
@@ -67,7 +72,7 @@ PixelRect Port::takeDamage() {
 }
 
 void Port::addDamage(const PixelRect& rect) {
-    const PixelRect seen = intersection(intersection(rect, state_.clip), bounds_);
+    const PixelRect seen = rect.intersection(state_.clip).intersection(bounds_);
     if (!seen.empty())
         damage_ = unionOf(damage_, seen);
 }
@@ -131,8 +136,10 @@ void Port::frameRect(const PixelRect& rect) {
     const PixelRect outer = imageRect(rect);
     const int penWidth = scaled(state_.pen.size.h);
     const int penHeight = scaled(state_.pen.size.v);
-    const PixelRect inner{outer.top + penHeight, outer.left + penWidth, outer.bottom - penHeight,
-                          outer.right - penWidth};
+    const PixelRect inner{.left = outer.left + penWidth,
+                          .top = outer.top + penHeight,
+                          .right = outer.right - penWidth,
+                          .bottom = outer.bottom - penHeight};
     const int bottom = std::min(outer.bottom, clip.bottom);
     for (int row = std::max(outer.top, clip.top); row < bottom; ++row) {
         if (row < inner.top || row >= inner.bottom || inner.left >= inner.right) {
@@ -147,8 +154,10 @@ void Port::frameRect(const PixelRect& rect) {
 
 void Port::copyFrom(const Port& other) {
     const PixelRect area = imageRect(other.bounds_);
-    const PixelRect part = intersection(
-        imageClip(), {area.top, area.left, area.top + other.imageHeight_, area.left + other.imageWidth_});
+    const PixelRect part = imageClip().intersection({.left = area.left,
+                                                     .top = area.top,
+                                                     .right = area.left + other.imageWidth_,
+                                                     .bottom = area.top + other.imageHeight_});
     if (part.empty())
         return;
     for (int row = part.top; row < part.bottom; ++row) {

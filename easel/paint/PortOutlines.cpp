@@ -75,7 +75,8 @@ std::vector<int> crossings(const PortPolygon& corners, int row) {
 }
 
 PixelRect boundsOf(const PortPolygon& corners) {
-    PixelRect bounds{corners[0].v, corners[0].h, corners[0].v, corners[0].h};
+    PixelRect bounds{
+        .left = corners[0].h, .top = corners[0].v, .right = corners[0].h, .bottom = corners[0].v};
     for (const PixelPoint corner : corners) {
         bounds.top = std::min(bounds.top, corner.v);
         bounds.left = std::min(bounds.left, corner.h);
@@ -136,7 +137,7 @@ void Port::paintPolygon(const PortPolygon& polygon) {
     for (PixelPoint& corner : corners)
         corner = {imageH(corner.h), imageV(corner.v)};
     const PixelRect clip = imageClip();
-    const PixelRect area = intersection(boundsOf(corners), clip);
+    const PixelRect area = boundsOf(corners).intersection(clip);
     for (int row = area.top; row < area.bottom; ++row) {
         const std::vector<int> columns = crossings(corners, row);
         for (std::size_t i = 0; i + 1 < columns.size(); i += 2)

@@ -16,7 +16,7 @@ using drawing::Box;
 constexpr int kBandRows = 256;
 
 // The box of drawing coordinates that the pixels show, a little more to be safe from rounding.
-Box drawnArea(const PixelBox& pixels, const Affine& toSurface) {
+Box drawnArea(const PixelRect& pixels, const Affine& toSurface) {
     const Affine toDrawing = toSurface.inverse();
     Box area;
     for (const int x : {pixels.left - 1, pixels.right + 1})
@@ -27,7 +27,7 @@ Box drawnArea(const PixelBox& pixels, const Affine& toSurface) {
 
 // Calls paint(the surface narrowed to a band) for each band.
 template <class Paint> void forEachBand(const SurfaceView& surface, unsigned threads, Paint paint) {
-    const PixelBox& clip = surface.clip();
+    const PixelRect& clip = surface.clip();
     if (clip.empty())
         return;
     const int first = clip.top / kBandRows;
@@ -35,7 +35,8 @@ template <class Paint> void forEachBand(const SurfaceView& surface, unsigned thr
     const auto count = static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1;
     forEachPiece(count, threads, [&](std::size_t piece) {
         const int top = (first + static_cast<int>(piece)) * kBandRows;
-        paint(surface.clippedTo({clip.left, top, clip.right, top + kBandRows}));
+        paint(surface.clippedTo(
+            {.left = clip.left, .top = top, .right = clip.right, .bottom = top + kBandRows}));
     });
 }
 

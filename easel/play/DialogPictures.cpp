@@ -22,7 +22,7 @@ const runtime::Dialog& frontDialog(Session& session) {
 
 void write(Session& session, const paint::Port& port, const paint::PixelRect& area, const std::string& file) {
     const paint::PixelRect part =
-        intersection(port.imageRect(area), {0, 0, port.imageHeight(), port.imageWidth()});
+        port.imageRect(area).intersection({.right = port.imageWidth(), .bottom = port.imageHeight()});
     if (part.empty())
         throw PlayError("there is nothing to be seen there");
     const std::ptrdiff_t width = port.imageWidth();

@@ -12,7 +12,7 @@ namespace easel::runtime {
 namespace {
 
 paint::Port portFor(int width, int height, const DialogScreen& screen) {
-    paint::Port port({0, 0, height, width}, screen.scale, screen.theme.background);
+    paint::Port port({.right = width, .bottom = height}, screen.scale, screen.theme.background);
     port.state().background = screen.theme.erased;
     return port;
 }

@@ -31,15 +31,20 @@ class PlainPen {
 void drawSeparator(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& bounds) {
     const PlainPen pen(port, theme.separator);
     const int middle = (bounds.top + bounds.bottom) / 2;
-    port.paintRect({middle, bounds.left, middle + 1, bounds.right});
+    port.paintRect({.left = bounds.left, .top = middle, .right = bounds.right, .bottom = middle + 1});
 }
 
 // Two bars, below and to the right, as if the light came from the upper left.
 void drawShadow(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& swatch) {
     const PlainPen pen(port, theme.shadow);
-    port.paintRect(
-        {swatch.top + kShadowWidth, swatch.right, swatch.bottom + kShadowWidth, swatch.right + kShadowWidth});
-    port.paintRect({swatch.bottom, swatch.left + kShadowWidth, swatch.bottom + kShadowWidth, swatch.right});
+    port.paintRect({.left = swatch.right,
+                    .top = swatch.top + kShadowWidth,
+                    .right = swatch.right + kShadowWidth,
+                    .bottom = swatch.bottom + kShadowWidth});
+    port.paintRect({.left = swatch.left + kShadowWidth,
+                    .top = swatch.bottom,
+                    .right = swatch.right,
+                    .bottom = swatch.bottom + kShadowWidth});
 }
 
 } // namespace easel::runtime

@@ -71,7 +71,8 @@ DialogItem itemOf(const classic::PluginResources& resources, const ItemResource&
     DialogItem item;
     item.number = number;
     item.kind = kindOf(resource.kind);
-    item.bounds = {resource.top, resource.left, resource.bottom, resource.right};
+    item.bounds = {
+        .left = resource.left, .top = resource.top, .right = resource.right, .bottom = resource.bottom};
     item.text = encoded(resource.title);
     item.tooltip = resource.tip;
     item.accessibleName = resource.label.empty() ? resource.title : resource.label;

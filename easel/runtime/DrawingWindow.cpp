@@ -37,22 +37,24 @@ int imageLength(double length, double scale) {
 }
 
 // Every pixel that the area touches.
-paint::PixelBox pixelsOf(const drawing::Box& area, const drawing::Affine& toImage,
-                         const paint::Surface& image) {
+paint::PixelRect pixelsOf(const drawing::Box& area, const drawing::Affine& toImage,
+                          const paint::Surface& image) {
     const drawing::Point corner = toImage({area.left, area.top});
     const drawing::Point end = toImage({area.right, area.bottom});
     const auto pixel = [](double at, int limit) {
         return static_cast<int>(std::clamp(at, 0.0, static_cast<double>(limit)));
     };
-    return {pixel(std::floor(corner.x), image.width()), pixel(std::floor(corner.y), image.height()),
-            pixel(std::ceil(end.x), image.width()), pixel(std::ceil(end.y), image.height())};
+    return {.left = pixel(std::floor(corner.x), image.width()),
+            .top = pixel(std::floor(corner.y), image.height()),
+            .right = pixel(std::ceil(end.x), image.width()),
+            .bottom = pixel(std::ceil(end.y), image.height())};
 }
 
 bool encloses(const drawing::Box& outer, const drawing::Box& inner) {
     return outer.contains({inner.left, inner.top}) && outer.contains({inner.right, inner.bottom});
 }
 
-void whiten(paint::Surface& image, const paint::PixelBox& box) {
+void whiten(paint::Surface& image, const paint::PixelRect& box) {
     for (int y = box.top; y < box.bottom; ++y)
         std::fill(image.row(y) + box.left, image.row(y) + box.right, kWhite);
 }
@@ -61,7 +63,7 @@ void whiten(paint::Surface& image, const paint::PixelBox& box) {
 
 DrawingWindow::DrawingWindow(drawing::Drawing drawing, Process& process)
     : process_(process),
-      port_(std::make_unique<paint::Port>(paint::PixelRect{0, 0, 1, 1}, 1.0, kWhite & 0xffffff)),
+      port_(std::make_unique<paint::Port>(paint::PixelRect{.right = 1, .bottom = 1}, 1.0, kWhite & 0xffffff)),
       drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)) {
     process_.ports().add(*port_);
     mark(view_.seen());
@@ -124,7 +126,7 @@ void DrawingWindow::paintMarked() {
         marks_.assign(1, view_.seen());
     }
     for (const drawing::Box& mark : std::exchange(marks_, {})) {
-        const paint::PixelBox box = pixelsOf(mark, view_.toImage(), *image_);
+        const paint::PixelRect box = pixelsOf(mark, view_.toImage(), *image_);
         if (box.empty())
             continue;
         whiten(*image_, box);

@@ -17,8 +17,7 @@ namespace {
 paint::SurfaceView surfaceOf(paint::Port& port) {
     const paint::SurfaceView whole(port.pixels(), port.imageWidth(), port.imageHeight(),
                                    std::ptrdiff_t{4} * port.imageWidth());
-    const paint::PixelRect clip = port.imageRect(port.state().clip);
-    return whole.clippedTo({clip.left, clip.top, clip.right, clip.bottom});
+    return whole.clippedTo(port.imageRect(port.state().clip));
 }
 
 drawing::Affine toImage(const paint::Port& port) {

@@ -29,7 +29,7 @@ inline paint::PixelPoint fromHost(const TPoint<double>& point) {
     return {nearestCorner(point.h), nearestCorner(point.v)};
 }
 inline paint::PixelRect fromHost(const TRect<short>& rect) {
-    return {rect.top, rect.left, rect.bottom, rect.right};
+    return {.left = rect.left, .top = rect.top, .right = rect.right, .bottom = rect.bottom};
 }
 inline TRect<short> toHost(const paint::PixelRect& rect) {
     return {static_cast<short>(rect.top), static_cast<short>(rect.left), static_cast<short>(rect.bottom),

@@ -22,8 +22,8 @@ drawing::Point atHeight(drawing::Point from, drawing::Point to, double y) {
 
 } // namespace
 
-void Rasteriser::begin(const PixelBox& clip) {
-    clip_ = clip.empty() ? PixelBox{} : clip;
+void Rasteriser::begin(const PixelRect& clip) {
+    clip_ = clip.empty() ? PixelRect{} : clip;
     left_ = clip_.left;
     right_ = clip_.right;
     leftmost_ = right_;
@@ -105,11 +105,13 @@ void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int windi
     lowest_ = std::max(lowest_, bottom);
 }
 
-PixelBox Rasteriser::bounds() const {
+PixelRect Rasteriser::bounds() const {
     if (edges_.empty())
         return {};
-    return {static_cast<int>(leftmost_), static_cast<int>(highest_ / kUnit),
-            static_cast<int>(std::ceil(rightmost_)), static_cast<int>((lowest_ + kUnit - 1) / kUnit)};
+    return {.left = static_cast<int>(leftmost_),
+            .top = static_cast<int>(highest_ / kUnit),
+            .right = static_cast<int>(std::ceil(rightmost_)),
+            .bottom = static_cast<int>((lowest_ + kUnit - 1) / kUnit)};
 }
 
 void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {

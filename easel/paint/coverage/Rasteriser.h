@@ -17,12 +17,12 @@ namespace easel::paint {
 class Rasteriser {
   public:
     // Forgets all edges; what follows is seen only within `clip`.
-    void begin(const PixelBox& clip);
+    void begin(const PixelRect& clip);
     // One side of a polygon, in surface coordinates. The sides of a polygon may come in any order but all of
     // them must come, in one sense of rotation. A side with a coordinate that is not finite is left out.
     void addEdge(drawing::Point from, drawing::Point to);
     // Encloses all pixels that the edges touch, within the clip.
-    PixelBox bounds() const;
+    PixelRect bounds() const;
     // Hands every row that the shape touches to the sink.
     void sweep(drawing::FillRule rule, CoverageSink& sink);
 
@@ -32,7 +32,7 @@ class Rasteriser {
     void sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink);
     RowCoverage collect(std::size_t row, drawing::FillRule rule);
 
-    PixelBox clip_;
+    PixelRect clip_;
     double left_ = 0;
     double right_ = 0;
     // Extent of the edges.

@@ -55,7 +55,7 @@ class RadialShader::Track {
     }
     // The first pixel inside a segment's start (side -1) or outside of it again (side 1).
     int settled(double crossing, const RampSegment& segment, int side) const {
-        const PixelBox& clip = shader_.surface_.clip();
+        const PixelRect& clip = shader_.surface_.clip();
         crossing = std::clamp<double>(crossing, clip.left - 1, clip.right);
         // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
         const int whole = static_cast<int>(crossing);

@@ -1,5 +1,8 @@
-// Points and rectangles in the whole pixels of a dialog, before any screen scale is applied.
+// Points and rectangles of whole pixels: those of a surface, or those of a dialog before any screen scale is
+// applied.
 #pragma once
+
+#include <algorithm>
 
 namespace easel::paint {
 
@@ -13,25 +16,35 @@ struct PixelPoint {
 
 // The pixels from left up to but without right, and from top up to but without bottom.
 struct PixelRect {
-    int top = 0;
-    int left = 0;
-    int bottom = 0;
-    int right = 0;
+    // The host's rectangles begin with the top and the drawing's boxes with the left, so sides are given by
+    // name only, as in {.left = 1, .top = 2, .right = 5, .bottom = 4}: this takes the place of a first one.
+    struct ByName {
+        ByName() = default;
+    };
+    [[no_unique_address]] ByName byName{};
 
-    int width() const { return right - left; }
-    int height() const { return bottom - top; }
-    bool empty() const { return right <= left || bottom <= top; }
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    friend bool operator==(const PixelRect& a, const PixelRect& b) {
+        return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+    }
+
+    bool empty() const { return left >= right || top >= bottom; }
+    int width() const { return std::max(right - left, 0); }
+    int height() const { return std::max(bottom - top, 0); }
     bool contains(PixelPoint point) const {
         return point.h >= left && point.h < right && point.v >= top && point.v < bottom;
     }
-
-    friend bool operator==(const PixelRect&, const PixelRect&) = default;
+    // The pixels that both have; empty (but with meaningless sides) when they have none.
+    PixelRect intersection(const PixelRect& other) const {
+        return {.left = std::max(left, other.left),
+                .top = std::max(top, other.top),
+                .right = std::min(right, other.right),
+                .bottom = std::min(bottom, other.bottom)};
+    }
 };
-
-// The pixels that both have; empty (but with meaningless edges) when they have none.
-inline PixelRect intersection(const PixelRect& a, const PixelRect& b) {
-    return {a.top > b.top ? a.top : b.top, a.left > b.left ? a.left : b.left,
-            a.bottom < b.bottom ? a.bottom : b.bottom, a.right < b.right ? a.right : b.right};
-}
 
 } // namespace easel::paint

@@ -1,30 +1,13 @@
 // Pixels to paint on: 32 bits each, premultiplied alpha, laid out as Cairo's ARGB32 image surfaces are.
 #pragma once
 
-#include <algorithm>
+#include "easel/paint/pixels/PixelGeometry.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 
 namespace easel::paint {
-
-// A rectangle of whole pixels; right and bottom are one past the last pixel.
-struct PixelBox {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    friend bool operator==(const PixelBox&, const PixelBox&) = default;
-
-    bool empty() const { return left >= right || top >= bottom; }
-    int width() const { return empty() ? 0 : right - left; }
-    int height() const { return empty() ? 0 : bottom - top; }
-    PixelBox intersection(const PixelBox& other) const {
-        return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
-                std::min(bottom, other.bottom)};
-    }
-};
 
 // Pixels owned by someone else, with the box outside of which nothing is painted. A pixel is 0xAARRGGBB in
 // the machine's byte order.
@@ -33,7 +16,8 @@ class SurfaceView {
     SurfaceView() = default;
     // `stride` is the distance between rows in bytes, a multiple of 4.
     SurfaceView(std::uint32_t* pixels, int width, int height, std::ptrdiff_t stride)
-        : pixels_(pixels), width_(width), height_(height), stride_(stride), clip_{0, 0, width, height} {}
+        : pixels_(pixels), width_(width), height_(height),
+          stride_(stride), clip_{.right = width, .bottom = height} {}
 
     int width() const { return width_; }
     int height() const { return height_; }
@@ -41,9 +25,9 @@ class SurfaceView {
     std::uint32_t* row(int y) const { return pixels_ + y * (stride_ / 4); }
 
     // Always within the surface.
-    const PixelBox& clip() const { return clip_; }
+    const PixelRect& clip() const { return clip_; }
     // The same pixels, painted only where both the present clip and `box` allow it.
-    SurfaceView clippedTo(const PixelBox& box) const {
+    SurfaceView clippedTo(const PixelRect& box) const {
         SurfaceView view = *this;
         view.clip_ = clip_.intersection(box);
         return view;
@@ -54,7 +38,7 @@ class SurfaceView {
     int width_ = 0;
     int height_ = 0;
     std::ptrdiff_t stride_ = 0;
-    PixelBox clip_;
+    PixelRect clip_;
 };
 
 // A surface with pixels of its own, transparent black at first. Rows begin on 64-byte boundaries.

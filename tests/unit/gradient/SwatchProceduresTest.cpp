@@ -29,7 +29,7 @@ class SwatchProcedures : public testing::Test {
         PortState& state = port().state();
         state.foreground = {11, 22, 33};
         state.pen = {{7, 8}, {3, 2}, easel::paint::PenMode::Invert, {1, 2, 3, 4, 5, 6, 7, 8}};
-        state.clip = {0, 0, 400, 399};
+        state.clip = {.right = 399, .bottom = 400};
         gPolygonEvents.clear();
     }
     ~SwatchProcedures() override { DisposeDialog(dialog_); }
@@ -105,12 +105,14 @@ TEST_F(SwatchProcedures, TheRampIsDrawnLinearAtAngleZeroAndThePreviewAsTheGradie
 
 // The smallest rectangle around the pixels that are not `color`.
 PixelRect changedPixels(Port& port, std::uint32_t color) {
-    PixelRect changed{port.imageHeight(), port.imageWidth(), 0, 0};
+    PixelRect changed{.left = port.imageWidth(), .top = port.imageHeight()};
     for (int y = 0; y < port.imageHeight(); ++y)
         for (int x = 0; x < port.imageWidth(); ++x)
             if (port.pixels()[y * port.imageWidth() + x] != color)
-                changed = {std::min(changed.top, y), std::min(changed.left, x),
-                           std::max(changed.bottom, y + 1), std::max(changed.right, x + 1)};
+                changed = {.left = std::min(changed.left, x),
+                           .top = std::min(changed.top, y),
+                           .right = std::max(changed.right, x + 1),
+                           .bottom = std::max(changed.bottom, y + 1)};
     return changed;
 }
 
@@ -120,7 +122,8 @@ TEST_F(SwatchProcedures, TheBandOfTheMarkersIsErasedFromOneBelowTheRampToTwelveB
     port().state().clip = port().bounds();
     gDialogActivePercent = 0.5;
     DrawTicks({16, 128}, 200, gradientOf({{{0, 0, 0}, 0.5}}));
-    EXPECT_EQ(changedPixels(port(), kPainted), (PixelRect{129, 9, 140, 223}));
+    EXPECT_EQ(changedPixels(port(), kPainted),
+              (PixelRect{.left = 9, .top = 129, .right = 223, .bottom = 140}));
 }
 
 TEST_F(SwatchProcedures, AFilledMarkerHasNoHolesWhateverThePensPatternWas) {

@@ -163,7 +163,7 @@ TEST(Coverage, CurvesAreFollowedToATenthOfALevelOfTheirArea) {
 
 TEST(Coverage, NothingIsPaintedOutsideTheClip) {
     paint::Surface surface(50, 40);
-    const paint::PixelBox clip{7, 5, 31, 22};
+    const paint::PixelRect clip{.left = 7, .top = 5, .right = 31, .bottom = 22};
     paint::Painter().fill(surface.view().clippedTo(clip), drawing::ellipsePath({20, 20}, 300, 200),
                           FillRule::NonZero, {}, kWhite);
     for (int y = 0; y < 40; ++y)

@@ -38,7 +38,7 @@ TEST(Layer, IsLaidOnWithItsOpacityToWithinRounding) {
         Surface result(kSide, kSide);
         for (int y = 0; y < kSide; ++y)
             std::copy_n(below.row(y), kSide, result.row(y));
-        Layer layer({0, 0, kSide, kSide});
+        Layer layer({.right = kSide, .bottom = kSide});
         fillWith(layer.view(), random);
         layer.layOn(result.view(), opacity);
         for (int y = 0; y < kSide; ++y)
@@ -56,9 +56,9 @@ TEST(Layer, IsLaidOnWithItsOpacityToWithinRounding) {
 
 TEST(Layer, AMaskMultipliesEveryChannelAndRoundsToTheNearest) {
     std::mt19937 random(9);
-    Layer layer({0, 0, kSide, kSide});
+    Layer layer({.right = kSide, .bottom = kSide});
     fillWith(layer.view(), random);
-    Layer mask({0, 0, kSide, kSide});
+    Layer mask({.right = kSide, .bottom = kSide});
     fillWith(mask.view(), random);
     Surface before(kSide, kSide);
     for (int y = 0; y < kSide; ++y)
@@ -75,10 +75,10 @@ TEST(Layer, AMaskMultipliesEveryChannelAndRoundsToTheNearest) {
 
 TEST(Layer, CoversOnlyItsPlaceAndTheSurfacesClip) {
     Surface surface(kSide, kSide);
-    Layer layer({10, 20, 30, 40});
+    Layer layer({.left = 10, .top = 20, .right = 30, .bottom = 40});
     for (int y = 0; y < 20; ++y)
         std::fill_n(layer.view().row(y), 20, 0xFFFF0000u);
-    layer.layOn(surface.view().clippedTo({15, 0, kSide, 30}), 1);
+    layer.layOn(surface.view().clippedTo({.left = 15, .top = 0, .right = kSide, .bottom = 30}), 1);
     for (int y = 0; y < kSide; ++y)
         for (int x = 0; x < kSide; ++x)
             ASSERT_EQ(surface.row(y)[x] != 0, x >= 15 && x < 30 && y >= 20 && y < 30) << x << "," << y;
@@ -87,13 +87,15 @@ TEST(Layer, CoversOnlyItsPlaceAndTheSurfacesClip) {
 TEST(Layer, PixelsUnderABoxAreThoseItTouches) {
     using easel::drawing::Affine;
     using easel::drawing::Box;
-    const PixelBox limit{0, 0, 100, 100};
-    EXPECT_EQ(pixelsUnder(Box{10.5, 20, 30.2, 40}, {}, limit), (PixelBox{10, 20, 31, 40}));
+    const PixelRect limit{.right = 100, .bottom = 100};
+    EXPECT_EQ(pixelsUnder(Box{10.5, 20, 30.2, 40}, {}, limit),
+              (PixelRect{.left = 10, .top = 20, .right = 31, .bottom = 40}));
     EXPECT_EQ(pixelsUnder(Box{-50, -50, 500, 500}, {}, limit), limit);
     EXPECT_TRUE(pixelsUnder(Box{200, 0, 300, 10}, {}, limit).empty());
     EXPECT_TRUE(pixelsUnder(Box{}, {}, limit).empty());
     EXPECT_EQ(pixelsUnder(Box{0, 0, 1, 1}, Affine::scaling(HUGE_VAL, 1), limit), limit);
-    EXPECT_EQ(pixelsUnder(Box{-1e300, 10, 1e300, 20}, {}, limit), (PixelBox{0, 10, 100, 20}));
+    EXPECT_EQ(pixelsUnder(Box{-1e300, 10, 1e300, 20}, {}, limit),
+              (PixelRect{.left = 0, .top = 10, .right = 100, .bottom = 20}));
 }
 
 } // namespace

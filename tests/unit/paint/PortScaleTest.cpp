@@ -7,15 +7,15 @@ namespace easel::paint {
 namespace {
 
 void drawOnGrid(Port& port) {
-    port.paintRect({1, 1, 3, 4});
-    port.frameRect({0, 5, 6, 9});
+    port.paintRect({.left = 1, .top = 1, .right = 4, .bottom = 3});
+    port.frameRect({.left = 5, .top = 0, .right = 9, .bottom = 6});
     port.moveTo({0, 7});
     port.lineTo({8, 7});
 }
 
 TEST(PortScale, StraightThingsAreBlocksOfScreenPixelsAtScaleTwo) {
-    Port single({0, 0, 8, 10}, 1.0, 0xffffff);
-    Port twofold({0, 0, 8, 10}, 2.0, 0xffffff);
+    Port single({.right = 10, .bottom = 8}, 1.0, 0xffffff);
+    Port twofold({.right = 10, .bottom = 8}, 2.0, 0xffffff);
     drawOnGrid(single);
     drawOnGrid(twofold);
     const Picture small = picture(single);
@@ -27,7 +27,7 @@ TEST(PortScale, StraightThingsAreBlocksOfScreenPixelsAtScaleTwo) {
 }
 
 TEST(PortScale, SlantedLinesUseTheScreensOwnPixels) {
-    Port port({0, 0, 3, 4}, 2.0, 0xffffff);
+    Port port({.right = 4, .bottom = 3}, 2.0, 0xffffff);
     port.moveTo({0, 0});
     port.lineTo({2, 1});
     // From (0, 0) to (4, 2) on the screen, through (1, 1), (2, 1) and (3, 2), with a nib of two by two.
@@ -41,8 +41,8 @@ TEST(PortScale, SlantedLinesUseTheScreensOwnPixels) {
 
 TEST(PortScale, EqualFramesAreEquallyThickEverywhereAtScaleOneAndAHalf) {
     for (int left = 0; left < 4; ++left) {
-        Port port({0, 0, 12, 16}, 1.5, 0xffffff);
-        port.frameRect({0, left, 12, left + 10});
+        Port port({.right = 16, .bottom = 12}, 1.5, 0xffffff);
+        port.frameRect({.left = left, .top = 0, .right = left + 10, .bottom = 12});
         const std::string row = picture(port)[9];
         const std::size_t begin = row.find('#');
         const std::size_t end = row.find_last_of('#');
@@ -56,35 +56,35 @@ TEST(PortScale, EqualFramesAreEquallyThickEverywhereAtScaleOneAndAHalf) {
 TEST(PortScale, OffScreenImagesFitTheirPlaceAtAnyScale) {
     for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0})
         for (int left = 0; left < 5; ++left) {
-            const PixelRect area{left, left + 1, left + 7, left + 9};
-            Port direct({0, 0, 16, 16}, scale, 0xffffff);
+            const PixelRect area{.left = left + 1, .top = left, .right = left + 9, .bottom = left + 7};
+            Port direct({.right = 16, .bottom = 16}, scale, 0xffffff);
             direct.frameRect(area);
             Port image(area, scale, 0xffffff);
             image.frameRect(area);
-            Port composed({0, 0, 16, 16}, scale, 0xffffff);
+            Port composed({.right = 16, .bottom = 16}, scale, 0xffffff);
             composed.copyFrom(image);
             EXPECT_EQ(picture(composed), picture(direct)) << scale << ' ' << left;
         }
 }
 
 TEST(PortScale, CopiesOnlyWithinTheClip) {
-    Port image({0, 0, 4, 4}, 1.0, 0x000000);
-    Port port({0, 0, 4, 4}, 1.0, 0xffffff);
-    port.state().clip = {1, 2, 2, 10};
+    Port image({.right = 4, .bottom = 4}, 1.0, 0x000000);
+    Port port({.right = 4, .bottom = 4}, 1.0, 0xffffff);
+    port.state().clip = {.left = 2, .top = 1, .right = 10, .bottom = 2};
     port.copyFrom(image);
     EXPECT_EQ(picture(port), (Picture{"....", "..##", "....", "...."}));
-    EXPECT_EQ(port.takeDamage(), (PixelRect{1, 2, 2, 4}));
+    EXPECT_EQ(port.takeDamage(), (PixelRect{.left = 2, .top = 1, .right = 4, .bottom = 2}));
 }
 
 TEST(PortScale, AnInvertingLineDrawnTwiceLeavesThePictureAsItWasAtAnyScale) {
     for (const double scale : {1.5, 2.0, 2.75}) {
-        Port port({0, 0, 20, 30}, scale, 0xffffff);
+        Port port({.right = 30, .bottom = 20}, scale, 0xffffff);
         port.state().pen.mode = PenMode::Invert;
         for (int pass = 0; pass < 2; ++pass) {
             port.moveTo({3, 17});
             port.lineTo({26, 2});
         }
-        EXPECT_EQ(picture(port), picture(Port({0, 0, 20, 30}, scale, 0xffffff)));
+        EXPECT_EQ(picture(port), picture(Port({.right = 30, .bottom = 20}, scale, 0xffffff)));
     }
 }
 

@@ -7,12 +7,12 @@ namespace easel::paint {
 namespace {
 
 Port whitePort(int width, int height) {
-    return Port({0, 0, height, width}, 1.0, 0xffffff);
+    return Port({.right = width, .bottom = height}, 1.0, 0xffffff);
 }
 
 TEST(Port, PaintsThePixelsFromLeftAndTopUpToButWithoutRightAndBottom) {
     Port port = whitePort(6, 4);
-    port.paintRect({1, 2, 3, 5});
+    port.paintRect({.left = 2, .top = 1, .right = 5, .bottom = 3});
     EXPECT_EQ(picture(port), (Picture{"......", //
                                       "..###.", //
                                       "..###.", //
@@ -21,7 +21,7 @@ TEST(Port, PaintsThePixelsFromLeftAndTopUpToButWithoutRightAndBottom) {
 
 TEST(Port, FramesInsideTheRectangle) {
     Port port = whitePort(7, 5);
-    port.frameRect({0, 1, 5, 6});
+    port.frameRect({.left = 1, .top = 0, .right = 6, .bottom = 5});
     EXPECT_EQ(picture(port), (Picture{".#####.", //
                                       ".#...#.", //
                                       ".#...#.", //
@@ -32,7 +32,7 @@ TEST(Port, FramesInsideTheRectangle) {
 TEST(Port, FramesWithAWiderPenGrowInwards) {
     Port port = whitePort(8, 6);
     port.state().pen.size = {2, 1};
-    port.frameRect({0, 0, 6, 8});
+    port.frameRect({.right = 8, .bottom = 6});
     EXPECT_EQ(picture(port), (Picture{"########", //
                                       "##....##", //
                                       "##....##", //
@@ -44,7 +44,7 @@ TEST(Port, FramesWithAWiderPenGrowInwards) {
 TEST(Port, FillsARectangleTooSmallForItsFrame) {
     Port port = whitePort(5, 4);
     port.state().pen.size = {2, 2};
-    port.frameRect({0, 1, 3, 4});
+    port.frameRect({.left = 1, .top = 0, .right = 4, .bottom = 3});
     EXPECT_EQ(picture(port), (Picture{".###.", //
                                       ".###.", //
                                       ".###.", //
@@ -53,8 +53,8 @@ TEST(Port, FillsARectangleTooSmallForItsFrame) {
 
 TEST(Port, DrawsNothingForAnEmptyRectangle) {
     Port port = whitePort(4, 2);
-    port.paintRect({1, 3, 1, 1});
-    port.frameRect({0, 3, 2, 1});
+    port.paintRect({.left = 3, .top = 1, .right = 1, .bottom = 1});
+    port.frameRect({.left = 3, .top = 0, .right = 1, .bottom = 2});
     EXPECT_EQ(picture(port), (Picture{"....", "...."}));
 }
 
@@ -122,7 +122,7 @@ TEST(Port, ALineLeavesThePenAtItsEnd) {
 
 TEST(Port, AnInvertingLineDrawnTwiceLeavesThePictureAsItWas) {
     Port port = whitePort(30, 30);
-    port.paintRect({5, 5, 20, 12});
+    port.paintRect({.left = 5, .top = 5, .right = 12, .bottom = 20});
     const Picture before = picture(port);
     port.state().pen.mode = PenMode::Invert;
     for (const PixelPoint nib : {PixelPoint{1, 1}, PixelPoint{3, 2}}) {
@@ -137,7 +137,7 @@ TEST(Port, AnInvertingLineDrawnTwiceLeavesThePictureAsItWas) {
 
 TEST(Port, AnInvertingPenTurnsBlackWhiteAndWhiteBlackWhateverTheForeground) {
     Port port = whitePort(4, 1);
-    port.paintRect({0, 0, 1, 2});
+    port.paintRect({.right = 2, .bottom = 1});
     port.state().foreground = {65535, 0, 0};
     port.state().pen.mode = PenMode::Invert;
     port.moveTo({1, 0});
@@ -194,21 +194,21 @@ TEST(Port, PaintsARectangularPolygonLikeTheRectangle) {
 
 TEST(Port, ErasesToTheBackgroundInAnyPenMode) {
     Port port = whitePort(4, 1);
-    port.paintRect({0, 0, 1, 4});
+    port.paintRect({.right = 4, .bottom = 1});
     port.state().pen.mode = PenMode::Invert;
-    port.eraseRect({0, 1, 1, 3});
+    port.eraseRect({.left = 1, .top = 0, .right = 3, .bottom = 1});
     EXPECT_EQ(picture(port), (Picture{"#..#"}));
 }
 
 TEST(Port, DrawsNothingOutsideItsClip) {
     Port port = whitePort(6, 4);
-    port.state().clip = {1, 2, 3, 4};
-    port.paintRect({0, 0, 4, 6});
+    port.state().clip = {.left = 2, .top = 1, .right = 4, .bottom = 3};
+    port.paintRect({.right = 6, .bottom = 4});
     EXPECT_EQ(picture(port), (Picture{"......", //
                                       "..##..", //
                                       "..##..", //
                                       "......"}));
-    port.state().clip = {-100, -100, 100, 100};
+    port.state().clip = {.left = -100, .top = -100, .right = 100, .bottom = 100};
     port.moveTo({-32768, 0});
     port.lineTo({32767, 0});
     EXPECT_EQ(picture(port)[0], "######");
@@ -216,9 +216,9 @@ TEST(Port, DrawsNothingOutsideItsClip) {
 
 TEST(Port, APatternPaintsItsSetBitsInTheForegroundAndTheRestInTheBackground) {
     Port port = whitePort(4, 2);
-    port.paintRect({0, 0, 2, 4});
+    port.paintRect({.right = 4, .bottom = 2});
     port.state().pen.pattern = {0xaa, 0x55, 0xaa, 0x55, 0xaa, 0x55, 0xaa, 0x55};
-    port.paintRect({0, 0, 2, 4});
+    port.paintRect({.right = 4, .bottom = 2});
     EXPECT_EQ(picture(port), (Picture{"#.#.", ".#.#"}));
 }
 
@@ -227,7 +227,7 @@ TEST(Port, RoundsSixteenBitChannelsToTheNearestLevel) {
     // 32896 is 128 times 257, the middle of level 128; 128 more is still nearer to 128 than to 129, 129 more
     // is not.
     port.state().foreground = {32896, 32896 + 128, 32896 + 129};
-    port.paintRect({0, 0, 1, 1});
+    port.paintRect({.right = 1, .bottom = 1});
     EXPECT_EQ(port.pixels()[0], 0xff808081u);
 }
 
@@ -236,8 +236,8 @@ TEST(Port, TellsOnceWhereItWasDrawn) {
     EXPECT_TRUE(port.takeDamage().empty());
     port.moveTo({2, 3});
     port.lineTo({5, 3});
-    port.paintRect({7, 1, 20, 2});
-    EXPECT_EQ(port.takeDamage(), (PixelRect{3, 1, 10, 6}));
+    port.paintRect({.left = 1, .top = 7, .right = 2, .bottom = 20});
+    EXPECT_EQ(port.takeDamage(), (PixelRect{.left = 1, .top = 3, .right = 6, .bottom = 10}));
     EXPECT_TRUE(port.takeDamage().empty());
 }
 

@@ -12,7 +12,7 @@
 namespace {
 
 using namespace easel::drawing;
-using easel::paint::PixelBox;
+using easel::paint::PixelRect;
 using easel::paint::renderDrawing;
 using easel::paint::renderObjects;
 using easel::paint::Surface;
@@ -269,8 +269,10 @@ TEST(RenderDrawing, APartPaintedAloneIsThePartOfTheWhole) {
     for (int i = 0; i < 40; ++i) {
         const int left = static_cast<int>(random() % 800);
         const int top = static_cast<int>(random() % 800);
-        const PixelBox box{left, top, left + 1 + static_cast<int>(random() % 100),
-                           top + 1 + static_cast<int>(random() % 100)};
+        const PixelRect box{.left = left,
+                            .top = top,
+                            .right = left + 1 + static_cast<int>(random() % 100),
+                            .bottom = top + 1 + static_cast<int>(random() % 100)};
         Surface part(900, 900);
         renderDrawing(drawing, part.view().clippedTo(box), {});
         for (int y = 0; y < 900; ++y)

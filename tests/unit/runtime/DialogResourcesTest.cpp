@@ -47,7 +47,7 @@ TEST_F(DialogResourcesTest, ADialogHasItsItemsWithPlacesTextsAndKinds) {
     EXPECT_EQ(made->items[1].alignment, TextAlignment::Right);
     EXPECT_EQ(made->items[1].accessibleName, "Price:") << "the title serves where there is no label";
     EXPECT_EQ(made->items[2].tooltip, "In crowns");
-    EXPECT_EQ(made->items[3].bounds, (paint::PixelRect{40, 10, 60, 190}));
+    EXPECT_EQ(made->items[3].bounds, (paint::PixelRect{.left = 10, .top = 40, .right = 190, .bottom = 60}));
     EXPECT_EQ(made->items[5].kind, ItemKind::Radio);
 }
 

@@ -31,9 +31,12 @@ class DialogTest : public testing::Test {
 
     static DialogDescription description() {
         DialogDescription made{7, "Seven", 200, 100, {}};
-        made.items = {itemOf(1, ItemKind::Button),   itemOf(2, ItemKind::Button),
-                      itemOf(3, ItemKind::EditText), itemOf(4, ItemKind::UserDrawn, {10, 10, 20, 60}),
-                      itemOf(5, ItemKind::Popup),    itemOf(6, ItemKind::UserDrawn)};
+        made.items = {itemOf(1, ItemKind::Button),
+                      itemOf(2, ItemKind::Button),
+                      itemOf(3, ItemKind::EditText),
+                      itemOf(4, ItemKind::UserDrawn, {.left = 10, .top = 10, .right = 60, .bottom = 20}),
+                      itemOf(5, ItemKind::Popup),
+                      itemOf(6, ItemKind::UserDrawn)};
         // Not in their usual places.
         made.items[0].role = ButtonRole::Cancel;
         made.items[1].role = ButtonRole::Default;
@@ -246,12 +249,13 @@ TEST_F(DialogTest, TellsItsObserverOnceOfManyMenuChangesAndManyDrawnPixels) {
     recorder = {};
     for (int i = 0; i < 100; ++i)
         dialog_.item(5)->menu->append({"Another", true, false});
-    dialog_.port().paintRect({1, 1, 3, 3});
-    dialog_.port().paintRect({5, 5, 6, 9});
+    dialog_.port().paintRect({.left = 1, .top = 1, .right = 3, .bottom = 3});
+    dialog_.port().paintRect({.left = 5, .top = 5, .right = 9, .bottom = 6});
     dialog_.flush();
     dialog_.flush();
     EXPECT_EQ(recorder.changes, (std::vector<std::pair<int, ItemChange>>{{5, ItemChange::Menu}}));
-    EXPECT_EQ(recorder.drawn, (std::vector<paint::PixelRect>{{1, 1, 6, 9}}));
+    EXPECT_EQ(recorder.drawn,
+              (std::vector<paint::PixelRect>{{.left = 1, .top = 1, .right = 9, .bottom = 6}}));
     dialog_.setObserver(nullptr);
 }
 
