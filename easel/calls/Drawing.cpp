@@ -72,7 +72,7 @@ void GetMouse(TPoint<short>& where) {
 
 void GetForeColor(RGBColor* color) {
     journal("QD::GetForeColor");
-    const paint::PortColor& now = target().state().foreground;
+    const drawing::Rgb16& now = target().state().foreground;
     *color = {now.red, now.green, now.blue};
 }
 

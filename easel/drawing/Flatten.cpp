@@ -7,8 +7,6 @@ namespace easel::drawing {
 
 namespace {
 
-constexpr int kMostLines = 1 << 14;
-
 // Finer than any picking needs: a hundredth of a pixel at scale 1.
 constexpr double kPickTolerance = 0.01;
 
@@ -98,12 +96,12 @@ struct NearnessSink {
 
 } // namespace
 
-int linesFor(const CubicSegment& curve, double tolerance) {
+int linesFor(const CubicSegment& curve, double tolerance, int most) {
     // The curve strays from a chord by at most an eighth of its second derivative times the step squared.
     const double bend = std::max(length(curve.start - curve.control1 * 2 + curve.control2),
                                  length(curve.control1 - curve.control2 * 2 + curve.end));
     const double lines = std::ceil(std::sqrt(0.75 * bend / tolerance));
-    return lines >= 1 ? static_cast<int>(std::min(lines, static_cast<double>(kMostLines))) : 1;
+    return lines >= 1 ? static_cast<int>(std::min(lines, static_cast<double>(most))) : 1;
 }
 
 std::vector<Contour> flatten(const Path& path, double tolerance) {

@@ -23,6 +23,10 @@ struct Point {
 inline double dot(Point a, Point b) {
     return a.x * b.x + a.y * b.y;
 }
+// Above 0 if the shorter turn from a to b is clockwise as seen on the screen.
+inline double cross(Point a, Point b) {
+    return a.x * b.y - a.y * b.x;
+}
 inline double length(Point a) {
     return std::hypot(a.x, a.y);
 }

@@ -22,8 +22,10 @@ struct CubicSegment {
     }
 };
 
-// How many lines of equal parameter length stay within `tolerance` of the curve.
-int linesFor(const CubicSegment& curve, double tolerance);
+constexpr int kMostLines = 1 << 14;
+
+// How many lines of equal parameter length stay within `tolerance` of the curve, but at most `most`.
+int linesFor(const CubicSegment& curve, double tolerance, int most = kMostLines);
 
 // Calls sink.move(p), sink.line(from, to), sink.cubic(segment) and sink.close(from, start) in the path's
 // order.
@@ -54,8 +56,9 @@ template <class Sink> void walkSegments(const Path& path, Sink& sink) {
 }
 
 // Calls visit(from, to) for each line of the flattened curve; the last one ends exactly at the curve's end.
-template <class Visitor> void flattenCubic(const CubicSegment& curve, double tolerance, Visitor visit) {
-    const int lines = linesFor(curve, tolerance);
+template <class Visitor>
+void flattenCubic(const CubicSegment& curve, double tolerance, Visitor visit, int most = kMostLines) {
+    const int lines = linesFor(curve, tolerance, most);
     Point from = curve.start;
     for (int i = 1; i <= lines; ++i) {
         const Point to = i == lines ? curve.end : curve.at(static_cast<double>(i) / lines);

@@ -15,10 +15,9 @@ namespace easel::exports {
 
 namespace {
 
-// As a whole picture is painted in bands that begin at multiples of 256 rows, so are its parts. Each part
-// gives some bands to every thread.
-constexpr int kBandRows = 256;
-constexpr int kBandsAThread = 2;
+// Parts of a picture are whole bands, so that its pixels are those of a picture painted at once.
+constexpr int kBandsPerThread = 2;
+constexpr int kPartRowsPerThread = kBandsPerThread * paint::kThreadBandRows;
 // Of the time that a picture takes, about this part goes by before its pixels are packed.
 constexpr double kPaintingShare = 0.6;
 
@@ -28,7 +27,7 @@ using std::filesystem::path;
 
 void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, double scale,
                   const Progress& progress) {
-    const int rows = kBandRows * kBandsAThread * static_cast<int>(paint::usefulThreads());
+    const int rows = kPartRowsPerThread * static_cast<int>(paint::usefulThreads());
     for (int top = 0; top < surface.height(); top += rows) {
         progress.tell(static_cast<double>(top) / surface.height());
         paint::renderDrawing(

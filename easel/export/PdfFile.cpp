@@ -54,7 +54,7 @@ void check(const Output& out, cairo_status_t status) {
 } // namespace
 
 PdfPage pageOf(const drawing::Drawing& drawing, double scale) {
-    const double points = kPointsAUnit * scale;
+    const double points = kPointsPerUnit * scale;
     return {drawing.width() * points, drawing.height() * points, 0, 0, points};
 }
 

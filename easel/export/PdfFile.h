@@ -17,7 +17,7 @@ struct PdfPage {
 };
 
 // A drawing unit at scale 1 is a 96th of an inch.
-inline constexpr double kPointsAUnit = 72.0 / 96.0;
+inline constexpr double kPointsPerUnit = 72.0 / 96.0;
 
 // A page that is as large as the drawing at that scale.
 PdfPage pageOf(const drawing::Drawing& drawing, double scale);

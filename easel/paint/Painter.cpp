@@ -25,7 +25,7 @@ constexpr int kSmallWidth = 128;
 constexpr int kSmallHeight = 128;
 
 void fetch(const SurfaceView& surface, const PixelRect& area) {
-    constexpr int kLine = 16; // pixels
+    constexpr int kLine = 64 / sizeof(std::uint32_t); // pixels in a line of the cache
     for (int y = area.top; y < area.bottom; ++y) {
         const volatile std::uint32_t* row = surface.row(y);
         for (int x = area.left; x < area.right; x += kLine)

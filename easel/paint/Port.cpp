@@ -16,7 +16,7 @@ std::uint32_t level(std::uint16_t channel) {
     return (channel * 255u + 32767u) / 65535u;
 }
 
-std::uint32_t pixelOf(const PortColor& color) {
+std::uint32_t pixelOf(const drawing::Rgb16& color) {
     return kOpaque | level(color.red) << 16 | level(color.green) << 8 | level(color.blue);
 }
 

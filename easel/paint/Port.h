@@ -2,6 +2,7 @@
 // resolution.
 #pragma once
 
+#include "easel/drawing/Paint.h"
 #include "easel/paint/pixels/PixelGeometry.h"
 
 #include <array>
@@ -9,15 +10,6 @@
 #include <vector>
 
 namespace easel::paint {
-
-// Channels from 0 to 65535.
-struct PortColor {
-    std::uint16_t red = 0;
-    std::uint16_t green = 0;
-    std::uint16_t blue = 0;
-
-    friend bool operator==(const PortColor&, const PortColor&) = default;
-};
 
 enum class PenMode : std::int16_t {
     Copy = 8,   // pixels take the pattern's colors
@@ -43,7 +35,7 @@ using PortPolygon = std::vector<PixelPoint>;
 // Everything that drawing depends on apart from the image.
 struct PortState {
     Pen pen;
-    PortColor foreground;
+    drawing::Rgb16 foreground;
     std::uint32_t background = 0xffffff; // 0xRRGGBB; what erasing leaves
     PixelRect clip;
 

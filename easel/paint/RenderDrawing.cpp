@@ -11,10 +11,6 @@ namespace {
 using drawing::Affine;
 using drawing::Box;
 
-// Bands begin at whole multiples of this many rows of the surface, whatever is painted and however many
-// threads there are: where shapes are cut can show in the last bit of a pixel.
-constexpr int kBandRows = 256;
-
 // The box of drawing coordinates that the pixels show, a little more to be safe from rounding.
 Box drawnArea(const PixelRect& pixels, const Affine& toSurface) {
     const Affine toDrawing = toSurface.inverse();
@@ -30,13 +26,13 @@ template <class Paint> void forEachBand(const SurfaceView& surface, unsigned thr
     const PixelRect& clip = surface.clip();
     if (clip.empty())
         return;
-    const int first = clip.top / kBandRows;
-    const int last = (clip.bottom - 1) / kBandRows;
+    const int first = clip.top / kThreadBandRows;
+    const int last = (clip.bottom - 1) / kThreadBandRows;
     const auto count = static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1;
     forEachPiece(count, threads, [&](std::size_t piece) {
-        const int top = (first + static_cast<int>(piece)) * kBandRows;
+        const int top = (first + static_cast<int>(piece)) * kThreadBandRows;
         paint(surface.clippedTo(
-            {.left = clip.left, .top = top, .right = clip.right, .bottom = top + kBandRows}));
+            {.left = clip.left, .top = top, .right = clip.right, .bottom = top + kThreadBandRows}));
     });
 }
 

@@ -9,6 +9,10 @@
 
 namespace easel::paint {
 
+// A thread paints a band of this many rows at a time. Bands begin at whole multiples of it, whatever is
+// painted and however many threads there are: where shapes are cut can show in the last bit of a pixel.
+constexpr int kThreadBandRows = 256;
+
 // Paints the drawing over what the surface holds, within the surface's clip: for a partial repaint, clip to
 // the area that changed. `toSurface` maps drawing units to surface pixels. The pixels are the same for any
 // number of threads. Throws std::bad_alloc when there is no memory for a layer.

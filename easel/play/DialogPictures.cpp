@@ -3,6 +3,7 @@
 
 #include "easel/export/PngFile.h"
 #include "easel/paint/Port.h"
+#include "easel/paint/pixels/Surface.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
 #include "easel/runtime/Dialog.h"
@@ -27,7 +28,7 @@ void write(Session& session, const paint::Port& port, const paint::PixelRect& ar
         throw PlayError("there is nothing to be seen there");
     const std::ptrdiff_t width = port.imageWidth();
     const exports::PixelRows rows{port.pixels() + part.top * width + part.left, part.width(), part.height(),
-                                  width * std::ptrdiff_t{sizeof(std::uint32_t)}};
+                                  width * paint::kBytesPerPixel};
     if (const auto written = exports::writePng(session.resolve(file), rows); !written)
         throw PlayError(written.error().message());
 }

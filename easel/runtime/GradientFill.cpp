@@ -16,7 +16,7 @@ namespace {
 // The port's image with the port's clip.
 paint::SurfaceView surfaceOf(paint::Port& port) {
     const paint::SurfaceView whole(port.pixels(), port.imageWidth(), port.imageHeight(),
-                                   std::ptrdiff_t{4} * port.imageWidth());
+                                   paint::kBytesPerPixel * port.imageWidth());
     return whole.clippedTo(port.imageRect(port.state().clip));
 }
 

@@ -14,6 +14,7 @@ namespace easel::paint {
 
 // Coverage of a pixel that lies wholly inside.
 constexpr int kFullCoverage = 32768;
+static_assert((kFullCoverage & (kFullCoverage - 1)) == 0, "coverage is folded by masking");
 // Pixels whose coverage is found, and whose colors are blended, together. Blocks begin at multiples of it.
 constexpr int kCoverageBlock = 8;
 

@@ -12,7 +12,7 @@ namespace easel::paint {
 
 // Rows whose edges are gone through together: what one edge leaves in a row has long reached memory when the
 // row is summed up.
-constexpr int kBandRows = 16;
+constexpr int kCoverageBandRows = 16;
 
 // Keeps its memory from one shape to the next.
 class CoverageBand {
@@ -24,8 +24,8 @@ class CoverageBand {
         if (blocks_ >= words * TouchedBlocks::kInWord)
             return;
         blocks_ = words * TouchedBlocks::kInWord;
-        touched_.assign(blocks_ * kBandRows, 0);
-        changes_.assign(blocks_ * kCoverageBlock * kBandRows, 0);
+        touched_.assign(blocks_ * kCoverageBandRows, 0);
+        changes_.assign(blocks_ * kCoverageBlock * kCoverageBandRows, 0);
     }
     std::size_t columns() const { return blocks_ * kCoverageBlock; }
 

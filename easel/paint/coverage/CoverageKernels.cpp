@@ -37,6 +37,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 
 using Four = hn::FixedTag<std::uint32_t, 4>;
 using Sum = hn::Vec<Four>;
+static_assert(kCoverageBlock % 4 == 0, "a block is whole vectors");
 
 HWY_INLINE Sum ZeroSum() {
     return hn::Zero(Four());

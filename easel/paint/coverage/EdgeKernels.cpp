@@ -25,7 +25,8 @@ struct EdgeInRow {
 
 // Added to a coverage, it leaves the nearest whole number in the lowest bits; what is above cancels out in
 // differences.
-constexpr float kToBits = 12582912.0F; // 3 times 2 to the 22
+constexpr float kToBits = 3.0F * (1 << 22);
+static_assert(kFullCoverage < 1 << 22, "there are bits for a whole coverage of either sign");
 
 } // namespace easel::paint
 #endif
@@ -108,7 +109,7 @@ void AddEdges(std::span<Edge> edges, std::int64_t top, double left, double right
     const std::size_t columns = band.columns();
     const std::size_t blocks = columns / kCoverageBlock;
     for (Edge& edge : edges) {
-        const std::int64_t bottom = std::min(edge.bottom, (top + kBandRows) * kUnit);
+        const std::int64_t bottom = std::min(edge.bottom, (top + kCoverageBandRows) * kUnit);
         const auto row = static_cast<std::size_t>(edge.top / kUnit - top);
         std::uint32_t* changes = band.changes(row);
         std::uint8_t* touched = band.touched(row);

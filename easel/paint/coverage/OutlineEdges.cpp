@@ -1,8 +1,7 @@
 // Flattening of outlines in surface coordinates, straight into the rasteriser.
 #include "easel/paint/coverage/OutlineEdges.h"
 
-#include <algorithm>
-#include <cmath>
+#include "easel/drawing/Segments.h"
 
 namespace easel::paint {
 
@@ -12,7 +11,7 @@ using drawing::Affine;
 using drawing::Point;
 
 constexpr double kTolerance = 0.02; // pixels
-constexpr double kMostSteps = 1000;
+constexpr int kMostLines = 1000;    // for a curve
 
 // Joins the points given to it into one closed polygon after the other.
 class Pen {
@@ -35,11 +34,9 @@ class Pen {
     void curveTo(Point control1, Point control2, Point end) {
         if (!down_ || !isFinite(control1) || !isFinite(control2) || !isFinite(end))
             return lineTo(end);
-        const Point start = last_;
-        const int steps = stepsFor(start, control1, control2, end);
-        for (int i = 1; i < steps; ++i)
-            lineTo(onCurve(start, control1, control2, end, static_cast<double>(i) / steps));
-        lineTo(end);
+        drawing::flattenCubic(
+            {last_, control1, control2, end}, kTolerance, [this](Point, Point to) { lineTo(to); },
+            kMostLines);
     }
     void close() {
         if (down_)
@@ -50,16 +47,6 @@ class Pen {
     Point first() const { return first_; }
 
   private:
-    // A cubic cut into n equal steps strays at most 3/4 of its largest second difference over n squared.
-    static int stepsFor(Point p0, Point p1, Point p2, Point p3) {
-        const double bend = std::max(length(p0 - p1 * 2 + p2), length(p1 - p2 * 2 + p3));
-        return static_cast<int>(std::clamp(std::ceil(std::sqrt(bend * 0.75 / kTolerance)), 1.0, kMostSteps));
-    }
-    static Point onCurve(Point p0, Point p1, Point p2, Point p3, double t) {
-        const double s = 1 - t;
-        return p0 * (s * s * s) + p1 * (3 * s * s * t) + p2 * (3 * s * t * t) + p3 * (t * t * t);
-    }
-
     Rasteriser& rasteriser_;
     Point first_;
     Point last_;

@@ -120,10 +120,10 @@ void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {
     lists_.reserve(clip_.left, clip_.right, band_.columns());
     std::sort(edges_.begin(), edges_.end(), [](const Edge& a, const Edge& b) { return a.top < b.top; });
     auto next = edges_.begin();
-    for (std::int64_t top = 0; next != edges_.end() || !active_.empty(); top += kBandRows) {
+    for (std::int64_t top = 0; next != edges_.end() || !active_.empty(); top += kCoverageBandRows) {
         if (active_.empty())
             top = next->top / kUnit;
-        for (; next != edges_.end() && next->top < (top + kBandRows) * kUnit; ++next)
+        for (; next != edges_.end() && next->top < (top + kCoverageBandRows) * kUnit; ++next)
             active_.push_back(*next);
         sweepBand(top, rule, sink);
     }
@@ -132,7 +132,7 @@ void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {
 void Rasteriser::sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink) {
     addEdges(active_, top, left_, right_, band_);
     std::erase_if(active_, [](const Edge& edge) { return edge.top == edge.bottom; });
-    const std::int64_t bottom = std::min((lowest_ + kUnit - 1) / kUnit, top + kBandRows);
+    const std::int64_t bottom = std::min((lowest_ + kUnit - 1) / kUnit, top + kCoverageBandRows);
     for (std::int64_t row = top; row < bottom; ++row) {
         const RowCoverage coverage = collect(static_cast<std::size_t>(row - top), rule);
         if (!coverage.empty())

@@ -81,6 +81,8 @@ void FillLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const Line
 // At most a block, even where vectors are longer.
 using Part = hn::CappedTag<std::uint32_t, kCoverageBlock>;
 
+static_assert(kFullCoverage == 1 << 15, "a share is a fraction of 15 bits");
+
 // The covered shares of a vector's pixels, for both colors in each lane. They are negative, since a signed
 // fraction has no room for 1.
 template <class V> HWY_INLINE hn::Vec<Signed16<Part>> NegativeShares(V coverage) {
@@ -133,6 +135,7 @@ HWY_INLINE void BlendBlock(std::uint32_t* pixels, std::uint32_t x, const LinearS
 constexpr std::uint32_t kAll = 0xFFFFFFFF;
 constexpr std::uint32_t kShownLanes[3 * kCoverageBlock] = {
     0, 0, 0, 0, 0, 0, 0, 0, kAll, kAll, kAll, kAll, kAll, kAll, kAll, kAll, 0, 0, 0, 0, 0, 0, 0, 0};
+static_assert(kCoverageBlock == 8, "a third of the lanes above");
 
 // The part of a span in the block that begins with pixel x, through as many stretches as it takes.
 HWY_INLINE void BlendStretches(std::uint32_t* pixels, int x, const PixelSpan& span,
@@ -155,7 +158,7 @@ HWY_NOINLINE void BlendNarrow(std::uint32_t* row, int x, const PixelSpan& span, 
                               const std::uint32_t* coverage) {
     std::uint32_t pixels[kCoverageBlock] = {};
     std::uint32_t* const ours = pixels + (span.begin - x);
-    const auto bytes = static_cast<std::size_t>(span.end - span.begin) * 4;
+    const auto bytes = static_cast<std::size_t>(span.end - span.begin) * sizeof pixels[0];
     std::memcpy(ours, row + span.begin, bytes);
     BlendStretches(pixels, x, span, stretch, coverage);
     std::memcpy(row + span.begin, ours, bytes);

@@ -13,6 +13,7 @@ namespace easel::paint {
 
 // Pixels that LinearSteps reaches over.
 constexpr int kBlock = 16;
+static_assert(kBlock % kCoverageBlock == 0);
 
 // Blue, green and red in levels times 2 to the 24, modulo 2 to the 32.
 using LinearLevels = std::array<std::uint32_t, 3>;
@@ -21,8 +22,9 @@ using LinearLevels = std::array<std::uint32_t, 3>;
 struct LinearSteps {
     // By how much the colors of a block's pixels differ from its first one's, in 256ths of a level modulo
     // 65536: blue in the low half and red in the high half of `blueRed`, green in the low half of `green`.
-    alignas(64) std::array<std::uint32_t, kBlock> blueRed;
-    alignas(64) std::array<std::uint32_t, kBlock> green;
+    using Block = std::array<std::uint32_t, kBlock>;
+    alignas(sizeof(Block)) Block blueRed;
+    alignas(sizeof(Block)) Block green;
     // By how much a pixel differs from its left neighbor.
     LinearLevels pixel;
 };

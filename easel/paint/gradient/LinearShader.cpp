@@ -4,15 +4,8 @@
 #include "easel/paint/gradient/SegmentWalk.h"
 
 #include <cmath>
-#include <limits>
 
 namespace easel::paint {
-
-namespace {
-
-constexpr int kEndless = std::numeric_limits<int>::max();
-
-} // namespace
 
 // Walks along a row. Its places are the segments in the order in which the row meets them, which is backwards
 // where the parameter falls to the right.
@@ -64,17 +57,9 @@ class LinearShader::Track {
     // The first pixel on the far side of a segment's start.
     int pixelBeyond(const RampSegment& segment) const {
         const double crossing = std::min(std::max((segment.start - first_) * pixelsPerUnit_, left_), right_);
-        // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
-        const int whole = static_cast<int>(crossing);
-        const int near = whole + (crossing > whole ? 1 : 0);
-        if (!segment.sharp)
-            return near;
-        if (beyond(segment, near - 1))
-            return near - 1;
-        return beyond(segment, near) ? near : near + 1;
-    }
-    bool beyond(const RampSegment& segment, int x) const {
-        return reaches(shader_.map_.at({x + 0.5, y_}), segment);
+        return firstPixelBeyond(crossing, segment.sharp, [&](int x) {
+            return reaches(shader_.map_.at({x + 0.5, y_}), segment);
+        });
     }
 
     const LinearShader& shader_;
@@ -174,7 +159,7 @@ void LinearShader::blendMixed(std::uint32_t* pixels, const RowCoverage& coverage
             for (int x = begin; x < end; ++x)
                 queue.add(present(), x, track.parameter(x), shareOf(coverage.coverage[x], opacity_));
     };
-    walkSegments(coverage.partial, track, paint, [&] { queue.flush(present()); });
+    walkRuns(coverage.partial, track, paint, [&] { queue.flush(present()); });
 }
 
 } // namespace easel::paint

@@ -8,7 +8,7 @@ namespace easel::paint {
 namespace {
 
 // Ways and slopes of 16 bits, with some room for rounding, share the 2 to the 15 units between them.
-constexpr double kUnitsALevel = 256 * 32768.0 / 32704.0;
+constexpr double kWayUnitsPerLevel = 256 * 32768.0 / 32704.0;
 constexpr double kWholeWay = 32768;
 
 // Nine significant bits, so that its products with the numbers of pixels in a row are exact in single
@@ -35,7 +35,7 @@ RadialPiece::RadialPiece(const RadialRows& rows, const RampSegment& segment, dou
     look_ = !visible ? Look::Hidden : opacity == 1 && segment.opaque() ? Look::Opaque : Look::Mixed;
     if (!flat_ && visible) {
         const double steepest = std::max(segment.steepest, 255 * opacity * std::abs(segment.slope[3]));
-        step_ = fewBits(steepest * kUnitsALevel * rows.scale());
+        step_ = fewBits(steepest * kWayUnitsPerLevel * rows.scale());
         toUnits_ = step_ / rows.scale();
     }
     if (look_ == Look::Opaque)

@@ -8,14 +8,6 @@ namespace easel::paint {
 
 using drawing::Point;
 
-namespace {
-
-double cross(Point a, Point b) {
-    return a.x * b.y - a.y * b.x;
-}
-
-} // namespace
-
 RadialRows::RadialRows(const RadialMap& map)
     : map_(map), step_(map.toGradient.direction({1, 0})), stepSquared_(dot(step_, step_)),
       depth_(map.radiusStep * map.radiusStep - dot(map.centreStep, map.centreStep)),

@@ -7,11 +7,6 @@
 
 namespace easel::paint {
 
-namespace {
-
-constexpr int kEndless = std::numeric_limits<int>::max();
-} // namespace
-
 // Down through the segments until the row comes no nearer to the start circle, then up again.
 class RadialShader::Track {
   public:
@@ -57,15 +52,8 @@ class RadialShader::Track {
     int settled(double crossing, const RampSegment& segment, int side) const {
         const PixelRect& clip = shader_.surface_.clip();
         crossing = std::clamp<double>(crossing, clip.left - 1, clip.right);
-        // Upwards; on which side a crossing exactly at a pixel falls matters only where it is sharp.
-        const int whole = static_cast<int>(crossing);
-        const int near = whole + (crossing > whole ? 1 : 0);
-        if (!segment.sharp)
-            return near;
-        const auto beyond = [&](int x) { return (parameter(x) >= segment.start) == (side > 0); };
-        if (beyond(near - 1))
-            return near - 1;
-        return beyond(near) ? near : near + 1;
+        return firstPixelBeyond(crossing, segment.sharp,
+                                [&](int x) { return (parameter(x) >= segment.start) == (side > 0); });
     }
 
     const RadialShader& shader_;
@@ -107,7 +95,7 @@ void RadialShader::row(int y, std::span<const CoverageRun> runs) {
         for (int x = begin; x < end; ++x)
             queue.add(segment, x, track.parameter(x), shareOf(run, opacity_));
     };
-    walkSegments(runs, track, paint, [&] { queue.flush(present()); });
+    walkRuns(runs, track, paint, [&] { queue.flush(present()); });
 }
 
 } // namespace easel::paint

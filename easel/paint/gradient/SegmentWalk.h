@@ -6,7 +6,9 @@
 #include "easel/paint/pixels/PixelKernels.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <limits>
 #include <span>
 
 namespace easel::paint {
@@ -16,7 +18,7 @@ namespace easel::paint {
 // `paint(begin, end, run)` paints pixels of one run in the present segment, and `leave()` is called at its
 // end.
 template <class Run, class Track, class Paint, class Leave>
-void walkSegments(std::span<const Run> runs, Track& track, const Paint& paint, const Leave& leave) {
+void walkRuns(std::span<const Run> runs, Track& track, const Paint& paint, const Leave& leave) {
     track.enter(runs.front().begin);
     for (const Run& run : runs) {
         for (int x = run.begin; x < run.end;) {
@@ -32,6 +34,21 @@ void walkSegments(std::span<const Run> runs, Track& track, const Paint& paint, c
         }
     }
     leave();
+}
+
+// Beyond every pixel.
+constexpr int kEndless = std::numeric_limits<int>::max();
+
+// The first pixel that lies beyond a place between pixels. Where the color jumps there, rounding of the place
+// must not decide, and `beyond(x)` tells of a pixel near it on which side it is.
+template <class Beyond> int firstPixelBeyond(double place, bool sharp, const Beyond& beyond) {
+    const int whole = static_cast<int>(place);
+    const int near = whole + (place > whole ? 1 : 0);
+    if (!sharp)
+        return near;
+    if (beyond(near - 1))
+        return near - 1;
+    return beyond(near) ? near : near + 1;
 }
 
 inline float shareOf(std::uint32_t coverage, double opacity) {

@@ -19,9 +19,9 @@ template <class D> hwy::HWY_NAMESPACE::VFromD<D> LoadPixels(D d, const std::uint
     namespace hn = hwy::HWY_NAMESPACE;
     if (at + static_cast<int>(hn::Lanes(d)) <= room)
         return hn::LoadU(d, in + at);
-    HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / 4] = {};
+    HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / sizeof(std::uint32_t)] = {};
     if (at < room)
-        std::memcpy(whole, in + at, static_cast<std::size_t>(room - at) * 4);
+        std::memcpy(whole, in + at, static_cast<std::size_t>(room - at) * sizeof whole[0]);
     return hn::Load(d, whole);
 }
 

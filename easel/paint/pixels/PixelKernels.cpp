@@ -66,7 +66,7 @@ void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, c
     const hn::RebindToUnsigned<decltype(df)> d;
     const auto step = static_cast<float>(run.step);
     const auto stride = hn::Set(df, step * static_cast<float>(hn::Lanes(df)));
-    const auto waysOf = BitsOfWays(df, run, 12582912.0F); // 3 times 2 to the 22
+    const auto waysOf = BitsOfWays(df, run, 3.0F * (1 << 22));
     auto along = hn::Mul(hn::Set(df, step), hn::Iota(df, 0));
     FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
         const auto ways = waysOf(along);

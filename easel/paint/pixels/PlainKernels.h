@@ -12,7 +12,7 @@ namespace easel::paint::plain {
 
 // The nearest whole number, ties to even, for levels; the addition rounds as every SIMD unit does.
 inline std::uint32_t nearestLevel(float level) {
-    constexpr float kShift = 8388608.0F; // 2 to the 23
+    constexpr float kShift = 1 << 23;
     return std::bit_cast<std::uint32_t>(level + kShift) & 0xFF;
 }
 

@@ -12,7 +12,7 @@
 namespace easel::paint::plain {
 
 // Added to a number, leaves the nearest whole one in the lowest bits.
-constexpr float kToBits = 12582912.0F; // 3 times 2 to the 22
+constexpr float kToBits = 3.0F * (1 << 22);
 // 255 as mixLevelOf gives it, and more, so that no rounding lets a color exceed its alpha.
 constexpr float kAlphaLevel = 65409.0F;
 // What is left of 65536 parts for the pixel below; a little less, so that all of them fit in 16 bits.

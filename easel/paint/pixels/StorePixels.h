@@ -24,9 +24,9 @@ template <class D, class V> void StorePixels(D d, V pixels, std::uint32_t* out, 
     if (at + lanes <= room)
         hn::StoreU(pixels, d, out + at);
     else if (at < room) {
-        HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / 4];
+        HWY_ALIGN std::uint32_t whole[HWY_MAX_BYTES / sizeof(std::uint32_t)];
         hn::Store(pixels, d, whole);
-        std::memcpy(out + at, whole, static_cast<std::size_t>(room - at) * 4);
+        std::memcpy(out + at, whole, static_cast<std::size_t>(room - at) * sizeof whole[0]);
     }
 }
 

@@ -15,7 +15,7 @@ constexpr std::ptrdiff_t kAlignment = 64;
 constexpr std::size_t kHugePage = std::size_t{2} << 20;
 
 std::ptrdiff_t strideFor(int width) {
-    return (static_cast<std::ptrdiff_t>(width) * 4 + kAlignment - 1) / kAlignment * kAlignment;
+    return (static_cast<std::ptrdiff_t>(width) * kBytesPerPixel + kAlignment - 1) / kAlignment * kAlignment;
 }
 
 } // namespace

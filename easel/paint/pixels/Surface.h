@@ -9,12 +9,14 @@
 
 namespace easel::paint {
 
+constexpr std::ptrdiff_t kBytesPerPixel = sizeof(std::uint32_t);
+
 // Pixels owned by someone else, with the box outside of which nothing is painted. A pixel is 0xAARRGGBB in
 // the machine's byte order.
 class SurfaceView {
   public:
     SurfaceView() = default;
-    // `stride` is the distance between rows in bytes, a multiple of 4.
+    // `stride` is the distance between rows in bytes, a multiple of kBytesPerPixel.
     SurfaceView(std::uint32_t* pixels, int width, int height, std::ptrdiff_t stride)
         : pixels_(pixels), width_(width), height_(height),
           stride_(stride), clip_{.right = width, .bottom = height} {}
@@ -22,7 +24,7 @@ class SurfaceView {
     int width() const { return width_; }
     int height() const { return height_; }
     std::ptrdiff_t stride() const { return stride_; }
-    std::uint32_t* row(int y) const { return pixels_ + y * (stride_ / 4); }
+    std::uint32_t* row(int y) const { return pixels_ + y * (stride_ / kBytesPerPixel); }
 
     // Always within the surface.
     const PixelRect& clip() const { return clip_; }
@@ -50,8 +52,8 @@ class Surface {
     int width() const { return width_; }
     int height() const { return height_; }
     std::ptrdiff_t stride() const { return stride_; }
-    std::uint32_t* row(int y) { return pixels_.get() + y * (stride_ / 4); }
-    const std::uint32_t* row(int y) const { return pixels_.get() + y * (stride_ / 4); }
+    std::uint32_t* row(int y) { return pixels_.get() + y * (stride_ / kBytesPerPixel); }
+    const std::uint32_t* row(int y) const { return pixels_.get() + y * (stride_ / kBytesPerPixel); }
     SurfaceView view() { return {pixels_.get(), width_, height_, stride_}; }
     void clear(std::uint32_t pixel);
 

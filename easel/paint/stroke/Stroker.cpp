@@ -15,6 +15,7 @@
 namespace easel::paint {
 
 using drawing::Contour;
+using drawing::cross;
 using drawing::dot;
 using drawing::length;
 using drawing::LineCap;
@@ -26,9 +27,6 @@ namespace {
 constexpr double kMostDashes = 200000;
 constexpr double kMostArcSteps = 1000;
 
-double cross(Point a, Point b) {
-    return a.x * b.y - a.y * b.x;
-}
 Point quarterTurn(Point p) {
     return {-p.y, p.x};
 }

@@ -31,8 +31,8 @@ exports::PdfPage pageFor(const drawing::Drawing& drawing, const QPrinter& printe
     const QPageLayout layout = printer.pageLayout();
     const QRectF paper = layout.fullRect(QPageLayout::Point);
     const QRectF printable = layout.paintRect(QPageLayout::Point);
-    const double points = std::min(
-        {exports::kPointsAUnit, printable.width() / drawing.width(), printable.height() / drawing.height()});
+    const double points = std::min({exports::kPointsPerUnit, printable.width() / drawing.width(),
+                                    printable.height() / drawing.height()});
     const QPointF from = printable.center() - QPointF(drawing.width(), drawing.height()) * points / 2;
     return {paper.width(), paper.height(), from.x(), from.y(), points};
 }
