@@ -57,7 +57,7 @@ enum class FillOrigin : std::uint8_t { File, Edited };
 struct ElementSpan {
     std::uint32_t tagBegin = 0; // the '<' of the start tag
     std::uint32_t tagEnd = 0;   // one past its '>'; equal to tagBegin for an object that is in no file
-    std::uint32_t use = 0;      // number of the repetition it was made by; 0 for the element where it stands
+    std::uint32_t use = 0; // number of the use instance it was made by; 0 for the element where it stands
 
     bool inFile() const { return tagEnd > tagBegin; }
     // The check takes the comparison with 0 behind a defaulted operator for one with a pointer.

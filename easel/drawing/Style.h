@@ -13,7 +13,7 @@ enum class LineJoin : std::uint8_t { Miter, Round, Bevel };
 enum class LineCap : std::uint8_t { Butt, Round, Square };
 enum class PaintStep : std::uint8_t { Fill, Stroke };
 
-// Lengths are in the object's own units; `Object::transform` takes them to the drawing.
+// Lengths are in the object's own units; `Object::units` takes them to the drawing.
 struct Stroke {
     Paint paint; // without paint nothing is stroked
     double opacity = 1;

@@ -3,7 +3,7 @@
 
 #include "easel/export/GradientRange.h"
 #include "easel/paint/GroupRuns.h"
-#include "easel/paint/ObjectInk.h"
+#include "easel/paint/ObjectPaintSource.h"
 
 #include <cairo.h>
 
@@ -219,23 +219,23 @@ void CairoPainter::paintObject(const Object& object) {
 }
 
 void CairoPainter::paintFill(const Object& object, double opacity) {
-    const paint::HeldInk ink = paint::HeldInk::ofFill(object);
-    if (!ink.visible())
+    const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
+    if (!source.visible())
         return;
-    setInk(ink.ink(), opacity * opacityOf(drawing::styleOf(object).fillOpacity));
+    setSource(source.source(), opacity * opacityOf(drawing::styleOf(object).fillOpacity));
     addPath(object.outline);
     cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
     cairo_fill(cairo_);
 }
 
 void CairoPainter::paintStroke(const Object& object, double opacity) {
-    const paint::HeldInk ink = paint::HeldInk::ofStroke(object);
+    const paint::HeldPaintSource source = paint::HeldPaintSource::ofStroke(object);
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
     const drawing::Affine units = drawing::unitsOf(object);
-    if (!ink.visible() || !units.invertible() || !std::isfinite(stroke.width))
+    if (!source.visible() || !units.invertible() || !std::isfinite(stroke.width))
         return;
     const Saved saved(cairo_);
-    setInk(ink.ink(), opacity * opacityOf(stroke.opacity));
+    setSource(source.source(), opacity * opacityOf(stroke.opacity));
     addPath(object.outline);
     // The path is already fixed in the page's space; what is changed now is the shape of the pen.
     const cairo_matrix_t own = matrixOf(units);
@@ -248,14 +248,14 @@ void CairoPainter::paintStroke(const Object& object, double opacity) {
     cairo_stroke(cairo_);
 }
 
-void CairoPainter::setInk(const paint::Ink& ink, double opacity) {
-    if (const auto* gradient = std::get_if<const drawing::Gradient*>(&ink)) {
+void CairoPainter::setSource(const paint::PaintSource& source, double opacity) {
+    if (const auto* gradient = std::get_if<const drawing::Gradient*>(&source)) {
         const std::optional<drawing::RampStop> only = onlyColor(**gradient);
         if (!only)
             return setGradient(withinUnitRange(**gradient), opacity);
-        return setInk(drawing::ColorPaint{only->color, only->opacity}, opacity);
+        return setSource(drawing::ColorPaint{only->color, only->opacity}, opacity);
     }
-    const auto& paint = std::get<drawing::ColorPaint>(ink);
+    const auto& paint = std::get<drawing::ColorPaint>(source);
     cairo_set_source_rgba(cairo_, level(paint.color.red), level(paint.color.green), level(paint.color.blue),
                           opacityOf(paint.opacity) * opacity);
 }

@@ -31,7 +31,7 @@ class CairoPainter {
     bool narrow(const drawing::ClipPath& clip);
     void paintMask(const drawing::ClipPath& clip);
 
-    void setInk(const paint::Ink& ink, double opacity);
+    void setSource(const paint::PaintSource& source, double opacity);
     void setGradient(const drawing::Gradient& gradient, double opacity);
     void addPath(const drawing::Path& path);
 

@@ -3,7 +3,7 @@
 
 #include "easel/export/GradientRange.h"
 #include "easel/paint/GroupRuns.h"
-#include "easel/paint/ObjectInk.h"
+#include "easel/paint/ObjectPaintSource.h"
 #include "easel/svg/style/Color.h"
 #include "easel/svg/write/ElementText.h"
 #include "easel/svg/write/GradientElement.h"
@@ -94,31 +94,31 @@ class SvgWriter {
         }
     }
     std::string fillText(const Object& object, const Affine& toOwn) {
-        const paint::HeldInk ink = paint::HeldInk::ofFill(object);
-        if (!ink.visible())
+        const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
+        if (!source.visible())
             return attribute("fill", "none");
-        return inkText("fill", ink.ink(), drawing::styleOf(object).fillOpacity, toOwn);
+        return paintText("fill", source.source(), drawing::styleOf(object).fillOpacity, toOwn);
     }
     std::string strokeText(const Object& object, const Affine& toOwn) {
-        const paint::HeldInk ink = paint::HeldInk::ofStroke(object);
-        if (!ink.visible())
+        const paint::HeldPaintSource source = paint::HeldPaintSource::ofStroke(object);
+        if (!source.visible())
             return {};
         const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
-        return inkText("stroke", ink.ink(), stroke.opacity, toOwn) +
+        return paintText("stroke", source.source(), stroke.opacity, toOwn) +
                attributeUnless(1, "stroke-width", stroke.width) +
                svg::penText(stroke, svg::Defaults::LeftOut);
     }
 
-    std::string inkText(const std::string& property, const paint::Ink& ink, double opacity,
-                        const Affine& toOwn) {
-        if (const auto* gradient = std::get_if<const drawing::Gradient*>(&ink)) {
+    std::string paintText(const std::string& property, const paint::PaintSource& source, double opacity,
+                          const Affine& toOwn) {
+        if (const auto* gradient = std::get_if<const drawing::Gradient*>(&source)) {
             const std::optional<drawing::RampStop> only = onlyColor(**gradient);
             if (only)
-                return inkText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
+                return paintText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
             return attribute(property, referenceTo(gradientName(withinUnitRange(**gradient), toOwn))) +
                    attributeUnless(1, property + "-opacity", opacityOf(opacity));
         }
-        const auto& paint = std::get<drawing::ColorPaint>(ink);
+        const auto& paint = std::get<drawing::ColorPaint>(source);
         return attribute(property, svg::colorText(paint.color)) +
                attributeUnless(1, property + "-opacity", opacityOf(paint.opacity) * opacityOf(opacity));
     }

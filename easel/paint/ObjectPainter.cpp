@@ -5,7 +5,7 @@
 #include "easel/paint/ClipMask.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
-#include "easel/paint/ObjectInk.h"
+#include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/stroke/Stroker.h"
 
 namespace easel::paint {
@@ -94,19 +94,19 @@ void ObjectPainter::paintSteps(const Object& object, const SurfaceView& surface,
 
 void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                               double opacity) {
-    const HeldInk fill = HeldInk::ofFill(object);
+    const HeldPaintSource fill = HeldPaintSource::ofFill(object);
     if (fill.visible())
-        painter_.fill(surface, object.outline, object.fillRule, toSurface, fill.ink(),
+        painter_.fill(surface, object.outline, object.fillRule, toSurface, fill.source(),
                       opacity * drawing::styleOf(object).fillOpacity);
 }
 
 // The pen is round in the object's own units only, so the stroke is made there and mapped to the drawing.
 void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                                 double opacity) {
-    const HeldInk ink = HeldInk::ofStroke(object);
+    const HeldPaintSource source = HeldPaintSource::ofStroke(object);
     const Affine units = drawing::unitsOf(object);
     const double scale = (toSurface * units).largestScale();
-    if (!ink.visible() || !units.invertible() || !(scale > 0))
+    if (!source.visible() || !units.invertible() || !(scale > 0))
         return;
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
     StrokeShape shape = units == Affine{} ? strokeShape(object.outline, stroke, kStrokeTolerance / scale)
@@ -115,7 +115,7 @@ void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface
     for (drawing::Contour& polygon : shape.polygons)
         for (drawing::Point& point : polygon.points)
             point = units(point);
-    painter_.fill(surface, shape.polygons, drawing::FillRule::NonZero, toSurface, ink.ink(),
+    painter_.fill(surface, shape.polygons, drawing::FillRule::NonZero, toSurface, source.source(),
                   opacity * stroke.opacity * shape.opacity);
 }
 

@@ -1,4 +1,4 @@
-// The way of a fill: outline to edges, edges to rows, rows to the shader of the ink.
+// A fill: outline to edges, edges to rows, rows to the shader of the paint source.
 #include "easel/paint/Painter.h"
 
 #include "easel/paint/coverage/OutlineEdges.h"
@@ -61,35 +61,35 @@ ParameterRange rangeOf(const RadialMap& map, const PixelRect& area) {
 
 } // namespace
 
-// Calls `use` with the shader for the ink, which serves the pixels of `area`.
+// Calls `use` with the shader for the paint source, which serves the pixels of `area`.
 template <class Use>
 void Painter::withShader(const SurfaceView& surface, const PixelRect& area, const Affine& toSurface,
-                         const Ink& ink, double opacity, const Use& use) {
+                         const PaintSource& source, double opacity, const Use& use) {
     opacity = drawing::validOpacity(opacity);
-    if (const auto* color = std::get_if<drawing::ColorPaint>(&ink)) {
-        segments_.layOut(colorOf(*color));
-        FlatShader shader(surface, segments_, opacity);
+    if (const auto* color = std::get_if<drawing::ColorPaint>(&source)) {
+        colorSpans_.layOut(colorOf(*color));
+        FlatShader shader(surface, colorSpans_, opacity);
         return use(shader);
     }
-    const drawing::Gradient& gradient = *std::get<const drawing::Gradient*>(ink);
+    const drawing::Gradient& gradient = *std::get<const drawing::Gradient*>(source);
     const ParameterMap map = parameterMapOf(gradient, toSurface);
     const auto laidOut = [&](const auto& known) {
         const ParameterRange range = rangeOf(known, area);
-        return segments_.layOut(gradient.ramp, gradient.spread, range.lowest, range.highest) ==
-               RampSegments::Outcome::Ready;
+        return colorSpans_.layOut(gradient.ramp, gradient.spread, range.lowest, range.highest) ==
+               ColorSpans::Outcome::Ready;
     };
     if (std::holds_alternative<FlatMap>(map)) {
-        segments_.layOut(drawing::colorOf(gradient.ramp.stops().back()));
-        FlatShader shader(surface, segments_, opacity);
+        colorSpans_.layOut(drawing::colorOf(gradient.ramp.stops().back()));
+        FlatShader shader(surface, colorSpans_, opacity);
         return use(shader);
     }
     if (const auto* line = std::get_if<LinearMap>(&map); line && laidOut(*line)) {
-        LinearShader shader(surface, *line, segments_, opacity, linear_);
+        LinearShader shader(surface, *line, colorSpans_, opacity, linear_);
         return use(shader);
     }
     if (const auto* circles = std::get_if<RadialMap>(&map);
         circles && RadialShader::handles(*circles) && laidOut(*circles)) {
-        RadialShader shader(surface, *circles, segments_, opacity, radialPieces_);
+        RadialShader shader(surface, *circles, colorSpans_, opacity, radialPieces_);
         return use(shader);
     }
     PointShader shader(surface, gradient, map, opacity);
@@ -97,36 +97,38 @@ void Painter::withShader(const SurfaceView& surface, const PixelRect& area, cons
 }
 
 void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Affine& toSurface,
-                    const Ink& ink, double opacity) {
+                    const PaintSource& source, double opacity) {
     const PixelRect area = rasteriser_.bounds();
     if (area.empty())
         return;
     if (area.width() <= kSmallWidth && area.height() <= kSmallHeight)
         fetch(surface, area);
-    withShader(surface, area, toSurface, ink, opacity,
+    withShader(surface, area, toSurface, source, opacity,
                [&](CoverageSink& shader) { rasteriser_.sweep(rule, shader); });
 }
 
 void Painter::fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,
-                   const Affine& toSurface, const Ink& ink, double opacity) {
+                   const Affine& toSurface, const PaintSource& source, double opacity) {
     rasteriser_.begin(surface.clip());
     addOutline(rasteriser_, shape, toSurface);
-    sweep(surface, rule, toSurface, ink, opacity);
+    sweep(surface, rule, toSurface, source, opacity);
 }
 
 void Painter::fill(const SurfaceView& surface, std::span<const drawing::Contour> polygons,
-                   drawing::FillRule rule, const Affine& toSurface, const Ink& ink, double opacity) {
+                   drawing::FillRule rule, const Affine& toSurface, const PaintSource& source,
+                   double opacity) {
     rasteriser_.begin(surface.clip());
     addOutline(rasteriser_, polygons, toSurface);
-    sweep(surface, rule, toSurface, ink, opacity);
+    sweep(surface, rule, toSurface, source, opacity);
 }
 
-void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const Ink& ink, double opacity) {
+void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const PaintSource& source,
+                      double opacity) {
     const PixelRect& clip = surface.clip();
     if (clip.empty())
         return;
     const PixelSpan whole[] = {{clip.left, clip.right}};
-    withShader(surface, clip, toSurface, ink, opacity, [&](CoverageSink& shader) {
+    withShader(surface, clip, toSurface, source, opacity, [&](CoverageSink& shader) {
         for (int y = clip.top; y < clip.bottom; ++y)
             shader.row(y, {whole, {}, nullptr});
     });

@@ -5,9 +5,9 @@
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 #include "easel/paint/coverage/Rasteriser.h"
+#include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/gradient/LinearShader.h"
 #include "easel/paint/gradient/RadialPiece.h"
-#include "easel/paint/gradient/RampSegments.h"
 #include "easel/paint/pixels/Surface.h"
 
 #include <span>
@@ -16,34 +16,34 @@
 namespace easel::paint {
 
 // What a shape is filled with. A gradient is only referred to and must live through the call it is given to.
-using Ink = std::variant<drawing::ColorPaint, const drawing::Gradient*>;
+using PaintSource = std::variant<drawing::ColorPaint, const drawing::Gradient*>;
 
 // Shapes and gradients are in drawing coordinates, which `toSurface` maps to surface coordinates, where pixel
 // (x, y) covers x to x + 1 and y to y + 1. A pixel takes the color at its centre, weighted by the exact share
 // of its area that the shape covers, and is composed over what was there. Nothing is painted outside the
-// view's clip. `opacity`, from 0 to 1, multiplies that of the ink.
+// view's clip. `opacity`, from 0 to 1, multiplies that of the paint source.
 //
 // A painter keeps scratch memory from one fill to the next; use one for each thread.
 class Painter {
   public:
     void fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,
-              const drawing::Affine& toSurface, const Ink& ink, double opacity = 1);
+              const drawing::Affine& toSurface, const PaintSource& source, double opacity = 1);
     // Polygons that are flat already; each counts as closed.
     void fill(const SurfaceView& surface, std::span<const drawing::Contour> polygons, drawing::FillRule rule,
-              const drawing::Affine& toSurface, const Ink& ink, double opacity = 1);
+              const drawing::Affine& toSurface, const PaintSource& source, double opacity = 1);
     // The whole clip.
-    void fillAll(const SurfaceView& surface, const drawing::Affine& toSurface, const Ink& ink,
+    void fillAll(const SurfaceView& surface, const drawing::Affine& toSurface, const PaintSource& source,
                  double opacity = 1);
 
   private:
     template <class Use>
     void withShader(const SurfaceView& surface, const PixelRect& area, const drawing::Affine& toSurface,
-                    const Ink& ink, double opacity, const Use& use);
+                    const PaintSource& source, double opacity, const Use& use);
     void sweep(const SurfaceView& surface, drawing::FillRule rule, const drawing::Affine& toSurface,
-               const Ink& ink, double opacity);
+               const PaintSource& source, double opacity);
 
     Rasteriser rasteriser_;
-    RampSegments segments_;
+    ColorSpans colorSpans_;
     LinearScratch linear_;
     std::vector<RadialPiece> radialPieces_;
 };

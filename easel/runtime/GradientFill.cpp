@@ -48,9 +48,9 @@ drawing::Gradient absoluteGradient(const CGradientData& record) {
 } // namespace
 
 void fillWithGradient(paint::Port& port, const drawing::Path& outline, const CGradientData& record) {
-    const drawing::Gradient ink = absoluteGradient(record);
+    const drawing::Gradient source = absoluteGradient(record);
     paint::Painter painter;
-    painter.fill(surfaceOf(port), outline, drawing::FillRule::EvenOdd, toImage(port), &ink);
+    painter.fill(surfaceOf(port), outline, drawing::FillRule::EvenOdd, toImage(port), &source);
     port.addDamage(port.bounds());
 }
 

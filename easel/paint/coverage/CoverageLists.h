@@ -48,7 +48,7 @@ class CoverageLists {
         void addEven(int end) {
             full_->begin = reached_;
             full_->end = end;
-            // Not a choice of ways, which would often be guessed wrong.
+            // Not a branch, which would often be predicted wrong.
             full_ += static_cast<int>(covered_ == kFullCoverage) & static_cast<int>(reached_ < end);
             if (covered_ % kFullCoverage != 0 && reached_ < end)
                 partial_ = listEvenPartial({reached_, end}, covered_, coverage_, partial_);

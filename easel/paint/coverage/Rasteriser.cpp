@@ -95,10 +95,10 @@ void Rasteriser::addSloped(drawing::Point upper, drawing::Point lower, int windi
     if (top >= bottom)
         return;
     const auto height = static_cast<double>(bottom - top);
-    const double way = lower.x - upper.x;
+    const double run = lower.x - upper.x;
     // Steeper ones stay in a column so long that their rise does not matter.
-    const double rise = std::min(height / std::abs(way), kSteepest);
-    edges_.push_back({top, bottom, upper.x, way / height, static_cast<float>(rise * winding), winding});
+    const double rise = std::min(height / std::abs(run), kSteepest);
+    edges_.push_back({top, bottom, upper.x, run / height, static_cast<float>(rise * winding), winding});
     leftmost_ = std::min({leftmost_, upper.x, lower.x});
     rightmost_ = std::max({rightmost_, upper.x, lower.x});
     highest_ = std::min(highest_, top);

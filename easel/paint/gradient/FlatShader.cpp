@@ -1,11 +1,11 @@
 // Plain fills.
 #include "easel/paint/gradient/FlatShader.h"
 
-#include "easel/paint/gradient/SegmentWalk.h"
+#include "easel/paint/gradient/RunWalk.h"
 
 namespace easel::paint {
 
-FlatShader::FlatShader(const SurfaceView& surface, const RampSegments& color, double opacity)
+FlatShader::FlatShader(const SurfaceView& surface, const ColorSpans& color, double opacity)
     : surface_(surface), color_(color.all().front()), opacity_(opacity), piece_(color_, 0) {}
 
 void FlatShader::row(int y, const RowCoverage& coverage) {

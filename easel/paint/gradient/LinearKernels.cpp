@@ -94,8 +94,8 @@ template <class V> HWY_INLINE hn::Vec<Signed16<Part>> NegativeShares(V coverage)
 template <class V, class S> HWY_INLINE V Mixed(V below, V above, S negativeShares) {
     const Signed16<Part> s16;
     const auto from = hn::BitCast(s16, below);
-    const auto way = hn::Sub(hn::BitCast(s16, above), from);
-    return hn::BitCast(Unsigned16<Part>(), hn::Sub(from, hn::MulFixedPoint15(way, negativeShares)));
+    const auto change = hn::Sub(hn::BitCast(s16, above), from);
+    return hn::BitCast(Unsigned16<Part>(), hn::Sub(from, hn::MulFixedPoint15(change, negativeShares)));
 }
 
 // `even` and `odd` are new colors in 256ths of a level.

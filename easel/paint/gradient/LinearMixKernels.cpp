@@ -35,9 +35,9 @@ using Colors = hn::Repartition<std::uint16_t, Pixels>;
 // Levels of one pixel, in each block of 16 bytes.
 HWY_INLINE hn::Vec<Pixels> LevelsAt(int x, const LinearMixStretch& stretch) {
     const Pixels d;
-    const auto way = hn::Set(d, static_cast<std::uint32_t>(x));
+    const auto distance = hn::Set(d, static_cast<std::uint32_t>(x));
     return hn::Add(hn::LoadDup128(d, stretch.origin.data()),
-                   hn::Mul(hn::LoadDup128(d, stretch.steps->pixel.data()), way));
+                   hn::Mul(hn::LoadDup128(d, stretch.steps->pixel.data()), distance));
 }
 
 template <class Bytes> HWY_INLINE hn::Vec<Pixels> Taken(hn::Vec<Pixels> from, const Bytes& places) {

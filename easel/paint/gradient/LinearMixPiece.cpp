@@ -1,4 +1,4 @@
-// Fixed-point form of a segment's opacity.
+// Fixed-point form of a color span's opacity.
 #include "easel/paint/gradient/LinearMixPiece.h"
 
 namespace easel::paint {
@@ -13,12 +13,12 @@ constexpr std::uint32_t kMadeUp = 1 << 16;
 
 } // namespace
 
-LinearMixPiece::LinearMixPiece(const RampSegment& segment, const LinearPiece& color, double perPixel,
+LinearMixPiece::LinearMixPiece(const ColorSpan& colorSpan, const LinearPiece& color, double perPixel,
                                double opacity)
-    : color_(&color), anchor_(segment.anchor), reach_(segment.reach),
-      start_(segment.color[3] * opacity * kOne), slope_(segment.slope[3] * opacity * kOne) {
+    : color_(&color), anchor_(colorSpan.anchor), reach_(colorSpan.reach),
+      start_(colorSpan.color[3] * opacity * kOne), slope_(colorSpan.slope[3] * opacity * kOne) {
     // Towards 0, so that the weights do not run ahead of the exact ones and past their last one. Where a
-    // segment is so steep that it ends within a pixel, only its first weight is ever used.
+    // color span is so steep that it ends within a pixel, only its first weight is ever used.
     const double step = std::clamp(slope_ * perPixel, -kOne, kOne);
     const LinearLevels& pixel = color.steps().pixel;
     steps_.pixel = {pixel[0], pixel[1], pixel[2],
@@ -26,7 +26,7 @@ LinearMixPiece::LinearMixPiece(const RampSegment& segment, const LinearPiece& co
     for (std::uint32_t i = 0; i < kBlock; ++i)
         steps_.weight[i] = i * steps_.pixel[3];
     steps_.color = &color.steps();
-    steps_.opaque = opacity == 1 && segment.opaque();
+    steps_.opaque = opacity == 1 && colorSpan.opaque();
 }
 
 void LinearMixPiece::layOut(int x, int end, double parameter, LinearMixStretch& stretch) const {
@@ -35,8 +35,8 @@ void LinearMixPiece::layOut(int x, int end, double parameter, LinearMixStretch& 
     color_->layOut(x, parameter, stretch.origin.data());
     for (std::size_t i = 0; i < 3; ++i)
         stretch.origin[i] += kMadeUp;
-    const double way = std::clamp(parameter - anchor_, 0.0, reach_);
-    const double weight = std::clamp(start_ + slope_ * way, kMargin, kOne - kMargin);
+    const double distance = std::clamp(parameter - anchor_, 0.0, reach_);
+    const double weight = std::clamp(start_ + slope_ * distance, kMargin, kOne - kMargin);
     stretch.origin[3] = static_cast<std::uint32_t>(weight) - steps_.pixel[3] * static_cast<std::uint32_t>(x);
 }
 

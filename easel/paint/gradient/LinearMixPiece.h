@@ -1,17 +1,17 @@
-// One segment of a ramp with opacity prepared for all rows of a linear gradient.
+// One color span of a ramp with opacity prepared for all rows of a linear gradient.
 #pragma once
 
+#include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/gradient/LinearMixKernels.h"
 #include "easel/paint/gradient/LinearPiece.h"
-#include "easel/paint/gradient/RampSegments.h"
 
 namespace easel::paint {
 
 class LinearMixPiece {
   public:
-    // `color` is the same segment without opacity and must outlive the piece. `perPixel` is the change of the
-    // parameter from a pixel to its right neighbor; `opacity` multiplies that of the segment.
-    LinearMixPiece(const RampSegment& segment, const LinearPiece& color, double perPixel, double opacity);
+    // `color` is the same color span without opacity and must outlive the piece. `perPixel` is the change of
+    // the parameter from a pixel to its right neighbor; `opacity` multiplies that of the color span.
+    LinearMixPiece(const ColorSpan& colorSpan, const LinearPiece& color, double perPixel, double opacity);
 
     // As LinearPiece does it.
     void layOut(int x, int end, double parameter, LinearMixStretch& stretch) const;

@@ -1,4 +1,4 @@
-// Fixed-point form of a segment.
+// Fixed-point form of a color span.
 #include "easel/paint/gradient/LinearPiece.h"
 
 namespace easel::paint {
@@ -15,13 +15,13 @@ std::uint32_t nearestUnit(double value) {
 
 } // namespace
 
-LinearPiece::LinearPiece(const RampSegment& segment, double perPixel)
-    : anchor_(segment.anchor), reach_(segment.reach) {
+LinearPiece::LinearPiece(const ColorSpan& colorSpan, double perPixel)
+    : anchor_(colorSpan.anchor), reach_(colorSpan.reach) {
     for (std::size_t i = 0; i < start_.size(); ++i) {
-        start_[i] = segment.color[i] * kUnits + kRounding;
-        slope_[i] = segment.slope[i] * kUnits;
-        // Where a segment is so steep that it ends within a pixel, only its first color is ever used.
-        const double step = std::clamp(segment.slope[i] * perPixel, -256.0, 256.0) * kUnits;
+        start_[i] = colorSpan.color[i] * kUnits + kRounding;
+        slope_[i] = colorSpan.slope[i] * kUnits;
+        // Where a color span is so steep that it ends within a pixel, only its first color is ever used.
+        const double step = std::clamp(colorSpan.slope[i] * perPixel, -256.0, 256.0) * kUnits;
         steps_.pixel[i] = nearestUnit(step);
     }
     constexpr std::uint32_t kHalf = 1U << 15;
@@ -33,9 +33,9 @@ LinearPiece::LinearPiece(const RampSegment& segment, double perPixel)
 }
 
 void LinearPiece::layOut(int x, double parameter, std::uint32_t* origin) const {
-    const double way = std::clamp(parameter - anchor_, 0.0, reach_);
+    const double distance = std::clamp(parameter - anchor_, 0.0, reach_);
     for (std::size_t i = 0; i < start_.size(); ++i)
-        origin[i] = static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * way)) -
+        origin[i] = static_cast<std::uint32_t>(static_cast<std::int64_t>(start_[i] + slope_[i] * distance)) -
                     steps_.pixel[i] * static_cast<std::uint32_t>(x);
 }
 

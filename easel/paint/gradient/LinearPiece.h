@@ -1,15 +1,15 @@
-// One segment of a ramp prepared for all rows of a linear gradient.
+// One color span of a ramp prepared for all rows of a linear gradient.
 #pragma once
 
+#include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/gradient/LinearKernels.h"
-#include "easel/paint/gradient/RampSegments.h"
 
 namespace easel::paint {
 
 class LinearPiece {
   public:
     // `perPixel` is the change of the parameter from a pixel to its right neighbor.
-    LinearPiece(const RampSegment& segment, double perPixel);
+    LinearPiece(const ColorSpan& colorSpan, double perPixel);
 
     // The pixels from x to `end` of a row, the first of them with the given parameter. Written in place,
     // since a copy of what has just been written is slow.

@@ -1,21 +1,21 @@
 // Rows of linear gradients.
 #include "easel/paint/gradient/LinearShader.h"
 
-#include "easel/paint/gradient/SegmentWalk.h"
+#include "easel/paint/gradient/RunWalk.h"
 
 #include <cmath>
 
 namespace easel::paint {
 
-// Walks along a row. Its places are the segments in the order in which the row meets them, which is backwards
-// where the parameter falls to the right.
+// Walks along a row. Its places are the color spans in the order in which the row meets them, which is
+// backwards where the parameter falls to the right.
 class LinearShader::Track {
   public:
     Track(const LinearShader& shader, int y)
-        : shader_(shader), segments_(shader.segments_.all().data()), last_(shader.segments_.all().size() - 1),
-          perPixel_(shader.perPixel_), pixelsPerUnit_(shader.pixelsPerUnit_),
-          first_(shader.origin_ + shader.perRow_ * y), left_(shader.surface_.clip().left - 1),
-          right_(shader.surface_.clip().right), y_(y + 0.5) {}
+        : shader_(shader), colorSpans_(shader.colorSpans_.all().data()),
+          last_(shader.colorSpans_.all().size() - 1), perPixel_(shader.perPixel_),
+          pixelsPerUnit_(shader.pixelsPerUnit_), first_(shader.origin_ + shader.perRow_ * y),
+          left_(shader.surface_.clip().left - 1), right_(shader.surface_.clip().right), y_(y + 0.5) {}
 
     double parameter(int x) const { return first_ + perPixel_ * x; }
     std::size_t place() const { return place_; }
@@ -26,8 +26,8 @@ class LinearShader::Track {
     // Goes to the place of a pixel, which is likely to be near that where the row before began.
     void enter(int x) {
         if (level()) {
-            const std::size_t segment = shader_.segments_.find(first_);
-            place_ = rises() ? segment : last_ - segment;
+            const std::size_t colorSpan = shader_.colorSpans_.find(first_);
+            place_ = rises() ? colorSpan : last_ - colorSpan;
             end_ = kEndless;
             return;
         }
@@ -47,24 +47,25 @@ class LinearShader::Track {
     bool level() const { return !std::isfinite(pixelsPerUnit_); }
     bool rises() const { return perPixel_ >= 0; }
     // Where the next place begins.
-    const RampSegment& border(std::size_t place) const {
-        return segments_[rises() ? place + 1 : last_ - place];
+    const ColorSpan& border(std::size_t place) const {
+        return colorSpans_[rises() ? place + 1 : last_ - place];
     }
-    bool reaches(double parameter, const RampSegment& border) const {
+    bool reaches(double parameter, const ColorSpan& border) const {
         return (parameter >= border.start) == rises();
     }
     int endOf(std::size_t place) const { return place == last_ ? kEndless : pixelBeyond(border(place)); }
-    // The first pixel on the far side of a segment's start.
-    int pixelBeyond(const RampSegment& segment) const {
-        const double crossing = std::min(std::max((segment.start - first_) * pixelsPerUnit_, left_), right_);
-        return firstPixelBeyond(crossing, segment.sharp, [&](int x) {
-            return reaches(shader_.map_.at({x + 0.5, y_}), segment);
+    // The first pixel on the far side of a color span's start.
+    int pixelBeyond(const ColorSpan& colorSpan) const {
+        const double crossing =
+            std::min(std::max((colorSpan.start - first_) * pixelsPerUnit_, left_), right_);
+        return firstPixelBeyond(crossing, colorSpan.sharp, [&](int x) {
+            return reaches(shader_.map_.at({x + 0.5, y_}), colorSpan);
         });
     }
 
     const LinearShader& shader_;
-    const RampSegment* segments_;
-    std::size_t last_; // segment
+    const ColorSpan* colorSpans_;
+    std::size_t last_; // color span
     double perPixel_;
     double pixelsPerUnit_;
     double first_; // parameter at the centre of the row's pixel 0
@@ -75,25 +76,25 @@ class LinearShader::Track {
     int end_ = 0;
 };
 
-LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, const RampSegments& segments,
+LinearShader::LinearShader(const SurfaceView& surface, const LinearMap& map, const ColorSpans& colorSpans,
                            double opacity, LinearScratch& scratch)
-    : surface_(surface), map_(map), segments_(segments), opacity_(opacity),
+    : surface_(surface), map_(map), colorSpans_(colorSpans), opacity_(opacity),
       perPixel_(dot(map.toGradient.direction({1, 0}), map.axis) / map.lengthSquared),
       perRow_(dot(map.toGradient.direction({0, 1}), map.axis) / map.lengthSquared),
       origin_(map.at({0.5, 0.5})), pixelsPerUnit_(1 / perPixel_), pieces_(scratch.pieces),
       mixPieces_(scratch.mixPieces), stretches_(scratch.stretches), mixed_(scratch.mixed) {
-    stretches_.resize(segments_.all().size());
+    stretches_.resize(colorSpans_.all().size());
     pieces_.clear();
-    for (const RampSegment& segment : segments_.all()) {
-        pieces_.emplace_back(segment, perPixel_);
-        (hides(segment) ? anyHides_ : anyMixes_) = true;
+    for (const ColorSpan& colorSpan : colorSpans_.all()) {
+        pieces_.emplace_back(colorSpan, perPixel_);
+        (hides(colorSpan) ? anyHides_ : anyMixes_) = true;
     }
     if (!anyMixes_)
         return;
-    mixed_.resize(segments_.all().size());
+    mixed_.resize(colorSpans_.all().size());
     mixPieces_.clear();
     for (std::size_t i = 0; i < pieces_.size(); ++i)
-        mixPieces_.emplace_back(segments_.all()[i], pieces_[i], perPixel_, opacity_);
+        mixPieces_.emplace_back(colorSpans_.all()[i], pieces_[i], perPixel_, opacity_);
 }
 
 void LinearShader::row(int y, const RowCoverage& coverage) {
@@ -114,8 +115,8 @@ void LinearShader::row(int y, const RowCoverage& coverage) {
         blendMixed(pixels, coverage, track);
 }
 
-bool LinearShader::hides(const RampSegment& segment) const {
-    return opacity_ == 1 && segment.opaque();
+bool LinearShader::hides(const ColorSpan& colorSpan) const {
+    return opacity_ == 1 && colorSpan.opaque();
 }
 
 void LinearShader::layOut(Track& track, const PixelSpan& extent) {
@@ -142,7 +143,7 @@ void LinearShader::layOutMixed(Track& track, int x, int end, LinearStretch& stre
     const double parameter = track.parameter(x);
     LinearMixStretch& mixed = mixed_[static_cast<std::size_t>(&stretch - stretches_.data())];
     mixPieces_[index].layOut(x, end, parameter, mixed);
-    if (hides(segments_.all()[index])) {
+    if (hides(colorSpans_.all()[index])) {
         pieces_[index].layOut(x, end, parameter, stretch);
     } else {
         stretch.end = end;
@@ -153,7 +154,7 @@ void LinearShader::layOutMixed(Track& track, int x, int end, LinearStretch& stre
 // Edges, pixel by pixel.
 void LinearShader::blendMixed(std::uint32_t* pixels, const RowCoverage& coverage, Track& track) const {
     BlendQueue queue(pixels);
-    const auto present = [&]() -> const RampSegment& { return segments_.all()[track.index()]; };
+    const auto present = [&]() -> const ColorSpan& { return colorSpans_.all()[track.index()]; };
     const auto paint = [&](int begin, int end, const PixelSpan&) {
         if (!hides(present()))
             for (int x = begin; x < end; ++x)

@@ -41,8 +41,8 @@ inline void fillLinear(std::uint32_t* row, std::span<const PixelSpan> spans, con
 // rounds.
 inline std::uint32_t mixedLevel(std::uint32_t below, std::uint32_t above256ths, std::int32_t share) {
     const auto from = static_cast<std::int32_t>((below & 0xFF) << 7 | 0x40);
-    const std::int32_t way = static_cast<std::int32_t>(above256ths >> 1) - from;
-    return static_cast<std::uint32_t>(from - ((way * -share + 0x4000) >> 15)) >> 7;
+    const std::int32_t change = static_cast<std::int32_t>(above256ths >> 1) - from;
+    return static_cast<std::uint32_t>(from - ((change * -share + 0x4000) >> 15)) >> 7;
 }
 
 inline void blendLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearStretch* stretch,

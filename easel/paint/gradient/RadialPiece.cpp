@@ -1,4 +1,4 @@
-// Whole-number form of a segment.
+// Whole-number form of a color span.
 #include "easel/paint/gradient/RadialPiece.h"
 
 #include <cmath>
@@ -7,9 +7,9 @@ namespace easel::paint {
 
 namespace {
 
-// Ways and slopes of 16 bits, with some room for rounding, share the 2 to the 15 units between them.
-constexpr double kWayUnitsPerLevel = 256 * 32768.0 / 32704.0;
-constexpr double kWholeWay = 32768;
+// Distances and slopes of 16 bits, with some room for rounding, share the 2 to the 15 units between them.
+constexpr double kDistanceUnitsPerLevel = 256 * 32768.0 / 32704.0;
+constexpr double kWholeDistance = 32768;
 
 // Nine significant bits, so that its products with the numbers of pixels in a row are exact in single
 // precision.
@@ -19,7 +19,7 @@ double fewBits(double value) {
     return std::ldexp(std::nearbyint(fraction * 512) / 512, exponent);
 }
 
-// Nothing where a segment is so steep that its numbers overflow; it is not painted from them then.
+// Nothing where a color span is so steep that its numbers overflow; it is not painted from them then.
 std::uint32_t half(double value) {
     if (!(std::abs(value) <= 0xFFFF))
         return 0;
@@ -28,44 +28,44 @@ std::uint32_t half(double value) {
 
 } // namespace
 
-RadialPiece::RadialPiece(const RadialRows& rows, const RampSegment& segment, double opacity)
-    : circle_(rows.circle(segment.start)), flat_(segment.flat()),
-      middle_(segment.anchor + segment.reach / 2) {
-    const bool visible = opacity > 0 && (segment.color[3] != 0 || segment.slope[3] != 0);
-    look_ = !visible ? Look::Hidden : opacity == 1 && segment.opaque() ? Look::Opaque : Look::Mixed;
+RadialPiece::RadialPiece(const RadialRows& rows, const ColorSpan& colorSpan, double opacity)
+    : circle_(rows.circle(colorSpan.start)), flat_(colorSpan.flat()),
+      middle_(colorSpan.anchor + colorSpan.reach / 2) {
+    const bool visible = opacity > 0 && (colorSpan.color[3] != 0 || colorSpan.slope[3] != 0);
+    look_ = !visible ? Look::Hidden : opacity == 1 && colorSpan.opaque() ? Look::Opaque : Look::Mixed;
     if (!flat_ && visible) {
-        const double steepest = std::max(segment.steepest, 255 * opacity * std::abs(segment.slope[3]));
-        step_ = fewBits(steepest * kWayUnitsPerLevel * rows.scale());
+        const double steepest = std::max(colorSpan.steepest, 255 * opacity * std::abs(colorSpan.slope[3]));
+        step_ = fewBits(steepest * kDistanceUnitsPerLevel * rows.scale());
         toUnits_ = step_ / rows.scale();
     }
     if (look_ == Look::Opaque)
-        setColors(segment);
+        setColors(colorSpan);
     else if (look_ == Look::Mixed)
-        setMixColors(segment, opacity);
+        setMixColors(colorSpan, opacity);
 }
 
-void RadialPiece::setColors(const RampSegment& segment) {
+void RadialPiece::setColors(const ColorSpan& colorSpan) {
     std::array<std::uint32_t, 3> color;
     std::array<std::uint32_t, 3> slope{};
-    const Channels middle = segment.at(middle_);
+    const Channels middle = colorSpan.at(middle_);
     for (std::size_t i = 0; i < color.size(); ++i) {
         color[i] = half(middle[i] * 256 + 128);
         if (!flat_)
-            slope[i] = half(segment.slope[i] * 256 / toUnits_ * kWholeWay);
+            slope[i] = half(colorSpan.slope[i] * 256 / toUnits_ * kWholeDistance);
     }
     colors_ = {color[2] << 16 | color[0], 0xFF000000 | color[1], slope[2] << 16 | slope[0], slope[1]};
 }
 
-void RadialPiece::setMixColors(const RampSegment& segment, double opacity) {
-    const Channels middle = segment.at(middle_);
+void RadialPiece::setMixColors(const ColorSpan& colorSpan, double opacity) {
+    const Channels middle = colorSpan.at(middle_);
     for (std::size_t i = 0; i < mixColors_.color.size(); ++i) {
         mixColors_.color[i] = static_cast<float>(mixLevelOf(middle[i]));
         if (!flat_)
-            mixColors_.slope[i] = static_cast<float>(segment.slope[i] * 256 / toUnits_);
+            mixColors_.slope[i] = static_cast<float>(colorSpan.slope[i] * 256 / toUnits_);
     }
     mixColors_.weight = static_cast<float>(middle[3] * opacity);
     if (!flat_)
-        mixColors_.weightSlope = static_cast<float>(segment.slope[3] * opacity / toUnits_);
+        mixColors_.weightSlope = static_cast<float>(colorSpan.slope[3] * opacity / toUnits_);
 }
 
 void RadialPiece::paint(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {

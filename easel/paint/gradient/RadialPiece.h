@@ -1,18 +1,18 @@
-// One segment of a ramp prepared for all rows of a two-circle gradient.
+// One color span of a ramp prepared for all rows of a two-circle gradient.
 #pragma once
 
+#include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/gradient/RadialRow.h"
-#include "easel/paint/gradient/RampSegments.h"
 #include "easel/paint/pixels/MixKernels.h"
 
 namespace easel::paint {
 
 class RadialPiece {
   public:
-    // `opacity` multiplies that of the segment.
-    RadialPiece(const RadialRows& rows, const RampSegment& segment, double opacity);
+    // `opacity` multiplies that of the color span.
+    RadialPiece(const RadialRows& rows, const ColorSpan& colorSpan, double opacity);
 
-    // The circle that the segment starts at.
+    // The circle that the color span starts at.
     const RowCircle& circle() const { return circle_; }
     bool opaque() const { return look_ == Look::Opaque; }
     // Whether `paint` is exact for the pixels; only pieces that begin and end within a tiny part of a pixel
@@ -41,15 +41,15 @@ class RadialPiece {
     void fill(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const;
     void mix(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const;
     RadialRun runFrom(int begin, const RadialRow& row) const;
-    void setColors(const RampSegment& segment);
-    void setMixColors(const RampSegment& segment, double opacity);
+    void setColors(const ColorSpan& colorSpan);
+    void setMixColors(const ColorSpan& colorSpan, double opacity);
 
     Look look_;
     bool flat_;
     double step_ = 0;    // units from pixel to pixel far from the circles' centre
     double toUnits_ = 0; // units per unit of the parameter
-    double middle_ = 0;  // the parameter where the way is 0
-    // Of an opaque segment, or of another.
+    double middle_ = 0;  // the parameter where the distance is 0
+    // Of an opaque color span, or of another.
     RadialColors colors_{};
     MixColors mixColors_{};
 };

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "easel/paint/coverage/Rasteriser.h"
+#include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/gradient/ParameterMap.h"
 #include "easel/paint/gradient/RadialPiece.h"
-#include "easel/paint/gradient/RampSegments.h"
 
 namespace easel::paint {
 
@@ -15,9 +15,9 @@ class RadialShader : public RowSink {
     // Whether the shader knows the geometry; others need evaluation pixel by pixel.
     static bool handles(const RadialMap& map);
 
-    // `segments` covers the parameters of every pixel that will be painted. `pieces` is scratch memory; both
-    // must outlive the shader.
-    RadialShader(const SurfaceView& surface, const RadialMap& map, const RampSegments& segments,
+    // `colorSpans` covers the parameters of every pixel that will be painted. `pieces` is scratch memory;
+    // both must outlive the shader.
+    RadialShader(const SurfaceView& surface, const RadialMap& map, const ColorSpans& colorSpans,
                  double opacity, std::vector<RadialPiece>& pieces);
     void row(int y, std::span<const CoverageRun> runs) override;
 
@@ -27,7 +27,7 @@ class RadialShader : public RowSink {
     SurfaceView surface_;
     RadialMap map_;
     RadialRows rows_;
-    const RampSegments& segments_;
+    const ColorSpans& colorSpans_;
     double opacity_;
     // Nothing shows through, so that what lies beyond a piece may be written over.
     bool hides_ = true;

@@ -10,7 +10,7 @@
 #include "hwy/highway.h"
 
 #include "easel/paint/pixels/MixedPixels.h"
-#include "easel/paint/pixels/RadialWays.h"
+#include "easel/paint/pixels/RadialDistances.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace easel::paint::HWY_NAMESPACE {
@@ -31,34 +31,36 @@ void MixFlat(std::uint32_t* pixels, int count, int, const MixColors& colors) {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-using Ways = hn::ScalableTag<float>;
-using Pixels = hn::RebindToUnsigned<Ways>;
+using Distances = hn::ScalableTag<float>;
+using Pixels = hn::RebindToUnsigned<Distances>;
 using Halves = hn::Repartition<std::uint16_t, Pixels>;
 
 // The whole numbers nearest to two vectors, in the low and in the high halves of the lanes.
-HWY_INLINE hn::Vec<Halves> Paired(hn::Vec<Ways> low, hn::Vec<Ways> high) {
+HWY_INLINE hn::Vec<Halves> Paired(hn::Vec<Distances> low, hn::Vec<Distances> high) {
     const Pixels d;
-    const auto toBits = hn::Set(Ways(), plain::kToBits);
+    const auto toBits = hn::Set(Distances(), plain::kToBits);
     const auto raised = hn::ShiftLeft<16>(hn::BitCast(d, hn::Add(high, toBits)));
     return hn::OddEven(hn::BitCast(Halves(), raised), hn::BitCast(Halves(), hn::Add(low, toBits)));
 }
 
-// The function from ways and the pixels there to the pixels after the colors were laid over them.
+// The function from distances and the pixels there to the pixels after the colors were laid over them.
 HWY_INLINE auto MixerOf(const MixColors& colors) {
-    const auto all = [](float value) HWY_ATTR { return hn::Set(Ways(), value); };
+    const auto all = [](float value) HWY_ATTR { return hn::Set(Distances(), value); };
     return [all, blue = all(colors.color[0]), green = all(colors.color[1]), red = all(colors.color[2]),
             blueSlope = all(colors.slope[0]), greenSlope = all(colors.slope[1]),
             redSlope = all(colors.slope[2]), weightOf0 = all(colors.weight),
-            weightSlope = all(colors.weightSlope)](hn::Vec<Ways> way, hn::Vec<Pixels> below) HWY_ATTR {
-        const auto exact = hn::Add(weightOf0, hn::Mul(weightSlope, way));
-        const auto weight = hn::Min(hn::Max(exact, all(0)), all(1));
-        const auto part = [&](auto color, auto slope)
-                              HWY_ATTR { return hn::Mul(hn::Add(color, hn::Mul(slope, way)), weight); };
-        const auto even = Paired(part(blue, blueSlope), part(red, redSlope));
-        const auto odd = Paired(part(green, greenSlope), hn::Mul(all(plain::kAlphaLevel), weight));
-        const auto rest = hn::Sub(all(plain::kAllParts), hn::Mul(all(plain::kTakenParts), weight));
-        return LaidOver(Pixels(), even, odd, below, Paired(rest, rest));
-    };
+            weightSlope = all(colors.weightSlope)](hn::Vec<Distances> distance, hn::Vec<Pixels> below)
+               HWY_ATTR {
+                   const auto exact = hn::Add(weightOf0, hn::Mul(weightSlope, distance));
+                   const auto weight = hn::Min(hn::Max(exact, all(0)), all(1));
+                   const auto part = [&](auto color, auto slope) HWY_ATTR {
+                       return hn::Mul(hn::Add(color, hn::Mul(slope, distance)), weight);
+                   };
+                   const auto even = Paired(part(blue, blueSlope), part(red, redSlope));
+                   const auto odd = Paired(part(green, greenSlope), hn::Mul(all(plain::kAlphaLevel), weight));
+                   const auto rest = hn::Sub(all(plain::kAllParts), hn::Mul(all(plain::kTakenParts), weight));
+                   return LaidOver(Pixels(), even, odd, below, Paired(rest, rest));
+               };
 }
 
 // `mixed(below)` gives vectors of mixed pixels; the calls come in order.
@@ -77,36 +79,36 @@ HWY_INLINE void MixAll(std::uint32_t* pixels, int count, int room, const Mixed& 
 }
 
 void MixRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors) {
-    const Ways d;
+    const Distances d;
     const auto step = static_cast<float>(run.step);
     const auto stride = hn::Set(d, step * static_cast<float>(hn::Lanes(d)));
-    const auto waysOf = WaysOf(d, run);
+    const auto distancesOf = DistancesOf(d, run);
     const auto mixer = MixerOf(colors);
     auto along = hn::Mul(hn::Set(d, step), hn::Iota(d, 0));
     MixAll(pixels, count, room, [&](hn::Vec<Pixels> below) HWY_ATTR {
-        const auto ways = waysOf(along);
+        const auto distances = distancesOf(along);
         along = hn::Add(along, stride);
-        return mixer(ways, below);
+        return mixer(distances, below);
     });
 }
 
 #if HWY_HAVE_FLOAT64
 void MixRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors) {
-    const hn::Repartition<double, Ways> d;
+    const hn::Repartition<double, Distances> d;
     const hn::Rebind<float, decltype(d)> dHalf;
     const auto stride = hn::Set(d, run.step * static_cast<double>(hn::Lanes(d)));
-    const auto waysOf = WaysOf(d, run);
+    const auto distancesOf = DistancesOf(d, run);
     const auto mixer = MixerOf(colors);
     auto along = hn::Mul(hn::Set(d, run.step), hn::Iota(d, 0));
     const auto next = [&]() HWY_ATTR {
-        const auto ways = hn::DemoteTo(dHalf, waysOf(along));
+        const auto distances = hn::DemoteTo(dHalf, distancesOf(along));
         along = hn::Add(along, stride);
-        return ways;
+        return distances;
     };
     MixAll(pixels, count, room, [&](hn::Vec<Pixels> below) HWY_ATTR {
         const auto low = next();
         const auto high = next();
-        return mixer(hn::Combine(Ways(), high, low), below);
+        return mixer(hn::Combine(Distances(), high, low), below);
     });
 }
 #else
@@ -118,7 +120,7 @@ void MixRadialFar(std::uint32_t* pixels, int count, int, const RadialRun& run, c
 void MixFlat(std::uint32_t* pixels, int count, int room, const MixColors& colors) {
     const auto mixer = MixerOf(colors);
     MixAll(pixels, count, room,
-           [&](hn::Vec<Pixels> below) HWY_ATTR { return mixer(hn::Zero(Ways()), below); });
+           [&](hn::Vec<Pixels> below) HWY_ATTR { return mixer(hn::Zero(Distances()), below); });
 }
 
 #endif

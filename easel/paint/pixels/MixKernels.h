@@ -6,8 +6,8 @@
 
 namespace easel::paint {
 
-// The colors along the way and their weight from 0 to 1: at 0, and by how much they change over a unit. Blue,
-// green and red are in 256ths of a level and have added what rounding needs, see mixLevelOf.
+// The colors along the distance and their weight from 0 to 1: at 0, and by how much they change over a unit.
+// Blue, green and red are in 256ths of a level and have added what rounding needs, see mixLevelOf.
 struct MixColors {
     std::array<float, 3> color;
     std::array<float, 3> slope;
@@ -25,7 +25,7 @@ constexpr double mixLevelOf(double level) {
 void mixRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors);
 // The same in double precision.
 void mixRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors);
-// The color at way 0 everywhere.
+// The color at distance 0 everywhere.
 void mixFlat(std::uint32_t* pixels, int count, int room, const MixColors& colors);
 
 } // namespace easel::paint

@@ -9,7 +9,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 
-#include "easel/paint/pixels/RadialWays.h"
+#include "easel/paint/pixels/RadialDistances.h"
 #include "easel/paint/pixels/StorePixels.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -33,11 +33,11 @@ void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const Bl
 namespace hn = hwy::HWY_NAMESPACE;
 
 // Two colors of 16 bits each lie in a 32-bit lane, and a pixel takes the high bytes of two such lanes: blue
-// and red of one, green and alpha of the other. `waysFrom(at)` gives the whole numbers nearest to the ways of
-// the pixels from `at` on in the low halves of their lanes; the calls come in order.
-template <class D, class Ways>
-void FillAlongWays(D d, std::uint32_t* out, int count, int room, const RadialColors& colors,
-                   const Ways& waysFrom) {
+// and red of one, green and alpha of the other. `distancesFrom(at)` gives the whole numbers nearest to the
+// distances of the pixels from `at` on in the low halves of their lanes; the calls come in order.
+template <class D, class Distances>
+void FillAlongDistances(D d, std::uint32_t* out, int count, int room, const RadialColors& colors,
+                        const Distances& distancesFrom) {
     const hn::Repartition<std::int16_t, D> d16;
     const auto highBytes = hn::Set(d, 0xFF00FF00);
     const auto blueRed = hn::BitCast(d16, hn::Set(d, colors.blueRed));
@@ -45,8 +45,9 @@ void FillAlongWays(D d, std::uint32_t* out, int count, int room, const RadialCol
     const auto blueRedSlope = hn::BitCast(d16, hn::Set(d, colors.blueRedSlope));
     const auto greenSlope = hn::BitCast(d16, hn::Set(d, colors.greenSlope));
     for (int at = 0; at < count; at += static_cast<int>(hn::Lanes(d))) {
-        const auto way = waysFrom(at);
-        const auto both = hn::OddEven(hn::BitCast(d16, hn::ShiftLeft<16>(way)), hn::BitCast(d16, way));
+        const auto distance = distancesFrom(at);
+        const auto both =
+            hn::OddEven(hn::BitCast(d16, hn::ShiftLeft<16>(distance)), hn::BitCast(d16, distance));
         const auto even = hn::BitCast(d, hn::Add(blueRed, hn::MulFixedPoint15(blueRedSlope, both)));
         const auto odd = hn::BitCast(d, hn::Add(greenAlpha, hn::MulFixedPoint15(greenSlope, both)));
         const auto evenBytes = hn::ShiftRight<8>(hn::And(even, highBytes));
@@ -54,11 +55,12 @@ void FillAlongWays(D d, std::uint32_t* out, int count, int room, const RadialCol
     }
 }
 
-// The function from pixels' steps along a run to their ways as bits; `toBits` added to a way leaves the
-// nearest whole number in the lowest ones.
-template <class D> auto BitsOfWays(D d, const RadialRun& run, hn::TFromD<D> toBits) {
-    return [waysOf = WaysOf(d, run), shift = hn::Set(d, toBits)](hn::VFromD<D> along)
-               HWY_ATTR { return hn::BitCast(hn::RebindToUnsigned<D>(), hn::Add(waysOf(along), shift)); };
+// The function from pixels' steps along a run to their distances as bits; `toBits` added to a distance leaves
+// the nearest whole number in the lowest ones.
+template <class D> auto BitsOfDistances(D d, const RadialRun& run, hn::TFromD<D> toBits) {
+    return [distancesOf = DistancesOf(d, run), shift = hn::Set(d, toBits)](hn::VFromD<D> along) HWY_ATTR {
+        return hn::BitCast(hn::RebindToUnsigned<D>(), hn::Add(distancesOf(along), shift));
+    };
 }
 
 void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, const RadialColors& colors) {
@@ -66,12 +68,12 @@ void FillRadial(std::uint32_t* out, int count, int room, const RadialRun& run, c
     const hn::RebindToUnsigned<decltype(df)> d;
     const auto step = static_cast<float>(run.step);
     const auto stride = hn::Set(df, step * static_cast<float>(hn::Lanes(df)));
-    const auto waysOf = BitsOfWays(df, run, 3.0F * (1 << 22));
+    const auto distancesOf = BitsOfDistances(df, run, 3.0F * (1 << 22));
     auto along = hn::Mul(hn::Set(df, step), hn::Iota(df, 0));
-    FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
-        const auto ways = waysOf(along);
+    FillAlongDistances(d, out, count, room, colors, [&](int) HWY_ATTR {
+        const auto distances = distancesOf(along);
         along = hn::Add(along, stride);
-        return ways;
+        return distances;
     });
 }
 
@@ -81,12 +83,12 @@ void FillRadialFar(std::uint32_t* out, int count, int room, const RadialRun& run
     const hn::ScalableTag<double> df;
     const hn::Repartition<std::uint32_t, decltype(df)> d;
     const auto stride = hn::Set(df, run.step * static_cast<double>(hn::Lanes(df)));
-    const auto waysOf = BitsOfWays(df, run, 6755399441055744.0); // 3 times 2 to the 51
+    const auto distancesOf = BitsOfDistances(df, run, 3.0 * (std::int64_t{1} << 51));
     auto along = hn::Mul(hn::Set(df, run.step), hn::Iota(df, 0));
-    FillAlongWays(d, out, count, room, colors, [&](int) HWY_ATTR {
-        const auto low = waysOf(along);
+    FillAlongDistances(d, out, count, room, colors, [&](int) HWY_ATTR {
+        const auto low = distancesOf(along);
         along = hn::Add(along, stride);
-        const auto high = waysOf(along);
+        const auto high = distancesOf(along);
         along = hn::Add(along, stride);
         return hn::ConcatEven(d, hn::BitCast(d, high), hn::BitCast(d, low));
     });
@@ -107,8 +109,8 @@ void BlendPoints(std::uint32_t* row, const BlendColor& color, std::span<const Bl
     const auto first = hn::Load(df, color.color.data());
     const auto slope = hn::Load(df, color.slope.data());
     for (const BlendPoint& point : points) {
-        const auto level = hn::Add(first, hn::Mul(slope, hn::Set(df, point.way)));
-        const auto weight = hn::Set(df, (color.opacity + color.opacitySlope * point.way) * point.share);
+        const auto level = hn::Add(first, hn::Mul(slope, hn::Set(df, point.distance)));
+        const auto weight = hn::Set(df, (color.opacity + color.opacitySlope * point.distance) * point.share);
         const auto bytes = hn::BitCast(d8, hn::Set(dPixel, row[point.x]));
         const auto below = hn::ConvertTo(df, hn::PromoteTo(di, bytes));
         const auto mixed = hn::Add(below, hn::Mul(hn::Sub(level, below), weight));

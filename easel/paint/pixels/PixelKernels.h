@@ -8,8 +8,8 @@
 
 namespace easel::paint {
 
-// Pixel k of a row is so far along a segment of a ramp: way = sqrt(u u + height) + lean u + reference with
-// u = offset + step k, in units of which whole ones suffice. From -32768 to 32767.
+// Pixel k of a row is so far along a color span of a ramp: distance = sqrt(u u + height) + lean u + reference
+// with u = offset + step k, in units of which whole ones suffice. From -32768 to 32767.
 struct RadialRun {
     double offset;
     double height;
@@ -18,9 +18,9 @@ struct RadialRun {
     double step;
 };
 
-// The colors along the way, in 256ths of a level: at 0, with the half level that rounding needs, and by how
-// much they change over 32768 units. Blue lies in the low half and red in the high half of `blueRed`, green
-// in the low half of `greenAlpha`.
+// The colors along the distance, in 256ths of a level: at 0, with the half level that rounding needs, and by
+// how much they change over 32768 units. Blue lies in the low half and red in the high half of `blueRed`,
+// green in the low half of `greenAlpha`.
 struct RadialColors {
     std::uint32_t blueRed;
     std::uint32_t greenAlpha;
@@ -36,8 +36,8 @@ void fillRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run
 void fillRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run,
                    const RadialColors& colors);
 
-// The color of a segment: channels blue, green, red and 255 for alpha in levels, opacity from 0 to 1; all
-// change with the way along the segment.
+// The color of a color span: channels blue, green, red and 255 for alpha in levels, opacity from 0 to 1; all
+// change with the distance along the color span.
 struct BlendColor {
     alignas(16) std::array<float, 4> color;
     alignas(16) std::array<float, 4> slope;
@@ -48,7 +48,7 @@ struct BlendColor {
 // A pixel that does not hide what is below it: `share`, from 0 to 1, is multiplied by the color's opacity.
 struct BlendPoint {
     int x;
-    float way;
+    float distance;
     float share;
 };
 

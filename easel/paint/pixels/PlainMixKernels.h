@@ -23,10 +23,10 @@ inline std::uint32_t bitsOf(float value) {
     return std::bit_cast<std::uint32_t>(value + kToBits) & 0xFFFF;
 }
 
-inline std::uint32_t mixedAt(float way, const MixColors& colors, std::uint32_t below) {
-    const float weight = std::min(std::max(colors.weight + colors.weightSlope * way, 0.0F), 1.0F);
+inline std::uint32_t mixedAt(float distance, const MixColors& colors, std::uint32_t below) {
+    const float weight = std::min(std::max(colors.weight + colors.weightSlope * distance, 0.0F), 1.0F);
     const auto part = [&](std::size_t i) {
-        return bitsOf((colors.color[i] + colors.slope[i] * way) * weight);
+        return bitsOf((colors.color[i] + colors.slope[i] * distance) * weight);
     };
     const Parts parts{part(0), part(1), part(2), bitsOf(kAlphaLevel * weight)};
     return laidOver(parts, below, bitsOf(kAllParts - kTakenParts * weight));
@@ -37,8 +37,8 @@ void mixRadial(std::uint32_t* pixels, int count, const RadialRun& run, const Mix
     for (int i = 0; i < count; ++i) {
         const Real u = static_cast<Real>(run.offset) + static_cast<Real>(run.step) * static_cast<Real>(i);
         const Real root = std::sqrt(u * u + static_cast<Real>(run.height));
-        const Real way = root + static_cast<Real>(run.lean) * u + static_cast<Real>(run.reference);
-        pixels[i] = mixedAt(static_cast<float>(way), colors, pixels[i]);
+        const Real distance = root + static_cast<Real>(run.lean) * u + static_cast<Real>(run.reference);
+        pixels[i] = mixedAt(static_cast<float>(distance), colors, pixels[i]);
     }
 }
 

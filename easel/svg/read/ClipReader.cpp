@@ -49,14 +49,14 @@ ClipReader::ClipPtr ClipReader::clipFor(const StatedStyle& stated, const Box& bo
         return nullptr;
     const std::string_view id = localId(reference);
     if (id.empty()) {
-        scene_.notes.add(reference.substr(0, 4) == "url(" ? Unshown::External : Unshown::ClipShape);
+        scene_.notes.add(reference.substr(0, 4) == "url(" ? Unsupported::External : Unsupported::ClipShape);
         return nullptr;
     }
     const pugi::xml_node element = scene_.tree.byId(id);
     if (scene_.tree.svgName(element) != "clipPath")
         return nullptr;
     if (open_.size() == kDeepestClip || std::find(open_.begin(), open_.end(), element) != open_.end()) {
-        scene_.notes.add(open_.size() == kDeepestClip ? Unshown::DeepLayer : Unshown::Circle);
+        scene_.notes.add(open_.size() == kDeepestClip ? Unsupported::DeepLayer : Unsupported::Circle);
         return nullptr;
     }
     boxAsked_ = boxAsked_ && !open_.empty();
@@ -73,7 +73,7 @@ bool ClipReader::asksForBox(const StatedStyle& stated) const {
 ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, const Place& place) {
     const bool fractions = isShareOfBox(element);
     if (fractions && box.empty()) {
-        scene_.notes.add(Unshown::ClipShape);
+        scene_.notes.add(Unsupported::ClipShape);
         return nullptr;
     }
     const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
@@ -101,7 +101,7 @@ ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, con
 void ClipReader::addShape(ClipPath& clip, pugi::xml_node child, const Place& place) {
     const std::string_view name = scene_.tree.svgName(child);
     if (name == "text")
-        scene_.notes.add(Unshown::Text);
+        scene_.notes.add(Unsupported::Text);
     auto shape = name == "use" ? repeatedShape(child, place) : shapeOf(child, place);
     if (shape)
         clip.shapes.push_back(std::move(*shape));
@@ -121,7 +121,7 @@ std::optional<ClipShape> ClipReader::shapeOf(pugi::xml_node element, const Place
     inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, box);
     auto outline = placedPath(shape->outline, inside.toDrawing);
     if (!outline) {
-        scene_.notes.add(Unshown::OutOfRange);
+        scene_.notes.add(Unsupported::OutOfRange);
         return std::nullopt;
     }
     return ClipShape{std::move(*outline), inside.style.clipRule, clipFor(stated, box, inside)};

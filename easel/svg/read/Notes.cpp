@@ -5,7 +5,7 @@ namespace easel::svg {
 namespace {
 
 // In the order of the enumeration.
-constexpr std::array<std::string_view, kUnshownCount> kSentences = {
+constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
     "Text is kept in the file but not shown.",
     "Images are kept in the file but not shown.",
     "Content in other languages than SVG is kept in the file but not shown.",
@@ -21,7 +21,7 @@ constexpr std::array<std::string_view, kUnshownCount> kSentences = {
     "Content outside the file is not read.",
     "References that lead back to themselves are kept in the file but not followed.",
     "Shapes with numbers out of range are kept in the file but not shown.",
-    "Groups and repetitions nested very deep are kept in the file but not shown as such.",
+    "Groups and useInstances nested very deep are kept in the file but not shown as such.",
     "Gradients between colors in linear light are drawn between those of sRGB.",
 };
 
@@ -29,20 +29,20 @@ constexpr std::array<std::string_view, kUnshownCount> kSentences = {
 
 void Notes::addElement(std::string_view svgName) {
     if (svgName == "text" || svgName.substr(0, 4) == "flow")
-        add(Unshown::Text);
+        add(Unsupported::Text);
     else if (svgName == "image" || svgName == "video" || svgName == "canvas")
-        add(Unshown::Image);
+        add(Unsupported::Image);
     else if (svgName == "foreignObject")
-        add(Unshown::Foreign);
+        add(Unsupported::Foreign);
     else if (svgName == "script")
-        add(Unshown::Script);
+        add(Unsupported::Script);
     else if (svgName == "set" || svgName.substr(0, 7) == "animate")
-        add(Unshown::Animation);
+        add(Unsupported::Animation);
 }
 
 std::vector<std::string> Notes::sentences() const {
     std::vector<std::string> result;
-    for (std::size_t i = 0; i < kUnshownCount; ++i)
+    for (std::size_t i = 0; i < kUnsupportedCount; ++i)
         if (seen_[i])
             result.emplace_back(kSentences[i]);
     return result;

@@ -9,7 +9,7 @@
 
 namespace easel::svg {
 
-enum class Unshown : std::uint8_t {
+enum class Unsupported : std::uint8_t {
     Text,
     Image,
     Foreign,
@@ -28,18 +28,18 @@ enum class Unshown : std::uint8_t {
     DeepLayer,
     LinearLight,
 };
-inline constexpr std::size_t kUnshownCount = 17;
+inline constexpr std::size_t kUnsupportedCount = 17;
 
 class Notes {
   public:
-    void add(Unshown what) { seen_[static_cast<std::size_t>(what)] = true; }
+    void add(Unsupported what) { seen_[static_cast<std::size_t>(what)] = true; }
     // Notes what cannot be shown of an element that is neither a shape nor holds shapes.
     void addElement(std::string_view svgName);
     // One sentence for each kind of thing.
     std::vector<std::string> sentences() const;
 
   private:
-    std::array<bool, kUnshownCount> seen_{};
+    std::array<bool, kUnsupportedCount> seen_{};
 };
 
 } // namespace easel::svg

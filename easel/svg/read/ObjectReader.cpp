@@ -114,7 +114,7 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
     scene_.budget.spend(Budget::kObject + shape.outline.points().size());
     auto outline = placedPath(shape.outline, place.toDrawing);
     if (!outline || !strokeInRange(place.style)) {
-        scene_.notes.add(Unshown::OutOfRange);
+        scene_.notes.add(Unsupported::OutOfRange);
         return std::nullopt;
     }
     Object object;
@@ -199,9 +199,9 @@ Paint ObjectReader::paintWithoutGradient(const PaintSpec& spec, const ComputedSt
     if (spec.kind != PaintSpec::Kind::Server)
         return plainPaint(spec.kind, spec, style);
     if (spec.serverId.empty())
-        scene_.notes.add(Unshown::External);
+        scene_.notes.add(Unsupported::External);
     else if (scene_.tree.svgName(scene_.tree.byId(spec.serverId)) == "pattern")
-        scene_.notes.add(Unshown::Pattern);
+        scene_.notes.add(Unsupported::Pattern);
     return plainPaint(spec.fallback, spec, style);
 }
 

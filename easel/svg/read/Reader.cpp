@@ -75,15 +75,15 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
     Budget budget(text.size());
     Notes notes;
     if (cascade.sheetsImport())
-        notes.add(Unshown::ExternalSheet);
+        notes.add(Unsupported::ExternalSheet);
     const Scene scene{tree, cascade, servers, budget, notes};
     TreeReader reader(scene, *source, options.progress);
     reader.readRoot();
     source->objects.shrink_to_fit();
     if (servers.circular())
-        notes.add(Unshown::Circle);
+        notes.add(Unsupported::Circle);
     if (servers.linearLight())
-        notes.add(Unshown::LinearLight);
+        notes.add(Unsupported::LinearLight);
     return {reader.size().width, reader.size().height, reader.takeObjects(), std::move(source),
             notes.sentences()};
 }

@@ -27,7 +27,7 @@ struct Place {
     LengthContext lengths;
     drawing::Affine toDrawing;
     drawing::GroupPtr group;
-    std::uint32_t use = 0; // the repetition that is being read
+    std::uint32_t use = 0; // the use instance that is being read
 };
 
 // The path in drawing coordinates. Nothing if a coordinate is beyond what is computed with.

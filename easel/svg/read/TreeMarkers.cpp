@@ -41,9 +41,9 @@ void TreeReader::addMarkers(drawing::Object& object, const Shape& shape, const P
 void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
                             std::vector<drawing::ObjectPtr>& markers) {
     if (std::find(openMarkers_.begin(), openMarkers_.end(), marker) != openMarkers_.end())
-        return scene_.notes.add(Unshown::Circle);
+        return scene_.notes.add(Unsupported::Circle);
     if (openMarkers_.size() == kDeepestMarker)
-        return scene_.notes.add(Unshown::DeepLayer);
+        return scene_.notes.add(Unsupported::DeepLayer);
     scene_.budget.spend(1);
     const auto frame = markerFrame(marker, vertex, shape.style.strokeWidth, shape.lengths);
     if (!frame)

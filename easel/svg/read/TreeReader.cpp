@@ -23,9 +23,9 @@ namespace {
 // How often, in elements, progress is told.
 constexpr std::size_t kTick = 512;
 
-// Layers are painted, and repetitions written out, by recursion.
+// Layers are painted, and use instances written out, by recursion.
 constexpr std::uint32_t kDeepestGroup = 500;
-constexpr std::size_t kDeepestRepetition = 500;
+constexpr std::size_t kDeepestUse = 500;
 // How many steps up the tree cost as much as a point.
 constexpr std::size_t kStepsUp = 16;
 
@@ -59,7 +59,7 @@ Place TreeReader::rootPlace() {
         const bool share = !viewBox && text.ends_with('%');
         const auto length = share ? std::nullopt : parseLength(text, place.lengths, axis);
         if (length && !inRange(*length))
-            scene_.notes.add(Unshown::OutOfRange);
+            scene_.notes.add(Unsupported::OutOfRange);
         else if (length && *length > 0)
             return *length;
         return 0.0;
@@ -105,7 +105,7 @@ void TreeReader::readAll() {
 }
 
 void TreeReader::finish(const Work& work) {
-    if (work.endsRepetition)
+    if (work.endsUseInstance)
         open_.pop_back();
     const WaitingClip& waiting = work.inside.waiting;
     if (!waiting.group)
@@ -145,7 +145,7 @@ std::shared_ptr<Group> TreeReader::groupWith(const GroupPtr& parent, double opac
     const std::uint32_t depth = parent ? parent->depth + 1 : 1;
     if (depth <= kDeepestGroup)
         return std::make_shared<Group>(Group{parent, opacity, std::move(clip), depth});
-    scene_.notes.add(Unshown::DeepLayer);
+    scene_.notes.add(Unsupported::DeepLayer);
     return nullptr;
 }
 
@@ -162,14 +162,14 @@ bool TreeReader::showsOverflow(const StatedStyle& stated) {
 }
 
 void TreeReader::noteEffects(const StatedStyle& stated) {
-    const auto note = [&](Property property, std::string_view harmless, Unshown what) {
+    const auto note = [&](Property property, std::string_view harmless, Unsupported what) {
         if (!stated[property].empty() && !equalIgnoringCase(stated[property], harmless))
             scene_.notes.add(what);
     };
-    note(Property::Filter, "none", Unshown::Filter);
-    note(Property::Mask, "none", Unshown::Mask);
-    note(Property::MixBlendMode, "normal", Unshown::Blending);
-    note(Property::VectorEffect, "none", Unshown::FixedStroke);
+    note(Property::Filter, "none", Unsupported::Filter);
+    note(Property::Mask, "none", Unsupported::Mask);
+    note(Property::MixBlendMode, "normal", Unsupported::Blending);
+    note(Property::VectorEffect, "none", Unsupported::FixedStroke);
 }
 
 void TreeReader::readElement(pugi::xml_node element, const Place& place) {
@@ -251,14 +251,14 @@ void TreeReader::readUse(pugi::xml_node element, Inside inside) {
     const std::string_view reference = hrefOf(element);
     const std::string_view id = localId(reference);
     if (id.empty() && !reference.empty())
-        scene_.notes.add(Unshown::External);
+        scene_.notes.add(Unsupported::External);
     const pugi::xml_node target = scene_.tree.byId(id);
     if (!target)
         return;
     if (leadsBack(element, target))
-        return scene_.notes.add(Unshown::Circle);
-    if (open_.size() == kDeepestRepetition)
-        return scene_.notes.add(Unshown::DeepLayer);
+        return scene_.notes.add(Unsupported::Circle);
+    if (open_.size() == kDeepestUse)
+        return scene_.notes.add(Unsupported::DeepLayer);
     scene_.budget.spend(1);
     open_.push_back(element);
     readTarget(element, target, std::move(inside));
@@ -277,7 +277,7 @@ bool TreeReader::leadsBack(pugi::xml_node use, pugi::xml_node target) {
 
 void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside) {
     Place& place = inside.place;
-    addRepetition(use, target, place);
+    addUseInstance(use, target, place);
     const StatedStyle stated = scene_.cascade.of(use, place.style.custom);
     const double x = parseLength(stated[Property::X], place.lengths, Axis::Horizontal).value_or(0);
     const double y = parseLength(stated[Property::Y], place.lengths, Axis::Vertical).value_or(0);
@@ -294,12 +294,12 @@ void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, Inside in
     readChildren(target, std::move(*own));
 }
 
-void TreeReader::addRepetition(pugi::xml_node use, pugi::xml_node target, Place& place) {
+void TreeReader::addUseInstance(pugi::xml_node use, pugi::xml_node target, Place& place) {
     if (!openMarkers_.empty())
         return;
-    source_.repetitions.push_back({place.use, static_cast<std::uint32_t>(scene_.tree.tagBegin(use)),
-                                   static_cast<std::uint32_t>(scene_.tree.tagBegin(target))});
-    place.use = static_cast<std::uint32_t>(source_.repetitions.size());
+    source_.useInstances.push_back({place.use, static_cast<std::uint32_t>(scene_.tree.tagBegin(use)),
+                                    static_cast<std::uint32_t>(scene_.tree.tagBegin(target))});
+    place.use = static_cast<std::uint32_t>(source_.useInstances.size());
 }
 
 Place TreeReader::viewportPlace(pugi::xml_node element, pugi::xml_node use, const Place& outside) {

@@ -18,7 +18,7 @@ namespace easel::svg {
 
 class TreeReader {
   public:
-    // `progress` may be empty. Spans and repetitions are added to `source`, whose text the tree was made
+    // `progress` may be empty. Spans and use instances are added to `source`, whose text the tree was made
     // from.
     TreeReader(const Scene& scene, Source& source, std::function<bool(double)> progress);
 
@@ -45,7 +45,7 @@ class TreeReader {
         Inside inside;
         pugi::xml_node next;
         bool siblingsToo = true;
-        bool endsRepetition = false; // the innermost of `open_`
+        bool endsUseInstance = false; // the innermost of `open_`
     };
 
     void readAll();
@@ -76,7 +76,7 @@ class TreeReader {
     static bool showsOverflow(const StatedStyle& stated);
     void noteEffects(const StatedStyle& stated);
     void addSource(drawing::Object& object, pugi::xml_node element, std::uint32_t use);
-    void addRepetition(pugi::xml_node use, pugi::xml_node target, Place& place);
+    void addUseInstance(pugi::xml_node use, pugi::xml_node target, Place& place);
     void tick();
 
     const Scene& scene_;

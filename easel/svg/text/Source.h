@@ -21,9 +21,9 @@ struct Span {
     bool empty() const { return begin == end; }
 };
 
-// One repetition of an element by a `use` element.
-struct Repetition {
-    std::uint32_t parent = 0; // the repetition that the `use` element itself is part of; 0: none
+// A use instance: an element as one `use` element repeats it.
+struct UseInstance {
+    std::uint32_t parent = 0; // the use instance that the `use` element itself is part of; 0: none
     std::uint32_t useTag = 0; // where the start tags of the `use` element and of what it repeats begin
     std::uint32_t targetTag = 0;
 };
@@ -44,7 +44,7 @@ struct Source : drawing::DocumentSource {
     drawing::Affine rootToDrawing;
     bool sheetsStateFill = false;
     std::vector<drawing::ElementSpan> objects; // of every object that was read, in the drawing's order
-    std::vector<Repetition> repetitions;       // number 1 is the first
+    std::vector<UseInstance> useInstances;     // number 1 is the first
     std::set<std::size_t> chosen;              // start tags of what is shown of `switch` elements
 
     const std::string& text() const { return encoding == Encoding::Utf8 ? bytes : decoded; }

@@ -4,7 +4,7 @@
 #include "easel/svg/write/FillStatement.h"
 #include "easel/svg/write/ObjectText.h"
 #include "easel/svg/write/RawTag.h"
-#include "easel/svg/write/Repetition.h"
+#include "easel/svg/write/UseInstance.h"
 
 #include <algorithm>
 #include <iterator>
@@ -102,9 +102,9 @@ void Rewriter::addChange(const ElementSpan& element, std::string fill) {
         writeOut(element.use);
 }
 
-void Rewriter::writeOut(std::uint32_t repetition) {
-    for (std::uint32_t inner = repetition; inner != 0;) {
-        const Repetition& place = source_.repetitions[inner - 1];
+void Rewriter::writeOut(std::uint32_t instance) {
+    for (std::uint32_t inner = instance; inner != 0;) {
+        const UseInstance& place = source_.useInstances[inner - 1];
         if (!writtenOut_.insert(inner).second)
             return;
         changedInside_[place.parent].push_back(inner);
@@ -126,14 +126,14 @@ void Rewriter::gatherCopies() {
     for (const ElementSpan& element : source_.objects)
         if (element.use != 0)
             copies_.emplace(element.tagBegin, element.use);
-    for (const Repetition& inner : source_.repetitions)
+    for (const UseInstance& inner : source_.useInstances)
         if (inner.parent != 0)
             copies_.emplace(inner.useTag, inner.parent);
 }
 
-void Rewriter::applyChanges(std::uint32_t repetition, Splices& splices) const {
+void Rewriter::applyChanges(std::uint32_t instance, Splices& splices) const {
     const FillStatement statement = source_.sheetsStateFill ? FillStatement::Style : FillStatement::Attribute;
-    if (const auto found = changes_.find(repetition); found != changes_.end()) {
+    if (const auto found = changes_.find(instance); found != changes_.end()) {
         for (const Change& change : found->second) {
             if (change.fill.empty() && source_.chosen.contains(change.tag))
                 // Without it the switch would show another of its elements.
@@ -144,18 +144,18 @@ void Rewriter::applyChanges(std::uint32_t repetition, Splices& splices) const {
                 stateFill(splices, RawTag(text_, change.tag), change.fill, statement);
         }
     }
-    if (const auto found = changedInside_.find(repetition); found != changedInside_.end()) {
+    if (const auto found = changedInside_.find(instance); found != changedInside_.end()) {
         for (const std::uint32_t inner : found->second) {
-            const std::size_t use = source_.repetitions[inner - 1].useTag;
+            const std::size_t use = source_.useInstances[inner - 1].useTag;
             splices.replace(use, elementEnd(text_, use), expanded(inner));
         }
     }
 }
 
-std::string Rewriter::expanded(std::uint32_t repetition) const {
-    const Repetition& place = source_.repetitions[repetition - 1];
+std::string Rewriter::expanded(std::uint32_t instance) const {
+    const UseInstance& place = source_.useInstances[instance - 1];
     Splices splices;
-    applyChanges(repetition, splices);
+    applyChanges(instance, splices);
     return writtenOut(text_, place, source_.prefix, idsInSheets_, splices);
 }
 

@@ -4,8 +4,8 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/write/GradientText.h"
-#include "easel/svg/write/Repetition.h"
 #include "easel/svg/write/Splices.h"
+#include "easel/svg/write/UseInstance.h"
 
 #include <string>
 #include <unordered_map>
@@ -22,7 +22,7 @@ class Rewriter {
     std::string rewritten();
 
   private:
-    // A change of one element, as it stands or as one repetition makes it.
+    // A change of one element, as it stands or as one use instance makes it.
     struct Change {
         std::size_t tag = 0;
         std::string fill; // empty: the element goes
@@ -30,16 +30,17 @@ class Rewriter {
 
     void gatherChanges();
     void addChange(const drawing::ElementSpan& element, std::string fill);
-    // Has a repetition written out, and so those around it.
-    void writeOut(std::uint32_t repetition);
+    // Has a use instance written out, and so those around it.
+    void writeOut(std::uint32_t instance);
     // What repeats the element that begins here, or something around it, is written out as it was: only the
     // element itself changes, as on the screen.
     void keepCopiesOf(std::uint32_t tag);
     void gatherCopies();
 
-    // Adds what happens to the elements that one repetition made (0: that stand in the file) to the splices.
-    void applyChanges(std::uint32_t repetition, Splices& splices) const;
-    std::string expanded(std::uint32_t repetition) const;
+    // Adds what happens to the elements that one use instance made (0: that stand in the file) to the
+    // splices.
+    void applyChanges(std::uint32_t instance, Splices& splices) const;
+    std::string expanded(std::uint32_t instance) const;
     void addBlock(Splices& splices) const;
     std::string keptGradients(const std::string& newText) const;
     void addNewObjects(Splices& splices) const;
@@ -50,12 +51,13 @@ class Rewriter {
     std::string lineBreak_;
     GradientBlock gradients_;
     std::vector<std::string> newObjects_;
-    // By repetition: changes of its own elements, and repetitions inside it that are written out.
+    // By use instance: changes of its own elements, and use instances inside it that are written out.
     std::unordered_map<std::uint32_t, std::vector<Change>> changes_;
     std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> changedInside_;
     std::unordered_set<std::uint32_t> writtenOut_;
     IdSet idsInSheets_; // if anything is written out
-    // By the place of a start tag: the repetitions that the element is part of, without those that are none.
+    // By the place of a start tag: the use instances that the element is part of, without those that are
+    // none.
     std::unordered_multimap<std::uint32_t, std::uint32_t> copies_;
 };
 

@@ -1,4 +1,4 @@
-#include "easel/svg/write/Repetition.h"
+#include "easel/svg/write/UseInstance.h"
 
 #include "easel/svg/text/Tags.h"
 #include "easel/svg/write/RawTag.h"
@@ -53,14 +53,14 @@ void removeIds(const std::string& text, std::size_t begin, std::size_t end, cons
 
 } // namespace
 
-std::string writtenOut(const std::string& text, const Repetition& repetition, const std::string& prefix,
+std::string writtenOut(const std::string& text, const UseInstance& instance, const std::string& prefix,
                        const IdSet& idsInSheets, Splices& splices) {
-    const RawTag use(text, repetition.useTag);
-    const RawTag target(text, repetition.targetTag);
-    const std::size_t targetEnd = elementEnd(text, repetition.targetTag);
+    const RawTag use(text, instance.useTag);
+    const RawTag target(text, instance.targetTag);
+    const std::size_t targetEnd = elementEnd(text, instance.targetTag);
     // A second place of an id is harmless behind the first, which is what references find.
-    const bool isBehind = repetition.useTag > repetition.targetTag;
-    removeIds(text, repetition.targetTag, targetEnd, isBehind ? idsInSheets : IdSet(), splices);
+    const bool isBehind = instance.useTag > instance.targetTag;
+    removeIds(text, instance.targetTag, targetEnd, isBehind ? idsInSheets : IdSet(), splices);
     const std::string group = prefix + "g";
     const std::string viewport = prefix + "svg";
     const std::string open =
@@ -79,14 +79,13 @@ std::string writtenOut(const std::string& text, const Repetition& repetition, co
                '>';
         const std::size_t contentBegin = target.span().end;
         const std::string content =
-            target.closesItself()
-                ? ""
-                : splices.applied(text, contentBegin, contentEnd(text, repetition.targetTag));
+            target.closesItself() ? ""
+                                  : splices.applied(text, contentBegin, contentEnd(text, instance.targetTag));
         const std::string place = attributesOf(text, use, {"x", "y"});
         return open + (place.empty() ? "" : '<' + viewport + place + " overflow=\"visible\">") + tag +
                content + "</" + viewport + '>' + (place.empty() ? "" : "</" + viewport + '>') + close;
     }
-    const std::string copy = splices.applied(text, repetition.targetTag, targetEnd);
+    const std::string copy = splices.applied(text, instance.targetTag, targetEnd);
     const std::string place = attributesOf(text, use, {"x", "y"});
     if (place.empty())
         return open + copy + close;

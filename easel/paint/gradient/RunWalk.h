@@ -1,8 +1,8 @@
-// Walks the runs of a row and the segments of a ramp side by side, and paints what both agree on.
+// Walks the runs of a row and the color spans of a ramp side by side, and paints what both agree on.
 #pragma once
 
 #include "easel/paint/coverage/Coverage.h"
-#include "easel/paint/gradient/RampSegments.h"
+#include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/pixels/PixelKernels.h"
 
 #include <algorithm>
@@ -13,10 +13,10 @@
 
 namespace easel::paint {
 
-// Track tells which segment a row is in: `enter(x)` finds the segment of a first pixel, `end()` is the first
-// pixel after the present segment, and `next()` goes on to the segment that begins there, which may be empty.
-// `paint(begin, end, run)` paints pixels of one run in the present segment, and `leave()` is called at its
-// end.
+// Track tells which color span a row is in: `enter(x)` finds the color span of a first pixel, `end()` is the
+// first pixel after the present color span, and `next()` goes on to the color span that begins there, which
+// may be empty. `paint(begin, end, run)` paints pixels of one run in the present color span, and `leave()` is
+// called at its end.
 template <class Run, class Track, class Paint, class Leave>
 void walkRuns(std::span<const Run> runs, Track& track, const Paint& paint, const Leave& leave) {
     track.enter(runs.front().begin);
@@ -58,19 +58,19 @@ inline float shareOf(const CoverageRun& run, double opacity) {
     return shareOf(static_cast<std::uint32_t>(run.coverage), opacity);
 }
 
-// Collects the pixels of a segment that have to be blended, so that they are handed over many at a time.
+// Collects the pixels of a color span that have to be blended, so that they are handed over many at a time.
 class BlendQueue {
   public:
     explicit BlendQueue(std::uint32_t* row) : row_(row) {}
 
-    void add(const RampSegment& segment, int x, double parameter, float share) {
+    void add(const ColorSpan& colorSpan, int x, double parameter, float share) {
         if (count_ == points_.size())
-            flush(segment);
-        points_[count_++] = {x, static_cast<float>(segment.wayTo(parameter)), share};
+            flush(colorSpan);
+        points_[count_++] = {x, static_cast<float>(colorSpan.distanceTo(parameter)), share};
     }
-    void flush(const RampSegment& segment) {
+    void flush(const ColorSpan& colorSpan) {
         if (count_ > 0)
-            blendPoints(row_, segment.blend, {points_.data(), count_});
+            blendPoints(row_, colorSpan.blend, {points_.data(), count_});
         count_ = 0;
     }
 

@@ -1,5 +1,5 @@
 // What the fill and the stroke of an object are painted with.
-#include "easel/paint/ObjectInk.h"
+#include "easel/paint/ObjectPaintSource.h"
 
 #include "easel/drawing/GradientFit.h"
 #include "easel/drawing/ShapeGradient.h"
@@ -7,7 +7,7 @@
 
 namespace easel::paint {
 
-HeldInk::HeldInk(const drawing::Paint& paint) {
+HeldPaintSource::HeldPaintSource(const drawing::Paint& paint) {
     if (const auto* color = std::get_if<drawing::ColorPaint>(&paint)) {
         color_ = *color;
         visible_ = color->opacity > 0;
@@ -17,16 +17,16 @@ HeldInk::HeldInk(const drawing::Paint& paint) {
     }
 }
 
-HeldInk HeldInk::ofFill(const drawing::Object& object) {
+HeldPaintSource HeldPaintSource::ofFill(const drawing::Object& object) {
     if (!object.showsGradient())
-        return HeldInk(drawing::plainFillOf(object));
+        return HeldPaintSource(drawing::plainFillOf(object));
     const CGradientData& record = drawing::gradientIn(object.gradient)->GetGradientData();
-    return HeldInk(drawing::fitGradient(record, object.remainder.get(), object.outline));
+    return HeldPaintSource(drawing::fitGradient(record, object.remainder.get(), object.outline));
 }
 
-HeldInk HeldInk::ofStroke(const drawing::Object& object) {
+HeldPaintSource HeldPaintSource::ofStroke(const drawing::Object& object) {
     const drawing::Style& style = drawing::styleOf(object);
-    return drawing::strokes(style) ? HeldInk(style.stroke.paint) : HeldInk();
+    return drawing::strokes(style) ? HeldPaintSource(style.stroke.paint) : HeldPaintSource();
 }
 
 } // namespace easel::paint

@@ -1,5 +1,5 @@
 // Laying out of ramps, once for pad and period by period for repeat and reflect.
-#include "easel/paint/gradient/RampSegments.h"
+#include "easel/paint/gradient/ColorSpans.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,10 +10,10 @@ namespace easel::paint {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kMostSegments = 20000;
+constexpr double kMostColorSpans = 20000;
 // So far out the periods themselves would be inexact.
 constexpr double kFarthestPeriod = 1e6;
-// Segments shorter than this (in the parameter) count as sharp.
+// Color spans shorter than this (in the parameter) count as sharp.
 constexpr double kSharpReach = 1e-5;
 // In levels; smaller than any rounding can show.
 constexpr double kVisibleJump = 1e-6;
@@ -32,17 +32,17 @@ Channels channelsOf(const drawing::RampColor& color) {
 
 } // namespace
 
-Channels RampSegment::at(double parameter) const {
-    const double way = wayTo(parameter);
+Channels ColorSpan::at(double parameter) const {
+    const double distance = distanceTo(parameter);
     Channels result;
     for (std::size_t i = 0; i < result.size(); ++i)
-        result[i] = color[i] + slope[i] * way;
+        result[i] = color[i] + slope[i] * distance;
     return result;
 }
 
-RampSegments::Outcome RampSegments::layOut(const drawing::Ramp& ramp, drawing::Spread spread, double lowest,
-                                           double highest) {
-    segments_.clear();
+ColorSpans::Outcome ColorSpans::layOut(const drawing::Ramp& ramp, drawing::Spread spread, double lowest,
+                                       double highest) {
+    colorSpans_.clear();
     if (spread == drawing::Spread::Pad) {
         addPart(ramp, -kInfinity, kInfinity, 0, Direction::Forward);
         return Outcome::Ready;
@@ -50,7 +50,7 @@ RampSegments::Outcome RampSegments::layOut(const drawing::Ramp& ramp, drawing::S
     const double first = std::floor(lowest);
     const double last = std::floor(highest);
     const double perPeriod = static_cast<double>(ramp.stops().size()) + 2;
-    if (!((last - first + 1) * perPeriod < kMostSegments) || !(std::abs(first) < kFarthestPeriod))
+    if (!((last - first + 1) * perPeriod < kMostColorSpans) || !(std::abs(first) < kFarthestPeriod))
         return Outcome::TooMany;
     for (double period = first; period <= last; ++period) {
         if (spread == drawing::Spread::Reflect && std::fmod(period, 2) != 0)
@@ -58,24 +58,24 @@ RampSegments::Outcome RampSegments::layOut(const drawing::Ramp& ramp, drawing::S
         else
             addPart(ramp, 0, 1, period, Direction::Forward);
     }
-    segments_.front().start = -kInfinity;
+    colorSpans_.front().start = -kInfinity;
     return Outcome::Ready;
 }
 
-void RampSegments::layOut(const drawing::RampColor& color) {
-    segments_.clear();
+void ColorSpans::layOut(const drawing::RampColor& color) {
+    colorSpans_.clear();
     add(-kInfinity, color);
 }
 
-std::size_t RampSegments::find(double parameter) const {
+std::size_t ColorSpans::find(double parameter) const {
     const auto after =
-        std::upper_bound(segments_.begin() + 1, segments_.end(), parameter,
-                         [](double value, const RampSegment& segment) { return value < segment.start; });
-    return static_cast<std::size_t>(after - segments_.begin()) - 1;
+        std::upper_bound(colorSpans_.begin() + 1, colorSpans_.end(), parameter,
+                         [](double value, const ColorSpan& colorSpan) { return value < colorSpan.start; });
+    return static_cast<std::size_t>(after - colorSpans_.begin()) - 1;
 }
 
-void RampSegments::addPart(const drawing::Ramp& ramp, double from, double to, double offset,
-                           Direction direction) {
+void ColorSpans::addPart(const drawing::Ramp& ramp, double from, double to, double offset,
+                         Direction direction) {
     const std::vector<drawing::RampStop>& stops = ramp.stops();
     drawing::RampStop before = stops.front();
     drawing::RampStop behind = stops.back();
@@ -98,8 +98,8 @@ void RampSegments::addPart(const drawing::Ramp& ramp, double from, double to, do
 }
 
 // A stop at infinity is never reached, so its neighbor's color holds.
-void RampSegments::addForward(const drawing::RampStop& low, const drawing::RampStop& high, double from,
-                              double offset) {
+void ColorSpans::addForward(const drawing::RampStop& low, const drawing::RampStop& high, double from,
+                            double offset) {
     const double start = offset + std::max(low.position, from);
     if (std::isinf(low.position) || std::isinf(high.position))
         return add(start, drawing::colorOf(std::isinf(low.position) ? high : low));
@@ -107,8 +107,8 @@ void RampSegments::addForward(const drawing::RampStop& low, const drawing::RampS
         drawing::colorOf(high));
 }
 
-void RampSegments::addBackward(const drawing::RampStop& low, const drawing::RampStop& high, double to,
-                               double offset) {
+void ColorSpans::addBackward(const drawing::RampStop& low, const drawing::RampStop& high, double to,
+                             double offset) {
     // The stop itself has the color that follows it on the ramp, which here comes first.
     const double start = std::nextafter(offset - std::min(high.position, to), kInfinity);
     if (std::isinf(low.position) || std::isinf(high.position))
@@ -117,35 +117,35 @@ void RampSegments::addBackward(const drawing::RampStop& low, const drawing::Ramp
         drawing::colorOf(low));
 }
 
-void RampSegments::add(double start, const drawing::RampColor& color) {
+void ColorSpans::add(double start, const drawing::RampColor& color) {
     append({start, std::isinf(start) ? 0 : start, 0, channelsOf(color), {}, false, {}, 0});
 }
 
-void RampSegments::add(double start, double anchor, double reach, const drawing::RampColor& from,
-                       const drawing::RampColor& to) {
+void ColorSpans::add(double start, double anchor, double reach, const drawing::RampColor& from,
+                     const drawing::RampColor& to) {
     const Channels low = channelsOf(from);
     const Channels high = channelsOf(to);
     if (low == high)
         return add(start, from);
-    RampSegment segment{start, anchor, reach, low, {}, reach < kSharpReach, {}, 0};
+    ColorSpan colorSpan{start, anchor, reach, low, {}, reach < kSharpReach, {}, 0};
     for (std::size_t i = 0; i < low.size(); ++i)
-        segment.slope[i] = (high[i] - low[i]) / reach;
-    append(segment);
+        colorSpan.slope[i] = (high[i] - low[i]) / reach;
+    append(colorSpan);
 }
 
-void RampSegments::append(RampSegment segment) {
-    if (!segments_.empty()) {
-        const RampSegment& previous = segments_.back();
-        const Channels left = previous.at(segment.start);
-        const Channels right = segment.at(segment.start);
-        segment.sharp |= !previous.flat() && previous.reach < kSharpReach;
+void ColorSpans::append(ColorSpan colorSpan) {
+    if (!colorSpans_.empty()) {
+        const ColorSpan& previous = colorSpans_.back();
+        const Channels left = previous.at(colorSpan.start);
+        const Channels right = colorSpan.at(colorSpan.start);
+        colorSpan.sharp |= !previous.flat() && previous.reach < kSharpReach;
         for (std::size_t i = 0; i < left.size(); ++i)
-            segment.sharp |= std::abs(left[i] - right[i]) > kVisibleJump;
+            colorSpan.sharp |= std::abs(left[i] - right[i]) > kVisibleJump;
     }
-    segment.blend = blendColorOf(segment.color, segment.slope);
+    colorSpan.blend = blendColorOf(colorSpan.color, colorSpan.slope);
     for (std::size_t i = 0; i < 3; ++i)
-        segment.steepest = std::max(segment.steepest, std::abs(segment.slope[i]));
-    segments_.push_back(segment);
+        colorSpan.steepest = std::max(colorSpan.steepest, std::abs(colorSpan.slope[i]));
+    colorSpans_.push_back(colorSpan);
 }
 
 } // namespace easel::paint
