@@ -1,5 +1,22 @@
-// Exact-area coverage: edges leave signed changes of coverage in the columns they pass, a running sum turns
-// them into coverage.
+// Scan conversion by accumulated signed area, as smooth rasterisers of fonts do it: FreeType's in sorted
+// cells, font-rs in a buffer like the one here. What a shape covers of a pixel is the sum over its edges of
+// the pixel's area right of each, positive for edges that lead downwards and negative for those that lead
+// upwards. That area changes only in the columns that an edge passes, and the edge leaves there by how much
+// it differs from the area one column before. A running sum along the row makes coverage of what all edges
+// have left, without their being sorted from left to right.
+//
+//     column           0      1      2      3      4
+//                  +------+------+------+------+------+
+//                  |      |   \  |      |      |      |     an edge that leads down through the whole row,
+//                  |      |      '.     |      |      |     from 1.5 to 3.5
+//                  |      |      |  `.  |      |      |
+//                  |      |      |      '\     |      |
+//                  +------+------+------+---\--+------+
+//     right of it      0    1/16    1/2   15/16    1        the area, in pixels
+//     left behind      0    1/16    7/16   7/16   1/16      its changes
+//
+// Heights are whole parts of a pixel, so the changes that the edges of a closed polygon leave in a row cancel
+// out exactly. The fill rule comes last: even-odd folds the sum, non-zero cuts it off at a whole pixel.
 #include "easel/paint/coverage/Rasteriser.h"
 
 #include "easel/paint/coverage/CoverageKernels.h"

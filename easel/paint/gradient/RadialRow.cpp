@@ -1,4 +1,18 @@
-// The quadratic equation of a row, solved for the whole row at once.
+// The two-point conical gradient, as SVG and the canvas of HTML define it: the parameter at a point is the
+// largest t whose circle passes through it, with centre c + t d and radius r + t s. With p counted from c,
+// that is the quadratic equation |p - t d| = r + t s. Where the start circle lies inside the end circle, d is
+// shorter than s, and the larger root always has a radius that is not negative. Along a row p grows evenly,
+// which makes the root's argument a quadratic of the pixel's index and t one branch of a hyperbola, at the
+// cost of a square root per pixel:
+//
+//       t |
+//         |  \                      /
+//       1 +---\--------------------/---    where the row crosses the end circle
+//         |    '.                .'
+//         |      '-.          .-'          t = scale (sqrt(u u + height) + lean u) + base
+//         |         '--.__.--'
+//         +-------------+-----------> x    u = x - lowest; `lean` tilts the branch, and `height` is 0 for the
+//                     lowest               row through the point where the circles' radius is 0
 #include "easel/paint/gradient/RadialRow.h"
 
 #include <algorithm>

@@ -1,8 +1,17 @@
-// The outline of a stroke: for an open track one polygon around it, for a closed one a polygon on either
-// side.
+// Polygonal offsetting: the outline of a stroke is its track moved half a width to either side, with the
+// joins and caps of SVG 2 ("Computing the shape of the stroke"). An open track gives one polygon, up one
+// side, around the cap and down the other; a closed one gives a polygon on either side.
+//
+//     --------------------F---.         F and T lie half a width off the corner P, across the line before it
+//                         :    \ join   and the line after. Outside the bend the join leads from F to T, as a
+//     --------------------P . . T       miter, an arc or straight.
+//                          \     \      .
+//     -------------.        \     \     Inside the bend the side turns where its lines meet, or goes by way
+//             inner \        \     \    of P where they are too short to.
 //
 // Each side is the sum of half-rectangles along the track's lines and of the joins between them, all turning
-// the same way, so that no part of a stroke cancels out another, however sharply the track bends.
+// the same way, so that no part of a stroke cancels out another, however sharply the track bends. The
+// non-zero rule unites them.
 #include "easel/paint/stroke/Stroker.h"
 
 #include "easel/paint/stroke/PenTrack.h"
