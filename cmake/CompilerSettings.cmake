@@ -8,14 +8,17 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(EASEL_WARNINGS_AS_ERRORS)
+  add_compile_options(-Werror)
+endif()
 # Contraction of multiply and add differs between compilers and machines; pixels and geometry must not.
 add_compile_options(-ffp-contract=off)
 
 if(EASEL_SANITIZE)
   # With coverage in everything, since a fuzzing engine learns from nothing else which inputs lead somewhere new.
   add_compile_options(-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=undefined
-                      -fno-omit-frame-pointer -O1)
+                      -fno-omit-frame-pointer -O1 -gline-tables-only)
   add_link_options(-fsanitize=address,undefined)
 endif()
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")

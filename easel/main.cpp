@@ -1,4 +1,5 @@
 // The command line of Easel.
+#include "easel/commands/ExitCode.h"
 #include "easel/commands/PlayCommand.h"
 #include "easel/commands/RenderCommand.h"
 #include "easel/commands/TemplatesCommand.h"
@@ -11,9 +12,6 @@
 #include <new>
 
 namespace {
-
-// Misuse, or a failure that no command could put into better words.
-constexpr int kFailed = 2;
 
 int run(int argc, char** argv) {
     CLI::App app{"Easel, a drawing application with a gradient tool"};
@@ -28,7 +26,7 @@ int run(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : kFailed;
+        return app.exit(error) == 0 ? 0 : easel::commands::kFailed;
     }
     const bool hadCommand = !app.get_subcommands().empty();
     return hadCommand ? exitCode : easel::commands::runWindow(startUp, argc, argv);
@@ -44,5 +42,5 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
         std::fprintf(stderr, "easel: %s\n", error.what());
     }
-    return kFailed;
+    return easel::commands::kFailed;
 }

@@ -7,7 +7,7 @@
 namespace easel::classic {
 namespace {
 
-constexpr std::uint32_t kMagic = fourCharacters("KGRD");
+constexpr std::uint32_t kRecordMagic = fourCharacters("KGRD");
 constexpr std::uint32_t kVersion = 1;
 constexpr std::size_t kLengthOffset = 8;
 constexpr std::size_t kRecordOffset = 12;
@@ -30,7 +30,7 @@ std::uint32_t checksum(ByteView bytes) {
 }
 
 tl::expected<void, GradientDamage> check(ByteView bytes) {
-    if (bytes.size() < kRecordOffset || numberAt<std::uint32_t>(bytes, 0) != kMagic)
+    if (bytes.size() < kRecordOffset || numberAt<std::uint32_t>(bytes, 0) != kRecordMagic)
         return tl::unexpected(GradientDamage::NotAGradient);
     if (numberAt<std::uint32_t>(bytes, 4) != kVersion)
         return tl::unexpected(GradientDamage::UnknownVersion);
@@ -59,7 +59,7 @@ std::optional<files::Bytes> gradientToBytes(const CGradientData& gradient) {
     if (stops.empty() || stops.size() > kMostStops)
         return std::nullopt;
     files::Bytes bytes;
-    putNumber(bytes, kMagic);
+    putNumber(bytes, kRecordMagic);
     putNumber(bytes, kVersion);
     putNumber(bytes, static_cast<std::uint32_t>(kStopsOffset + stops.size() * kStopSize + kChecksumSize));
     putNumber(bytes, static_cast<std::uint32_t>(gradient.Type()));

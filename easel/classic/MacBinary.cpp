@@ -7,7 +7,7 @@
 namespace easel::classic {
 namespace {
 
-constexpr std::size_t kHeaderSize = 128;
+constexpr std::size_t kBlockSize = 128;
 constexpr std::size_t kLongestName = 63;
 constexpr std::size_t kNameOffset = 1;
 constexpr std::size_t kInfoOffset = 65;
@@ -29,7 +29,7 @@ std::uint16_t checksum(ByteView bytes) {
 }
 
 std::size_t padded(std::size_t size) {
-    return (size + kHeaderSize - 1) / kHeaderSize * kHeaderSize;
+    return (size + kBlockSize - 1) / kBlockSize * kBlockSize;
 }
 
 void putPadded(files::Bytes& file, ByteView fork) {
@@ -45,7 +45,7 @@ std::uint32_t dateNow() {
 }
 
 files::Bytes writeMacBinary(const MacBinaryFile& source) {
-    files::Bytes file(kHeaderSize);
+    files::Bytes file(kBlockSize);
     const auto name = std::string_view(source.name).substr(0, kLongestName);
     file[kNameOffset] = static_cast<std::uint8_t>(name.size());
     std::copy(name.begin(), name.end(), file.begin() + kNameOffset + 1);
@@ -64,14 +64,14 @@ files::Bytes writeMacBinary(const MacBinaryFile& source) {
 }
 
 std::optional<MacBinaryFile> readMacBinary(ByteView bytes) {
-    if (bytes.size() < kHeaderSize || bytes[0] != 0 || bytes[kVersionOffset + 1] != kVersion2 ||
+    if (bytes.size() < kBlockSize || bytes[0] != 0 || bytes[kVersionOffset + 1] != kVersion2 ||
         numberAt<std::uint16_t>(bytes, kChecksumOffset) != checksum(bytes.first(kChecksumOffset)))
         return std::nullopt;
     const std::size_t nameSize = bytes[kNameOffset];
     const std::size_t dataSize = numberAt<std::uint32_t>(bytes, kDataSizeOffset);
-    const auto data = part(bytes, kHeaderSize, dataSize);
+    const auto data = part(bytes, kBlockSize, dataSize);
     const auto fork =
-        part(bytes, kHeaderSize + padded(dataSize), numberAt<std::uint32_t>(bytes, kDataSizeOffset + 4));
+        part(bytes, kBlockSize + padded(dataSize), numberAt<std::uint32_t>(bytes, kDataSizeOffset + 4));
     if (nameSize < 1 || nameSize > kLongestName || !data || !fork)
         return std::nullopt;
     const auto name = bytes.subspan(kNameOffset + 1, nameSize);

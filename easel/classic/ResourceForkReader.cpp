@@ -6,7 +6,7 @@
 namespace easel::classic {
 namespace {
 
-constexpr std::size_t kHeaderSize = 16;
+constexpr std::size_t kForkHeaderSize = 16;
 constexpr std::size_t kMapFixedSize = 28; // up to and including the offset of the name list
 constexpr std::size_t kTypeEntrySize = 8;
 constexpr std::size_t kReferenceSize = 12;
@@ -49,7 +49,7 @@ class ForkReader {
     }
 
     Read readAreas() {
-        if (bytes_.size() < kHeaderSize)
+        if (bytes_.size() < kForkHeaderSize)
             return tl::unexpected(ForkDamage::TooShort);
         const auto data =
             part(bytes_, numberAt<std::uint32_t>(bytes_, 0), numberAt<std::uint32_t>(bytes_, 8));
@@ -62,11 +62,11 @@ class ForkReader {
         data_ = *data;
         map_ = *map;
         auto& carried = fork_.carried_.header;
-        const auto kept = std::min(carried.size(), bytes_.size() - kHeaderSize);
+        const auto kept = std::min(carried.size(), bytes_.size() - kForkHeaderSize);
         // A file without the reserved space has its data or map there, which is nothing to carry along.
         const auto first = std::min(numberAt<std::uint32_t>(bytes_, 0), numberAt<std::uint32_t>(bytes_, 4));
-        if (first >= kHeaderSize + carried.size())
-            std::copy_n(bytes_.begin() + kHeaderSize, kept, carried.begin());
+        if (first >= kForkHeaderSize + carried.size())
+            std::copy_n(bytes_.begin() + kForkHeaderSize, kept, carried.begin());
         fork_.carried_.mapAttributes = numberAt<std::uint16_t>(map_, 22);
         return {};
     }

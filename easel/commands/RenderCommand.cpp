@@ -1,6 +1,7 @@
 // The command line of `easel render`.
 #include "easel/commands/RenderCommand.h"
 
+#include "easel/commands/ExitCode.h"
 #include "easel/export/ExportDrawing.h"
 #include "easel/svg/Document.h"
 
@@ -12,8 +13,6 @@
 namespace easel::commands {
 
 namespace {
-
-constexpr int kFailed = 2;
 
 struct RenderRequest {
     std::string drawing;

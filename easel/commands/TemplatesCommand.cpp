@@ -1,6 +1,7 @@
 // The command line of `easel templates`.
 #include "easel/commands/TemplatesCommand.h"
 
+#include "easel/commands/ExitCode.h"
 #include "easel/exchange/GradientFiles.h"
 #include "easel/exchange/SvgGradient.h"
 #include "easel/exchange/TemplateShelf.h"
@@ -23,8 +24,6 @@ namespace {
 namespace fs = std::filesystem;
 using exchange::TemplateShelf;
 using files::Error;
-
-constexpr int kFailed = 2;
 
 struct TemplatesRequest {
     std::string preferences;

@@ -14,7 +14,7 @@ namespace easel::exports {
 namespace {
 
 // Cairo keeps what is painted until the page is complete, and then writes.
-constexpr double kPaintingShare = 0.15;
+constexpr double kShareOfPainting = 0.15;
 // With this many bytes for each object, the writing counts as half done.
 constexpr double kHalfOfAnObject = 30;
 
@@ -59,8 +59,10 @@ PdfPage pageOf(const drawing::Drawing& drawing, double scale) {
 }
 
 files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress) {
-    Output out{
-        progress.part(kPaintingShare, 1), kHalfOfAnObject * static_cast<double>(drawing.size() + 1), {}, {}};
+    Output out{progress.part(kShareOfPainting, 1),
+               kHalfOfAnObject * static_cast<double>(drawing.size() + 1),
+               {},
+               {}};
     const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface(
         cairo_pdf_surface_create_for_stream(&append, &out, page.width, page.height), &cairo_surface_destroy);
     {
@@ -70,7 +72,7 @@ files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, con
         cairo_scale(cairo.get(), page.pointsAUnit, page.pointsAUnit);
         cairo_rectangle(cairo.get(), 0, 0, drawing.width(), drawing.height());
         cairo_clip(cairo.get());
-        CairoPainter(cairo.get()).paint(drawing, progress.part(0, kPaintingShare));
+        CairoPainter(cairo.get()).paint(drawing, progress.part(0, kShareOfPainting));
         check(out, cairo_status(cairo.get()));
     }
     cairo_surface_finish(surface.get());

@@ -11,7 +11,7 @@ void playWithoutDialog(Session&, Arguments&) {
     throw PlayError("no dialog is open");
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kDialogCommands[] = {
     {"hit", When::idle, playWithoutDialog},    {"focus", When::idle, playWithoutDialog},
     {"type", When::idle, playWithoutDialog},   {"erase", When::idle, playWithoutDialog},
     {"set", When::idle, playWithoutDialog},    {"choose", When::idle, playWithoutDialog},
@@ -22,7 +22,7 @@ constexpr Command kCommands[] = {
 } // namespace
 
 std::span<const Command> dialogCommands() {
-    return kCommands;
+    return kDialogCommands;
 }
 
 } // namespace easel::play

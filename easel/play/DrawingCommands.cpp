@@ -76,7 +76,7 @@ void filter(Session& session, Arguments& arguments) {
     session.process().pickFilter() = runtime::filterOf(kinds);
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kDrawingCommands[] = {
     {"new", When::idle, newDrawing}, {"add", When::idle, add},   {"gradient", When::idle, gradient},
     {"undo", When::idle, undo},      {"redo", When::idle, redo}, {"snap", When::idle, snap},
     {"filter", When::idle, filter},
@@ -85,7 +85,7 @@ constexpr Command kCommands[] = {
 } // namespace
 
 std::span<const Command> drawingCommands() {
-    return kCommands;
+    return kDrawingCommands;
 }
 
 } // namespace easel::play

@@ -38,7 +38,7 @@ void exportPicture(Session& session, Arguments& arguments) {
         throw PlayError(exported.error().message());
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kFileCommands[] = {
     {"open", When::idle, open},
     {"save", When::idle, save},
     {"export", When::idle, exportPicture},
@@ -47,7 +47,7 @@ constexpr Command kCommands[] = {
 } // namespace
 
 std::span<const Command> fileCommands() {
-    return kCommands;
+    return kFileCommands;
 }
 
 } // namespace easel::play

@@ -50,7 +50,7 @@ void picture(Session& session, Arguments& arguments) {
         pictureOfWindow(session, arguments);
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kLookingCommands[] = {
     {"print", When::always, print},
     {"picture", When::always, picture},
 };
@@ -58,7 +58,7 @@ constexpr Command kCommands[] = {
 } // namespace
 
 std::span<const Command> lookingCommands() {
-    return kCommands;
+    return kLookingCommands;
 }
 
 } // namespace easel::play

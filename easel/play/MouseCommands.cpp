@@ -53,7 +53,7 @@ void key(Session& session, Arguments& arguments) {
         throw PlayError("\"" + name + "\" is neither option nor shift");
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kMouseCommands[] = {
     {"press", When::idle, press}, {"move", When::idle, move},        {"release", When::idle, release},
     {"key", When::always, key},   {"click", When::idle, takenApart}, {"drag", When::idle, takenApart},
 };
@@ -61,7 +61,7 @@ constexpr Command kCommands[] = {
 } // namespace
 
 std::span<const Command> mouseCommands() {
-    return kCommands;
+    return kMouseCommands;
 }
 
 void playMouseStep(Session& session, const Step& step) {

@@ -51,7 +51,7 @@ void switchJournal(Session& session, Arguments& arguments) {
         session.process().journal().switchOff();
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kSessionCommands[] = {
     {"start", When::idle, start},     {"quit", When::idle, quit},
     {"message", When::idle, message}, {"options", When::idle, options},
     {"cursor", When::idle, cursor},   {"journal", When::always, switchJournal},
@@ -60,7 +60,7 @@ constexpr Command kCommands[] = {
 } // namespace
 
 std::span<const Command> sessionCommands() {
-    return kCommands;
+    return kSessionCommands;
 }
 
 } // namespace easel::play

@@ -15,7 +15,7 @@ namespace easel::window {
 namespace {
 
 // Handling events between two reports costs time of its own.
-constexpr qint64 kFrame = 33;
+constexpr qint64 kFrameTime = 33;
 
 } // namespace
 
@@ -28,7 +28,7 @@ files::Result<drawing::Drawing> loadDrawing(const QString& file, Interaction& in
     sinceShown.start();
     svg::ReadOptions options;
     options.progress = [&](double done) {
-        if (sinceShown.elapsed() >= kFrame) {
+        if (sinceShown.elapsed() >= kFrameTime) {
             // The window that it is to appear over may only now hear where it is.
             QCoreApplication::processEvents();
             showProgress(*dialog, done);
