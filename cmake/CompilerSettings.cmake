@@ -27,6 +27,8 @@ endif()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_C_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+  # Without this leniency ccache passes by everything that uses a precompiled header.
+  set(launcher "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${CCACHE_PROGRAM}")
+  set(CMAKE_C_COMPILER_LAUNCHER "${launcher}")
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${launcher}")
 endif()
