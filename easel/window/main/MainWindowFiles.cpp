@@ -22,7 +22,7 @@
 namespace easel::window {
 namespace {
 
-constexpr int kMessageTime = 4000; // milliseconds
+constexpr int kFileMessageTime = 4000; // milliseconds
 
 QString svgFilter() {
     return QObject::tr("SVG drawings (*.svg *.svgz);;All files (*)");
@@ -96,7 +96,7 @@ MainWindow::Saved MainWindow::saveTo(const QString& file) {
     file_ = QFileInfo(file).absoluteFilePath();
     shared_.recentFiles.add(file_);
     drawingChanged();
-    statusBar()->showMessage(tr("Saved %1").arg(name()), kMessageTime);
+    statusBar()->showMessage(tr("Saved %1").arg(name()), kFileMessageTime);
     return Saved::Yes;
 }
 
@@ -143,7 +143,7 @@ void MainWindow::exportAs(const QString& suffix) {
     if (!exported && !exported.error().isCancellation())
         tellProblem(exported.error().message(), shared_.interaction.dialogs);
     else if (exported)
-        statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
+        statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kFileMessageTime);
 }
 
 void MainWindow::print() {
@@ -154,7 +154,7 @@ void MainWindow::print() {
     if (!shared_.interaction.dialogs.run(dialog))
         return;
     if (printDrawing(drawingWindow_.drawing(), printer, shared_.interaction, this) == Printed::Yes)
-        statusBar()->showMessage(tr("Printed %1").arg(name()), kMessageTime);
+        statusBar()->showMessage(tr("Printed %1").arg(name()), kFileMessageTime);
 }
 
 // Asks what is to become of unsaved changes; No if the user would rather go on.

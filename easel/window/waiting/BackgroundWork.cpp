@@ -15,7 +15,7 @@ namespace easel::window {
 namespace {
 
 constexpr int kAppearsAfter = 500; // milliseconds
-constexpr int kFrame = 33;
+constexpr int kFramePause = 33;
 constexpr int kSteps = 1000;
 
 // Takes the keyboard, so that Escape cancels.
@@ -73,7 +73,7 @@ void workBeside(Interaction& interaction, const QString& text, QWidget* over,
     });
     QTimer frames;
     QObject::connect(&frames, &QTimer::timeout, dialog.get(), [&] { showProgress(*dialog, done); });
-    frames.start(kFrame);
+    frames.start(kFramePause);
     while (!finished) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         if (dialog->wasCanceled() || interaction.waiting.cancelled())
