@@ -14,26 +14,21 @@ function(compile_together target)
   endif()
 endfunction()
 
-# tests_together(<target>): a test program reads the headers of GoogleTest ahead of time, once for all programs. How fast
-# a test's own code runs matters to nobody, so it is compiled for being compiled fast.
-function(tests_together target)
-  # Headers read ahead fit only what is compiled in the same way, and some of the libraries want threads.
-  set(options -O1 -fPIE -pthread)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # At -O1, GCC 12 takes the joining of strings for writing past their end.
-    list(APPEND options -Wno-array-bounds -Wno-stringop-overflow)
-  endif()
-  target_compile_options(${target} PRIVATE ${options})
+# headers_ahead(<name> [OPTIONS <compile options>] [LINK <targets>] HEADERS <headers>): reads headers ahead of time, for
+# targets that name this one in read_ahead. They have to be compiled in the same way.
+function(headers_ahead name)
   if(EASEL_TOGETHER)
-    if(NOT TARGET test_headers)
-      file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/test_headers.cpp" CONTENT "")
-      add_library(test_headers OBJECT "${CMAKE_BINARY_DIR}/test_headers.cpp")
-      set_target_properties(test_headers PROPERTIES POSITION_INDEPENDENT_CODE OFF)
-      target_compile_options(test_headers PRIVATE ${options})
-      target_link_libraries(test_headers PRIVATE GTest::gtest GTest::gmock)
-      target_precompile_headers(test_headers PRIVATE <algorithm> <cmath> <filesystem> <functional> <gmock/gmock.h>
-                                <gtest/gtest.h> <random> <string> <vector>)
-    endif()
-    target_precompile_headers(${target} REUSE_FROM test_headers)
+    cmake_parse_arguments(PARSE_ARGV 1 ahead "" "" "OPTIONS;LINK;HEADERS")
+    file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/${name}.cpp" CONTENT "")
+    add_library(${name} OBJECT "${CMAKE_BINARY_DIR}/${name}.cpp")
+    target_compile_options(${name} PRIVATE ${ahead_OPTIONS})
+    target_link_libraries(${name} PRIVATE ${ahead_LINK})
+    target_precompile_headers(${name} PRIVATE ${ahead_HEADERS})
+  endif()
+endfunction()
+
+function(read_ahead target name)
+  if(EASEL_TOGETHER)
+    target_precompile_headers(${target} REUSE_FROM ${name})
   endif()
 endfunction()

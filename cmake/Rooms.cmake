@@ -1,12 +1,12 @@
-# easel_room(<name> [OPTIONS <compile options>] [PUBLIC <targets>] [PRIVATE <targets>]): declares a room of Easel, which
+# easel_room(<name> [AHEAD <headers>] [OPTIONS <compile options>] [PUBLIC <targets>] [PRIVATE <targets>]): declares a room of Easel, which
 # is the folder easel/<name> (a dot in the name is a step down: svg.text lives in svg/text).
 #
 # Two targets come of it. easel.<name> stands for the headers: who links it may include "easel/<name>/..." and, along
 # with it, the headers of the rooms under PUBLIC, since the room's own headers need those. easel.<name>.objects is the
 # compiled room; it sees the rooms under PRIVATE beside, and what it leaves out it cannot include. A folder of headers
-# alone has no objects.
+# alone has no objects. AHEAD names the headers that are read ahead of time (headers_ahead).
 function(easel_room name)
-  cmake_parse_arguments(PARSE_ARGV 1 room "" "" "OPTIONS;PUBLIC;PRIVATE")
+  cmake_parse_arguments(PARSE_ARGV 1 room "" "AHEAD" "OPTIONS;PUBLIC;PRIVATE")
   string(REPLACE "." "/" folder "easel/${name}")
 
   add_library(easel.${name} INTERFACE)
@@ -20,5 +20,8 @@ function(easel_room name)
     target_link_libraries(easel.${name}.objects PRIVATE easel.${name} ${room_PRIVATE})
     target_compile_options(easel.${name}.objects PRIVATE ${room_OPTIONS})
     compile_together(easel.${name}.objects)
+    if(room_AHEAD)
+      read_ahead(easel.${name}.objects ${room_AHEAD})
+    endif()
   endif()
 endfunction()
