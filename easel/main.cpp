@@ -1,5 +1,5 @@
 // The command line of Easel.
-#include "easel/commands/ExitCode.h"
+#include "easel/commands/Failure.h"
 #include "easel/commands/PlayCommand.h"
 #include "easel/commands/RenderCommand.h"
 #include "easel/commands/TemplatesCommand.h"

@@ -1,7 +1,7 @@
 // The command line of `easel render`.
 #include "easel/commands/RenderCommand.h"
 
-#include "easel/commands/ExitCode.h"
+#include "easel/commands/Failure.h"
 #include "easel/export/ExportDrawing.h"
 #include "easel/svg/Document.h"
 
@@ -19,11 +19,6 @@ struct RenderRequest {
     std::string picture;
     exports::SizeRequest size;
 };
-
-int fail(const files::Error& error) {
-    std::cerr << "easel: " << error.message() << "\n";
-    return kFailed;
-}
 
 int render(const RenderRequest& request) {
     const auto drawing = svg::readFile(request.drawing);

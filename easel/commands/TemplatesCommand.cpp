@@ -1,7 +1,7 @@
 // The command line of `easel templates`.
 #include "easel/commands/TemplatesCommand.h"
 
-#include "easel/commands/ExitCode.h"
+#include "easel/commands/Failure.h"
 #include "easel/exchange/GradientFiles.h"
 #include "easel/exchange/SvgGradient.h"
 #include "easel/exchange/TemplateShelf.h"
@@ -33,11 +33,6 @@ struct TemplatesRequest {
     std::string picture;
     std::vector<std::string> files;
 };
-
-int fail(const Error& error) {
-    std::cerr << "easel: " << error.message() << "\n";
-    return kFailed;
-}
 
 void say(const std::string& subject, const std::vector<std::string>& notes) {
     for (const std::string& note : notes)
