@@ -26,7 +26,6 @@ namespace easel::window {
 namespace {
 
 constexpr double kZoomStep = 1.25;
-constexpr int kMessageTime = 4000; // milliseconds
 constexpr QSize kWindowSize{1120, 760};
 
 QString joined(const std::vector<std::string>& notes) {

@@ -28,6 +28,9 @@ class GradientMenu;
 class NoticeBar;
 struct SharedParts;
 
+// How long a message stays in the status bar, in milliseconds.
+inline constexpr int kMessageTime = 4000;
+
 class MainWindow : public QMainWindow {
     Q_OBJECT
 

@@ -22,8 +22,6 @@
 namespace easel::window {
 namespace {
 
-constexpr int kFileMessageTime = 4000; // milliseconds
-
 QString svgFilter() {
     return QObject::tr("SVG drawings (*.svg *.svgz);;All files (*)");
 }
@@ -96,7 +94,7 @@ MainWindow::Saved MainWindow::saveTo(const QString& file) {
     file_ = QFileInfo(file).absoluteFilePath();
     shared_.recentFiles.add(file_);
     drawingChanged();
-    statusBar()->showMessage(tr("Saved %1").arg(name()), kFileMessageTime);
+    statusBar()->showMessage(tr("Saved %1").arg(name()), kMessageTime);
     return Saved::Yes;
 }
 
@@ -143,7 +141,7 @@ void MainWindow::exportAs(const QString& suffix) {
     if (!exported && !exported.error().isCancellation())
         tellProblem(exported.error().message(), shared_.interaction.dialogs);
     else if (exported)
-        statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kFileMessageTime);
+        statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
 }
 
 void MainWindow::print() {
@@ -154,7 +152,7 @@ void MainWindow::print() {
     if (!shared_.interaction.dialogs.run(dialog))
         return;
     if (printDrawing(drawingWindow_.drawing(), printer, shared_.interaction, this) == Printed::Yes)
-        statusBar()->showMessage(tr("Printed %1").arg(name()), kFileMessageTime);
+        statusBar()->showMessage(tr("Printed %1").arg(name()), kMessageTime);
 }
 
 // Asks what is to become of unsaved changes; No if the user would rather go on.

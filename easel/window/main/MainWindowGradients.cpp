@@ -19,11 +19,10 @@ using drawing::Drawing;
 using drawing::Loss;
 using drawing::WholeGradient;
 
-constexpr int kMessageTime = 4000; // milliseconds
 // How near to an outline a press has to be, in screen pixels, as for the tool.
 constexpr double kReach = 3;
 // Of more selected objects than this only some are looked at for a message.
-constexpr std::size_t kMostLookedAt = 200;
+constexpr std::size_t kMostAskedForMessage = 200;
 
 drawing::KindSet gradientKinds() {
     drawing::KindSet kinds;
@@ -152,7 +151,7 @@ void MainWindow::gradientPickedUp(drawing::Point at) {
 void MainWindow::rememberCost() {
     levelsBefore_ = drawingWindow_.drawing().undoLevels();
     cost_ = Loss::None;
-    for (const drawing::ObjectPtr& object : drawingWindow_.drawing().someSelected(kMostLookedAt))
+    for (const drawing::ObjectPtr& object : drawingWindow_.drawing().someSelected(kMostAskedForMessage))
         if (const Loss loss = shapeGradientOf(*object).loss; loss != Loss::None)
             cost_ = loss;
 }
@@ -170,7 +169,7 @@ void MainWindow::tellCost(Loss loss) {
 
 void MainWindow::showWhatIsKept() {
     Kept kept;
-    for (const drawing::ObjectPtr& object : drawingWindow_.drawing().someSelected(kMostLookedAt))
+    for (const drawing::ObjectPtr& object : drawingWindow_.drawing().someSelected(kMostAskedForMessage))
         if (const auto gradient = wholeGradientOf(*object))
             kept.add(*gradient);
     const QString text = textOf(kept);
