@@ -16,7 +16,7 @@ Handle GetDefaultsResource(unsigned long type, short id) {
     const auto* const resource = stored ? stored->find(static_cast<std::uint32_t>(type), id) : nullptr;
     if (!resource)
         return nullptr;
-    Handle const block = process().blocks().create(resource->data.size());
+    const Handle block = process().blocks().create(resource->data.size());
     if (block)
         std::copy(resource->data.begin(), resource->data.end(), *block);
     return block;

@@ -81,7 +81,7 @@ std::string taken(CFStringRef string) {
 
 } // namespace
 
-ModalFilterUPP const StdDlogFilterUPP = passEvent;
+const ModalFilterUPP StdDlogFilterUPP = passEvent;
 
 DialogRef TessGetNewDialog(short id, void*, OpaqueWindowPtr*) {
     journal("TessGetNewDialog", id);
@@ -138,7 +138,7 @@ void UpdateDialog(DialogRef ref, OpaqueRgnHandle*) {
         drawAndShow(*dialog);
 }
 
-UserItemUPP const UpdateSeparatorUPP = drawSeparator;
+const UserItemUPP UpdateSeparatorUPP = drawSeparator;
 
 UserItemUPP NewUserItemUPP(UserItemUPP procedure) {
     journal("NewUserItemUPP");
@@ -166,7 +166,7 @@ void InvalDLogItem(DialogRef ref, short number) {
         dialog->invalidate(number);
 }
 
-void SetDLOGText(DialogRef ref, short number, CStr255 const& text) {
+void SetDLOGText(DialogRef ref, short number, const CStr255& text) {
     journal("SetDLOGText", number, easel::classic::fromMacRoman(text.Text()));
     if (Dialog* dialog = dialogOf(ref))
         dialog->setText(number, text.Text());
@@ -229,7 +229,7 @@ bool Confirm(short id) {
     return alert && process().user().confirm(*alert) == easel::runtime::Answer::yes;
 }
 
-bool GetColor(TPoint<short>, unsigned char const* prompt, RGBColor const* color, RGBColor* result) {
+bool GetColor(TPoint<short>, const unsigned char* prompt, const RGBColor* color, RGBColor* result) {
     const std::string text = easel::classic::fromMacRoman(CStr255::FromPascal(prompt).Text());
     journal("GetColor", text);
     const auto picked = process().user().pickColor(text, *color);

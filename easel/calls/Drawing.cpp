@@ -76,7 +76,7 @@ void GetForeColor(RGBColor* color) {
     *color = {now.red, now.green, now.blue};
 }
 
-void RGBForeColor(RGBColor const* color) {
+void RGBForeColor(const RGBColor* color) {
     journal("QD::RGBForeColor");
     target().state().foreground = {color->red, color->green, color->blue};
 }
@@ -90,7 +90,7 @@ void GetPenState(PenState* state) {
     std::copy(pen.pattern.begin(), pen.pattern.end(), state->pattern.pat);
 }
 
-void SetPenState(PenState const* state) {
+void SetPenState(const PenState* state) {
     journal("QD::SetPenState");
     paint::Pen& pen = target().state().pen;
     pen.location = {state->location.h, state->location.v};
@@ -109,22 +109,22 @@ void PenMode(short mode) {
     target().state().pen.mode = static_cast<paint::PenMode>(mode);
 }
 
-void PenPat(Pattern const* pattern) {
+void PenPat(const Pattern* pattern) {
     journal("QD::PenPat");
     std::copy(std::begin(pattern->pat), std::end(pattern->pat), target().state().pen.pattern.begin());
 }
 
-void PaintRect(TRect<short> const& rect) {
+void PaintRect(const TRect<short>& rect) {
     journal("QD::PaintRect");
     target().paintRect(fromHost(rect));
 }
 
-void FrameRect(TRect<short> const& rect) {
+void FrameRect(const TRect<short>& rect) {
     journal("QD::FrameRect");
     target().frameRect(fromHost(rect));
 }
 
-void EraseRect(TRect<short> const& rect) {
+void EraseRect(const TRect<short>& rect) {
     journal("QD::EraseRect");
     target().eraseRect(fromHost(rect));
 }
@@ -176,7 +176,7 @@ void KillPoly(OpaquePolyHandle* polygon) {
     process().recording().free(polygonOf(polygon));
 }
 
-void ClipRect(TRect<short> const& rect) {
+void ClipRect(const TRect<short>& rect) {
     journal("QD::ClipRect");
     target().state().clip = fromHost(rect);
 }
@@ -190,7 +190,7 @@ void DrawDropShadow(TRect<short> rect) {
     easel::runtime::drawShadow(target(), theme, fromHost(rect));
 }
 
-void CGraphicsEnvironment::CGContextDrawGradient(CGPath const* path, CGradientData const& gradient) {
+void CGraphicsEnvironment::CGContextDrawGradient(const CGPath* path, const CGradientData& gradient) {
     journal("CGraphicsEnvironment::CGContextDrawGradient");
     paint::Port* port = state_->port;
     // Feedback over a drawing window is made of lines and takes no fills.
@@ -199,21 +199,21 @@ void CGraphicsEnvironment::CGContextDrawGradient(CGPath const* path, CGradientDa
     easel::runtime::fillWithGradient(*port, path->outline, gradient);
 }
 
-CGPath const* CreatePolyPath(CFPolygonRef polygon) {
+const CGPath* CreatePolyPath(CFPolygonRef polygon) {
     journal("CreatePolyPath");
     std::vector<drawing::Point> corners;
-    for (TPoint<double> const& vertex : polygon.Storage()->vertices)
+    for (const TPoint<double>& vertex : polygon.Storage()->vertices)
         corners.push_back(easel::runtime::toPoint(vertex));
     return std::make_unique<CGPath>(CGPath{drawing::polygonPath(corners)}).release();
 }
 
-void CGPathRelease(CGPath const* path) {
+void CGPathRelease(const CGPath* path) {
     journal("CGPathRelease");
-    const std::unique_ptr<CGPath const> storage(path);
+    const std::unique_ptr<const CGPath> storage(path);
 }
 
-void DrawConstructionLine(CGraphicsEnvironment* environment, TPoint<double> const& from,
-                          TPoint<double> const& to) {
+void DrawConstructionLine(CGraphicsEnvironment* environment, const TPoint<double>& from,
+                          const TPoint<double>& to) {
     journal("DrawConstructionLine");
     if (environment)
         environment->State().lines.push_back({easel::runtime::toPoint(from), easel::runtime::toPoint(to)});
@@ -223,7 +223,7 @@ struct CSimplePixMap::State : easel::runtime::OffscreenImage {
     using OffscreenImage::OffscreenImage;
 };
 
-CSimplePixMap::CSimplePixMap(TRect<short> const& bounds, short depth, OpaqueColorTable*)
+CSimplePixMap::CSimplePixMap(const TRect<short>& bounds, short depth, OpaqueColorTable*)
     : state_(std::make_unique<State>(fromHost(bounds), process().ports())) {
     journal("CSimplePixMap", depth);
 }

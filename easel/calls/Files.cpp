@@ -10,7 +10,7 @@ using classic::fromMacRoman;
 using runtime::journal;
 using runtime::process;
 
-FSSpec FindSecondaryPreferencesFolder(CStr255 const& name, bool create) {
+FSSpec FindSecondaryPreferencesFolder(const CStr255& name, bool create) {
     journal("FindSecondaryPreferencesFolder", fromMacRoman(name.Text()), create);
     const auto found = process().storage().files().findSecondaryFolder(
         name.Text(), create ? classic::FolderCreation::IfMissing : classic::FolderCreation::Never);
@@ -27,7 +27,7 @@ void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** lis
                               {reinterpret_cast<const char*>(records.data()), records.size_bytes()});
 }
 
-OSErr FSMakeFSSpec(short vRefNum, long dirID, CStr255 const& name, FSSpec* out) {
+OSErr FSMakeFSSpec(short vRefNum, long dirID, const CStr255& name, FSSpec* out) {
     journal("FSMakeFSSpec", vRefNum, dirID, fromMacRoman(name.Text()));
     classic::FileSpec spec;
     const auto result = process().storage().files().resolve(vRefNum, dirID, name.Text(), spec);
@@ -36,17 +36,17 @@ OSErr FSMakeFSSpec(short vRefNum, long dirID, CStr255 const& name, FSSpec* out) 
     return static_cast<OSErr>(result);
 }
 
-OSErr FSpDelete(FSSpec const* spec) {
+OSErr FSpDelete(const FSSpec* spec) {
     journal("FSpDelete");
     return static_cast<OSErr>(process().storage().files().remove(runtime::fileSpecFrom(*spec)));
 }
 
-void FSpCreateResFile(FSSpec const* spec, OSType creator, OSType fileType, short scriptCode) {
+void FSpCreateResFile(const FSSpec* spec, OSType creator, OSType fileType, short scriptCode) {
     journal("FSpCreateResFile", creator, fileType, scriptCode);
     process().storage().files().create(runtime::fileSpecFrom(*spec), {fileType, creator});
 }
 
-short FSpOpenResFile(FSSpec const* spec, signed char permission) {
+short FSpOpenResFile(const FSSpec* spec, signed char permission) {
     journal("FSpOpenResFile", permission);
     const auto access = permission == kReadPermission ? classic::Access::Read : classic::Access::Write;
     return process().storage().resourceFiles().open(runtime::fileSpecFrom(*spec), access);
@@ -67,7 +67,7 @@ void CloseResFile(short refNum) {
     process().storage().resourceFiles().close(refNum);
 }
 
-void AddResource(Handle data, OSType type, short id, CStr255 const& name) {
+void AddResource(Handle data, OSType type, short id, const CStr255& name) {
     journal("AddResource", type, id, fromMacRoman(name.Text()));
     process().storage().resourceFiles().add(data, type, id, name.Text());
 }

@@ -10,24 +10,24 @@
 
 using easel::runtime::journal;
 
-CFPolygonRef::CFPolygonRef(CFPolygonRef const& other, bool duplicate)
+CFPolygonRef::CFPolygonRef(const CFPolygonRef& other, bool duplicate)
     : polygon_(duplicate ? std::make_unique<FPolygon>(*other.polygon_).release() : other.polygon_) {}
 
 TRect<double> CFPolygonRef::Bounds() const {
     easel::drawing::Box box;
-    for (TPoint<double> const& vertex : polygon_->vertices)
+    for (const TPoint<double>& vertex : polygon_->vertices)
         box.add(easel::runtime::toPoint(vertex));
     return easel::runtime::toHost(box);
 }
 
-CFPolygonRef FRectToFPoly(TRect<double> const& rect) {
+CFPolygonRef FRectToFPoly(const TRect<double>& rect) {
     journal("FRectToFPoly");
     auto polygon = std::make_unique<FPolygon>();
     polygon->vertices = {rect.TopLeft(), rect.TopRight(), rect.BottomRight(), rect.BottomLeft()};
     return CFPolygonRef(polygon.release());
 }
 
-void RotateFPoly(CFPolygonRef polygon, double degrees, TPoint<double> const& centre) {
+void RotateFPoly(CFPolygonRef polygon, double degrees, const TPoint<double>& centre) {
     journal("RotateFPoly", degrees);
     for (TPoint<double>& vertex : polygon.Storage()->vertices)
         vertex.Rotate(degrees, centre);

@@ -20,17 +20,17 @@ constexpr RGBColor kWhite{65535, 65535, 65535};
 
 } // namespace
 
-CGradientColor::CGradientColor(RGBColor const& color, double percent) : color_(color), percent_(percent) {}
+CGradientColor::CGradientColor(const RGBColor& color, double percent) : color_(color), percent_(percent) {}
 RGBColor CGradientColor::ColorRGB() const {
     return color_;
 }
-void CGradientColor::SetColor(RGBColor const& color) {
+void CGradientColor::SetColor(const RGBColor& color) {
     color_ = color;
 }
 void CGradientColor::SetPercent(float percent) {
     percent_ = static_cast<double>(percent);
 }
-bool CGradientColor::operator<(CGradientColor const& other) const {
+bool CGradientColor::operator<(const CGradientColor& other) const {
     return percent_ < other.percent_;
 }
 
@@ -77,9 +77,9 @@ void CGradientData::SetEndRadius(float radius) {
 
 CHashBase::~CHashBase() = default;
 
-CGradient::CGradient(CGradientData const& data) : data_(data) {}
+CGradient::CGradient(const CGradientData& data) : data_(data) {}
 CGradient::~CGradient() = default;
-CGradientData const& CGradient::GetGradientData() const {
+const CGradientData& CGradient::GetGradientData() const {
     return data_;
 }
 
@@ -97,12 +97,12 @@ bool IsGradientCapable(long kind) {
     return std::find(std::begin(kGradObjIDs), std::end(kGradObjIDs), kind) != std::end(kGradObjIDs);
 }
 
-Handle MakeGradientData(CGradientData const& data) {
+Handle MakeGradientData(const CGradientData& data) {
     journal("MakeGradientData");
     const auto bytes = easel::classic::gradientToBytes(data);
     if (!bytes)
         return nullptr;
-    Handle const block = process().blocks().create(bytes->size());
+    const Handle block = process().blocks().create(bytes->size());
     if (block)
         std::copy(bytes->begin(), bytes->end(), *block);
     return block;

@@ -33,14 +33,14 @@ void DeleteMenuItem(OpaqueMenuRef* ref, short item) {
         menu->remove(item);
 }
 
-void AppendMenu(OpaqueMenuRef* ref, CStr255 const& text) {
+void AppendMenu(OpaqueMenuRef* ref, const CStr255& text) {
     journal("AppendMenu", easel::classic::fromMacRoman(text.Text()));
     if (Menu* menu = menuOf(ref))
         for (easel::runtime::MenuEntry& entry : easel::runtime::menuEntriesIn(text.Text()))
             menu->append(std::move(entry));
 }
 
-void SetMenuItemText(OpaqueMenuRef* ref, short item, CStr255 const& text) {
+void SetMenuItemText(OpaqueMenuRef* ref, short item, const CStr255& text) {
     journal("SetMenuItemText", item, easel::classic::fromMacRoman(text.Text()));
     if (Menu* menu = menuOf(ref))
         menu->setText(item, text.Text());

@@ -24,7 +24,7 @@ namespace {
 // How far from an outline a click still means the object, in screen pixels.
 constexpr double kReach = 3;
 
-const drawing::Object* objectOf(TessObject const* object) {
+const drawing::Object* objectOf(const TessObject* object) {
     return object && object->State() ? object->State()->object.get() : nullptr;
 }
 
@@ -38,12 +38,12 @@ template <class Change> void changeOwn(const std::shared_ptr<HostObject>& state,
 }
 
 // Null for a list of no drawing.
-drawing::Drawing* drawingOf(CTessObjList const& list) {
+drawing::Drawing* drawingOf(const CTessObjList& list) {
     return list.State() ? &list.State()->window->drawing() : nullptr;
 }
 
 // Null if the list has no object at the index.
-drawing::Drawing* drawingWith(CTessObjList const& list, long index) {
+drawing::Drawing* drawingWith(const CTessObjList& list, long index) {
     drawing::Drawing* own = drawingOf(list);
     return own && index >= 0 && static_cast<std::size_t>(index) < own->size() ? own : nullptr;
 }
@@ -79,25 +79,25 @@ SharedResourcePtr<CGradient> TessObject::GetGradient() const {
     return object ? drawing::shapeGradientOf(*object).record : SharedResourcePtr<CGradient>();
 }
 
-void TessObject::SetGradient(SharedResourcePtr<CGradient> const& gradient) {
+void TessObject::SetGradient(const SharedResourcePtr<CGradient>& gradient) {
     journal("TessObject::SetGradient");
     changeOwn(state_, [&](drawing::Object& object) { object.setGradient(gradient); });
 }
 
-void TessObject::SetFillPattern(SharedResourcePtr<CPatRecord> const& pattern) {
+void TessObject::SetFillPattern(const SharedResourcePtr<CPatRecord>& pattern) {
     journal("TessObject::SetFillPattern");
     changeOwn(state_, [&](drawing::Object& object) {
         object.setFillPattern(easel::runtime::fillPatternOf(pattern));
     });
 }
 
-void CloneItem(TessObject const* object, TessObject& clone) {
+void CloneItem(const TessObject* object, TessObject& clone) {
     journal("CloneItem");
     const bool there = objectOf(object) != nullptr;
     clone = there ? TessObject(std::make_shared<HostObject>(*object->State())) : TessObject();
 }
 
-void ObjToPoly(TessObject const* object, TessObject& polygon, double tolerance) {
+void ObjToPoly(const TessObject* object, TessObject& polygon, double tolerance) {
     journal("ObjToPoly", tolerance);
     polygon = TessObject();
     const drawing::Object* source = objectOf(object);
@@ -125,7 +125,7 @@ TessObject CTessObjList::operator[](long index) const {
     return TessObject(std::make_shared<HostObject>(HostObject{own->object(static_cast<std::size_t>(index))}));
 }
 
-SelDescrimT const descrimAllOff{};
+const SelDescrimT descrimAllOff{};
 
 void GetSelDescrim(SelDescrimT& filter) {
     journal("GetSelDescrim");
@@ -156,14 +156,14 @@ bool PickObj(DWindow* window, TPoint<double> where, long& index, CTessObjList& l
     return true;
 }
 
-void DeleteUObj(long index, CTessObjList const& list) {
+void DeleteUObj(long index, const CTessObjList& list) {
     journal("DeleteUObj", index);
     if (drawing::Drawing* own = drawingWith(list, index))
         own->erase(static_cast<std::size_t>(index));
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes lists by value.
-void InsertObj(TessObject const& object, long index, CTessObjList list) {
+void InsertObj(const TessObject& object, long index, CTessObjList list) {
     journal("InsertObj", index);
     drawing::Drawing* own = drawingOf(list);
     if (!own || !object.State())

@@ -24,7 +24,7 @@ constexpr __CFAllocator kAllocator;
 
 CPString::CPString(unsigned char capacity) : capacity_(capacity) {}
 
-CPString& CPString::operator=(CPString const& other) {
+CPString& CPString::operator=(const CPString& other) {
     if (this != &other)
         Assign(other.Text());
     return *this;
@@ -38,11 +38,11 @@ std::size_t CPString::Capacity() const {
     return capacity_;
 }
 
-char const* CPString::c_str() const {
-    return reinterpret_cast<char const*>(bytes_ + 1);
+const char* CPString::c_str() const {
+    return reinterpret_cast<const char*>(bytes_ + 1);
 }
 
-unsigned char const* CPString::PascalBytes() const {
+const unsigned char* CPString::PascalBytes() const {
     return bytes_;
 }
 
@@ -68,20 +68,20 @@ void CPString::Delete(std::size_t first, std::size_t count) {
 
 CStr255::CStr255() : CPString(kLongCapacity) {}
 
-CStr255::CStr255(char const* text) : CPString(kLongCapacity) {
+CStr255::CStr255(const char* text) : CPString(kLongCapacity) {
     Assign(text ? text : "");
 }
 
-CStr255::CStr255(std::string const& text) : CPString(kLongCapacity) {
+CStr255::CStr255(const std::string& text) : CPString(kLongCapacity) {
     Assign(text);
 }
 
-CStr255::CStr255(CPString const& other) : CPString(kLongCapacity) {
+CStr255::CStr255(const CPString& other) : CPString(kLongCapacity) {
     Assign(other.Text());
 }
 
-CStr255 CStr255::FromPascal(unsigned char const* bytes) {
-    return std::string(reinterpret_cast<char const*>(bytes + 1), bytes[0]);
+CStr255 CStr255::FromPascal(const unsigned char* bytes) {
+    return std::string(reinterpret_cast<const char*>(bytes + 1), bytes[0]);
 }
 
 CFStringRef CStr255::CreateCopy() const {
@@ -90,7 +90,7 @@ CFStringRef CStr255::CreateCopy() const {
 
 CStr32::CStr32() : CPString(kShortCapacity) {}
 
-CStr32::CStr32(CPString const& other) : CPString(kShortCapacity) {
+CStr32::CStr32(const CPString& other) : CPString(kShortCapacity) {
     Assign(other.Text());
 }
 
@@ -118,9 +118,9 @@ void DoubleToStr(double value, short precision, CStr255& out) {
     out.Assign({text.data(), static_cast<std::size_t>(end - text.data())});
 }
 
-CFAllocatorRef const kCFAllocatorDefault = &kAllocator;
+const CFAllocatorRef kCFAllocatorDefault = &kAllocator;
 
-CFStringRef CFStringCreateWithPascalString(CFAllocatorRef, unsigned char const* bytes,
+CFStringRef CFStringCreateWithPascalString(CFAllocatorRef, const unsigned char* bytes,
                                            CFStringEncoding encoding) {
     if (!bytes || encoding != kCFStringEncodingMacRoman)
         return nullptr;

@@ -6,7 +6,7 @@
 
 namespace easel::runtime {
 
-inline drawing::Point toPoint(TPoint<double> const& point) {
+inline drawing::Point toPoint(const TPoint<double>& point) {
     return {point.h, point.v};
 }
 inline TPoint<double> toHost(drawing::Point point) {

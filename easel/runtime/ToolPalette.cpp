@@ -13,7 +13,7 @@ namespace {
 void idle() {}
 void idleOptions() {}
 void idleCursor(DWindow*) {}
-bool idleClick(DWindow*, EventRecord const&, TPoint<double> const&) {
+bool idleClick(DWindow*, const EventRecord&, const TPoint<double>&) {
     return false;
 }
 

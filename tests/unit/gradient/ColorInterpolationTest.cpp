@@ -10,7 +10,7 @@
 
 namespace {
 
-RGBColor ColorAt(CGradientData const& gradient, double position) {
+RGBColor ColorAt(const CGradientData& gradient, double position) {
     return CalcColorGradient(gradient, position).ColorRGB();
 }
 
@@ -22,7 +22,7 @@ std::uint16_t Floored(std::uint16_t from, std::uint16_t to, int numerator, int d
 } // namespace
 
 TEST(ColorInterpolation, TruncatesEachChannelAndKeepsThePositionWhole) {
-    CGradientData const gradient = RecordWith({{0.0, kBlack}, {1.0, kWhite}});
+    const CGradientData gradient = RecordWith({{0.0, kBlack}, {1.0, kWhite}});
     EXPECT_EQ(ColorAt(gradient, 0.5), (RGBColor{32767, 32767, 32767}));
     EXPECT_EQ(ColorAt(gradient, 0.25), (RGBColor{16383, 16383, 16383}));
     EXPECT_EQ(ColorAt(gradient, 1.0), kWhite);
@@ -30,12 +30,12 @@ TEST(ColorInterpolation, TruncatesEachChannelAndKeepsThePositionWhole) {
 }
 
 TEST(ColorInterpolation, TruncatesAFallingChannelDownwardsToo) {
-    CGradientData const gradient = RecordWith({{0.0, kRed}, {1.0, kBlue}});
+    const CGradientData gradient = RecordWith({{0.0, kRed}, {1.0, kBlue}});
     EXPECT_EQ(ColorAt(gradient, 0.5), (RGBColor{32767, 0, 32767}));
 }
 
 TEST(ColorInterpolation, DoesNotExtrapolateBeyondTheOuterStops) {
-    CGradientData const gradient = RecordWith({{0.2, kRed}, {0.8, kBlue}});
+    const CGradientData gradient = RecordWith({{0.2, kRed}, {0.8, kBlue}});
     EXPECT_EQ(ColorAt(gradient, 0.1), kRed);
     EXPECT_EQ(ColorAt(gradient, 0.9), kBlue);
     EXPECT_EQ(ColorAt(gradient, -3.0), kRed);
@@ -43,28 +43,28 @@ TEST(ColorInterpolation, DoesNotExtrapolateBeyondTheOuterStops) {
 }
 
 TEST(ColorInterpolation, TakesTheLaterOfTwoStopsAtThePosition) {
-    CGradientData const gradient = RecordWith({{0.0, kBlack}, {0.5, kGreen}, {0.5, kRed}, {1.0, kWhite}});
+    const CGradientData gradient = RecordWith({{0.0, kBlack}, {0.5, kGreen}, {0.5, kRed}, {1.0, kWhite}});
     EXPECT_EQ(ColorAt(gradient, 0.5), kRed);
 }
 
 TEST(ColorInterpolation, LeadsUpToTheEarlierOfTwoStopsAtOnePosition) {
-    CGradientData const gradient = RecordWith({{0.0, kBlack}, {0.5, kGreen}, {0.5, kRed}, {1.0, kWhite}});
+    const CGradientData gradient = RecordWith({{0.0, kBlack}, {0.5, kGreen}, {0.5, kRed}, {1.0, kWhite}});
     EXPECT_EQ(ColorAt(gradient, 0.25), (RGBColor{0, 32767, 0}));
     EXPECT_EQ(ColorAt(gradient, 0.75), (RGBColor{65535, 32767, 32767}));
 }
 
 TEST(ColorInterpolation, OneStopGivesItsColorEverywhere) {
-    CGradientData const gradient = RecordWith({{0.4, kGreen}});
-    for (double const position : {0.0, 0.4, 1.0}) {
+    const CGradientData gradient = RecordWith({{0.4, kGreen}});
+    for (const double position : {0.0, 0.4, 1.0}) {
         EXPECT_EQ(ColorAt(gradient, position), kGreen);
     }
 }
 
 TEST(ColorInterpolation, InAnyOrderLeadsFromTheLastStopBelowToTheFirstOfTheNearestAbove) {
     // Below 0.5 the red stop is the last in the list; of those at or above it the green one is the nearest.
-    CGradientData const unsorted = RecordWith({{0.5, kGreen}, {0.25, kRed}, {0.5, kWhite}, {1.0, kBlue}});
+    const CGradientData unsorted = RecordWith({{0.5, kGreen}, {0.25, kRed}, {0.5, kWhite}, {1.0, kBlue}});
     EXPECT_EQ(ColorAt(unsorted, 0.375), (RGBColor{32767, 32767, 0}));
-    CGradientData const exact = RecordWith({{0.5, kGreen}, {0.25, kRed}, {1.0, kBlue}});
+    const CGradientData exact = RecordWith({{0.5, kGreen}, {0.25, kRed}, {1.0, kBlue}});
     EXPECT_EQ(ColorAt(exact, 0.5), kGreen);
 }
 
@@ -81,26 +81,26 @@ TEST(ColorInterpolation, MatchesWholeNumberArithmeticOnDyadicPositions) {
     std::mt19937 random(20240607);
     std::uniform_int_distribution<int> channel(0, 65535);
     std::uniform_int_distribution<int> part(0, 64);
-    auto const color = [&] {
+    const auto color = [&] {
         auto const next = [&] { return static_cast<std::uint16_t>(channel(random)); };
         return RGBColor{next(), next(), next()};
     };
     for (int round = 0; round < 2000; ++round) {
-        RGBColor const from = color();
-        RGBColor const to = color();
-        int const n = part(random);
+        const RGBColor from = color();
+        const RGBColor to = color();
+        const int n = part(random);
         // Sixty-fourths are exact in floating point, so both ways must agree to the last bit.
-        RGBColor const expected{Floored(from.red, to.red, n, 64), Floored(from.green, to.green, n, 64),
+        const RGBColor expected{Floored(from.red, to.red, n, 64), Floored(from.green, to.green, n, 64),
                                 Floored(from.blue, to.blue, n, 64)};
         EXPECT_EQ(ColorAt(RecordWith({{0.0, from}, {1.0, to}}), n / 64.0), expected) << n << "/64";
     }
 }
 
 TEST(ColorInterpolation, SurvivesPositionsThatAreNotNumbers) {
-    double const nan = std::nan("");
-    double const infinity = std::numeric_limits<double>::infinity();
-    CGradientData const odd = RecordWith({{nan, kRed}, {0.5, kGreen}, {infinity, kBlue}, {nan, kWhite}});
-    for (double const position : {nan, infinity, -infinity, 0.5, 1e308}) {
+    const double nan = std::nan("");
+    const double infinity = std::numeric_limits<double>::infinity();
+    const CGradientData odd = RecordWith({{nan, kRed}, {0.5, kGreen}, {infinity, kBlue}, {nan, kWhite}});
+    for (const double position : {nan, infinity, -infinity, 0.5, 1e308}) {
         CalcColorGradient(odd, position);
     }
     // A channel that cannot be computed is dark.

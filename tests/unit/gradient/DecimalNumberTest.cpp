@@ -31,7 +31,7 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// Pieces of numbers in any order, so that many texts are numbers or nearly so.
 std::string RandomText(std::mt19937& random) {
-    static constexpr char const* kPieces[] = {"0",
+    static constexpr const char* kPieces[] = {"0",
                                               "1",
                                               "9",
                                               "5",
@@ -74,7 +74,7 @@ std::string RandomText(std::mt19937& random) {
                                               "_",
                                               "\n"};
     std::string text;
-    auto const count = 1 + random() % 7;
+    const auto count = 1 + random() % 7;
     for (unsigned i = 0; i < count; ++i) {
         text += kPieces[random() % std::size(kPieces)];
     }
@@ -95,7 +95,7 @@ TEST(DecimalNumber, ReadsTheNumberThatATextBeginsWith) {
 }
 
 TEST(DecimalNumber, TextWithoutANumberIsZero) {
-    for (char const* const text : {"", "abc", "%", "-", "+-5", ".", "half 3", "in", "e5", "x10"}) {
+    for (const char* const text : {"", "abc", "%", "-", "+-5", ".", "half 3", "in", "e5", "x10"}) {
         EXPECT_EQ(ReadDecimal(text), 0.0) << text;
     }
 }
@@ -103,7 +103,7 @@ TEST(DecimalNumber, TextWithoutANumberIsZero) {
 TEST(DecimalNumber, InfinityIsANumberAndNotANumberIsNone) {
     EXPECT_EQ(ReadDecimal("inf"), kInfinity);
     EXPECT_EQ(ReadDecimal(" -Infinity"), -kInfinity);
-    for (char const* const text : {"nan", "-NaN", "nan(12)"}) {
+    for (const char* const text : {"nan", "-NaN", "nan(12)"}) {
         EXPECT_EQ(ReadDecimal(text), 0.0) << text;
     }
 }
@@ -124,8 +124,8 @@ TEST(DecimalNumber, ReadsEveryTextAsTheCLibraryDoesInItsOwnLocale) {
     std::mt19937 random(11);
     for (int round = 0; round < 500000; ++round) {
         std::string const text = RandomText(random);
-        double const expected = std::strtod(text.c_str(), nullptr);
-        double const read = ReadDecimal(text.c_str());
+        const double expected = std::strtod(text.c_str(), nullptr);
+        const double read = ReadDecimal(text.c_str());
         if (std::isnan(expected)) {
             ASSERT_EQ(read, 0.0) << text;
         } else if (expected == 0.0 || std::abs(expected) >= std::numeric_limits<double>::min()) {
@@ -142,7 +142,7 @@ TEST(DecimalNumber, ReadsAPointWhateverTheLanguageOfTheDesktop) {
         GTEST_SKIP() << "this machine cannot make a language with a decimal comma";
     }
     ASSERT_EQ(std::atof("12.5"), 12.0) << "the language writes a comma";
-    double const read = ReadDecimal("12.5");
+    const double read = ReadDecimal("12.5");
     std::setlocale(LC_ALL, "C");
     EXPECT_EQ(read, 12.5);
 }

@@ -14,7 +14,7 @@ namespace {
 bool gDrawingFails = false;
 
 /// The host's own operation, which the one of this program hides.
-template <typename Function> Function* HostOperation(char const* mangledName) {
+template <typename Function> Function* HostOperation(const char* mangledName) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, mangledName));
 }
 
@@ -27,16 +27,16 @@ FailingDrawing::~FailingDrawing() {
     gDrawingFails = false;
 }
 
-void CGraphicsEnvironment::CGContextDrawGradient(CGPath const* /*path*/, CGradientData const& gradient) {
+void CGraphicsEnvironment::CGContextDrawGradient(const CGPath* /*path*/, const CGradientData& gradient) {
     if (gDrawingFails) {
         throw DrawingFailed();
     }
     gDrawn = DrawnGradient{gradient, gDrawingToDialog};
 }
 
-CFPolygonRef FRectToFPoly(TRect<double> const& rect) {
+CFPolygonRef FRectToFPoly(const TRect<double>& rect) {
     gPolygonEvents.push_back({PolygonEvent::What::Made, gDrawingToDialog});
-    return HostOperation<CFPolygonRef(TRect<double> const&)>("_Z12FRectToFPolyRK5TRectIdE")(rect);
+    return HostOperation<CFPolygonRef(const TRect<double>&)>("_Z12FRectToFPolyRK5TRectIdE")(rect);
 }
 
 void KillFPoly(CFPolygonRef polygon) {

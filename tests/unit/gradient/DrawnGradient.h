@@ -20,8 +20,8 @@ struct DrawingFailed {};
 class FailingDrawing {
   public:
     FailingDrawing();
-    FailingDrawing(FailingDrawing const&) = delete;
-    FailingDrawing& operator=(FailingDrawing const&) = delete;
+    FailingDrawing(const FailingDrawing&) = delete;
+    FailingDrawing& operator=(const FailingDrawing&) = delete;
     ~FailingDrawing();
 };
 
@@ -30,7 +30,7 @@ struct PolygonEvent {
     enum class What { Made, Freed } what;
     bool drawingToDialog;
 
-    friend bool operator==(PolygonEvent const&, PolygonEvent const&) = default;
+    friend bool operator==(const PolygonEvent&, const PolygonEvent&) = default;
 };
 
 /// What happened to polygons since it was last cleared.

@@ -5,8 +5,8 @@
 class FailingMemory {
   public:
     explicit FailingMemory(int allowed);
-    FailingMemory(FailingMemory const&) = delete;
-    FailingMemory& operator=(FailingMemory const&) = delete;
+    FailingMemory(const FailingMemory&) = delete;
+    FailingMemory& operator=(const FailingMemory&) = delete;
     ~FailingMemory();
 
     /// Number of blocks allocated with `new` and not freed.

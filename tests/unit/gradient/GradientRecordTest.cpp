@@ -20,7 +20,7 @@ CGradientData UnusualRecord() {
     return data;
 }
 
-void ExpectUnusual(CGradientData const& data) {
+void ExpectUnusual(const CGradientData& data) {
     EXPECT_EQ(data.Type(), 7);
     EXPECT_EQ(data.Angle(), -33.25F);
     EXPECT_EQ(data.Start(), TPoint<double>(0.25, -0.5));
@@ -40,7 +40,7 @@ TEST_P(CopiedRecord, HasAListOfItsOwn) {
     for (std::size_t i = 0; i < GetParam(); ++i) {
         source.ColorList().emplace_back(kGreen, static_cast<double>(i));
     }
-    std::vector<Stop> const before = StopsOf(source.ColorList());
+    const std::vector<Stop> before = StopsOf(source.ColorList());
     CGradientData copy(source);
     EXPECT_EQ(StopsOf(copy.ColorList()), before);
     for (CGradientColor& stop : copy.ColorList()) {
@@ -54,9 +54,9 @@ TEST_P(CopiedRecord, HasAListOfItsOwn) {
 INSTANTIATE_TEST_SUITE_P(NoOneAndManyStops, CopiedRecord, testing::Values(0, 1, 1000));
 
 TEST(GradientRecord, CopyAndAssignmentTakeEveryField) {
-    CGradientData const source = UnusualRecord();
+    const CGradientData source = UnusualRecord();
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
-    CGradientData const copy(source);
+    const CGradientData copy(source);
     ExpectUnusual(copy);
     CGradientData assigned;
     CGradientData& result = (assigned = source);
@@ -65,7 +65,7 @@ TEST(GradientRecord, CopyAndAssignmentTakeEveryField) {
 }
 
 TEST(GradientRecord, AssigningThreeStopsToFiveLeavesExactlyTheThree) {
-    CGradientData const source = RecordWith({{0.0, kRed}, {0.25, kGreen}, {1.0, kBlue}});
+    const CGradientData source = RecordWith({{0.0, kRed}, {0.25, kGreen}, {1.0, kBlue}});
     CGradientData target =
         RecordWith({{0.0, kBlack}, {0.1, kWhite}, {0.2, kBlack}, {0.3, kWhite}, {0.4, kBlack}});
     target = source;
@@ -75,7 +75,7 @@ TEST(GradientRecord, AssigningThreeStopsToFiveLeavesExactlyTheThree) {
 
 TEST(GradientRecord, AssignmentToItselfKeepsEverything) {
     CGradientData data = UnusualRecord();
-    CGradientData const& same = data;
+    const CGradientData& same = data;
     data = same;
     ExpectUnusual(data);
 }
@@ -89,7 +89,7 @@ TEST(GradientRecord, SortingKeepsTheOrderOfStopsAtOnePosition) {
 
 TEST(GradientRecord, SortingKeepsIteratorsOnTheirStops) {
     auto colors = ColorsOf({{0.9, kRed}, {0.1, kBlue}, {0.5, kGreen}});
-    auto const red = colors.begin();
+    const auto red = colors.begin();
     SortGradients(colors);
     EXPECT_EQ(red->ColorRGB(), kRed);
     EXPECT_EQ(std::next(red), colors.end());
@@ -103,7 +103,7 @@ TEST(GradientRecord, APositionThatIsSetPassesThroughSinglePrecision) {
 }
 
 TEST(GradientRecord, DefaultIsLinearFromBlackToWhite) {
-    CGradientData const data;
+    const CGradientData data;
     EXPECT_EQ(data.Type(), kLinearGradient);
     EXPECT_EQ(data.Angle(), 0.0F);
     EXPECT_EQ(data.Start(), TPoint<double>(0.5, 0.5));

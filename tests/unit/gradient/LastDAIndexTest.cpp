@@ -9,7 +9,7 @@
 namespace {
 
 long LastIndexOfBytes(long size) {
-    StOwnedBlock const block(NewHandle(size));
+    const StOwnedBlock block(NewHandle(size));
     return LastDAIndex(reinterpret_cast<FSSpec**>(block.get()));
 }
 

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 namespace {
 
 /// Fills the polygon and returns the record that was drawn.
-CGradientData DrawnRecord(CFPolygonRef polygon, CGradientData const& gradient) {
+CGradientData DrawnRecord(CFPolygonRef polygon, const CGradientData& gradient) {
     gDrawn.reset();
     HostGraphics state;
     CGraphicsEnvironment environment(state);
@@ -24,8 +24,8 @@ CGradientData DrawnRecord(CFPolygonRef polygon, CGradientData const& gradient) {
     return gDrawn.value().record;
 }
 
-CGradientData DrawnOnRect(TRect<double> const& rect, CGradientData const& gradient) {
-    StOwnedPolygon const polygon(FRectToFPoly(rect));
+CGradientData DrawnOnRect(const TRect<double>& rect, const CGradientData& gradient) {
+    const StOwnedPolygon polygon(FRectToFPoly(rect));
     return DrawnRecord(polygon.Get(), gradient);
 }
 
@@ -39,25 +39,25 @@ TRect<double> WideRect() {
 
 TEST(PolygonFill, ExtendsTheRampFlatToBothEndsInACopy) {
     CGradientData gradient = RecordWith({{0.2, kRed}, {0.7, kBlue}});
-    CGradientData const drawn = DrawnOnRect(WideRect(), gradient);
+    const CGradientData drawn = DrawnOnRect(WideRect(), gradient);
     EXPECT_THAT(StopsOf(drawn.ColorList()),
                 ElementsAre(Stop{0.0, kRed}, Stop{0.2, kRed}, Stop{0.7, kBlue}, Stop{1.0, kBlue}));
     EXPECT_EQ(gradient.ColorList().size(), 2u);
 }
 
 TEST(PolygonFill, AddsNoStopsToARampThatReachesBothEnds) {
-    CGradientData const drawn = DrawnOnRect(WideRect(), RecordWith({{0.0, kRed}, {1.0, kBlue}}));
+    const CGradientData drawn = DrawnOnRect(WideRect(), RecordWith({{0.0, kRed}, {1.0, kBlue}}));
     EXPECT_THAT(StopsOf(drawn.ColorList()), ElementsAre(Stop{0.0, kRed}, Stop{1.0, kBlue}));
 }
 
 TEST(PolygonFill, ExtendsASingleStopToBothEnds) {
-    CGradientData const drawn = DrawnOnRect(WideRect(), RecordWith({{0.5, kGreen}}));
+    const CGradientData drawn = DrawnOnRect(WideRect(), RecordWith({{0.5, kGreen}}));
     EXPECT_THAT(StopsOf(drawn.ColorList()),
                 ElementsAre(Stop{0.0, kGreen}, Stop{0.5, kGreen}, Stop{1.0, kGreen}));
 }
 
 TEST(PolygonFill, KeepsStopsThatLieOutsideTheRamp) {
-    CGradientData const drawn = DrawnOnRect(WideRect(), RecordWith({{-0.1, kRed}, {1.25, kBlue}}));
+    const CGradientData drawn = DrawnOnRect(WideRect(), RecordWith({{-0.1, kRed}, {1.25, kBlue}}));
     EXPECT_THAT(StopsOf(drawn.ColorList()), ElementsAre(Stop{-0.1, kRed}, Stop{1.25, kBlue}));
 }
 
@@ -65,7 +65,7 @@ TEST(PolygonFill, FitsALinearGradientWhateverPointsItHolds) {
     CGradientData gradient;
     gradient.SetStart({3, 4});
     gradient.SetEnd({5, 6});
-    CGradientData const drawn = DrawnOnRect({20, 10, 70, 110}, gradient);
+    const CGradientData drawn = DrawnOnRect({20, 10, 70, 110}, gradient);
     EXPECT_EQ(drawn.Start(), TPoint<double>(10, 45));
     EXPECT_EQ(drawn.End(), TPoint<double>(110, 45));
 }
@@ -73,7 +73,7 @@ TEST(PolygonFill, FitsALinearGradientWhateverPointsItHolds) {
 TEST(PolygonFill, PlacesARadialGradientByFractionsOfTheBounds) {
     CGradientData gradient;
     gradient.SetType(kRadialGradient);
-    CGradientData const drawn = DrawnOnRect(WideRect(), gradient);
+    const CGradientData drawn = DrawnOnRect(WideRect(), gradient);
     EXPECT_EQ(drawn.Start(), TPoint<double>(50, 25));
     EXPECT_EQ(drawn.End(), TPoint<double>(50, 25));
     EXPECT_EQ(drawn.StartRadius(), 0.0);
@@ -85,7 +85,7 @@ TEST(PolygonFill, MeasuresTheEndRadiusFromTheEndPoint) {
     gradient.SetType(kRadialGradient);
     gradient.SetStart({0.25, 1.0});
     gradient.SetEnd({0.0, 0.0});
-    CGradientData const drawn = DrawnOnRect({100, 200, 150, 300}, gradient);
+    const CGradientData drawn = DrawnOnRect({100, 200, 150, 300}, gradient);
     EXPECT_EQ(drawn.Start(), TPoint<double>(225, 150));
     EXPECT_EQ(drawn.End(), TPoint<double>(200, 100));
     EXPECT_NEAR(drawn.EndRadius(), 111.8034, 5e-5);
@@ -96,7 +96,7 @@ TEST(PolygonFill, ReplacesStoredRadii) {
     gradient.SetType(kRadialGradient);
     gradient.SetStartRadius(8.0F);
     gradient.SetEndRadius(9.0F);
-    CGradientData const drawn = DrawnOnRect({0, 0, 30, 40}, gradient);
+    const CGradientData drawn = DrawnOnRect({0, 0, 30, 40}, gradient);
     EXPECT_EQ(drawn.StartRadius(), 0.0);
     EXPECT_EQ(drawn.EndRadius(), 25.0);
 }
@@ -104,7 +104,7 @@ TEST(PolygonFill, ReplacesStoredRadii) {
 TEST(PolygonFill, TreatsEveryTypeButLinearAsRadial) {
     CGradientData gradient;
     gradient.SetType(kAnyType);
-    CGradientData const drawn = DrawnOnRect(WideRect(), gradient);
+    const CGradientData drawn = DrawnOnRect(WideRect(), gradient);
     EXPECT_EQ(drawn.Type(), kAnyType);
     EXPECT_EQ(drawn.Start(), TPoint<double>(50, 25));
     EXPECT_GT(drawn.EndRadius(), 55.0);
@@ -112,8 +112,8 @@ TEST(PolygonFill, TreatsEveryTypeButLinearAsRadial) {
 
 TEST(PolygonFill, LeavesRecordAndPolygonAsTheyWere) {
     std::mt19937 random(8);
-    StOwnedPolygon const polygon = RandomPolygon(random);
-    auto const vertices = polygon.Get().Storage()->vertices;
+    const StOwnedPolygon polygon = RandomPolygon(random);
+    const auto vertices = polygon.Get().Storage()->vertices;
     CGradientData gradient;
     gradient.SetType(kRadialGradient);
     gradient.SetStart({0.1, 0.2});

@@ -19,8 +19,8 @@ inline StOwnedPolygon PolygonOf(std::vector<TPoint<double>> vertices) {
 inline StOwnedPolygon RandomPolygon(std::mt19937& random) {
     std::uniform_real_distribution<double> place(-2000.0, 2000.0);
     std::uniform_real_distribution<double> logSize(0.0, 3.5);
-    double const size = std::pow(10.0, logSize(random));
-    TPoint<double> const middle(place(random), place(random));
+    const double size = std::pow(10.0, logSize(random));
+    const TPoint<double> middle(place(random), place(random));
     std::uniform_real_distribution<double> offset(-size, size);
     std::vector<TPoint<double>> vertices(std::uniform_int_distribution<std::size_t>(3, 12)(random));
     for (TPoint<double>& vertex : vertices) {

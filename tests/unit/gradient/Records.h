@@ -12,8 +12,8 @@ struct Stop {
     double percent;
     RGBColor color;
 
-    friend bool operator==(Stop const&, Stop const&) = default;
-    friend std::ostream& operator<<(std::ostream& out, Stop const& stop) {
+    friend bool operator==(const Stop&, const Stop&) = default;
+    friend std::ostream& operator<<(std::ostream& out, const Stop& stop) {
         return out << stop.percent << ":" << stop.color.red << "," << stop.color.green << ","
                    << stop.color.blue;
     }
@@ -25,23 +25,23 @@ inline constexpr RGBColor kRed{65535, 0, 0};
 inline constexpr RGBColor kGreen{0, 65535, 0};
 inline constexpr RGBColor kBlue{0, 0, 65535};
 
-inline std::list<CGradientColor> ColorsOf(std::vector<Stop> const& stops) {
+inline std::list<CGradientColor> ColorsOf(const std::vector<Stop>& stops) {
     std::list<CGradientColor> colors;
-    for (Stop const& stop : stops) {
+    for (const Stop& stop : stops) {
         colors.emplace_back(stop.color, stop.percent);
     }
     return colors;
 }
 
-inline std::vector<Stop> StopsOf(std::list<CGradientColor> const& colors) {
+inline std::vector<Stop> StopsOf(const std::list<CGradientColor>& colors) {
     std::vector<Stop> stops;
-    for (CGradientColor const& color : colors) {
+    for (const CGradientColor& color : colors) {
         stops.push_back({color.Percent(), color.ColorRGB()});
     }
     return stops;
 }
 
-inline CGradientData RecordWith(std::vector<Stop> const& stops) {
+inline CGradientData RecordWith(const std::vector<Stop>& stops) {
     CGradientData data;
     data.ColorList() = ColorsOf(stops);
     return data;

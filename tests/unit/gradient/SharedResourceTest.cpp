@@ -43,37 +43,37 @@ class SharedResource : public testing::Test {
 TEST_F(SharedResource, EqualGradientsBecomeOneWithACountOfThree) {
     CGradientData data = RecordWith({{0.0, kRed}, {1.0, kBlue}});
     data.SetAngle(17.0F);
-    SharedResourcePtr<CGradient> const first(new CGradient(data));
-    SharedResourcePtr<CGradient> const second(new CGradient(data));
-    EXPECT_NE(static_cast<CGradient const*>(first), nullptr);
-    EXPECT_EQ(static_cast<CGradient const*>(first), static_cast<CGradient const*>(second));
+    const SharedResourcePtr<CGradient> first(new CGradient(data));
+    const SharedResourcePtr<CGradient> second(new CGradient(data));
+    EXPECT_NE(static_cast<const CGradient*>(first), nullptr);
+    EXPECT_EQ(static_cast<const CGradient*>(first), static_cast<const CGradient*>(second));
     EXPECT_EQ(first.UseCount(), 3u);
 }
 
 TEST_F(SharedResource, DifferentGradientsStayTwo) {
-    SharedResourcePtr<CGradient> const first(new CGradient(RecordWith({{0.0, kRed}, {0.3, kBlue}})));
-    SharedResourcePtr<CGradient> const second(new CGradient(RecordWith({{0.0, kRed}, {0.3, kGreen}})));
-    EXPECT_NE(static_cast<CGradient const*>(first), static_cast<CGradient const*>(second));
+    const SharedResourcePtr<CGradient> first(new CGradient(RecordWith({{0.0, kRed}, {0.3, kBlue}})));
+    const SharedResourcePtr<CGradient> second(new CGradient(RecordWith({{0.0, kRed}, {0.3, kGreen}})));
+    EXPECT_NE(static_cast<const CGradient*>(first), static_cast<const CGradient*>(second));
 }
 
 TEST_F(SharedResource, TheSecondOfTwoEqualResourcesIsDestroyedAtOnce) {
-    ProbePtr const first(new Probe(id_));
-    ProbePtr const second(new Probe(id_));
+    const ProbePtr first(new Probe(id_));
+    const ProbePtr second(new Probe(id_));
     EXPECT_EQ(Probe::alive, aliveBefore_ + 1);
 }
 
 TEST_F(SharedResource, TheHashAloneDecidesWhatIsEqual) {
     auto* const kept = new Probe(id_);
-    ProbePtr const first(kept);
-    ProbePtr const second(new Probe(id_));
-    EXPECT_EQ(static_cast<Probe const*>(second), kept);
+    const ProbePtr first(kept);
+    const ProbePtr second(new Probe(id_));
+    EXPECT_EQ(static_cast<const Probe*>(second), kept);
 }
 
 TEST_F(SharedResource, StaysInTheTableWhenTheLastPointerGoes) {
     {
-        ProbePtr const first(new Probe(id_));
+        const ProbePtr first(new Probe(id_));
         // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
-        ProbePtr const second(first);
+        const ProbePtr second(first);
         EXPECT_EQ(first.UseCount(), 3u);
     }
     EXPECT_EQ(Probe::alive, aliveBefore_ + 1);
@@ -81,12 +81,12 @@ TEST_F(SharedResource, StaysInTheTableWhenTheLastPointerGoes) {
 }
 
 TEST_F(SharedResource, NullGivesAnEmptyPointerWithoutACounter) {
-    long const before = FailingMemory::LiveBlocks();
+    const long before = FailingMemory::LiveBlocks();
     {
-        ProbePtr const empty(nullptr);
+        const ProbePtr empty(nullptr);
         // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
-        ProbePtr const copy(empty);
-        EXPECT_EQ(static_cast<Probe const*>(copy), nullptr);
+        const ProbePtr copy(empty);
+        EXPECT_EQ(static_cast<const Probe*>(copy), nullptr);
         EXPECT_EQ(copy.operator->(), nullptr);
         EXPECT_EQ(copy.UseCount(), 0u);
         EXPECT_EQ(FailingMemory::LiveBlocks(), before);
@@ -97,7 +97,7 @@ TEST_F(SharedResource, NullGivesAnEmptyPointerWithoutACounter) {
 TEST_F(SharedResource, AssigningTheSameResourceChangesNoCount) {
     ProbePtr first(new Probe(id_));
     ProbePtr second(first);
-    ProbePtr const& same = first;
+    const ProbePtr& same = first;
     first = same;
     EXPECT_EQ(first.UseCount(), 3u);
     second = first;
@@ -107,7 +107,7 @@ TEST_F(SharedResource, AssigningTheSameResourceChangesNoCount) {
 TEST_F(SharedResource, AssigningAnEmptyPointerLeavesTheResourceToTheTable) {
     ProbePtr pointer(new Probe(id_));
     pointer = ProbePtr();
-    EXPECT_EQ(static_cast<Probe const*>(pointer), nullptr);
+    EXPECT_EQ(static_cast<const Probe*>(pointer), nullptr);
     EXPECT_EQ(Probe::alive, aliveBefore_ + 1);
     EXPECT_EQ(ProbePtr::GetTypeMap().at(id_).UseCount(), 1u);
 }
@@ -115,7 +115,7 @@ TEST_F(SharedResource, AssigningAnEmptyPointerLeavesTheResourceToTheTable) {
 TEST_F(SharedResource, WithoutMemoryForTheCounterTheResourceIsDestroyedAndTheFailurePassedOn) {
     auto* const probe = new Probe(id_);
     {
-        FailingMemory const failing(0);
+        const FailingMemory failing(0);
         EXPECT_THROW(ProbePtr{probe}, std::bad_alloc);
     }
     EXPECT_EQ(Probe::alive, aliveBefore_);
@@ -125,11 +125,11 @@ TEST_F(SharedResource, WithoutMemoryForTheCounterTheResourceIsDestroyedAndTheFai
 // Whether the resource could be wrapped with memory for its counter alone, which it can while the table has
 // room left.
 bool WrapsWithoutRoomToGrow(Probe* probe) {
-    FailingMemory const failing(1);
+    const FailingMemory failing(1);
     try {
-        ProbePtr const wrapped(probe);
+        const ProbePtr wrapped(probe);
         return true;
-    } catch (std::bad_alloc const&) {
+    } catch (const std::bad_alloc&) {
         return false;
     }
 }
@@ -138,8 +138,8 @@ TEST_F(SharedResource, WithoutMemoryForTheTableEntryNothingLeaks) {
     constexpr std::uint32_t kFirstId = 1u << 24;
     constexpr std::uint32_t kMost = 1u << 20;
     for (std::uint32_t id = kFirstId; id < kFirstId + kMost; ++id) {
-        long const before = FailingMemory::LiveBlocks();
-        long const alive = Probe::alive;
+        const long before = FailingMemory::LiveBlocks();
+        const long alive = Probe::alive;
         if (WrapsWithoutRoomToGrow(new Probe(id)))
             continue;
         EXPECT_EQ(Probe::alive, alive);
@@ -158,7 +158,7 @@ TEST_F(SharedResource, CountsStayRightOverManyRandomOperations) {
     std::array<ProbePtr, 64> slots;
     std::array<std::uint32_t, 64> holds{}; // the id in each slot, 0 for an empty one
     std::set<std::uint32_t> everWrapped;
-    auto const pick = [&](std::size_t count) {
+    const auto pick = [&](std::size_t count) {
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
     };
 
@@ -180,15 +180,15 @@ TEST_F(SharedResource, CountsStayRightOverManyRandomOperations) {
             holds[to] = 0;
             break;
         default: {
-            ProbePtr const copy(slots[from]);
+            const ProbePtr copy(slots[from]);
             // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is what is tested.
-            ProbePtr const second(copy);
+            const ProbePtr second(copy);
             slots[to] = second;
             holds[to] = holds[from];
             break;
         }
         }
-        auto const users = static_cast<std::uint32_t>(std::count(holds.begin(), holds.end(), holds[to]));
+        const auto users = static_cast<std::uint32_t>(std::count(holds.begin(), holds.end(), holds[to]));
         ASSERT_EQ(slots[to].UseCount(), holds[to] == 0 ? 0 : users + 1) << "after operation " << i;
     }
     slots.fill(ProbePtr());
@@ -198,7 +198,7 @@ TEST_F(SharedResource, CountsStayRightOverManyRandomOperations) {
 TEST_F(SharedResource, RecordsAndGradientsLeakNothingOverManyRandomOperations) {
     constexpr int kOperations = 100000;
     std::mt19937 random(6);
-    auto const pick = [&](std::size_t count) {
+    const auto pick = [&](std::size_t count) {
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
     };
     // Every gradient that the test wraps is in the table before, so that what is alive afterwards can be
@@ -211,7 +211,7 @@ TEST_F(SharedResource, RecordsAndGradientsLeakNothingOverManyRandomOperations) {
         records.push_back(data);
         SharedResourcePtr<CGradient>{new CGradient(data)};
     }
-    long const before = FailingMemory::LiveBlocks();
+    const long before = FailingMemory::LiveBlocks();
     {
         std::vector<CGradientData> values(8, records.front());
         std::vector<SharedResourcePtr<CGradient>> pointers(8);

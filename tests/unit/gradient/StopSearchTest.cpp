@@ -24,11 +24,11 @@ bool IsMeant(double stop, int pixels, short width) {
 } // namespace
 
 TEST(StopSearch, TenPixelsFromAStopIsNearAndElevenIsNotAtEveryPixelOfEveryWidth) {
-    for (short const width : kWidths) {
+    for (const short width : kWidths) {
         for (int pixel = 0; pixel <= width; ++pixel) {
-            double const position = static_cast<double>(pixel) / width;
+            const double position = static_cast<double>(pixel) / width;
             // As a stop that was added has it, and as one that was dragged or typed.
-            for (double const stop : {position, Narrowed(position)}) {
+            for (const double stop : {position, Narrowed(position)}) {
                 ASSERT_TRUE(IsMeant(stop, pixel + 10, width)) << pixel << '/' << width;
                 ASSERT_TRUE(IsMeant(stop, pixel - 10, width)) << pixel << '/' << width;
                 ASSERT_FALSE(IsMeant(stop, pixel + 11, width)) << pixel << '/' << width;
@@ -48,9 +48,9 @@ TEST(StopSearch, OfTwoStopsEquallyNearTheEarlierOneIsMeantAtEveryPixel) {
     constexpr short kWidth = 400;
     for (int middle = 10; middle <= kWidth - 10; ++middle) {
         for (int distance = 0; distance <= 10; ++distance) {
-            double const low = static_cast<double>(middle - distance) / kWidth;
-            double const high = static_cast<double>(middle + distance) / kWidth;
-            for (auto const& [first, second] : {std::pair{low, high},
+            const double low = static_cast<double>(middle - distance) / kWidth;
+            const double high = static_cast<double>(middle + distance) / kWidth;
+            for (const auto& [first, second] : {std::pair{low, high},
                                                 {Narrowed(low), Narrowed(high)},
                                                 {low, Narrowed(high)},
                                                 {Narrowed(low), high}}) {

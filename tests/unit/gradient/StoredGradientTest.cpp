@@ -42,7 +42,7 @@ TEST_F(StoredGradient, WithNothingStoredTheDefaultTakesThePlaceOfTheCurrentOne) 
 }
 
 TEST_F(StoredGradient, WithBytesThatAreNoGradientTheDefaultTakesThePlaceOfTheCurrentOne) {
-    StOwnedBlock const rubbish(NewHandle(100));
+    const StOwnedBlock rubbish(NewHandle(100));
     SetDefaultsResource(rubbish.get(), FourCC("GRDT"), 10001, "Gradient Default");
     InitDefaults();
     ExpectDefault();

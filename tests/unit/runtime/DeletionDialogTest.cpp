@@ -24,7 +24,7 @@ struct Record {
     bool destroyed = false;
 };
 
-CStr255 const kTitle("Things");
+const CStr255 kTitle("Things");
 
 class ThingsDialog : public DeleteDialog {
   public:
