@@ -31,7 +31,7 @@ files::Result<> PluginSession::load(const std::filesystem::path& module) {
         return tl::unexpected(loaded.error());
     module_ = std::move(*loaded);
     if (!module_->resources()) {
-        const files::Result<> trouble = module_->resources();
+        files::Result<> trouble = module_->resources();
         module_.reset();
         return trouble;
     }
