@@ -23,7 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using exchange::TemplateShelf;
-using files::Error;
 
 struct TemplatesRequest {
     std::string preferences;

@@ -47,8 +47,8 @@ classic::FilePair pairAt(const fs::path& file) {
     return {folder.empty() ? fs::path(".") : folder, file.filename().string()};
 }
 
-ImportedGradient nameless(CGradientData&& gradient) {
-    return {std::move(gradient), {}, {}};
+ImportedGradient nameless(const CGradientData& gradient) {
+    return {gradient, {}, {}};
 }
 
 Result<ImportedGradient> importMacBinary(const files::Bytes& bytes, const fs::path& file) {

@@ -10,7 +10,6 @@ namespace easel::svg {
 using drawing::Affine;
 using drawing::Box;
 using drawing::ColorPaint;
-using drawing::Gradient;
 using drawing::Kind;
 using drawing::Object;
 using drawing::Path;
