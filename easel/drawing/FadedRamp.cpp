@@ -2,7 +2,6 @@
 #include "easel/drawing/FadedRamp.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace easel::drawing {
 
@@ -44,11 +43,9 @@ Ramp rampOf(std::span<const OpacityStop> opacity) {
     return Ramp(std::move(stops));
 }
 
-RampStop stopAt(double position, const RampColor& color, double opacity) {
-    const auto channel = [](double level) {
-        return static_cast<std::uint16_t>(std::lrint(level * kUnitsPerLevel));
-    };
-    return {position, {channel(color.red), channel(color.green), channel(color.blue)}, opacity};
+RampStop stopAt(double position, RampColor color, double opacity) {
+    color.opacity = opacity;
+    return stopOf(position, color);
 }
 
 } // namespace

@@ -91,4 +91,11 @@ RampColor colorOf(const RampStop& stop) {
             stop.color.blue / kUnitsPerLevel, stop.opacity};
 }
 
+RampStop stopOf(double position, const RampColor& color) {
+    const auto channel = [](double level) {
+        return static_cast<std::uint16_t>(std::lrint(level * kUnitsPerLevel));
+    };
+    return {position, {channel(color.red), channel(color.green), channel(color.blue)}, color.opacity};
+}
+
 } // namespace easel::drawing

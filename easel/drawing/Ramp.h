@@ -55,5 +55,7 @@ class Ramp {
 };
 
 RampColor colorOf(const RampStop& stop);
+// The stop of that color at a position, its channels to the nearest 16 bits.
+RampStop stopOf(double position, const RampColor& color);
 
 } // namespace easel::drawing

@@ -42,24 +42,16 @@ Range seen(const LinearGeometry&, Range range) {
     return range;
 }
 
-drawing::RampStop stopAt(const drawing::Ramp& ramp, double position, double newPosition) {
-    const drawing::RampColor color = ramp.at(position);
-    const auto channel = [](double level) {
-        return static_cast<std::uint16_t>(std::lrint(level * drawing::kUnitsPerLevel));
-    };
-    return {newPosition, {channel(color.red), channel(color.green), channel(color.blue)}, color.opacity};
-}
-
 drawing::Ramp moved(const drawing::Ramp& ramp, Range range) {
     std::vector<drawing::RampStop> stops;
     if (ramp.stops().front().position < range.low)
-        stops.push_back(stopAt(ramp, range.low, 0));
+        stops.push_back(drawing::stopOf(0, ramp.at(range.low)));
     for (const drawing::RampStop& stop : ramp.stops())
         if (stop.position >= range.low && stop.position <= range.high)
             stops.push_back(
                 {(stop.position - range.low) / (range.high - range.low), stop.color, stop.opacity});
     if (ramp.stops().back().position > range.high)
-        stops.push_back(stopAt(ramp, range.high, 1));
+        stops.push_back(drawing::stopOf(1, ramp.at(range.high)));
     return drawing::Ramp(std::move(stops));
 }
 
