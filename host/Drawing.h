@@ -126,7 +126,7 @@ void DrawConstructionLine(CGraphicsEnvironment* environment, TPoint<double> cons
 /// An off-screen image over a rectangle of the current port.
 class CSimplePixMap {
   public:
-    /// `depth` is in bits a pixel; at 32 no color table is needed. The image is as sharp as the port behind
+    /// `depth` is in bits per pixel; at 32 no color table is needed. The image is as sharp as the port behind
     /// it.
     CSimplePixMap(TRect<short> const& bounds, short depth, OpaqueColorTable* colors = nullptr);
     CSimplePixMap(CSimplePixMap const&) = delete;

@@ -226,7 +226,7 @@ bool Confirm(short id) {
     journal("Confirm", id);
     const auto alert = easel::runtime::alertDescription(process().plugin().resources(), id);
     // A question that cannot be put is taken as declined.
-    return alert && process().user().confirm(*alert) == easel::runtime::Answer::yes;
+    return alert && process().user().confirm(*alert) == easel::runtime::Answer::Yes;
 }
 
 bool GetColor(TPoint<short>, const unsigned char* prompt, const RGBColor* color, RGBColor* result) {

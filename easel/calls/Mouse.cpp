@@ -18,10 +18,10 @@ namespace {
 constexpr double kDragDistance = 3;
 
 bool isOn(Switch state) {
-    return state == Switch::on;
+    return state == Switch::On;
 }
 Switch switchOf(bool on) {
-    return on ? Switch::on : Switch::off;
+    return on ? Switch::On : Switch::Off;
 }
 
 } // namespace

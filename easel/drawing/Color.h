@@ -7,7 +7,7 @@
 
 namespace easel::drawing {
 
-// 0 to 65535 a channel.
+// 0 to 65535 per channel.
 struct Rgb16 {
     std::uint16_t red = 0;
     std::uint16_t green = 0;

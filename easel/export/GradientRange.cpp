@@ -43,15 +43,9 @@ Range seen(const LinearGeometry&, Range range) {
 }
 
 drawing::Ramp moved(const drawing::Ramp& ramp, Range range) {
-    std::vector<drawing::RampStop> stops;
-    if (ramp.stops().front().position < range.low)
-        stops.push_back(drawing::stopOf(0, ramp.at(range.low)));
-    for (const drawing::RampStop& stop : ramp.stops())
-        if (stop.position >= range.low && stop.position <= range.high)
-            stops.push_back(
-                {(stop.position - range.low) / (range.high - range.low), stop.color, stop.opacity});
-    if (ramp.stops().back().position > range.high)
-        stops.push_back(drawing::stopOf(1, ramp.at(range.high)));
+    std::vector<drawing::RampStop> stops = ramp.within(range.low, range.high).stops();
+    for (drawing::RampStop& stop : stops)
+        stop.position = (stop.position - range.low) / (range.high - range.low);
     return drawing::Ramp(std::move(stops));
 }
 

@@ -1,4 +1,4 @@
-// Pictures as PNG files: 8 bits a channel, with an alpha channel only where a pixel needs it.
+// Pictures as PNG files: 8 bits per channel, with an alpha channel only where a pixel needs it.
 #pragma once
 
 #include "easel/export/Progress.h"

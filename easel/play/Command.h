@@ -11,7 +11,7 @@ namespace easel::play {
 class Session;
 
 // Looking at things is possible at any time; everything else only when the plug-in waits for nothing.
-enum class When { always, idle };
+enum class When { Always, Idle };
 
 struct Command {
     const char* name;

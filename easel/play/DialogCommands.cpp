@@ -12,11 +12,11 @@ void playWithoutDialog(Session&, Arguments&) {
 }
 
 constexpr Command kDialogCommands[] = {
-    {"hit", When::idle, playWithoutDialog},    {"focus", When::idle, playWithoutDialog},
-    {"type", When::idle, playWithoutDialog},   {"erase", When::idle, playWithoutDialog},
-    {"set", When::idle, playWithoutDialog},    {"choose", When::idle, playWithoutDialog},
-    {"answer", When::idle, playWithoutDialog}, {"color", When::idle, playWithoutDialog},
-    {"select", When::idle, playWithoutDialog}, {"command", When::idle, playWithoutDialog},
+    {"hit", When::Idle, playWithoutDialog},    {"focus", When::Idle, playWithoutDialog},
+    {"type", When::Idle, playWithoutDialog},   {"erase", When::Idle, playWithoutDialog},
+    {"set", When::Idle, playWithoutDialog},    {"choose", When::Idle, playWithoutDialog},
+    {"answer", When::Idle, playWithoutDialog}, {"color", When::Idle, playWithoutDialog},
+    {"select", When::Idle, playWithoutDialog}, {"command", When::Idle, playWithoutDialog},
 };
 
 } // namespace

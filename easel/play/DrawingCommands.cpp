@@ -50,7 +50,7 @@ void redo(Session& session, Arguments& arguments) {
 
 void snap(Session& session, Arguments& arguments) {
     const std::string& what = arguments.text("grid or object");
-    const runtime::Switch state = arguments.onOff() ? runtime::Switch::on : runtime::Switch::off;
+    const runtime::Switch state = arguments.onOff() ? runtime::Switch::On : runtime::Switch::Off;
     arguments.done();
     if (what == "grid")
         session.process().snap().grid = state;
@@ -77,9 +77,9 @@ void filter(Session& session, Arguments& arguments) {
 }
 
 constexpr Command kDrawingCommands[] = {
-    {"new", When::idle, newDrawing}, {"add", When::idle, add},   {"gradient", When::idle, gradient},
-    {"undo", When::idle, undo},      {"redo", When::idle, redo}, {"snap", When::idle, snap},
-    {"filter", When::idle, filter},
+    {"new", When::Idle, newDrawing}, {"add", When::Idle, add},   {"gradient", When::Idle, gradient},
+    {"undo", When::Idle, undo},      {"redo", When::Idle, redo}, {"snap", When::Idle, snap},
+    {"filter", When::Idle, filter},
 };
 
 } // namespace

@@ -39,9 +39,9 @@ void exportPicture(Session& session, Arguments& arguments) {
 }
 
 constexpr Command kFileCommands[] = {
-    {"open", When::idle, open},
-    {"save", When::idle, save},
-    {"export", When::idle, exportPicture},
+    {"open", When::Idle, open},
+    {"save", When::Idle, save},
+    {"export", When::Idle, exportPicture},
 };
 
 } // namespace

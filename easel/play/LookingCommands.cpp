@@ -51,8 +51,8 @@ void picture(Session& session, Arguments& arguments) {
 }
 
 constexpr Command kLookingCommands[] = {
-    {"print", When::always, print},
-    {"picture", When::always, picture},
+    {"print", When::Always, print},
+    {"picture", When::Always, picture},
 };
 
 } // namespace

@@ -54,8 +54,8 @@ void key(Session& session, Arguments& arguments) {
 }
 
 constexpr Command kMouseCommands[] = {
-    {"press", When::idle, press}, {"move", When::idle, move},        {"release", When::idle, release},
-    {"key", When::always, key},   {"click", When::idle, takenApart}, {"drag", When::idle, takenApart},
+    {"press", When::Idle, press}, {"move", When::Idle, move},        {"release", When::Idle, release},
+    {"key", When::Always, key},   {"click", When::Idle, takenApart}, {"drag", When::Idle, takenApart},
 };
 
 } // namespace

@@ -59,14 +59,14 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
     auto script = readScript(request.file, input);
     if (!script) {
         messages << script.error().message() << '\n';
-        return PlayOutcome::failed;
+        return PlayOutcome::Failed;
     }
     std::optional<files::ScratchFolder> scratch;
     if (request.preferences.empty()) {
         auto made = files::ScratchFolder::make();
         if (!made) {
             messages << made.error().message() << '\n';
-            return PlayOutcome::failed;
+            return PlayOutcome::Failed;
         }
         scratch.emplace(std::move(*made));
     }
@@ -81,7 +81,7 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
     const bool played = session.play();
     session.unloadPlugin();
     process.storage().files().settle();
-    return played ? PlayOutcome::played : PlayOutcome::failed;
+    return played ? PlayOutcome::Played : PlayOutcome::Failed;
 }
 
 } // namespace easel::play

@@ -14,7 +14,7 @@ struct PlayRequest {
 };
 
 // Exit codes of the program.
-enum class PlayOutcome { played = 0, failed = 2 };
+enum class PlayOutcome { Played = 0, Failed = 2 };
 
 // Plays the scenario to its end. Answers go to `answers`, a line of JSON each; the reason for stopping goes
 // to `messages` as FILE:LINE: reason.

@@ -112,11 +112,11 @@ Json filterNames(const SelDescrimT& filter) {
 
 const char* nameOf(runtime::SlotOwner owner) {
     switch (owner) {
-    case runtime::SlotOwner::none:
+    case runtime::SlotOwner::None:
         return "none";
-    case runtime::SlotOwner::host:
+    case runtime::SlotOwner::Host:
         return "host";
-    case runtime::SlotOwner::plugin:
+    case runtime::SlotOwner::Plugin:
         break;
     }
     return "plugin";
@@ -199,8 +199,8 @@ Json printWindow(Session& session, Arguments&) {
               {"redoLevels", drawing.redoLevels()},
               {"cursor", optionalNumber(window.cursor())},
               {"pickFilter", filterNames(session.process().pickFilter())},
-              {"gridSnap", snap.grid == runtime::Switch::on},
-              {"objectSnap", snap.object == runtime::Switch::on},
+              {"gridSnap", snap.grid == runtime::Switch::On},
+              {"objectSnap", snap.object == runtime::Switch::On},
               {"beeps", session.user().beeps()},
               {"dirty", drawing.dirty()}}}};
 }

@@ -25,7 +25,7 @@ runtime::Answer answerIn(Arguments& arguments) {
     arguments.done();
     if (word != "yes" && word != "no")
         throw PlayError("\"" + word + "\" is neither yes nor no");
-    return word == "yes" ? runtime::Answer::yes : runtime::Answer::no;
+    return word == "yes" ? runtime::Answer::Yes : runtime::Answer::No;
 }
 
 // Nothing for a cancelled choice.
@@ -108,7 +108,7 @@ runtime::Answer ScriptedUser::confirm(const runtime::Alert& alert) {
                                                      Arguments arguments = argumentsOf(step);
                                                      return answerIn(arguments);
                                                  });
-    return answer.value_or(runtime::Answer::no);
+    return answer.value_or(runtime::Answer::No);
 }
 
 std::optional<RGBColor> ScriptedUser::pickColor(const std::string& prompt, const RGBColor& start) {

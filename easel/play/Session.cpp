@@ -33,7 +33,7 @@ void playCommand(Session& session, const Command& command, const Step& step) {
 
 bool playAtAnyTime(Session& session, const Step& step) {
     const Command& command = commandOf(step);
-    if (command.when != When::always)
+    if (command.when != When::Always)
         return false;
     playCommand(session, command, step);
     return true;

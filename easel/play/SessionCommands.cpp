@@ -52,9 +52,9 @@ void switchJournal(Session& session, Arguments& arguments) {
 }
 
 constexpr Command kSessionCommands[] = {
-    {"start", When::idle, start},     {"quit", When::idle, quit},
-    {"message", When::idle, message}, {"options", When::idle, options},
-    {"cursor", When::idle, cursor},   {"journal", When::always, switchJournal},
+    {"start", When::Idle, start},     {"quit", When::Idle, quit},
+    {"message", When::Idle, message}, {"options", When::Idle, options},
+    {"cursor", When::Idle, cursor},   {"journal", When::Always, switchJournal},
 };
 
 } // namespace

@@ -32,7 +32,7 @@ class UnseenUser : public User {
     void dialogShown(Dialog&) override {}
     void dialogClosed(Dialog&) override {}
     std::int16_t nextHit(Dialog&) override { return 0; }
-    Answer confirm(const Alert&) override { return Answer::no; }
+    Answer confirm(const Alert&) override { return Answer::No; }
     std::optional<RGBColor> pickColor(const std::string&, const RGBColor&) override { return std::nullopt; }
     void runDeletion(DeletionList&) override {}
 };
@@ -67,7 +67,7 @@ std::optional<CGradientData> currentGradientOf(const HostTool& tool, Process& pr
     const UserScope asked(process, user);
     DrawingWindow window(oneSquare(), process);
     const FrontScope inFront(process, window);
-    if (clickWithTool(tool, window, kMiddle) == ToolOutcome::declined || window.drawing().size() == 0)
+    if (clickWithTool(tool, window, kMiddle) == ToolOutcome::Declined || window.drawing().size() == 0)
         return std::nullopt;
     const auto given = drawing::wholeGradientOf(*window.drawing().object(0));
     return given ? std::optional(given->record) : std::nullopt;

@@ -46,10 +46,10 @@ double toGrid(double coordinate) {
 drawing::Point snapped(const DrawingWindow& window, drawing::Point point, const SnapSwitches& switches) {
     if (!isFinite(point))
         return point;
-    if (switches.object == Switch::on)
+    if (switches.object == Switch::On)
         if (const auto corner = nearestCorner(window, point))
             return *corner;
-    if (switches.grid == Switch::on)
+    if (switches.grid == Switch::On)
         return {toGrid(point.x), toGrid(point.y)};
     return point;
 }

@@ -7,11 +7,11 @@ namespace easel::runtime {
 
 class DrawingWindow;
 
-enum class Switch { off, on };
+enum class Switch { Off, On };
 
 struct SnapSwitches {
-    Switch grid = Switch::off;
-    Switch object = Switch::off;
+    Switch grid = Switch::Off;
+    Switch object = Switch::Off;
 };
 
 // The point, in drawing coordinates, or what it snaps to: with object snap the nearest end of a side or curve

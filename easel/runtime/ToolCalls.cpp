@@ -16,13 +16,13 @@ constexpr std::uint16_t kMouseDownEvent = 1;
 
 ToolOutcome clickWithTool(const HostTool& tool, DrawingWindow& window, drawing::Point where) {
     if (!tool.methods.click)
-        return ToolOutcome::declined;
+        return ToolOutcome::Declined;
     EventRecord event;
     event.what = kMouseDownEvent;
     const bool handled = tool.methods.click(&window.ref(), event, toHost(where));
     // What changes from here on is no part of what the tool did.
     window.drawing().closeUndo();
-    return handled ? ToolOutcome::handled : ToolOutcome::declined;
+    return handled ? ToolOutcome::Handled : ToolOutcome::Declined;
 }
 
 void openToolOptions(const HostTool& tool) {

@@ -10,7 +10,7 @@ namespace easel::runtime {
 class DrawingWindow;
 
 // Whether a tool has something of the plug-in's to call.
-enum class ToolOutcome { handled, declined };
+enum class ToolOutcome { Handled, Declined };
 
 // The mouse was pressed in the window. Returns when the tool is done with it, which may be after the release.
 ToolOutcome clickWithTool(const HostTool& tool, DrawingWindow& window, drawing::Point where);

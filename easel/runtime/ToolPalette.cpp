@@ -38,8 +38,8 @@ SlotOwner HostTool::slotOwner(int slot) const {
     const auto index = static_cast<std::size_t>(slot - 1);
     void* const address = addressesOf(methods)[index];
     if (!address)
-        return SlotOwner::none;
-    return address == addressesOf(kHostMethods)[index] ? SlotOwner::host : SlotOwner::plugin;
+        return SlotOwner::None;
+    return address == addressesOf(kHostMethods)[index] ? SlotOwner::Host : SlotOwner::Plugin;
 }
 
 HostTool& TPalette::add(const PaletteElement& element) {

@@ -10,7 +10,7 @@
 namespace easel::runtime {
 
 // Who fills a callback slot: nobody, the host (as it was handed out), or the plug-in.
-enum class SlotOwner { none, host, plugin };
+enum class SlotOwner { None, Host, Plugin };
 
 } // namespace easel::runtime
 

@@ -27,7 +27,7 @@ struct MouseState {
     bool down = false;
 };
 
-enum class Answer { no, yes };
+enum class Answer { No, Yes };
 
 // All calls come on the one user-interface thread. Calls that wait return only when they have their answer;
 // while they wait, whoever implements this keeps the screen alive.
@@ -87,7 +87,7 @@ class User {
     // Asks a question; a program that is quitting gets `no`.
     virtual Answer confirm(const Alert& alert) = 0;
 
-    // Lets the user pick a color, 16 bits a channel; empty when cancelled.
+    // Lets the user pick a color, 16 bits per channel; empty when cancelled.
     virtual std::optional<RGBColor> pickColor(const std::string& prompt, const RGBColor& start) = 0;
 
     // Runs the list from which rows are chosen and deleted, until it is closed.

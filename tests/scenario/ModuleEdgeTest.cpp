@@ -28,7 +28,7 @@ std::string PlayHere(const std::string& script) {
     std::ostringstream answers;
     std::ostringstream messages;
     const auto outcome = easel::play::playScenario({"-", {}, GRADIENT_MODULE}, input, answers, messages);
-    EXPECT_EQ(outcome, easel::play::PlayOutcome::played) << messages.str();
+    EXPECT_EQ(outcome, easel::play::PlayOutcome::Played) << messages.str();
     return answers.str();
 }
 

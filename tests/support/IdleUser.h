@@ -27,7 +27,7 @@ class IdleUser : public easel::runtime::User {
     void dialogClosed(easel::runtime::Dialog&) override {}
     std::int16_t nextHit(easel::runtime::Dialog&) override { return 0; }
     easel::runtime::Answer confirm(const easel::runtime::Alert&) override {
-        return easel::runtime::Answer::no;
+        return easel::runtime::Answer::No;
     }
     std::optional<RGBColor> pickColor(const std::string&, const RGBColor&) override { return std::nullopt; }
     void runDeletion(easel::runtime::DeletionList&) override {}

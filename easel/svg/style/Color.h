@@ -15,7 +15,7 @@ namespace easel::svg {
 std::optional<drawing::ColorPaint> parseColor(std::string_view text,
                                               const drawing::ColorPaint& currentColor = {});
 
-// The color as text that reads back as the same 16 bits a channel: #rrggbb where that holds it, else rgb()
+// The color as text that reads back as the same 16 bits per channel: #rrggbb where that holds it, else rgb()
 // with percentages.
 std::string colorText(const drawing::Rgb16& color);
 

@@ -31,7 +31,7 @@ void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
     const std::size_t levels = window.drawing().undoLevels();
     const std::vector<std::size_t> selection = window.drawing().selection();
     canvas.reportPress(event.position());
-    runtime::ToolOutcome outcome = runtime::ToolOutcome::declined;
+    runtime::ToolOutcome outcome = runtime::ToolOutcome::Declined;
     {
         const Waiting::Call call(interaction_.waiting);
         const InputGate::Scope scope(interaction_.gate, &canvas);
@@ -46,7 +46,7 @@ void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
     canvas.reportChange();
     canvas.reportRelease();
     canvas.refreshCursor();
-    if (outcome == runtime::ToolOutcome::declined)
+    if (outcome == runtime::ToolOutcome::Declined)
         Q_EMIT declined();
 }
 

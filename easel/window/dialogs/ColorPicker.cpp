@@ -20,7 +20,7 @@ int narrowed(std::uint16_t channel) {
     return (channel * 255 + 32767) / 65535;
 }
 
-QColor toScreen(const ExactColor& color) {
+QColor toScreen(const drawing::Rgb16& color) {
     return {narrowed(color.red), narrowed(color.green), narrowed(color.blue)};
 }
 
@@ -31,7 +31,7 @@ std::uint16_t following(std::uint16_t channel, int level) {
 
 } // namespace
 
-ColorPicker::ColorPicker(const QString& prompt, const ExactColor& start, QWidget* parent)
+ColorPicker::ColorPicker(const QString& prompt, const drawing::Rgb16& start, QWidget* parent)
     : QDialog(parent), color_(start), dialog_(new QColorDialog(toScreen(start))), channels_{} {
     setWindowTitle(prompt);
     dialog_->setWindowFlags(Qt::Widget);
@@ -107,7 +107,8 @@ void ColorPicker::showChannels() {
     }
 }
 
-std::optional<ExactColor> askForColor(const QString& prompt, const ExactColor& start, DialogStack& dialogs) {
+std::optional<drawing::Rgb16> askForColor(const QString& prompt, const drawing::Rgb16& start,
+                                          DialogStack& dialogs) {
     ColorPicker picker(prompt, start, dialogs.parentForNext());
     return dialogs.run(picker) ? std::optional(picker.color()) : std::nullopt;
 }

@@ -1,11 +1,12 @@
 // The desktop's color picker with the exact 16-bit channels beneath it.
 #pragma once
 
+#include "easel/drawing/Color.h"
+
 #include <QColor>
 #include <QDialog>
 
 #include <array>
-#include <cstdint>
 #include <optional>
 
 class QColorDialog;
@@ -15,23 +16,15 @@ namespace easel::window {
 
 class DialogStack;
 
-struct ExactColor {
-    std::uint16_t red = 0;
-    std::uint16_t green = 0;
-    std::uint16_t blue = 0;
-
-    friend bool operator==(const ExactColor&, const ExactColor&) = default;
-};
-
 // Qt's color dialog knows 8 bits per channel. A channel keeps all its bits as long as the user does not
 // change it there; a changed one is the dialog's value times 257. The three fields take and show all 16 bits.
 class ColorPicker : public QDialog {
     Q_OBJECT
 
   public:
-    ColorPicker(const QString& prompt, const ExactColor& start, QWidget* parent);
+    ColorPicker(const QString& prompt, const drawing::Rgb16& start, QWidget* parent);
 
-    const ExactColor& color() const { return color_; }
+    const drawing::Rgb16& color() const { return color_; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,12 +34,13 @@ class ColorPicker : public QDialog {
     void typedChannels();
     void showChannels();
 
-    ExactColor color_;
+    drawing::Rgb16 color_;
     QColorDialog* dialog_;
     std::array<QSpinBox*, 3> channels_;
 };
 
 // Lets the user pick a color; empty when cancelled.
-std::optional<ExactColor> askForColor(const QString& prompt, const ExactColor& start, DialogStack& dialogs);
+std::optional<drawing::Rgb16> askForColor(const QString& prompt, const drawing::Rgb16& start,
+                                          DialogStack& dialogs);
 
 } // namespace easel::window

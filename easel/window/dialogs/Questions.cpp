@@ -24,7 +24,7 @@ runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dia
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
     dialogs.run(box);
-    return box.clickedButton() == yes ? runtime::Answer::yes : runtime::Answer::no;
+    return box.clickedButton() == yes ? runtime::Answer::Yes : runtime::Answer::No;
 }
 
 UnsavedChoice askAboutUnsaved(const QString& drawingName, QWidget* over, DialogStack& dialogs) {

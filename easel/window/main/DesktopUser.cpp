@@ -91,7 +91,7 @@ runtime::Answer DesktopUser::confirm(const runtime::Alert& alert) {
 }
 
 std::optional<RGBColor> DesktopUser::pickColor(const std::string& prompt, const RGBColor& start) {
-    const std::optional<ExactColor> color = askForColor(
+    const std::optional<drawing::Rgb16> color = askForColor(
         QString::fromStdString(prompt), {start.red, start.green, start.blue}, interaction_.dialogs);
     if (!color)
         return std::nullopt;

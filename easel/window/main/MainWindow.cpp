@@ -214,15 +214,15 @@ void MainWindow::zoomFit() {
 
 void MainWindow::snapChanged() {
     const auto state = [](const QAction& action) {
-        return action.isChecked() ? runtime::Switch::on : runtime::Switch::off;
+        return action.isChecked() ? runtime::Switch::On : runtime::Switch::Off;
     };
     shared_.process.snap() = {state(*snapGrid_), state(*snapObject_)};
 }
 
 void MainWindow::showSnap() {
     const runtime::SnapSwitches& snap = shared_.process.snap();
-    snapGrid_->setChecked(snap.grid == runtime::Switch::on);
-    snapObject_->setChecked(snap.object == runtime::Switch::on);
+    snapGrid_->setChecked(snap.grid == runtime::Switch::On);
+    snapObject_->setChecked(snap.object == runtime::Switch::On);
 }
 
 void MainWindow::chooseAppearance(QAction* chosen) {

@@ -125,7 +125,7 @@ bool MainWindow::mayReplace(const QString& file) {
     alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
     alert.yesButton = tr("Replace").toStdString();
     alert.noButton = tr("Cancel").toStdString();
-    return ask(alert, this, shared_.interaction.dialogs) == runtime::Answer::yes;
+    return ask(alert, this, shared_.interaction.dialogs) == runtime::Answer::Yes;
 }
 
 void MainWindow::exportAs(const QString& suffix) {

@@ -84,7 +84,7 @@ class RandomUser : public IdleUser {
         }
         return static_cast<std::int16_t>(*dialog.takeHit());
     }
-    Answer confirm(const easel::runtime::Alert&) override { return below(3) == 0 ? Answer::no : Answer::yes; }
+    Answer confirm(const easel::runtime::Alert&) override { return below(3) == 0 ? Answer::No : Answer::Yes; }
     std::optional<RGBColor> pickColor(const std::string&, const RGBColor& start) override {
         EXPECT_TRUE(std::any_of(stops().begin(), stops().end(),
                                 [&](const CGradientColor& stop) { return stop.ColorRGB() == start; }));

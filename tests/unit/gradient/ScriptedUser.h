@@ -23,7 +23,7 @@ class ScriptedUser : public IdleUser {
         return static_cast<std::int16_t>(dialog.takeHit().value_or(kOKItem));
     }
     easel::runtime::Answer confirm(const easel::runtime::Alert&) override {
-        return easel::runtime::Answer::yes;
+        return easel::runtime::Answer::Yes;
     }
 
   private:

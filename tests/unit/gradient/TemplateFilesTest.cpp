@@ -20,7 +20,7 @@ class Asked : public IdleUser {
     easel::runtime::Answer confirm(const easel::runtime::Alert&) override { return answer; }
     void tell(const std::string&) override {} // the host may say which file it could not read
 
-    easel::runtime::Answer answer = easel::runtime::Answer::yes;
+    easel::runtime::Answer answer = easel::runtime::Answer::Yes;
 };
 
 class TemplateFiles : public testing::Test {
@@ -67,7 +67,7 @@ TEST_F(TemplateFiles, TheCurrentResourceFileComesBackEvenIfAnotherWasOpenedAfter
     EXPECT_EQ(CurResFile(), before) << "saved";
     EXPECT_TRUE(loads("new.GRD"));
     EXPECT_EQ(CurResFile(), before) << "loaded";
-    user_.answer = easel::runtime::Answer::no;
+    user_.answer = easel::runtime::Answer::No;
     save("new.GRD");
     EXPECT_EQ(CurResFile(), before) << "declined";
     EXPECT_FALSE(loads("missing.GRD"));
@@ -145,7 +145,7 @@ TEST_F(DeletionListing, EachDeletionMovesTheLaterNamesUp) {
 
 TEST_F(DeletionListing, ADeclinedOkIsConsumedWithoutAnErrorAndDeletesNothing) {
     save("a.GRD");
-    user_.answer = easel::runtime::Answer::no;
+    user_.answer = easel::runtime::Answer::No;
     EXPECT_EQ(dialog_.DoCommand({0, kOKCommand}), 0);
     EXPECT_THAT(listed(), ElementsAre("a.GRD"));
 }

@@ -91,7 +91,7 @@ TEST(DegenerateGradient, WithOneStopIsPlainAndWithNoneIsInvisible) {
 }
 
 TEST(DegenerateGradient, StopsOutsideTheRampCountAsTheyAre) {
-    // From -1 (red) to 3 (blue) over 10 pixels a unit: halfway, at 1, the pixel about x = 10 is half and
+    // From -1 (red) to 3 (blue) over 10 pixels per unit: halfway, at 1, the pixel about x = 10 is half and
     // half.
     const paint::Surface surface =
         painted({LinearGeometry{{0, 0}, {10, 0}}, {}, Spread::Pad, drawing::Ramp({{-1, kRed}, {3, kBlue}})});

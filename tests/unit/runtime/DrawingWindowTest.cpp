@@ -56,7 +56,7 @@ TEST_F(DrawingWindowTest, PaintsThroughItsView) {
     window.paintMarked();
     EXPECT_EQ(window.image().width(), 60);
     EXPECT_EQ(window.image().height(), 45);
-    // The box begins two units right of and one below the corner, at three pixels a unit.
+    // The box begins two units right of and one below the corner, at three pixels per unit.
     EXPECT_EQ(pixel(5, 4), kWhite);
     EXPECT_EQ(pixel(6, 3), kBlack);
     EXPECT_EQ(pixel(35, 32), kBlack);
@@ -159,11 +159,11 @@ TEST_F(DrawingWindowTest, IndicesThatAreNotThereChangeNothing) {
 TEST_F(DrawingWindowTest, SnapsToCornersBeforeTheGridAndOnlyAsFarAsTheSwitchesSay) {
     using runtime::Switch;
     window.drawing().insert(0, blackBox({13, 13, 33, 33}));
-    EXPECT_EQ(snapped(window, {14, 16}, {Switch::off, Switch::off}), (drawing::Point{14, 16}));
-    EXPECT_EQ(snapped(window, {14, 16}, {Switch::on, Switch::off}), (drawing::Point{10, 20}));
-    EXPECT_EQ(snapped(window, {14, 16}, {Switch::off, Switch::on}), (drawing::Point{13, 13}));
-    EXPECT_EQ(snapped(window, {14, 16}, {Switch::on, Switch::on}), (drawing::Point{13, 13}));
-    EXPECT_EQ(snapped(window, {23, 23}, {Switch::on, Switch::on}), (drawing::Point{20, 20}));
+    EXPECT_EQ(snapped(window, {14, 16}, {Switch::Off, Switch::Off}), (drawing::Point{14, 16}));
+    EXPECT_EQ(snapped(window, {14, 16}, {Switch::On, Switch::Off}), (drawing::Point{10, 20}));
+    EXPECT_EQ(snapped(window, {14, 16}, {Switch::Off, Switch::On}), (drawing::Point{13, 13}));
+    EXPECT_EQ(snapped(window, {14, 16}, {Switch::On, Switch::On}), (drawing::Point{13, 13}));
+    EXPECT_EQ(snapped(window, {23, 23}, {Switch::On, Switch::On}), (drawing::Point{20, 20}));
 }
 
 TEST(PickFilter, KeepsEveryKindApart) {

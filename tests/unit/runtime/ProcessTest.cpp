@@ -42,7 +42,7 @@ TEST(Process, LeavesNothingToTheNextOne) {
     }
     Process next(placesIn(folder));
     EXPECT_EQ(next.activeWindow(), nullptr);
-    EXPECT_EQ(next.snap().grid, Switch::off);
+    EXPECT_EQ(next.snap().grid, Switch::Off);
     EXPECT_EQ(next.pickFilter(), filterOf(drawing::KindSet::all()));
     EXPECT_TRUE(next.palette().tools().empty());
     EXPECT_TRUE(next.journal().take().empty());

@@ -36,9 +36,9 @@ TEST_F(ToolPaletteTest, KnowsWhoFillsEachSlot) {
     methods.slot3 = nullptr;
     const HostTool& tool = *process_.palette().find(number);
     for (int slot = 1; slot <= 8; ++slot)
-        EXPECT_EQ(tool.slotOwner(slot), slot == 4   ? SlotOwner::plugin
-                                        : slot == 3 ? SlotOwner::none
-                                                    : SlotOwner::host)
+        EXPECT_EQ(tool.slotOwner(slot), slot == 4   ? SlotOwner::Plugin
+                                        : slot == 3 ? SlotOwner::None
+                                                    : SlotOwner::Host)
             << slot;
 }
 
