@@ -55,15 +55,15 @@ std::string textOf(const pugi::xml_node& node, const char* attribute) {
 }
 
 // The whole numbers in an attribute, which all have 16 bits.
-template <std::size_t Count>
-std::array<int, Count> numbersOf(const pugi::xml_node& node, const char* attribute) {
+template <std::size_t count>
+std::array<int, count> numbersOf(const pugi::xml_node& node, const char* attribute) {
     std::string_view rest = trimmed(node.attribute(attribute).value());
-    std::array<int, Count> numbers{};
+    std::array<int, count> numbers{};
     for (auto& number : numbers) {
         const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
         using Limits = std::numeric_limits<std::int16_t>;
         if (error != std::errc() || number < Limits::min() || number > Limits::max())
-            fail(node, std::string("needs ") + std::to_string(Count) + " 16-bit number(s) in \"" + attribute +
+            fail(node, std::string("needs ") + std::to_string(count) + " 16-bit number(s) in \"" + attribute +
                            "\"");
         rest.remove_prefix(static_cast<std::size_t>(end - rest.data()));
         rest = trimmed(rest);
@@ -90,8 +90,8 @@ template <class Value> struct Word {
     Value value;
 };
 
-template <class Value, std::size_t Count>
-std::optional<Value> lookUp(const std::array<Word<Value>, Count>& words, std::string_view text) {
+template <class Value, std::size_t count>
+std::optional<Value> lookUp(const std::array<Word<Value>, count>& words, std::string_view text) {
     const auto found =
         std::find_if(words.begin(), words.end(), [&](const auto& word) { return word.text == text; });
     return found == words.end() ? std::nullopt : std::optional(found->value);

@@ -8,7 +8,7 @@
 
 namespace {
 
-OpaqueGrafPtr* currentPort = nullptr;
+OpaqueGrafPtr* gCurrentPort = nullptr;
 
 } // namespace
 
@@ -40,13 +40,13 @@ OSErr FSMakeFSSpec(short /*vRefNum*/, long /*dirID*/, CStr255 const& /*name*/, F
     return kFileNotFoundErr;
 }
 
-StGrafPortSaver::StGrafPortSaver() : port_(currentPort) {}
+StGrafPortSaver::StGrafPortSaver() : port_(gCurrentPort) {}
 StGrafPortSaver::~StGrafPortSaver() {
-    currentPort = port_;
+    gCurrentPort = port_;
 }
 
 void QD::SetPort(OpaqueGrafPtr* port) {
-    currentPort = port;
+    gCurrentPort = port;
 }
 
 // Nothing is drawn into a port in this host, so no color and no pen is kept for one.

@@ -7,8 +7,8 @@ namespace {
 
 constexpr double kDragDistance = 3;
 
-bool gridSnap = false;
-bool objectSnap = false;
+bool gGridSnap = false;
+bool gObjectSnap = false;
 
 } // namespace
 
@@ -63,19 +63,19 @@ bool BreakHysteresis(TPoint<double> from, short /*cursor*/) {
 }
 
 bool GetGridSnap() {
-    return gridSnap;
+    return gGridSnap;
 }
 
 void SetGridSnap(bool on) {
-    gridSnap = on;
+    gGridSnap = on;
 }
 
 bool GetObjectSnap() {
-    return objectSnap;
+    return gObjectSnap;
 }
 
 void SetObjectSnap(bool on) {
-    objectSnap = on;
+    gObjectSnap = on;
 }
 
 bool NorvU::KeyIsDown(unsigned short /*keyCode*/) {

@@ -128,12 +128,12 @@ template <typename InPlain, typename InRadial> auto scene(const InPlain& inPlain
     };
 }
 
-const auto asItWas = [](const Point& point) { return redToBlueFrom(kMiddleOfRadial, kRadial, point); };
+const auto kAsItWas = [](const Point& point) { return redToBlueFrom(kMiddleOfRadial, kRadial, point); };
 
 TEST_F(MinimalHost, DrawsItsObjectsUntouchedWhenAClickMissesThem) {
     play("5,5");
     EXPECT_EQ(answers_, "Gradient\nbeep\n5,5: not handled\n");
-    expectPicture(scene([](const Point&) { return kGray; }, asItWas));
+    expectPicture(scene([](const Point&) { return kGray; }, kAsItWas));
 }
 
 TEST_F(MinimalHost, ShowsBlackToWhiteFromLeftToRightAfterAClick) {
@@ -143,7 +143,7 @@ TEST_F(MinimalHost, ShowsBlackToWhiteFromLeftToRightAfterAClick) {
         const double level = 255 * (point.h - kPlain.left) / (kPlain.right - kPlain.left);
         return Color{level, level, level};
     };
-    expectPicture(scene(leftToRight, asItWas));
+    expectPicture(scene(leftToRight, kAsItWas));
 }
 
 TEST_F(MinimalHost, ShowsColorsRisingAlongADraggedLine) {
@@ -162,7 +162,7 @@ TEST_F(MinimalHost, ShowsColorsRisingAlongADraggedLine) {
         SCOPED_TRACE(drag.str());
         play("65,60 " + drag.str());
         expectPicture(scene(
-            [&](const Point& point) { return risingAlong(line.from, line.to, kPlain, point); }, asItWas));
+            [&](const Point& point) { return risingAlong(line.from, line.to, kPlain, point); }, kAsItWas));
     }
 }
 
@@ -172,7 +172,7 @@ TEST_F(MinimalHost, TakesTheLineFromThePressToTheReleaseWhateverLiesBetween) {
         [](const Point& point) {
             return risingAlong({30, 90}, {100, 30}, kPlain, point);
         },
-        asItWas));
+        kAsItWas));
 }
 
 TEST_F(MinimalHost, LeavesALinearGradientAsItIsWhenThePressIsNoDrag) {
@@ -182,7 +182,7 @@ TEST_F(MinimalHost, LeavesALinearGradientAsItIsWhenThePressIsNoDrag) {
         [](const Point& point) {
             return risingAlong({0, 0}, {1, 0}, kPlain, point);
         },
-        asItWas));
+        kAsItWas));
 }
 
 TEST_F(MinimalHost, ShowsARadialGradientAboutThePointThatWasPressed) {

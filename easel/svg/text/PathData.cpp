@@ -89,7 +89,7 @@ class PathParser {
         return scanner_.number();
     }
     // Any number of points, relative ones made absolute.
-    template <std::size_t Count> bool points(std::array<Point, Count>& list) {
+    template <std::size_t count> bool points(std::array<Point, count>& list) {
         for (Point& p : list) {
             const auto x = number();
             const auto y = x ? number() : std::nullopt;
