@@ -7,7 +7,7 @@ off, every file has to compile alone" ON)
 # what they all instantiate is compiled once. Kernels stay alone, since they include themselves.
 function(compile_together target)
   if(EASEL_TOGETHER)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "Kernels\\.cpp$")
     set_source_files_properties(${sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)

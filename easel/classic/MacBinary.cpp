@@ -8,7 +8,7 @@ namespace easel::classic {
 namespace {
 
 constexpr std::size_t kBlockSize = 128;
-constexpr std::size_t kLongestName = 63;
+constexpr std::size_t kLongestMacBinaryName = 63;
 constexpr std::size_t kNameOffset = 1;
 constexpr std::size_t kInfoOffset = 65;
 constexpr std::size_t kDataSizeOffset = 83;
@@ -18,7 +18,7 @@ constexpr std::size_t kChecksumOffset = 124;
 constexpr std::uint8_t kVersion2 = 129;
 
 // The CRC of XMODEM: polynomial 0x1021, starting with 0.
-std::uint16_t checksum(ByteView bytes) {
+std::uint16_t headerChecksum(ByteView bytes) {
     std::uint32_t crc = 0;
     for (const auto byte : bytes) {
         crc ^= std::uint32_t{byte} << 8;
@@ -46,7 +46,7 @@ std::uint32_t dateNow() {
 
 files::Bytes writeMacBinary(const MacBinaryFile& source) {
     files::Bytes file(kBlockSize);
-    const auto name = std::string_view(source.name).substr(0, kLongestName);
+    const auto name = std::string_view(source.name).substr(0, kLongestMacBinaryName);
     file[kNameOffset] = static_cast<std::uint8_t>(name.size());
     std::copy(name.begin(), name.end(), file.begin() + kNameOffset + 1);
     setNumber(file, kInfoOffset, source.info.type);
@@ -57,7 +57,7 @@ files::Bytes writeMacBinary(const MacBinaryFile& source) {
     setNumber(file, kDateOffset + 4, source.date);
     file[kVersionOffset] = kVersion2;
     file[kVersionOffset + 1] = kVersion2;
-    setNumber(file, kChecksumOffset, checksum(ByteView(file).first(kChecksumOffset)));
+    setNumber(file, kChecksumOffset, headerChecksum(ByteView(file).first(kChecksumOffset)));
     putPadded(file, source.data);
     putPadded(file, source.resourceFork);
     return file;
@@ -65,14 +65,14 @@ files::Bytes writeMacBinary(const MacBinaryFile& source) {
 
 std::optional<MacBinaryFile> readMacBinary(ByteView bytes) {
     if (bytes.size() < kBlockSize || bytes[0] != 0 || bytes[kVersionOffset + 1] != kVersion2 ||
-        numberAt<std::uint16_t>(bytes, kChecksumOffset) != checksum(bytes.first(kChecksumOffset)))
+        numberAt<std::uint16_t>(bytes, kChecksumOffset) != headerChecksum(bytes.first(kChecksumOffset)))
         return std::nullopt;
     const std::size_t nameSize = bytes[kNameOffset];
     const std::size_t dataSize = numberAt<std::uint32_t>(bytes, kDataSizeOffset);
     const auto data = part(bytes, kBlockSize, dataSize);
     const auto fork =
         part(bytes, kBlockSize + padded(dataSize), numberAt<std::uint32_t>(bytes, kDataSizeOffset + 4));
-    if (nameSize < 1 || nameSize > kLongestName || !data || !fork)
+    if (nameSize < 1 || nameSize > kLongestMacBinaryName || !data || !fork)
         return std::nullopt;
     const auto name = bytes.subspan(kNameOffset + 1, nameSize);
     return MacBinaryFile{

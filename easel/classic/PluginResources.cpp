@@ -17,7 +17,7 @@ namespace {
 
 using text::trimmed;
 
-constexpr std::uintmax_t kLargestFile = 16U << 20;
+constexpr std::uintmax_t kLargestResourceFile = 16U << 20;
 constexpr std::size_t kMostItems = 1000;
 
 // What is wrong, and with which element; caught where the file is known.
@@ -250,7 +250,7 @@ class PluginResourceReader {
 
 files::Result<PluginResources> PluginResources::read(const std::filesystem::path& folder) {
     const auto file = folder / (folder.filename().string() + ".xml");
-    const auto bytes = files::readWholeFile(file, kLargestFile);
+    const auto bytes = files::readWholeFile(file, kLargestResourceFile);
     if (!bytes)
         return tl::unexpected(bytes.error());
     return parse({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, file);

@@ -28,10 +28,6 @@ double level(std::uint16_t channel) {
     return channel / 65535.0;
 }
 
-double opacityOf(double value) {
-    return value > 0 ? std::min(value, 1.0) : 0;
-}
-
 // Restores the context's state at the end of a block.
 class Saved {
   public:
@@ -147,7 +143,7 @@ void CairoPainter::paintWithin(const drawing::Group* parent, paint::ObjectSpan o
 }
 
 void CairoPainter::paintGroup(const drawing::Group& group, paint::ObjectSpan objects) {
-    const double opacity = opacityOf(group.opacity);
+    const double opacity = drawing::validOpacity(group.opacity);
     clipped(group.clip.get(), [&] {
         if (opacity >= 1)
             return paintWithin(&group, objects);
@@ -196,7 +192,7 @@ void CairoPainter::paintMask(const drawing::ClipPath& clip) {
 void CairoPainter::paintObject(const Object& object) {
     painted_.next();
     const drawing::Style& style = drawing::styleOf(object);
-    const double opacity = opacityOf(style.opacity);
+    const double opacity = drawing::validOpacity(style.opacity);
     if (opacity == 0)
         return;
     const bool several =
@@ -222,7 +218,7 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
     const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
     if (!source.visible())
         return;
-    setSource(source.source(), opacity * opacityOf(drawing::styleOf(object).fillOpacity));
+    setSource(source.source(), opacity * drawing::validOpacity(drawing::styleOf(object).fillOpacity));
     addPath(object.outline);
     cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
     cairo_fill(cairo_);
@@ -235,7 +231,7 @@ void CairoPainter::paintStroke(const Object& object, double opacity) {
     if (!source.visible() || !units.invertible() || !std::isfinite(stroke.width))
         return;
     const Saved saved(cairo_);
-    setSource(source.source(), opacity * opacityOf(stroke.opacity));
+    setSource(source.source(), opacity * drawing::validOpacity(stroke.opacity));
     addPath(object.outline);
     // The path is already fixed in the page's space; what is changed now is the shape of the pen.
     const cairo_matrix_t own = matrixOf(units);
@@ -257,7 +253,7 @@ void CairoPainter::setSource(const paint::PaintSource& source, double opacity) {
     }
     const auto& paint = std::get<drawing::ColorPaint>(source);
     cairo_set_source_rgba(cairo_, level(paint.color.red), level(paint.color.green), level(paint.color.blue),
-                          opacityOf(paint.opacity) * opacity);
+                          drawing::validOpacity(paint.opacity) * opacity);
 }
 
 void CairoPainter::setGradient(const drawing::Gradient& gradient, double opacity) {
@@ -266,7 +262,7 @@ void CairoPainter::setGradient(const drawing::Gradient& gradient, double opacity
     for (const drawing::RampStop& stop : gradient.ramp.stops())
         cairo_pattern_add_color_stop_rgba(pattern.get(), stop.position, level(stop.color.red),
                                           level(stop.color.green), level(stop.color.blue),
-                                          opacityOf(stop.opacity) * opacity);
+                                          drawing::validOpacity(stop.opacity) * opacity);
     const cairo_matrix_t toGradient = matrixOf(gradient.toDrawing.inverse());
     cairo_pattern_set_matrix(pattern.get(), &toGradient);
     cairo_pattern_set_extend(pattern.get(), extendOf(gradient.spread));

@@ -24,10 +24,6 @@ using svg::transformAttribute;
 
 namespace {
 
-double opacityOf(double value) {
-    return value > 0 ? std::min(value, 1.0) : 0;
-}
-
 class SvgWriter {
   public:
     SvgWriter(const drawing::Drawing& drawing, const Progress& progress)
@@ -62,7 +58,7 @@ class SvgWriter {
             [&](const Object& object) { writeObject(object); });
     }
     void writeGroup(const drawing::Group& group, paint::ObjectSpan objects) {
-        body_ += "<g" + attributeUnless(1, "opacity", opacityOf(group.opacity)) +
+        body_ += "<g" + attributeUnless(1, "opacity", drawing::validOpacity(group.opacity)) +
                  clipAttribute(group.clip.get()) + ">\n";
         writeWithin(&group, objects);
         body_ += "</g>\n";
@@ -77,7 +73,7 @@ class SvgWriter {
         const Affine own = stroked ? units : Affine{};
         const Affine toOwn = own.inverse();
         if (object.markers)
-            body_ += "<g" + attributeUnless(1, "opacity", opacityOf(style.opacity)) + ">\n";
+            body_ += "<g" + attributeUnless(1, "opacity", drawing::validOpacity(style.opacity)) + ">\n";
         body_ += "<path" + attribute("id", object.id.text()) + transformAttribute("transform", own);
         body_ +=
             attribute("d", pathText(own == Affine{} ? object.outline : object.outline.transformed(toOwn)));
@@ -86,7 +82,7 @@ class SvgWriter {
             body_ += strokeText(object, toOwn);
         body_ += svg::paintOrderText(style.first);
         if (!object.markers)
-            body_ += attributeUnless(1, "opacity", opacityOf(style.opacity));
+            body_ += attributeUnless(1, "opacity", drawing::validOpacity(style.opacity));
         body_ += "/>\n";
         if (object.markers) {
             writeWithin(nullptr, *object.markers);
@@ -116,11 +112,12 @@ class SvgWriter {
             if (only)
                 return paintText(property, drawing::ColorPaint{only->color, only->opacity}, opacity, toOwn);
             return attribute(property, referenceTo(gradientName(withinUnitRange(**gradient), toOwn))) +
-                   attributeUnless(1, property + "-opacity", opacityOf(opacity));
+                   attributeUnless(1, property + "-opacity", drawing::validOpacity(opacity));
         }
         const auto& paint = std::get<drawing::ColorPaint>(source);
         return attribute(property, svg::colorText(paint.color)) +
-               attributeUnless(1, property + "-opacity", opacityOf(paint.opacity) * opacityOf(opacity));
+               attributeUnless(1, property + "-opacity",
+                               drawing::validOpacity(paint.opacity) * drawing::validOpacity(opacity));
     }
     // Gradients that come out alike are written once.
     std::string gradientName(const drawing::Gradient& gradient, const Affine& toOwn) {
