@@ -1,7 +1,10 @@
 // The commands on the gradient of a shape.
 #include "easel/drawing/GradientCommands.h"
 
+#include "easel/drawing/GradientFit.h"
 #include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StandardGradient.h"
+#include "easel/drawing/StrokeGradient.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,21 +34,67 @@ TPoint<double> turnedFraction(TPoint<double> fraction, const Affine& turn, const
     return {0.5 + turned.x / bounds.width(), 0.5 + turned.y / bounds.height()};
 }
 
+// The sum of a place on the ramp and the place that it is mirrored to.
+double mirrorOf(const WholeGradient& gradient, const GradientFrame& frame) {
+    // A shape that reaches this close to the ends of the ramp reaches them but for rounding.
+    constexpr double kRounding = 1e-3;
+    const Gradient fit = fitGradient(gradient.record, &gradient.remainder, frame.outline);
+    const auto* const circles = std::get_if<RadialGeometry>(&fit.geometry);
+    if (!circles)
+        return 1;
+    const ParameterRange shown = visibleRange(*circles, fit.toDrawing, frame);
+    const double sum = shown.low + shown.high;
+    return std::abs(sum - 1) < kRounding ? 1 : sum;
+}
+
+// What lies outside 0 to 1 afterwards is cut off.
+std::vector<RampStop> mirrored(std::vector<RampStop> stops, double mirror) {
+    std::reverse(stops.begin(), stops.end());
+    bool within = true;
+    for (RampStop& stop : stops) {
+        within = within && stop.position >= mirror - 1 && stop.position <= mirror;
+        stop.position = mirror - stop.position;
+    }
+    return within || mirror == 1 ? stops : Ramp(std::move(stops)).within(0, 1).stops();
+}
+
+void strokeWith(Object& object, const WholeGradient& gradient) {
+    auto standard = standardGradient(gradient.record, &gradient.remainder, strokeFrame(object));
+    const Gradient* const now = gradientIn(styleOf(object).stroke.paint);
+    if (standard && !(now && alike(*now, *standard)))
+        object.setStrokePaint(std::make_shared<const Gradient>(std::move(*standard)));
+}
+
 } // namespace
 
 bool same(const WholeGradient& a, const WholeGradient& b) {
     return CGradient(a.record).HashID() == CGradient(b.record).HashID() && a.remainder == b.remainder;
 }
 
-std::optional<WholeGradient> wholeGradientOf(const Object& object) {
-    const ShapeGradient gradient = shapeGradientOf(object);
+bool takesGradient(const Object& object, PaintStep part) {
+    return part == PaintStep::Stroke ? strokes(styleOf(object)) : carriesGradient(object.kind);
+}
+
+GradientFrame frameOf(const Object& object, PaintStep part) {
+    if (part == PaintStep::Stroke)
+        return {strokeFrame(object), std::nullopt};
+    return {object.outline, object.fillRule};
+}
+
+std::optional<WholeGradient> wholeGradientOf(const Object& object, PaintStep part) {
+    const bool isStroke = part == PaintStep::Stroke;
+    const ShapeGradient gradient = isStroke ? strokeGradientOf(object) : shapeGradientOf(object);
     const CGradient* const record = gradientIn(gradient.record);
-    if (!record || object.fillPattern == FillPattern::None)
+    if (!record || (!isStroke && object.fillPattern == FillPattern::None))
         return std::nullopt;
     return WholeGradient{record->GetGradientData(), gradient.remainder ? *gradient.remainder : Remainder()};
 }
 
-void putGradient(Object& object, const WholeGradient& gradient) {
+void putGradient(Object& object, const WholeGradient& gradient, PaintStep part) {
+    if (part == PaintStep::Stroke)
+        return strokeWith(object, gradient);
+    if (const auto now = wholeGradientOf(object); now && same(*now, gradient))
+        return;
     RemainderPtr remainder;
     if (!gradient.remainder.empty())
         remainder = std::make_shared<const Remainder>(gradient.remainder);
@@ -55,20 +104,22 @@ void putGradient(Object& object, const WholeGradient& gradient) {
         object.setFillPattern(FillPattern::SolidBlack);
 }
 
-void putPlainColor(Object& object, Rgb16 color) {
+void putPlainColor(Object& object, Rgb16 color, PaintStep part) {
     const ColorPaint paint{color, 1};
+    if (part == PaintStep::Stroke)
+        return object.setStrokePaint(paint);
     object.setWholeGradient({}, nullptr);
     object.setFillPattern(paint == ColorPaint() ? FillPattern::SolidBlack : FillPattern::Other);
     object.fill = paint;
 }
 
-void removeGradient(Object& object) {
-    const std::optional<WholeGradient> gradient = wholeGradientOf(object);
+void removeGradient(Object& object, PaintStep part) {
+    const std::optional<WholeGradient> gradient = wholeGradientOf(object, part);
     if (!gradient)
         return;
     const std::list<CGradientColor>& colors = gradient->record.ColorList();
     const RGBColor first = colors.empty() ? RGBColor() : colors.front().ColorRGB();
-    putPlainColor(object, {first.red, first.green, first.blue});
+    putPlainColor(object, {first.red, first.green, first.blue}, part);
 }
 
 WholeGradient madeOpaque(WholeGradient gradient) {
@@ -91,15 +142,23 @@ WholeGradient opacityScaled(WholeGradient gradient, double factor) {
     return gradient;
 }
 
-WholeGradient reversed(WholeGradient gradient) {
-    std::list<CGradientColor> colors;
-    for (const CGradientColor& stop : gradient.record.ColorList())
-        colors.emplace_front(stop.ColorRGB(), 1 - stop.Percent());
-    gradient.record.ColorList() = std::move(colors);
-    std::vector<OpacityStop>& opacity = gradient.remainder.opacity;
-    std::reverse(opacity.begin(), opacity.end());
-    for (OpacityStop& stop : opacity)
-        stop.position = 1 - stop.position;
+WholeGradient reversed(WholeGradient gradient, const GradientFrame& frame) {
+    const double mirror = mirrorOf(gradient, frame);
+    std::vector<RampStop> colors;
+    for (const CGradientColor& stop : gradient.record.ColorList()) {
+        const RGBColor color = stop.ColorRGB();
+        colors.push_back({stop.Percent(), {color.red, color.green, color.blue}, 1});
+    }
+    gradient.record.ColorList().clear();
+    for (const RampStop& stop : mirrored(std::move(colors), mirror))
+        gradient.record.ColorList().emplace_back(RGBColor{stop.color.red, stop.color.green, stop.color.blue},
+                                                 stop.position);
+    std::vector<RampStop> opacity;
+    for (const OpacityStop& stop : gradient.remainder.opacity)
+        opacity.push_back({stop.position, {}, stop.opacity});
+    gradient.remainder.opacity.clear();
+    for (const RampStop& stop : mirrored(std::move(opacity), mirror))
+        gradient.remainder.opacity.push_back({stop.position, stop.opacity});
     return gradient;
 }
 

@@ -47,7 +47,7 @@ void Object::setFillPattern(FillPattern pattern) {
     if (pattern == fillPattern)
         return;
     fillPattern = pattern;
-    fillOrigin = FillOrigin::Edited;
+    fillOrigin = PaintOrigin::Edited;
 }
 
 void Object::setGradient(const ObjectGradient& newGradient) {
@@ -61,7 +61,16 @@ void Object::setGradient(const ObjectGradient& newGradient) {
 void Object::setWholeGradient(const ObjectGradient& newGradient, RemainderPtr newRemainder) {
     gradient = newGradient;
     remainder = std::move(newRemainder);
-    fillOrigin = FillOrigin::Edited;
+    fillOrigin = PaintOrigin::Edited;
+}
+
+void Object::setStrokePaint(Paint paint) {
+    if (paint == styleOf(*this).stroke.paint)
+        return;
+    Style changed = styleOf(*this);
+    changed.stroke.paint = std::move(paint);
+    style = std::make_shared<const Style>(std::move(changed));
+    strokeOrigin = PaintOrigin::Edited;
 }
 
 bool Object::showsGradient() const {
@@ -91,9 +100,9 @@ bool saysTheSame(const Object& a, const Object& b) {
     const bool sameRemainder =
         a.remainder == b.remainder || (a.remainder && b.remainder && *a.remainder == *b.remainder);
     return a.kind == b.kind && a.fillRule == b.fillRule && a.fillPattern == b.fillPattern &&
-           a.fillOrigin == b.fillOrigin && a.source == b.source && a.id.text() == b.id.text() &&
-           a.units == b.units && a.style == b.style && a.fill == b.fill && same(a.gradient, b.gradient) &&
-           sameRemainder && a.group == b.group && a.outline == b.outline;
+           a.fillOrigin == b.fillOrigin && a.strokeOrigin == b.strokeOrigin && a.source == b.source &&
+           a.id.text() == b.id.text() && a.units == b.units && a.style == b.style && a.fill == b.fill &&
+           same(a.gradient, b.gradient) && sameRemainder && a.group == b.group && a.outline == b.outline;
 }
 
 const Style& plainStyle() {

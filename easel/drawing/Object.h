@@ -50,8 +50,8 @@ class KindSet {
 // What the host's pattern of the fill is. A gradient shows only over a pattern other than None.
 enum class FillPattern : std::uint8_t { None, SolidBlack, Other };
 
-// Which fill the source file states for the object: the one it was read with, or one given since.
-enum class FillOrigin : std::uint8_t { File, Edited };
+// Whether a fill or stroke is the one that the object was read with, or one given since.
+enum class PaintOrigin : std::uint8_t { File, Edited };
 
 // The element an object came from: byte offsets in the text of the drawing's source file.
 struct ElementSpan {
@@ -69,7 +69,8 @@ struct Object {
     Kind kind = Kind::Path;
     FillRule fillRule = FillRule::NonZero;
     FillPattern fillPattern = FillPattern::None;
-    FillOrigin fillOrigin = FillOrigin::File;
+    PaintOrigin fillOrigin = PaintOrigin::File;
+    PaintOrigin strokeOrigin = PaintOrigin::File;
     ElementSpan source;
     Name id;      // the element's id, UTF-8
     Path outline; // in drawing coordinates
@@ -95,6 +96,8 @@ struct Object {
     void setGradient(const ObjectGradient& newGradient);
     // The whole gradient; the remainder may be null.
     void setWholeGradient(const ObjectGradient& newGradient, RemainderPtr newRemainder);
+    // Strokes the object with another paint from now on; the pen stays.
+    void setStrokePaint(Paint paint);
 
     bool showsGradient() const;
     // Whether the point is inside by the fill rule, or within `reach` of the outline (drawing units).

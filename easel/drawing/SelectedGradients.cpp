@@ -11,27 +11,23 @@ namespace {
 // The undo kind of these commands, which no plug-in uses.
 constexpr long kGradientUndo = 2;
 
-bool looksTheSame(const Object& a, const Object& b) {
-    if (saysTheSame(a, b))
-        return true;
-    const auto one = wholeGradientOf(a);
-    const auto other = wholeGradientOf(b);
-    return one && other && same(*one, *other);
-}
-
-// Nothing for an object that the change leaves as it is, or that cannot carry a gradient.
-template <class Change> ObjectPtr changed(const Object& object, const Change& change) {
-    if (!carriesGradient(object.kind))
+// Nothing for an object that the change leaves as it is, or that takes no gradient on that part.
+template <class Change> ObjectPtr changed(const Object& object, PaintStep part, const Change& change) {
+    if (!takesGradient(object, part))
         return nullptr;
     Object other = object;
     change(other);
-    return looksTheSame(object, other) ? nullptr : sealed(std::move(other));
+    return saysTheSame(object, other) ? nullptr : sealed(std::move(other));
 }
 
-auto onObjects(const GradientCommand& command) {
-    return [&command](Object& object) {
-        if (const auto gradient = wholeGradientOf(object))
-            putGradient(object, command(*gradient, object));
+auto onObjects(PaintStep part, const GradientCommand& command) {
+    return [part, &command](Object& object) {
+        const auto gradient = wholeGradientOf(object, part);
+        if (!gradient)
+            return;
+        const WholeGradient other = command(*gradient, frameOf(object, part));
+        if (!same(*gradient, other))
+            putGradient(object, other, part);
     };
 }
 
@@ -43,23 +39,25 @@ template <class Condition> bool anySelected(const Drawing& drawing, const Condit
 
 } // namespace
 
-bool canTakeGradient(const Drawing& drawing) {
-    return anySelected(drawing, [](const Object& object) { return carriesGradient(object.kind); });
+bool canTakeGradient(const Drawing& drawing, PaintStep part) {
+    return anySelected(drawing, [part](const Object& object) { return takesGradient(object, part); });
 }
 
-bool wouldChange(const Drawing& drawing, const GradientCommand& command) {
+bool wouldChange(const Drawing& drawing, PaintStep part, const GradientCommand& command) {
+    const auto change = onObjects(part, command);
     return anySelected(drawing,
-                       [&](const Object& object) { return changed(object, onObjects(command)) != nullptr; });
+                       [&](const Object& object) { return changed(object, part, change) != nullptr; });
 }
 
-bool changeSelected(Drawing& drawing, const GradientCommand& command) {
-    return changeSelectedObjects(drawing, onObjects(command));
+bool changeSelected(Drawing& drawing, PaintStep part, const GradientCommand& command) {
+    return changeSelectedObjects(drawing, part, onObjects(part, command));
 }
 
-bool changeSelectedObjects(Drawing& drawing, const std::function<void(Object& object)>& change) {
+bool changeSelectedObjects(Drawing& drawing, PaintStep part,
+                           const std::function<void(Object& object)>& change) {
     std::vector<std::pair<std::size_t, ObjectPtr>> changes;
     for (const std::size_t index : drawing.selection())
-        if (ObjectPtr object = changed(*drawing.object(index), change))
+        if (ObjectPtr object = changed(*drawing.object(index), part, change))
             changes.emplace_back(index, std::move(object));
     if (changes.empty())
         return false;

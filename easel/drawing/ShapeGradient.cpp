@@ -3,13 +3,8 @@
 
 namespace easel::drawing {
 
-ShapeGradient shapeGradientOf(const Object& object) {
-    if (gradientIn(object.gradient))
-        return {object.gradient, object.remainder, Loss::None};
-    const Gradient* const fill = gradientIn(object.fill);
-    if (!fill || object.fillOrigin == FillOrigin::Edited || !carriesGradient(object.kind))
-        return {};
-    GradientDescription description = describe(*fill, object.outline);
+ShapeGradient described(const Gradient& gradient, const Path& outline) {
+    GradientDescription description = describe(gradient, outline);
     ShapeGradient result{ObjectGradient(std::make_unique<CGradient>(description.record).release()), nullptr,
                          description.loss};
     if (!description.remainder.empty())
@@ -17,10 +12,19 @@ ShapeGradient shapeGradientOf(const Object& object) {
     return result;
 }
 
+ShapeGradient shapeGradientOf(const Object& object) {
+    if (gradientIn(object.gradient))
+        return {object.gradient, object.remainder, Loss::None};
+    const Gradient* const fill = gradientIn(object.fill);
+    if (!fill || object.fillOrigin == PaintOrigin::Edited || !carriesGradient(object.kind))
+        return {};
+    return described(*fill, object.outline);
+}
+
 Paint plainFillOf(const Object& object) {
     if (object.fillPattern == FillPattern::None)
         return NoPaint{};
-    if (object.fillOrigin == FillOrigin::Edited && object.fillPattern == FillPattern::SolidBlack)
+    if (object.fillOrigin == PaintOrigin::Edited && object.fillPattern == FillPattern::SolidBlack)
         return ColorPaint{};
     return object.fill;
 }

@@ -16,6 +16,9 @@ struct ShapeGradient {
 // gradient. Only closed kinds have one.
 ShapeGradient shapeGradientOf(const Object& object);
 
+// Record and remainder of any gradient on an outline (drawing coordinates).
+ShapeGradient described(const Gradient& gradient, const Path& outline);
+
 // What fills an object that shows no record: its pattern, or what its file says.
 Paint plainFillOf(const Object& object);
 

@@ -9,8 +9,8 @@ namespace {
 
 std::map<std::string, const Command*> allCommands() {
     std::map<std::string, const Command*> all;
-    for (const auto family : {sessionCommands(), drawingCommands(), fileCommands(), mouseCommands(),
-                              dialogCommands(), lookingCommands()})
+    for (const auto family : {sessionCommands(), drawingCommands(), gradientMenuCommands(), fileCommands(),
+                              mouseCommands(), dialogCommands(), lookingCommands()})
         for (const Command& command : family)
             all.emplace(command.name, &command);
     return all;

@@ -26,6 +26,7 @@ const Command* findCommand(const std::string& name);
 // The families, each in a file of its own.
 std::span<const Command> sessionCommands();
 std::span<const Command> drawingCommands();
+std::span<const Command> gradientMenuCommands();
 std::span<const Command> fileCommands();
 std::span<const Command> mouseCommands();
 std::span<const Command> dialogCommands();

@@ -24,9 +24,11 @@ using Print = Json (*)(Session&, Arguments&);
 
 const std::map<std::string, Print>& prints() {
     static const std::map<std::string, Print> all{
-        {"object", printObject},       {"fit", printFit},           {"window", printWindow},
-        {"palette", printPalette},     {"journal", printJournal},   {"dialog", printDialog},
-        {"templates", printTemplates}, {"defaults", printDefaults}, {"resourcefiles", printResourceFiles},
+        {"object", printObject},     {"stroke", printStroke},
+        {"fit", printFit},           {"window", printWindow},
+        {"palette", printPalette},   {"journal", printJournal},
+        {"dialog", printDialog},     {"templates", printTemplates},
+        {"defaults", printDefaults}, {"resourcefiles", printResourceFiles},
     };
     return all;
 }

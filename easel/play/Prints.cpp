@@ -2,7 +2,7 @@
 #include "easel/play/Prints.h"
 
 #include "easel/drawing/GradientFit.h"
-#include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StrokeGradient.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
 #include "easel/runtime/HostPoint.h"
@@ -147,6 +147,11 @@ Json printObject(Session& session, Arguments& arguments) {
             {"index", index},
             {"fillPattern", nameOf(object.fillPattern)},
             {"gradient", gradientOf(session, drawing::shapeGradientOf(object))}};
+}
+
+Json printStroke(Session& session, Arguments& arguments) {
+    const std::string& id = arguments.text("ID");
+    return {{"stroke", id}, {"gradient", gradientOf(session, strokeGradientOf(objectNamed(session, id)))}};
 }
 
 // The focus is told where it is drawn, not in the space where ellipses are circles.

@@ -10,6 +10,7 @@ class Session;
 
 // Each takes its arguments and gives one line. Throws PlayError.
 Json printObject(Session& session, Arguments& arguments);
+Json printStroke(Session& session, Arguments& arguments);
 Json printFit(Session& session, Arguments& arguments);
 Json printWindow(Session& session, Arguments& arguments);
 Json printPalette(Session& session, Arguments& arguments);

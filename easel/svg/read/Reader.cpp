@@ -71,6 +71,7 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
     source->ownBlock = findOwnBlock(tree, text);
     const Cascade cascade(tree);
     source->sheetsStateFill = cascade.sheetsStateFill();
+    source->sheetsStateStroke = cascade.sheetsStateStroke();
     PaintServers servers(tree, cascade);
     Budget budget(text.size());
     Notes notes;

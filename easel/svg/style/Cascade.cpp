@@ -44,6 +44,7 @@ void Cascade::addSheet(pugi::xml_node styleElement) {
     for (const pugi::xml_node part : styleElement.children())
         text += part.value();
     sheetsStateFill_ = sheetsStateFill_ || text.find("fill") != std::string::npos;
+    sheetsStateStroke_ = sheetsStateStroke_ || text.find("stroke") != std::string::npos;
     sheetsImport_ = sheetsImport_ || text.find("@import") != std::string::npos;
     sheet_.add(text, media_);
 }

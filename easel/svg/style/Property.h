@@ -91,8 +91,9 @@ class Cascade {
     StatedStyle of(pugi::xml_node element, const CustomProperties* outer) const;
     // With those of the elements that hold it in the file.
     StatedStyle of(pugi::xml_node element) const;
-    // How style sheets state fills: an edited fill has to be stronger.
+    // Whether style sheets state fills or strokes: an edited one has to be stronger.
     bool sheetsStateFill() const { return sheetsStateFill_; }
+    bool sheetsStateStroke() const { return sheetsStateStroke_; }
     bool sheetsImport() const { return sheetsImport_; }
 
   private:
@@ -114,6 +115,7 @@ class Cascade {
     mutable CustomValues values_;
     mutable Position lastPosition_; // neighbours are mostly asked one after the other
     bool sheetsStateFill_ = false;
+    bool sheetsStateStroke_ = false;
     bool sheetsImport_ = false;
 };
 

@@ -43,6 +43,7 @@ struct Source : drawing::DocumentSource {
     Span ownBlock; // our block of gradients; empty: there is none
     drawing::Affine rootToDrawing;
     bool sheetsStateFill = false;
+    bool sheetsStateStroke = false;
     std::vector<drawing::ElementSpan> objects; // of every object that was read, in the drawing's order
     std::vector<UseInstance> useInstances;     // number 1 is the first
     std::set<std::size_t> chosen;              // start tags of what is shown of `switch` elements

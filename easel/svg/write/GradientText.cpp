@@ -105,4 +105,12 @@ std::string fillText(const Object& object, GradientBlock& gradients) {
     return {};
 }
 
+std::string strokeText(const Object& object, GradientBlock& gradients) {
+    const drawing::Paint& paint = styleOf(object).stroke.paint;
+    if (const Gradient* const gradient = drawing::gradientIn(paint))
+        return gradients.addForeign(*gradient, object);
+    const auto* const color = std::get_if<ColorPaint>(&paint);
+    return color ? colorText(color->color) : "none";
+}
+
 } // namespace easel::svg

@@ -35,5 +35,7 @@ class GradientBlock {
 // The paint that fills the object, which `gradients` takes note of. Nothing for what the file already says
 // better.
 std::string fillText(const drawing::Object& object, GradientBlock& gradients);
+// The same for the paint that strokes it, "none" where nothing does.
+std::string strokeText(const drawing::Object& object, GradientBlock& gradients);
 
 } // namespace easel::svg

@@ -97,20 +97,13 @@ Element elementFor(Kind kind, const Path& path) {
     return element ? *element : Element{"path", attribute("d", pathText(path))};
 }
 
-std::string strokeText(const Object& object, const Stroke& stroke, GradientBlock& gradients) {
-    std::string text;
-    double opacity = stroke.opacity;
-    if (const auto* const color = std::get_if<ColorPaint>(&stroke.paint)) {
-        text = attribute("stroke", colorText(color->color));
-        opacity *= color->opacity;
-    } else if (const auto* const foreign = std::get_if<drawing::GradientPtr>(&stroke.paint)) {
-        text = attribute("stroke", gradients.addForeign(**foreign, object));
-    } else {
-        return text;
-    }
-    text += attribute("stroke-width", stroke.width);
-    text += attributeUnless(1, "stroke-opacity", opacity);
-    return text + penText(stroke, Defaults::Stated);
+std::string strokeAttributes(const Object& object, const Stroke& stroke, GradientBlock& gradients) {
+    if (std::holds_alternative<drawing::NoPaint>(stroke.paint))
+        return {};
+    const auto* const color = std::get_if<ColorPaint>(&stroke.paint);
+    const double opacity = stroke.opacity * (color ? color->opacity : 1);
+    return attribute("stroke", strokeText(object, gradients)) + attribute("stroke-width", stroke.width) +
+           attributeUnless(1, "stroke-opacity", opacity) + penText(stroke, Defaults::Stated);
 }
 
 std::string fillAttributes(const Object& object, GradientBlock& gradients) {
@@ -137,7 +130,7 @@ std::string objectText(const Object& object, const Affine& placeToDrawing, const
     std::string text = '<' + prefix + element.name;
     text += attribute("id", object.id.text()) + element.geometry;
     text += transformAttribute("transform", placeToDrawing.inverse() * units);
-    text += fillAttributes(object, gradients) + strokeText(object, style.stroke, gradients);
+    text += fillAttributes(object, gradients) + strokeAttributes(object, style.stroke, gradients);
     return text + attributeUnless(1, "opacity", style.opacity) + paintOrderText(style.first) + "/>";
 }
 

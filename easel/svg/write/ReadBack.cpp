@@ -1,6 +1,7 @@
 #include "easel/svg/write/ReadBack.h"
 
 #include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StandardGradient.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/text/RecordText.h"
 #include "easel/svg/text/Source.h"
@@ -13,11 +14,12 @@ namespace easel::svg {
 using drawing::ColorPaint;
 using drawing::Drawing;
 using drawing::ElementSpan;
-using drawing::FillOrigin;
+using drawing::Gradient;
 using drawing::NoPaint;
 using drawing::Object;
 using drawing::ObjectPtr;
 using drawing::Paint;
+using drawing::PaintOrigin;
 
 namespace {
 
@@ -61,6 +63,14 @@ bool sameFill(const Object& meant, const Object& read) {
     return !color || (readColor && color->color == readColor->color);
 }
 
+bool sameStroke(const Object& meant, const Object& read) {
+    const Paint& paint = styleOf(meant).stroke.paint;
+    const Paint& readPaint = styleOf(read).stroke.paint;
+    const Gradient* const gradient = drawing::gradientIn(paint);
+    const Gradient* const readGradient = drawing::gradientIn(readPaint);
+    return gradient && readGradient ? alike(*gradient, *readGradient) : paint == readPaint;
+}
+
 std::string nameOf(const Object& object, std::size_t number) {
     const std::string id(object.id.text());
     return id.empty() ? "object " + std::to_string(number) : "the object \"" + id + '"';
@@ -81,9 +91,12 @@ std::optional<std::string> lostIn(const std::string& bytes, const Drawing& drawi
     std::size_t at = 0;
     again.forEach([&](const ObjectPtr& readObject) {
         const Object& meant = *objects[at++];
-        const bool changed = meant.fillOrigin == FillOrigin::Edited || !meant.source.inFile();
-        if (!lost && changed && !sameFill(meant, *readObject))
+        const bool isNew = !meant.source.inFile();
+        const bool filled = meant.fillOrigin == PaintOrigin::Edited || isNew;
+        if (!lost && filled && !sameFill(meant, *readObject))
             lost = "the fill of " + nameOf(meant, at) + " would not be read back as it is now";
+        if (!lost && meant.strokeOrigin == PaintOrigin::Edited && !sameStroke(meant, *readObject))
+            lost = "the stroke of " + nameOf(meant, at) + " would not be read back as it is now";
     });
     return lost;
 }

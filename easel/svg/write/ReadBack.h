@@ -9,8 +9,8 @@
 namespace easel::svg {
 
 // Whether the bytes, not compressed, give every object whose fill was changed or added just that fill again:
-// its record and remainder to the bit, or its color. If not, what would be lost, for a message that begins
-// with the file's name.
+// its record and remainder to the bit, or its color; and every changed stroke its paint, but for rounding. If
+// not, what would be lost, for a message that begins with the file's name.
 std::optional<std::string> lostIn(const std::string& bytes, const drawing::Drawing& drawing);
 
 } // namespace easel::svg

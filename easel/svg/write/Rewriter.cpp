@@ -1,7 +1,6 @@
 #include "easel/svg/write/Rewriter.h"
 
 #include "easel/svg/text/Tags.h"
-#include "easel/svg/write/FillStatement.h"
 #include "easel/svg/write/ObjectText.h"
 #include "easel/svg/write/RawTag.h"
 #include "easel/svg/write/UseInstance.h"
@@ -14,8 +13,9 @@ namespace easel::svg {
 
 using drawing::Drawing;
 using drawing::ElementSpan;
-using drawing::FillOrigin;
+using drawing::Object;
 using drawing::ObjectPtr;
+using drawing::PaintOrigin;
 
 namespace {
 
@@ -88,14 +88,26 @@ void Rewriter::gatherChanges() {
         const bool isFirst = !repeated || written.insert(object->source).second;
         if (!object->source.inFile() || !isFirst)
             newObjects_.push_back(objectText(*object, source_.rootToDrawing, source_.prefix, gradients_));
-        else if (object->fillOrigin == FillOrigin::Edited)
-            if (std::string fill = fillText(*object, gradients_); !fill.empty())
-                addChange(object->source, std::move(fill));
+        else if (auto paints = givenPaints(*object); !paints.empty())
+            addChange(object->source, std::move(paints));
     });
 }
 
-void Rewriter::addChange(const ElementSpan& element, std::string fill) {
-    changes_[element.use].push_back({element.tagBegin, std::move(fill)});
+std::vector<PaintStatement> Rewriter::givenPaints(const Object& object) {
+    const auto strength = [](bool sheetsStateIt) {
+        return sheetsStateIt ? StatementStrength::Style : StatementStrength::Attribute;
+    };
+    std::vector<PaintStatement> paints;
+    if (object.fillOrigin == PaintOrigin::Edited)
+        if (std::string fill = fillText(object, gradients_); !fill.empty())
+            paints.push_back({"fill", std::move(fill), strength(source_.sheetsStateFill)});
+    if (object.strokeOrigin == PaintOrigin::Edited)
+        paints.push_back({"stroke", strokeText(object, gradients_), strength(source_.sheetsStateStroke)});
+    return paints;
+}
+
+void Rewriter::addChange(const ElementSpan& element, std::vector<PaintStatement> paints) {
+    changes_[element.use].push_back({element.tagBegin, std::move(paints)});
     if (element.use == 0)
         keepCopiesOf(element.tagBegin);
     else
@@ -132,16 +144,15 @@ void Rewriter::gatherCopies() {
 }
 
 void Rewriter::applyChanges(std::uint32_t instance, Splices& splices) const {
-    const FillStatement statement = source_.sheetsStateFill ? FillStatement::Style : FillStatement::Attribute;
     if (const auto found = changes_.find(instance); found != changes_.end()) {
         for (const Change& change : found->second) {
-            if (change.fill.empty() && source_.chosen.contains(change.tag))
+            if (change.paints.empty() && source_.chosen.contains(change.tag))
                 // Without it the switch would show another of its elements.
                 splices.replace(change.tag, elementEnd(text_, change.tag), '<' + source_.prefix + "g/>");
-            else if (change.fill.empty())
+            else if (change.paints.empty())
                 removeElement(splices, text_, change.tag);
             else
-                stateFill(splices, RawTag(text_, change.tag), change.fill, statement);
+                statePaints(splices, RawTag(text_, change.tag), change.paints);
         }
     }
     if (const auto found = changedInside_.find(instance); found != changedInside_.end()) {
@@ -214,7 +225,7 @@ std::string Rewriter::rewritten() {
     gatherChanges();
     if (changes_.empty() && newObjects_.empty())
         return source_.bytes;
-    if (!writtenOut_.empty() && source_.sheetsStateFill)
+    if (!writtenOut_.empty() && (source_.sheetsStateFill || source_.sheetsStateStroke))
         idsInSheets_ = idsInSelectors(text_);
     Splices splices;
     applyChanges(0, splices);

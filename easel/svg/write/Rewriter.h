@@ -4,6 +4,7 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/write/GradientText.h"
+#include "easel/svg/write/PaintStatement.h"
 #include "easel/svg/write/Splices.h"
 #include "easel/svg/write/UseInstance.h"
 
@@ -25,11 +26,13 @@ class Rewriter {
     // A change of one element, as it stands or as one use instance makes it.
     struct Change {
         std::size_t tag = 0;
-        std::string fill; // empty: the element goes
+        std::vector<PaintStatement> paints; // empty: the element goes
     };
 
     void gatherChanges();
-    void addChange(const drawing::ElementSpan& element, std::string fill);
+    void addChange(const drawing::ElementSpan& element, std::vector<PaintStatement> paints);
+    // What was given to the object since it was read, if it is its element that says so.
+    std::vector<PaintStatement> givenPaints(const drawing::Object& object);
     // Has a use instance written out, and so those around it.
     void writeOut(std::uint32_t instance);
     // What repeats the element that begins here, or something around it, is written out as it was: only the

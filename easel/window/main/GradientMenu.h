@@ -1,4 +1,4 @@
-// Commands on the gradients of all selected shapes.
+// Commands on the gradients of all selected shapes, or on those of their strokes.
 #pragma once
 
 #include "easel/drawing/SelectedGradients.h"
@@ -8,6 +8,7 @@
 #include <QMenu>
 
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -22,6 +23,9 @@ class GradientMenu : public QMenu {
     // Both outlive the menu.
     GradientMenu(SharedParts& shared, runtime::DrawingWindow& window, QWidget* parent);
 
+    // What the commands work on.
+    drawing::PaintStep part() const { return part_; }
+
     // The selection changed: lets those entries be chosen that may have something to do.
     void followSelection();
 
@@ -33,15 +37,24 @@ class GradientMenu : public QMenu {
     void replaced();
     // The next click on a shape is to copy its gradient.
     void pickUpWanted();
+    // The commands work on something else from now on.
+    void partChosen();
 
   private:
-    using Condition = std::function<bool(const drawing::Drawing& drawing)>;
+    using Condition = std::function<bool()>;
 
     QAction* add(const QString& text, const QKeySequence& keys, Condition enabled,
                  void (GradientMenu::*slot)());
     void addCommand(const QString& text, const QKeySequence& keys, const drawing::GradientCommand& command);
     void addTemplates();
+    void addPartChoice();
     void showWhatIsPossible();
+
+    bool canTake() const;
+    bool hasGradient() const;
+    bool hasLinear() const;
+    // That of the front-most selected object that has one.
+    std::optional<drawing::WholeGradient> selectedGradient() const;
 
     void run(const drawing::GradientCommand& command);
     void give(const drawing::WholeGradient& gradient);
@@ -57,6 +70,7 @@ class GradientMenu : public QMenu {
 
     SharedParts& shared_;
     runtime::DrawingWindow& window_;
+    drawing::PaintStep part_ = drawing::PaintStep::Fill;
     std::vector<std::pair<QAction*, Condition>> entries_;
 };
 

@@ -1,5 +1,5 @@
 // What the window says and does about the gradients of its shapes.
-#include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StrokeGradient.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/main/GradientMenu.h"
 #include "easel/window/main/MainWindow.h"
@@ -68,6 +68,10 @@ QString textOf(Loss loss) {
     return {};
 }
 
+Loss lossOf(const drawing::Object& object, drawing::PaintStep part) {
+    return part == drawing::PaintStep::Stroke ? strokeGradientOf(object).loss : shapeGradientOf(object).loss;
+}
+
 std::optional<drawing::Point> centreOf(const std::optional<WholeGradient>& gradient,
                                        const drawing::Box& box) {
     if (!gradient || gradient->record.Type() == kLinearGradient)
@@ -87,6 +91,12 @@ void MainWindow::buildGradientMenu(QMenu& edit) {
     connect(gradientMenu_, &GradientMenu::pickUpWanted, this, [this] {
         canvas_->pickUpNext();
         statusBar()->showMessage(tr("Click on a shape to copy its gradient; Escape lets it be"),
+                                 kMessageTime);
+    });
+    connect(gradientMenu_, &GradientMenu::partChosen, this, [this] {
+        const bool strokes = gradientMenu_->part() == drawing::PaintStep::Stroke;
+        statusBar()->showMessage(strokes ? tr("The gradient commands work on strokes")
+                                         : tr("The gradient commands work on fills"),
                                  kMessageTime);
     });
     connect(canvas_, &Canvas::toolPressed, this, &MainWindow::gradientPressed);
@@ -138,8 +148,11 @@ void MainWindow::gradientReleased() {
 
 void MainWindow::gradientPickedUp(drawing::Point at) {
     const Drawing& drawing = drawingWindow_.drawing();
-    const auto hit = drawing.pick(at, kReach / canvas_->zoom(), gradientKinds());
-    if (auto gradient = hit ? wholeGradientOf(*drawing.object(*hit)) : std::nullopt) {
+    const drawing::PaintStep part = gradientMenu_->part();
+    const bool stroke = part == drawing::PaintStep::Stroke;
+    const auto hit =
+        drawing.pick(at, kReach / canvas_->zoom(), stroke ? drawing::KindSet::all() : gradientKinds());
+    if (auto gradient = hit ? wholeGradientOf(*drawing.object(*hit), part) : std::nullopt) {
         shared_.copiedGradient = std::move(gradient);
         statusBar()->showMessage(tr("The gradient is copied"), kMessageTime);
         return;
@@ -152,7 +165,7 @@ void MainWindow::rememberCost() {
     levelsBefore_ = drawingWindow_.drawing().undoLevels();
     cost_ = Loss::None;
     for (const drawing::ObjectPtr& object : drawingWindow_.drawing().someSelected(kMostAskedForMessage))
-        if (const Loss loss = shapeGradientOf(*object).loss; loss != Loss::None)
+        if (const Loss loss = lossOf(*object, gradientMenu_->part()); loss != Loss::None)
             cost_ = loss;
 }
 

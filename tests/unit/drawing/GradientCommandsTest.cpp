@@ -58,7 +58,7 @@ const WholeGradient kRainbow = linear(30, {{kRed, 0.25}, {kGreen, 0.5}, {kBlue, 
 TEST(GradientCommands, ReverseTurnsColorsAndOpacityAround) {
     WholeGradient gradient = kRainbow;
     gradient.remainder.opacity = {{0, 0}, {0.25, 0.5}, {0.25, 1}};
-    const WholeGradient turned = reversed(gradient);
+    const WholeGradient turned = reversed(gradient, {rectanglePath({0, 0, 100, 50}), FillRule::NonZero});
     EXPECT_EQ(colors(turned), (std::vector{kBlue, kGreen, kRed}));
     EXPECT_EQ(positions(turned), (std::vector{0.0, 0.5, 0.75}));
     EXPECT_EQ(turned.remainder.opacity, (std::vector<OpacityStop>{{0.75, 1}, {0.75, 0.5}, {1, 0}}))
@@ -163,7 +163,8 @@ TEST(SelectedGradients, AllSelectedShapesTakeAGradientInOneStep) {
     Drawing drawing = twoShapesAndALine();
     selectAll(drawing);
     const WholeGradient pasted = radial({0, 0}, {1, 1});
-    EXPECT_TRUE(changeSelectedObjects(drawing, [&](Object& object) { putGradient(object, pasted); }));
+    EXPECT_TRUE(changeSelectedObjects(drawing, PaintStep::Fill,
+                                      [&](Object& object) { putGradient(object, pasted); }));
     EXPECT_TRUE(same(wholeGradientOf(*drawing.object(0)).value(), pasted));
     EXPECT_TRUE(same(wholeGradientOf(*drawing.object(1)).value(), pasted));
     EXPECT_FALSE(wholeGradientOf(*drawing.object(2))) << "a line carries none";
@@ -178,23 +179,21 @@ TEST(SelectedGradients, AllSelectedShapesTakeAGradientInOneStep) {
 TEST(SelectedGradients, WithoutAChangeThereIsNoStep) {
     Drawing drawing = twoShapesAndALine();
     selectAll(drawing);
-    const GradientCommand opaque = [](const WholeGradient& gradient, const Object&) {
+    const GradientCommand opaque = [](const WholeGradient& gradient, const GradientFrame&) {
         return madeOpaque(gradient);
     };
-    const GradientCommand turn = [](const WholeGradient& gradient, const Object&) {
-        return reversed(gradient);
-    };
-    EXPECT_FALSE(wouldChange(drawing, opaque));
-    EXPECT_FALSE(changeSelected(drawing, opaque));
+    const GradientCommand turn = reversed;
+    EXPECT_FALSE(wouldChange(drawing, PaintStep::Fill, opaque));
+    EXPECT_FALSE(changeSelected(drawing, PaintStep::Fill, opaque));
     EXPECT_EQ(drawing.undoLevels(), 0U);
     EXPECT_FALSE(drawing.dirty());
-    EXPECT_TRUE(wouldChange(drawing, turn));
-    EXPECT_TRUE(canTakeGradient(drawing));
+    EXPECT_TRUE(wouldChange(drawing, PaintStep::Fill, turn));
+    EXPECT_TRUE(canTakeGradient(drawing, PaintStep::Fill));
     drawing.unselectAll();
-    EXPECT_FALSE(wouldChange(drawing, turn));
-    EXPECT_FALSE(canTakeGradient(drawing));
+    EXPECT_FALSE(wouldChange(drawing, PaintStep::Fill, turn));
+    EXPECT_FALSE(canTakeGradient(drawing, PaintStep::Fill));
     drawing.select(2);
-    EXPECT_FALSE(canTakeGradient(drawing)) << "a line";
+    EXPECT_FALSE(canTakeGradient(drawing, PaintStep::Fill)) << "a line";
 }
 
 } // namespace
