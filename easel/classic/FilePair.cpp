@@ -17,7 +17,7 @@ constexpr std::uint64_t kFarthestInfo = 1U << 20;
 constexpr std::uintmax_t kLargestHeader = 64U << 20;
 
 FinderInfo infoOfDamaged(const FilePair& file) {
-    return file.name.ends_with(".GRD") ? kTemplateInfo : FinderInfo{};
+    return file.name.ends_with(kTemplateEnding) ? kTemplateInfo : FinderInfo{};
 }
 
 // The first bytes of the file: as many as wanted, fewer where it ends.

@@ -8,5 +8,6 @@ namespace easel::classic {
 
 /// Their type and creator.
 inline constexpr FinderInfo kTemplateInfo{fourCharacters("GTMP"), fourCharacters("*Kst")};
+inline constexpr const char* kTemplateEnding = ".GRD";
 
 } // namespace easel::classic

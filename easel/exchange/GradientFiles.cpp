@@ -5,6 +5,7 @@
 #include "easel/classic/MacBinary.h"
 #include "easel/classic/MacRoman.h"
 #include "easel/classic/PairCommit.h"
+#include "easel/classic/TemplateInfo.h"
 #include "easel/exchange/CssGradient.h"
 #include "easel/exchange/Ggr.h"
 #include "easel/exchange/SvgGradient.h"
@@ -70,7 +71,7 @@ Result<std::vector<std::string>> written(const ExportedGradient& exported, const
 Result<std::vector<std::string>> exportMacBinary(const classic::AppleDouble& header, const std::string& name,
                                                  const fs::path& file) {
     const auto fork = header.resourceFork();
-    const classic::MacBinaryFile binary{classic::toMacRoman(name + ".GRD").value_or(""),
+    const classic::MacBinaryFile binary{classic::toMacRoman(name + classic::kTemplateEnding).value_or(""),
                                         header.finderInfo(),
                                         {},
                                         {fork.begin(), fork.end()},

@@ -16,8 +16,6 @@ using classic::FilePair;
 using files::Error;
 using files::Result;
 
-constexpr const char* kEnding = ".GRD";
-
 std::string describe(const classic::EncodingError& error) {
     return error.kind == classic::EncodingError::Kind::NotUtf8
                ? "the name is not UTF-8"
@@ -27,7 +25,7 @@ std::string describe(const classic::EncodingError& error) {
 } // namespace
 
 std::string withoutEnding(const std::string& name) {
-    const std::string_view ending = kEnding;
+    const std::string_view ending = classic::kTemplateEnding;
     return name.size() > ending.size() && name.ends_with(ending) ? name.substr(0, name.size() - ending.size())
                                                                  : name;
 }
@@ -48,7 +46,7 @@ Result<TemplateShelf::Saved> TemplateShelf::save(const std::string& name,
                                                  const CGradientData& gradient) const {
     if (withoutEnding(name).empty())
         return tl::unexpected(Error{"\"\"", "a template's name cannot be empty", {}});
-    const auto encoded = classic::toMacRoman(withoutEnding(name) + kEnding);
+    const auto encoded = classic::toMacRoman(withoutEnding(name) + classic::kTemplateEnding);
     if (!encoded)
         return tl::unexpected(Error{name, describe(encoded.error()), {}});
     const auto disk = classic::nameOnDisk(*encoded);
@@ -76,7 +74,7 @@ files::Result<> TemplateShelf::remove(const std::string& name) const {
 
 Result<FilePair> TemplateShelf::find(const std::string& name) const {
     const auto files = classic::listFolder(folder_).files;
-    for (const auto& wanted : {name, withoutEnding(name) + kEnding}) {
+    for (const auto& wanted : {name, withoutEnding(name) + classic::kTemplateEnding}) {
         // Composed or decomposed, a name is the same in the host's encoding.
         const auto encoded = classic::toMacRoman(wanted);
         if (!encoded)

@@ -16,7 +16,7 @@ constexpr std::size_t kMostElements = 1'000'000;
 constexpr int kDeepest = 16;
 constexpr std::size_t kMostReplacements = 200;
 constexpr std::size_t kLongest = 4096;
-constexpr std::size_t kMostLevels = 10'000;
+constexpr std::size_t kMostScopes = 10'000;
 
 constexpr std::string_view kFunction = "var(";
 
@@ -30,7 +30,7 @@ const Declaration* find(const std::vector<Declaration>& own, std::string_view na
 
 std::optional<std::string_view> valueOf(std::string_view name, const CustomProperties* properties) {
     std::size_t steps = 0;
-    for (; properties && ++steps < kMostLevels; properties = properties->outer)
+    for (; properties && ++steps < kMostScopes; properties = properties->outer)
         if (const Declaration* const found = find(properties->own, name))
             return found->value;
     return std::nullopt;
