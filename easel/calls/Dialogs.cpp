@@ -46,7 +46,7 @@ Dialog* dialogOf(DialogRef ref) {
 
 const DialogItem* itemOf(DialogRef ref, short number) {
     const Dialog* const dialog = dialogOf(ref);
-    return dialog != nullptr ? dialog->item(number) : nullptr;
+    return dialog ? dialog->item(number) : nullptr;
 }
 
 int toPosition(long value) {
@@ -97,7 +97,7 @@ DialogRef TessGetNewDialog(short id, void*, OpaqueWindowPtr*) {
 void DisposeDialog(DialogRef ref) {
     journal("DisposeDialog");
     Dialog* dialog = dialogOf(ref);
-    if (dialog == nullptr)
+    if (!dialog)
         return;
     process().user().dialogClosed(*dialog);
     process().dialogs().remove(*dialog);
@@ -106,7 +106,7 @@ void DisposeDialog(DialogRef ref) {
 void SetPortDialogPort(DialogRef ref) {
     journal("SetPortDialogPort");
     Dialog* dialog = dialogOf(ref);
-    process().ports().makeCurrent(dialog != nullptr ? &dialog->port() : nullptr);
+    process().ports().makeCurrent(dialog ? &dialog->port() : nullptr);
 }
 
 // A dialog's window is known by the same reference as the dialog.
@@ -119,7 +119,7 @@ void ModalDialog(ModalFilterUPP filter, short* itemHit) {
     journal("ModalDialog");
     *itemHit = kUsualCancelItem;
     Dialog* dialog = process().dialogs().front();
-    if (dialog == nullptr)
+    if (!dialog)
         return;
     dialog->setStandardKeys(filter == StdDlogFilterUPP ? easel::runtime::StandardKeys::On
                                                        : easel::runtime::StandardKeys::Off);
@@ -148,7 +148,7 @@ UserItemUPP NewUserItemUPP(UserItemUPP procedure) {
 void SetUserDrawProc(DialogRef ref, short number, TRect<short>& box, UserItemUPP procedure) {
     journal("SetUserDrawProc", number);
     Dialog* dialog = dialogOf(ref);
-    if (dialog == nullptr || dialog->item(number) == nullptr)
+    if (!dialog || !dialog->item(number))
         return;
     dialog->setDrawProcedure(number, procedure);
     box = easel::runtime::toHost(dialog->item(number)->bounds);
@@ -157,7 +157,7 @@ void SetUserDrawProc(DialogRef ref, short number, TRect<short>& box, UserItemUPP
 TRect<short> GetDialogItemBounds(DialogRef ref, short number) {
     journal("GetDialogItemBounds", number);
     const DialogItem* item = itemOf(ref, number);
-    return item != nullptr ? easel::runtime::toHost(item->bounds) : TRect<short>{};
+    return item ? easel::runtime::toHost(item->bounds) : TRect<short>{};
 }
 
 void InvalDLogItem(DialogRef ref, short number) {
@@ -175,7 +175,7 @@ void SetDLOGText(DialogRef ref, short number, const CStr255& text) {
 void GetDLOGText(DialogRef ref, short number, CStr255& text) {
     journal("GetDLOGText", number);
     const DialogItem* item = itemOf(ref, number);
-    text.Assign(item != nullptr ? item->text : std::string());
+    text.Assign(item ? item->text : std::string());
 }
 
 void SelectDLOGText(DialogRef ref, short number, long start, long end) {
@@ -193,13 +193,13 @@ void SetItemCtlValue(DialogRef ref, short number, short value) {
 short GetPopMenuSelectedItem(DialogRef ref, short number) {
     journal("GetPopMenuSelectedItem", number);
     const DialogItem* item = itemOf(ref, number);
-    return item != nullptr && item->kind == ItemKind::Popup ? static_cast<short>(item->value) : short{0};
+    return item && item->kind == ItemKind::Popup ? static_cast<short>(item->value) : short{0};
 }
 
 short GetDialogItemAsControl(DialogRef ref, short number, ControlRef* control) {
     journal("GetDialogItemAsControl", number);
     const DialogItem* item = itemOf(ref, number);
-    if (item == nullptr || !isControl(*item)) {
+    if (!item || !isControl(*item)) {
         *control = nullptr;
         return kItemNotFound;
     }
@@ -210,10 +210,10 @@ short GetDialogItemAsControl(DialogRef ref, short number, ControlRef* control) {
 short GetControlData(ControlRef control, short part, OSType tag, long size, void* data, long* actualSize) {
     journal("GetControlData", part, tag, size);
     const auto* item = reinterpret_cast<const DialogItem*>(control);
-    if (item == nullptr || tag != kControlPopupButtonMenuHandleTag || item->menu == nullptr)
+    if (!item || tag != kControlPopupButtonMenuHandleTag || !item->menu)
         return kDataNotFound;
     auto* const menu = reinterpret_cast<OpaqueMenuRef*>(item->menu.get());
-    if (actualSize != nullptr)
+    if (actualSize)
         *actualSize = kReferenceSize;
     // Half a reference would be worse than none.
     if (size < kReferenceSize)
@@ -265,7 +265,7 @@ bool CCarbonDialogBase::Run() {
 }
 
 bool CCarbonDialogBase::CanProcessCommand(HICommandExtended command) {
-    return command.commandID != kOKCommand || (state_->list != nullptr && state_->list->canConfirm());
+    return command.commandID != kOKCommand || (state_->list && state_->list->canConfirm());
 }
 
 std::int32_t CCarbonDialogBase::DoCommand(HICommandExtended command) {
@@ -277,7 +277,7 @@ std::int32_t CCarbonDialogBase::DoCommand(HICommandExtended command) {
         DoOKAction();
     else
         DoCancelAction();
-    if (state_->list != nullptr)
+    if (state_->list)
         state_->list->close();
     return kNoErr;
 }
@@ -299,7 +299,7 @@ DeleteDialog::~DeleteDialog() = default;
 
 void DeleteDialog::DoOKAction() {
     const State& state = DialogState();
-    if (state.list == nullptr)
+    if (!state.list)
         return;
     const std::vector<int>& selection = state.list->selection();
     const easel::classic::HostFiles::ManyChanges many(process().storage().files());

@@ -161,13 +161,13 @@ void ClosePoly() {
 
 void PaintPoly(OpaquePolyHandle* polygon) {
     journal("QD::PaintPoly");
-    if (polygon != nullptr)
+    if (polygon)
         target().paintPolygon(*polygonOf(polygon));
 }
 
 void FramePoly(OpaquePolyHandle* polygon) {
     journal("QD::FramePoly");
-    if (polygon != nullptr)
+    if (polygon)
         target().framePolygon(*polygonOf(polygon));
 }
 
@@ -186,7 +186,7 @@ void ClipRect(const TRect<short>& rect) {
 void DrawDropShadow(TRect<short> rect) {
     journal("DrawDropShadow");
     const easel::runtime::Dialog* const dialog = process().dialogs().owning(target());
-    const auto theme = dialog != nullptr ? dialog->screen().theme : easel::runtime::DialogTheme{};
+    const auto theme = dialog ? dialog->screen().theme : easel::runtime::DialogTheme{};
     easel::runtime::drawShadow(target(), theme, fromHost(rect));
 }
 

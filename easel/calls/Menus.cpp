@@ -24,7 +24,7 @@ short CountMenuItems(OpaqueMenuRef* ref) {
     journal("CountMenuItems");
     const Menu* menu = menuOf(ref);
     constexpr int kMost = std::numeric_limits<short>::max();
-    return menu != nullptr ? static_cast<short>(std::min(menu->count(), kMost)) : short{0};
+    return menu ? static_cast<short>(std::min(menu->count(), kMost)) : short{0};
 }
 
 void DeleteMenuItem(OpaqueMenuRef* ref, short item) {
@@ -49,5 +49,5 @@ void SetMenuItemText(OpaqueMenuRef* ref, short item, const CStr255& text) {
 void GetMenuItemText(OpaqueMenuRef* ref, short item, CStr255& text) {
     journal("GetMenuItemText", item);
     const Menu* menu = menuOf(ref);
-    text.Assign(menu != nullptr && menu->has(item) ? menu->entry(item).text : std::string());
+    text.Assign(menu && menu->has(item) ? menu->entry(item).text : std::string());
 }

@@ -26,7 +26,7 @@ bool mouseIsDragged(const DrawingWindow& outOf) {
 void ShowWindow(OpaqueWindowPtr* window) {
     journal("ShowWindow");
     Dialog* dialog = process().dialogs().find(reinterpret_cast<OpaqueDialogPtr*>(window));
-    if (dialog == nullptr || dialog->shown())
+    if (!dialog || dialog->shown())
         return;
     dialog->show();
     process().user().dialogShown(*dialog);

@@ -13,14 +13,14 @@ namespace easel::classic {
 
 using ByteView = std::span<const std::uint8_t>;
 
-/// The `length` bytes at `offset`, or nothing where they do not lie within `bytes` as a whole.
+// The `length` bytes at `offset`, or nothing where they do not lie within `bytes` as a whole.
 inline std::optional<ByteView> part(ByteView bytes, std::uint64_t offset, std::uint64_t length) {
     if (offset > bytes.size() || length > bytes.size() - offset)
         return std::nullopt;
     return bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(length));
 }
 
-/// The number at `offset`, which lies within `bytes`.
+// The number at `offset`, which lies within `bytes`.
 template <std::unsigned_integral Number> Number numberAt(ByteView bytes, std::size_t offset) {
     Number value = 0;
     for (std::size_t i = 0; i < sizeof(Number); ++i)
@@ -47,7 +47,7 @@ inline ByteView viewOf(std::string_view text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-/// A four-character code such as 'GTMP' as the 32-bit number it stands for.
+// A four-character code such as 'GTMP' as the 32-bit number it stands for.
 constexpr std::uint32_t fourCharacters(const char (&code)[5]) {
     std::uint32_t value = 0;
     for (int i = 0; i < 4; ++i)

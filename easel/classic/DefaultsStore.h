@@ -7,17 +7,17 @@
 
 namespace easel::classic {
 
-/// Nothing is cached, so that two programs with one preferences folder see each other's changes; the later
-/// wins.
+// Nothing is cached, so that two programs with one preferences folder see each other's changes; the later
+// wins.
 class DefaultsStore {
   public:
     explicit DefaultsStore(StoragePlaces places) : places_(std::move(places)) {}
 
     std::filesystem::path file() const { return places_.preferences / "Defaults.rsrc"; }
 
-    /// Everything stored. A file that is missing holds nothing.
+    // Everything stored. A file that is missing holds nothing.
     files::Result<ResourceFork> read() const;
-    /// Stores a default in place of an earlier one. A damaged file goes to the trash first.
+    // Stores a default in place of an earlier one. A damaged file goes to the trash first.
     [[nodiscard]] files::Result<> put(Resource resource) const;
 
   private:

@@ -13,20 +13,20 @@
 
 namespace easel::classic {
 
-/// Nothing for a gradient without stops, which nobody could draw.
+// Nothing for a gradient without stops, which nobody could draw.
 std::optional<files::Bytes> gradientToBytes(const CGradientData& gradient);
 
 enum class GradientDamage {
-    NotAGradient,   ///< another magic number, or too short to have one
-    UnknownVersion, ///< written by a later program
-    WrongLength,    ///< cut short, or with more behind it
+    NotAGradient,   // another magic number, or too short to have one
+    UnknownVersion, // written by a later program
+    WrongLength,    // cut short, or with more behind it
     WrongChecksum,
-    WrongStopCount, ///< no stop, or another number than there is room for
+    WrongStopCount, // no stop, or another number than there is room for
 };
 
 tl::expected<CGradientData, GradientDamage> gradientFromBytes(ByteView bytes);
 
-/// In words for the user.
+// In words for the user.
 std::string describe(GradientDamage damage);
 
 } // namespace easel::classic

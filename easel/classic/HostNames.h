@@ -10,11 +10,11 @@
 
 namespace easel::classic {
 
-/// The name on disk, or nothing for what names no file: empty, "." and "..", with a ':' or a zero byte in it,
-/// too long, or reserved for our own use ("._" and what follows it, temporary files).
+// The name on disk, or nothing for what names no file: empty, "." and "..", with a ':' or a zero byte in it,
+// too long, or reserved for our own use ("._" and what follows it, temporary files).
 std::optional<std::string> nameOnDisk(std::string_view hostName);
 
-/// The host's name for a file on disk, or nothing where the host cannot name it.
+// The host's name for a file on disk, or nothing where the host cannot name it.
 std::optional<std::string> nameInHost(std::string_view diskName);
 
 } // namespace easel::classic

@@ -15,14 +15,14 @@ namespace easel::classic {
 
 class ListingCache {
   public:
-    /// As `listFolder` would give it now. What the system tells of changes is looked at file by file. The
-    /// whole is read anew where it cannot tell. Of what other machines do to a shared folder, and of files
-    /// that links lead to, it tells nothing: there the whole is read anew when that was a second ago. Valid
-    /// until the next call.
+    // As `listFolder` would give it now. What the system tells of changes is looked at file by file. The
+    // whole is read anew where it cannot tell. Of what other machines do to a shared folder, and of files
+    // that links lead to, it tells nothing: there the whole is read anew when that was a second ago. Valid
+    // until the next call.
     const std::vector<ListedFile>& list(const std::filesystem::path& folder);
-    /// Begins to read the folder on another thread, for a `list` that comes later.
+    // Begins to read the folder on another thread, for a `list` that comes later.
     void prepare(const std::filesystem::path& folder);
-    /// Another number whenever the listing is another one than before.
+    // Another number whenever the listing is another one than before.
     std::uint64_t revision() const { return revision_; }
 
   private:

@@ -11,16 +11,16 @@
 
 namespace easel::classic {
 
-/// Makes the file with an empty data fork and that header. A file that was there goes to the trash as a
-/// whole.
+// Makes the file with an empty data fork and that header. A file that was there goes to the trash as a
+// whole.
 [[nodiscard]] files::Result<> writePair(const FilePair& file, const AppleDouble& header,
                                         const files::Trash& trash);
 
-/// Moves the file to the trash.
+// Moves the file to the trash.
 [[nodiscard]] files::Result<> trashPair(const FilePair& file, const files::Trash& trash,
                                         files::Flushing flushing = files::Flushing::AtOnce);
 
-/// Clears away what changes that were cut off left in the folder.
+// Clears away what changes that were cut off left in the folder.
 void recoverFolder(const std::filesystem::path& folder);
 
 } // namespace easel::classic

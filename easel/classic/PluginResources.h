@@ -19,7 +19,7 @@ enum class AlignmentResource { Left, Center, Right };
 
 struct ItemResource {
     ItemResourceKind kind = ItemResourceKind::StaticText;
-    int top = 0; ///< edges in the content's pixels
+    int top = 0; // edges in the content's pixels
     int left = 0;
     int bottom = 0;
     int right = 0;
@@ -28,21 +28,21 @@ struct ItemResource {
     std::string label;
     ButtonResourceRole role = ButtonResourceRole::Plain;
     AlignmentResource alignment = AlignmentResource::Left;
-    int menu = 0; ///< of a popup
+    int menu = 0; // of a popup
 };
 
 struct DialogResource {
     std::string title;
     int width = 0;
     int height = 0;
-    std::vector<ItemResource> items; ///< item 1 first
+    std::vector<ItemResource> items; // item 1 first
 };
 
 struct MenuEntryResource {
     enum class Kind { Choice, Separator };
     Kind kind = Kind::Choice;
     std::string text;
-    bool enabled = true; ///< of a choice; a disabled one is shown and cannot be chosen
+    bool enabled = true; // of a choice; a disabled one is shown and cannot be chosen
 };
 using MenuResource = std::vector<MenuEntryResource>;
 
@@ -68,12 +68,12 @@ struct IconResource {
 
 class PluginResources {
   public:
-    /// Reads NAME.xml in a folder called NAME, where the pictures are too.
+    // Reads NAME.xml in a folder called NAME, where the pictures are too.
     static files::Result<PluginResources> read(const std::filesystem::path& folder);
-    /// The same from text; the error names `file`, and pictures are looked for beside it.
+    // The same from text; the error names `file`, and pictures are looked for beside it.
     static files::Result<PluginResources> parse(std::string_view xml, const std::filesystem::path& file);
 
-    /// These give null, or an empty text, for what is not there. Strings count from 1.
+    // These give null, or an empty text, for what is not there. Strings count from 1.
     std::string string(int listId, int index) const;
     const DialogResource* dialog(int id) const { return find(dialogs_, id); }
     const MenuResource* menu(int id) const { return find(menus_, id); }

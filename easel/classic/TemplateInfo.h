@@ -6,7 +6,7 @@
 
 namespace easel::classic {
 
-/// Their type and creator.
+// Their type and creator.
 inline constexpr FinderInfo kTemplateInfo{fourCharacters("GTMP"), fourCharacters("*Kst")};
 inline constexpr const char* kTemplateEnding = ".GRD";
 

@@ -13,7 +13,7 @@ namespace {
 
 bool isSet(const char* variable) {
     const char* value = std::getenv(variable);
-    return value != nullptr && *value != '\0';
+    return value && *value != '\0';
 }
 
 bool hasDisplay() {
@@ -38,12 +38,12 @@ int runWindow(const window::StartUp& startUp, int argc, char** argv) {
     }
     // The program's run path names the folders that may hold the library.
     void* library = dlopen("libeaselwindow.so", RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr) {
+    if (!library) {
         std::cerr << "easel: this build has no window: " << dlerror() << "\n";
         return 2;
     }
     void* symbol = dlsym(library, window::kRunWindowSymbol);
-    if (symbol == nullptr) {
+    if (!symbol) {
         std::cerr << "easel: the window's library is damaged: " << dlerror() << "\n";
         return 2;
     }

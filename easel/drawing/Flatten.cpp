@@ -1,3 +1,4 @@
+// A path as polygons, close enough for whoever asks.
 #include "easel/drawing/Path.h"
 #include "easel/drawing/Segments.h"
 

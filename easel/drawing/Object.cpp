@@ -74,7 +74,7 @@ void Object::setStrokePaint(Paint paint) {
 }
 
 bool Object::showsGradient() const {
-    return fillPattern != FillPattern::None && gradientIn(gradient) != nullptr;
+    return fillPattern != FillPattern::None && gradientIn(gradient);
 }
 
 bool Object::hitBy(Point p, double reach) const {

@@ -1,3 +1,4 @@
+// The paths of rectangles and ellipses.
 #include "easel/drawing/Path.h"
 
 namespace easel::drawing {

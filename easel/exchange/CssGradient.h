@@ -7,8 +7,8 @@
 
 namespace easel::exchange {
 
-/// Takes the first gradient anywhere in the text, so a declaration or a style sheet will do. The error
-/// names `file`.
+// Takes the first gradient anywhere in the text, so a declaration or a style sheet will do. The error
+// names `file`.
 files::Result<ImportedGradient> readCss(std::string_view text, const std::filesystem::path& file);
 ExportedGradient writeCss(const CGradientData& gradient);
 

@@ -11,13 +11,13 @@ namespace easel::exchange {
 
 struct ImportedGradient {
     CGradientData gradient;
-    std::string name;               ///< what the source calls it, UTF-8; may be empty
-    std::vector<std::string> notes; ///< what the source has and a gradient cannot hold, a sentence each
+    std::string name;               // what the source calls it, UTF-8; may be empty
+    std::vector<std::string> notes; // what the source has and a gradient cannot hold, a sentence each
 };
 
 struct ExportedGradient {
     std::string text;
-    std::vector<std::string> notes; ///< what the gradient has and the target cannot hold, a sentence each
+    std::vector<std::string> notes; // what the gradient has and the target cannot hold, a sentence each
 };
 
 } // namespace easel::exchange

@@ -8,9 +8,9 @@
 
 namespace easel::exchange {
 
-/// The error names `file`.
+// The error names `file`.
 files::Result<ImportedGradient> readGgr(std::string_view text, const std::filesystem::path& file);
-/// Such a file holds a ramp only, from 0 to 1.
+// Such a file holds a ramp only, from 0 to 1.
 ExportedGradient writeGgr(const CGradientData& gradient, const std::string& name);
 
 } // namespace easel::exchange

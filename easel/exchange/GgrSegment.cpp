@@ -43,7 +43,7 @@ double factorOf(GgrBlending blending, double part, double middle) {
 }
 
 struct Hsv {
-    double hue; ///< 0 to 1
+    double hue; // 0 to 1
     double saturation;
     double value;
 };

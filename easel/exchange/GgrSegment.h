@@ -18,9 +18,9 @@ struct GgrSegment {
     double rightOpacity = 1;
     GgrBlending blending = GgrBlending::Linear;
     GgrColoring coloring = GgrColoring::Rgb;
-    bool hasPaletteColors = false; ///< an end takes the program's foreground or background color
+    bool hasPaletteColors = false; // an end takes the program's foreground or background color
 
-    /// The color at a part, 0 to 1, of the segment.
+    // The color at a part, 0 to 1, of the segment.
     CurveColor colorAt(double part) const;
     bool isStraight() const;
 };

@@ -9,15 +9,15 @@
 
 namespace easel::exchange {
 
-/// The endings, with what they stand for, for help texts.
+// The endings, with what they stand for, for help texts.
 inline constexpr const char* kFormatsInWords =
     ".GRD (with its header file ._NAME beside it), .bin (MacBinary), .ggr (GIMP), .svg, .css";
 
-/// Reads a gradient; the error names the file and the reason.
+// Reads a gradient; the error names the file and the reason.
 files::Result<ImportedGradient> importFile(const std::filesystem::path& file);
 
-/// Writes a gradient whole or not at all, and gives the notes on what the file does not hold. A .GRD that is
-/// replaced goes to the trash.
+// Writes a gradient whole or not at all, and gives the notes on what the file does not hold. A .GRD that is
+// replaced goes to the trash.
 files::Result<std::vector<std::string>> exportFile(const CGradientData& gradient, const std::string& name,
                                                    const std::filesystem::path& file,
                                                    const files::Trash& trash);

@@ -9,12 +9,12 @@
 
 namespace easel::exchange {
 
-/// The gradient of a template, or why it has none.
+// The gradient of a template, or why it has none.
 files::Result<CGradientData> readTemplate(const classic::FilePair& file);
-/// The same from a resource fork; the error names `file`.
+// The same from a resource fork; the error names `file`.
 files::Result<CGradientData> templateIn(classic::ByteView fork, const std::filesystem::path& file);
 
-/// Everything about a template but its name; nothing for a gradient without stops.
+// Everything about a template but its name; nothing for a gradient without stops.
 std::optional<classic::AppleDouble> templateHeader(const CGradientData& gradient);
 
 } // namespace easel::exchange

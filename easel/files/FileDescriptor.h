@@ -25,7 +25,7 @@ class FileDescriptor {
 
     int number() const { return number_; }
     explicit operator bool() const { return number_ >= 0; }
-    /// Closes now; false where the system reports that something written earlier was lost.
+    // Closes now; false where the system reports that something written earlier was lost.
     bool close() { return ::close(std::exchange(number_, -1)) == 0; }
 
   private:

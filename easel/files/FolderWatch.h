@@ -13,14 +13,14 @@ namespace easel::files {
 
 class FolderWatch {
   public:
-    /// Watches that folder from now on, and none that was watched before.
+    // Watches that folder from now on, and none that was watched before.
     void start(const std::filesystem::path& folder);
-    /// The names of files that were made, written, renamed or removed there since the last call, in no order
-    /// and some perhaps repeatedly. Nothing where that is not known: the system cannot watch, too much has
-    /// happened, or the path leads to another folder now. Then the watch has to be started again.
+    // The names of files that were made, written, renamed or removed there since the last call, in no order
+    // and some perhaps repeatedly. Nothing where that is not known: the system cannot watch, too much has
+    // happened, or the path leads to another folder now. Then the watch has to be started again.
     std::optional<std::vector<std::string>> changes();
 
-    /// Whether no change can escape the system: the folder is on this machine's own disk or in its memory.
+    // Whether no change can escape the system: the folder is on this machine's own disk or in its memory.
     bool seesAll() const { return seesAll_; }
 
   private:

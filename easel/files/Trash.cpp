@@ -16,7 +16,7 @@ namespace {
 
 struct TrashFolder {
     fs::path folder;
-    fs::path noteBase; ///< notes give paths below this one relative to it; empty for absolute paths
+    fs::path noteBase; // notes give paths below this one relative to it; empty for absolute paths
 };
 
 std::optional<dev_t> deviceOf(fs::path path) {

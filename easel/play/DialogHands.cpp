@@ -22,7 +22,7 @@ constexpr long kLastNumber = std::numeric_limits<std::int16_t>::max();
 const runtime::DialogItem& itemIn(const runtime::Dialog& dialog, Arguments& arguments) {
     const long number = arguments.integer("the item", 1, kLastNumber);
     const runtime::DialogItem* item = dialog.item(static_cast<int>(number));
-    if (item == nullptr)
+    if (!item)
         throw PlayError("the dialog has no item " + std::to_string(number));
     return *item;
 }
@@ -37,7 +37,7 @@ const runtime::DialogItem& itemOfKind(const runtime::Dialog& dialog, Arguments& 
 
 void checkFocus(const runtime::Dialog& dialog) {
     const runtime::DialogItem* item = dialog.item(dialog.focus());
-    if (item == nullptr || item->kind != runtime::ItemKind::EditText)
+    if (!item || item->kind != runtime::ItemKind::EditText)
         throw PlayError("no edit field has the focus");
 }
 
@@ -66,8 +66,7 @@ drawing::Point pointInDialog(const runtime::Dialog& dialog, Arguments& arguments
         constexpr double kFarthest = std::numeric_limits<std::int16_t>::max();
         return std::clamp(std::floor(offset) + origin, -kFarthest, kFarthest);
     };
-    return {pixel(point.x, item != nullptr ? item->bounds.left : 0),
-            pixel(point.y, item != nullptr ? item->bounds.top : 0)};
+    return {pixel(point.x, item ? item->bounds.left : 0), pixel(point.y, item ? item->bounds.top : 0)};
 }
 
 DialogHands::Play DialogHands::playOf(const std::string& command) {
@@ -82,7 +81,7 @@ DialogHands::Play DialogHands::playOf(const std::string& command) {
 
 bool DialogHands::play(runtime::Dialog& dialog, const Step& step) {
     const Play known = playOf(step.words[0]);
-    if (known == nullptr)
+    if (!known)
         return false;
     Arguments arguments({step.words.begin() + 1, step.words.end()});
     (this->*known)(dialog, arguments);
@@ -104,7 +103,7 @@ void DialogHands::press(runtime::Dialog& dialog, Arguments& arguments) {
 void DialogHands::pressAt(runtime::Dialog& dialog, drawing::Point where) {
     user_.press(where);
     const runtime::DialogItem* item = dialog.itemAt(pixelAt(where));
-    if (item == nullptr)
+    if (!item)
         return;
     if (isControl(*item)) {
         pressedControl_ = item->number;
@@ -125,7 +124,7 @@ void DialogHands::release(runtime::Dialog& dialog, Arguments& arguments) {
     arguments.done();
     user_.release();
     const runtime::DialogItem* pressed = dialog.item(std::exchange(pressedControl_, 0));
-    if (pressed != nullptr && pressed->bounds.contains(pixelAt(user_.mouse().at)))
+    if (pressed && pressed->bounds.contains(pixelAt(user_.mouse().at)))
         dialog.hit(pressed->number);
 }
 

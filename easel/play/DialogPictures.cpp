@@ -16,7 +16,7 @@ namespace {
 
 const runtime::Dialog& frontDialog(Session& session) {
     const runtime::Dialog* dialog = session.user().questions().frontDialog();
-    if (dialog == nullptr)
+    if (!dialog)
         throw PlayError("no dialog is open");
     return *dialog;
 }
@@ -41,7 +41,7 @@ void pictureOfItem(Session& session, Arguments& arguments) {
     const std::string file = arguments.text("the file");
     arguments.done();
     const runtime::DialogItem* item = dialog.item(static_cast<int>(number));
-    if (item == nullptr)
+    if (!item)
         throw PlayError("the dialog has no item " + std::to_string(number));
     write(session, dialog.port(), item->bounds, file);
 }

@@ -17,7 +17,7 @@ namespace easel::runtime {
 
 // The object's text in UTF-8; empty for null.
 inline std::string utf8Of(CFStringRef string) {
-    return string != nullptr ? string->text : std::string();
+    return string ? string->text : std::string();
 }
 
 } // namespace easel::runtime

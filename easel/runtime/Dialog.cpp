@@ -46,7 +46,7 @@ const DialogItem* Dialog::item(int number) const {
 
 DialogItem* Dialog::itemOfKind(int number, ItemKind kind) {
     DialogItem* found = find(number);
-    return found != nullptr && found->kind == kind ? found : nullptr;
+    return found && found->kind == kind ? found : nullptr;
 }
 
 const DialogItem* Dialog::itemAt(paint::PixelPoint point) const {
@@ -62,13 +62,13 @@ int Dialog::itemWithRole(ButtonRole role) const {
 }
 
 void Dialog::changed(int item, ItemChange change) {
-    if (observer_ != nullptr)
+    if (observer_)
         observer_->itemChanged(item, change);
 }
 
 void Dialog::setText(int number, std::string text) {
     DialogItem* target = find(number);
-    if (target == nullptr)
+    if (!target)
         return;
     text.resize(std::min(text.size(), kLongestText));
     target->text = std::move(text);
@@ -95,7 +95,7 @@ void Dialog::setDrawProcedure(int number, ItemDrawProcedure procedure) {
 
 void Dialog::invalidate(int number) {
     DialogItem* target = itemOfKind(number, ItemKind::UserDrawn);
-    if (target == nullptr)
+    if (!target)
         return;
     target->invalid = true;
     changed(number, ItemChange::Invalid);
@@ -111,10 +111,9 @@ void Dialog::show() {
         return;
     shown_ = true;
     // A field that the program has not touched since opens as one that was tabbed into.
-    if (const DialogItem* field = focusedField();
-        field != nullptr && field->selection.from == field->selection.to)
+    if (const DialogItem* field = focusedField(); field && field->selection.from == field->selection.to)
         setFocus(field->number);
-    if (observer_ != nullptr)
+    if (observer_)
         observer_->shownChanged();
 }
 
@@ -140,18 +139,17 @@ void Dialog::drawInvalidItems() {
     for (DialogItem& each : items_) {
         if (!std::exchange(each.invalid, false))
             continue;
-        if (each.draw != nullptr)
+        if (each.draw)
             each.draw(ref(), static_cast<short>(each.number));
     }
 }
 
 void Dialog::flush() {
     const paint::PixelRect damage = port_->takeDamage();
-    if (observer_ == nullptr)
+    if (!observer_)
         return;
     for (DialogItem& each : items_) {
-        if (each.menu != nullptr &&
-            std::exchange(each.menuReported, each.menu->revision()) != each.menu->revision())
+        if (each.menu && std::exchange(each.menuReported, each.menu->revision()) != each.menu->revision())
             changed(each.number, ItemChange::Menu);
     }
     if (!damage.empty())

@@ -39,7 +39,7 @@ void Dialog::replaceSelection(DialogItem& field, const std::string& replacement)
 EditOutcome Dialog::typeCharacter(char32_t character) {
     DialogItem* field = focusedField();
     const auto encoded = classic::toMacRoman(text::utf8Of(character));
-    if (field == nullptr || !encoded || !fits(*encoded))
+    if (!field || !encoded || !fits(*encoded))
         return EditOutcome::Refused;
     const auto selected = static_cast<std::size_t>(field->selection.to - field->selection.from);
     if (field->text.size() - selected + encoded->size() > kLongestText)
@@ -50,7 +50,7 @@ EditOutcome Dialog::typeCharacter(char32_t character) {
 
 EditOutcome Dialog::eraseBackward() {
     DialogItem* field = focusedField();
-    if (field == nullptr)
+    if (!field)
         return EditOutcome::Refused;
     TextSelection& selection = field->selection;
     if (selection.from == selection.to)
@@ -61,7 +61,7 @@ EditOutcome Dialog::eraseBackward() {
 
 EditOutcome Dialog::eraseForward() {
     DialogItem* field = focusedField();
-    if (field == nullptr)
+    if (!field)
         return EditOutcome::Refused;
     TextSelection& selection = field->selection;
     if (selection.from == selection.to)
@@ -73,7 +73,7 @@ EditOutcome Dialog::eraseForward() {
 EditOutcome Dialog::enterText(int number, const std::string& utf8) {
     DialogItem* field = itemOfKind(number, ItemKind::EditText);
     const auto encoded = classic::toMacRoman(utf8);
-    if (field == nullptr || !encoded || !fits(*encoded))
+    if (!field || !encoded || !fits(*encoded))
         return EditOutcome::Refused;
     moveFocus(number);
     field->selection = {0, static_cast<int>(field->text.size())};
@@ -83,7 +83,7 @@ EditOutcome Dialog::enterText(int number, const std::string& utf8) {
 
 void Dialog::selectText(int number, TextSelection selection) {
     DialogItem* field = itemOfKind(number, ItemKind::EditText);
-    if (field == nullptr)
+    if (!field)
         return;
     moveFocus(number);
     field->selection = within(selection, field->text);
@@ -92,7 +92,7 @@ void Dialog::selectText(int number, TextSelection selection) {
 
 EditOutcome Dialog::chooseEntry(int number, int entry) {
     DialogItem* popup = itemOfKind(number, ItemKind::Popup);
-    if (popup == nullptr || !popup->enabled || !popup->menu->selectable(entry))
+    if (!popup || !popup->enabled || !popup->menu->selectable(entry))
         return EditOutcome::Refused;
     popup->value = entry;
     changed(number, ItemChange::Value);
@@ -104,18 +104,18 @@ void Dialog::moveFocus(int number) {
     if (focus_ == number)
         return;
     focus_ = number;
-    if (observer_ != nullptr)
+    if (observer_)
         observer_->focusChanged();
 }
 
 void Dialog::setFocus(int number) {
-    moveFocus(item(number) != nullptr ? number : 0);
+    moveFocus(item(number) ? number : 0);
     if (const DialogItem* field = focusedField())
         selectText(number, {0, static_cast<int>(field->text.size())});
 }
 
 void Dialog::hit(int number) {
-    if (const DialogItem* target = item(number); target != nullptr && target->enabled)
+    if (const DialogItem* target = item(number); target && target->enabled)
         hits_.push_back(number);
 }
 

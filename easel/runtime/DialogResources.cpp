@@ -90,7 +90,7 @@ DialogItem itemOf(const classic::PluginResources& resources, const ItemResource&
 
 std::optional<DialogDescription> dialogDescription(const classic::PluginResources& resources, int id) {
     const classic::DialogResource* resource = resources.dialog(id);
-    if (resource == nullptr)
+    if (!resource)
         return std::nullopt;
     DialogDescription description{id, resource->title, resource->width, resource->height, {}};
     for (const ItemResource& each : resource->items)
@@ -100,7 +100,7 @@ std::optional<DialogDescription> dialogDescription(const classic::PluginResource
 
 std::optional<Alert> alertDescription(const classic::PluginResources& resources, int id) {
     const classic::AlertResource* resource = resources.alert(id);
-    if (resource == nullptr)
+    if (!resource)
         return std::nullopt;
     return Alert{id, resource->title, resource->text, resource->detail, resource->confirm, resource->decline};
 }

@@ -12,7 +12,7 @@ FeedbackRounds::~FeedbackRounds() {
 }
 
 void FeedbackRounds::show() {
-    if (window_ == nullptr)
+    if (!window_)
         return;
     window_->setFeedback(graphics_.lines);
     user_.present(*window_);

@@ -11,7 +11,7 @@ const SharedResourcePtr<CPatRecord>& blackPattern() {
 
 drawing::FillPattern fillPatternOf(const SharedResourcePtr<CPatRecord>& pattern) {
     const CPatRecord* const rows = pattern;
-    if (rows == nullptr)
+    if (!rows)
         return drawing::FillPattern::None;
     const CPatRecord* const black = blackPattern();
     return rows->Rows() == black->Rows() ? drawing::FillPattern::SolidBlack : drawing::FillPattern::Other;

@@ -14,7 +14,7 @@ paint::PortPolygon* PolygonRecording::open(paint::Port& port) {
 
 void PolygonRecording::close(paint::Port& port) {
     paint::PortPolygon recorded = port.closePolygon();
-    if (open_ != nullptr)
+    if (open_)
         *open_ = std::move(recorded);
     open_ = nullptr;
 }

@@ -21,7 +21,7 @@ class Ports {
     // The current port, or null.
     paint::Port* current() const { return current_; }
     // The current port; while there is none, a port without pixels, which takes every call and shows nothing.
-    paint::Port& target() { return current_ != nullptr ? *current_ : nowhere_; }
+    paint::Port& target() { return current_ ? *current_ : nowhere_; }
 
   private:
     std::vector<const paint::Port*> all_;

@@ -20,7 +20,7 @@ Process::Process(const classic::StoragePlaces& places)
           if (hasUser())
               user().tell(message);
       }) {
-    if (gCurrent != nullptr)
+    if (gCurrent)
         throw std::logic_error("there is a host process already");
     gCurrent = this;
 }
@@ -30,19 +30,19 @@ Process::~Process() {
 }
 
 User& Process::user() const {
-    if (user_ == nullptr)
+    if (!user_)
         throw std::logic_error("the host process has no user to ask");
     return *user_;
 }
 
 Process& process() {
-    if (gCurrent == nullptr)
+    if (!gCurrent)
         throw std::logic_error("an operation of the host was called without a host process");
     return *gCurrent;
 }
 
 Journal* openJournal() {
-    return gCurrent != nullptr && gCurrent->journal().isOn() ? &gCurrent->journal() : nullptr;
+    return gCurrent && gCurrent->journal().isOn() ? &gCurrent->journal() : nullptr;
 }
 
 } // namespace easel::runtime

@@ -5,7 +5,7 @@
 
 namespace tests {
 
-/// Throws, and so fails the test, where there is a value.
+// Throws, and so fails the test, where there is a value.
 template <class Result> auto errorOf(const Result& result) {
     if (result)
         throw std::logic_error("there is a value in place of an error");

@@ -25,7 +25,7 @@ Surface::Surface(int width, int height)
     const auto bytes = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(height_);
     const std::size_t alignment = bytes < kHugePage ? std::size_t{kAlignment} : kHugePage;
     void* memory = std::aligned_alloc(alignment, (bytes / alignment + 1) * alignment);
-    if (memory == nullptr)
+    if (!memory)
         throw std::bad_alloc();
     pixels_.reset(static_cast<std::uint32_t*>(memory));
     // The rows of a shape lie on as many pages as it has rows; large pages spare most of the address

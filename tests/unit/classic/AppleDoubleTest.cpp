@@ -1,3 +1,4 @@
+// Header files in the AppleDouble format.
 #include "easel/classic/AppleDouble.h"
 #include "tests/support/ErrorOf.h"
 

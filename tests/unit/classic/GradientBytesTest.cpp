@@ -1,3 +1,4 @@
+// The bytes of a stored gradient, whole and damaged.
 #include "easel/classic/GradientBytes.h"
 #include "tests/support/ErrorOf.h"
 

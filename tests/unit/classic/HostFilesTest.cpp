@@ -1,3 +1,4 @@
+// Files as the plug-in names them.
 #include "easel/classic/HostFiles.h"
 #include "easel/classic/MacRoman.h"
 #include "tests/unit/classic/PairFixture.h"

@@ -1,3 +1,4 @@
+// Names between the disk and the host.
 #include "easel/classic/HostNames.h"
 #include "easel/classic/MacRoman.h"
 

@@ -1,3 +1,4 @@
+// Files with both forks in one, as MacBinary packs them.
 #include "easel/classic/MacBinary.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Text between UTF-8 and the encoding of the host.
 #include "easel/classic/MacRoman.h"
 #include "tests/support/ErrorOf.h"
 

@@ -1,3 +1,4 @@
+// Writing a file and its header file, whole or not at all.
 #include "easel/classic/PairCommit.h"
 #include "easel/files/AtomicFile.h"
 #include "tests/unit/classic/PairFixture.h"

@@ -28,7 +28,7 @@ inline void dropFile(const std::filesystem::path& folder, const std::string& nam
     writeContent(folder / ("._" + name), {header.begin(), header.end()});
 }
 
-/// What the file's one resource holds; "none" where there is no such file, "damaged" for anything else.
+// What the file's one resource holds; "none" where there is no such file, "damaged" for anything else.
 inline std::string keptIn(const std::filesystem::path& folder, const std::string& name) {
     using namespace easel::classic;
     using namespace easel::files;

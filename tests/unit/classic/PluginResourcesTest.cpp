@@ -1,3 +1,4 @@
+// The plug-in's resource file.
 #include "easel/classic/PluginResources.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/TemporaryFolder.h"

@@ -1,3 +1,4 @@
+// Resource forks, whole and damaged.
 #include "easel/classic/ResourceFork.h"
 #include "tests/support/ErrorOf.h"
 

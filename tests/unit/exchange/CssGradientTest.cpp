@@ -1,3 +1,4 @@
+// Gradients in the language of style sheets.
 #include "easel/exchange/CssGradient.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// GIMP's gradient files.
 #include "easel/exchange/Ggr.h"
 #include "easel/drawing/Ramp.h"
 

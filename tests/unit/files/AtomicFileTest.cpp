@@ -1,3 +1,4 @@
+// Writing files whole or not at all.
 #include "easel/files/AtomicFile.h"
 #include "easel/files/WholeFile.h"
 #include "tests/support/ErrorOf.h"

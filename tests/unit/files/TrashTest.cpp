@@ -1,3 +1,4 @@
+// Moving files to the trash of the desktop.
 #include "easel/files/Trash.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -10,7 +10,7 @@ std::vector<std::string> gBlockEvents;
 
 namespace {
 
-/// The host's own operation, which the one of this program hides.
+// The host's own operation, which the one of this program hides.
 template <typename Function> Function* HostOperation(const char* mangledName) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, mangledName));
 }

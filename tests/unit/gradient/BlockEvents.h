@@ -4,5 +4,5 @@
 #include <string>
 #include <vector>
 
-/// "lock", "read", "unlock" and "dispose", in the order in which they happened since it was last cleared.
+// "lock", "read", "unlock" and "dispose", in the order in which they happened since it was last cleared.
 extern std::vector<std::string> gBlockEvents;

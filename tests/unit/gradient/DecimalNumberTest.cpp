@@ -16,8 +16,8 @@
 
 namespace {
 
-/// Makes German, which writes a decimal comma, the language of the program. It is compiled into a folder of
-/// the test's own, since a machine need not have it.
+// Makes German, which writes a decimal comma, the language of the program. It is compiled into a folder of
+// the test's own, since a machine need not have it.
 bool SpeakGerman() {
     tests::TemporaryFolder const folder;
     std::string const command = "localedef -i de_DE -f UTF-8 " + (folder.path() / "de_DE.UTF-8").string();
@@ -29,7 +29,7 @@ bool SpeakGerman() {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-/// Pieces of numbers in any order, so that many texts are numbers or nearly so.
+// Pieces of numbers in any order, so that many texts are numbers or nearly so.
 std::string RandomText(std::mt19937& random) {
     static constexpr const char* kPieces[] = {"0",
                                               "1",

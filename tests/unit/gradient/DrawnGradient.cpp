@@ -13,7 +13,7 @@ namespace {
 
 bool gDrawingFails = false;
 
-/// The host's own operation, which the one of this program hides.
+// The host's own operation, which the one of this program hides.
 template <typename Function> Function* HostOperation(const char* mangledName) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, mangledName));
 }

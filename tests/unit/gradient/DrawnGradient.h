@@ -8,14 +8,14 @@
 
 struct DrawnGradient {
     CGradientData record;
-    /// Whether the plug-in said that it draws the preview.
+    // Whether the plug-in said that it draws the preview.
     bool drawingToDialog;
 };
 
-/// The last gradient that was drawn.
+// The last gradient that was drawn.
 extern std::optional<DrawnGradient> gDrawn;
 
-/// Makes every drawing fail with this exception for a scope.
+// Makes every drawing fail with this exception for a scope.
 struct DrawingFailed {};
 class FailingDrawing {
   public:
@@ -25,7 +25,7 @@ class FailingDrawing {
     ~FailingDrawing();
 };
 
-/// A polygon of a rectangle that was made or freed, and whether the plug-in said that it draws the preview.
+// A polygon of a rectangle that was made or freed, and whether the plug-in said that it draws the preview.
 struct PolygonEvent {
     enum class What { Made, Freed } what;
     bool drawingToDialog;
@@ -33,5 +33,5 @@ struct PolygonEvent {
     friend bool operator==(const PolygonEvent&, const PolygonEvent&) = default;
 };
 
-/// What happened to polygons since it was last cleared.
+// What happened to polygons since it was last cleared.
 extern std::vector<PolygonEvent> gPolygonEvents;

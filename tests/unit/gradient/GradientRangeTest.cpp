@@ -22,8 +22,8 @@ Range LinearRange(CFPolygonRef polygon, double angle) {
     return range;
 }
 
-/// The least and the largest place of the polygon's vertices along the range, 0 being its start and 1 its
-/// end.
+// The least and the largest place of the polygon's vertices along the range, 0 being its start and 1 its
+// end.
 std::pair<double, double> PlacesAlong(const Range& range, CFPolygonRef polygon) {
     const TPoint<double> along = range.end - range.start;
     const double square = along.h * along.h + along.v * along.v;

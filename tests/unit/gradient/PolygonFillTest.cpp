@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// Fills the polygon and returns the record that was drawn.
+// Fills the polygon and returns the record that was drawn.
 CGradientData DrawnRecord(CFPolygonRef polygon, const CGradientData& gradient) {
     gDrawn.reset();
     HostGraphics state;

@@ -15,7 +15,7 @@ inline StOwnedPolygon PolygonOf(std::vector<TPoint<double>> vertices) {
     return StOwnedPolygon(CFPolygonRef(storage.release()));
 }
 
-/// A polygon of 3 to 12 vertices anywhere in a drawing, from a pixel to some thousands across.
+// A polygon of 3 to 12 vertices anywhere in a drawing, from a pixel to some thousands across.
 inline StOwnedPolygon RandomPolygon(std::mt19937& random) {
     std::uniform_real_distribution<double> place(-2000.0, 2000.0);
     std::uniform_real_distribution<double> logSize(0.0, 3.5);

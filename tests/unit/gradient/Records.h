@@ -7,7 +7,7 @@
 #include <ostream>
 #include <vector>
 
-/// A stop in numbers, for comparing and for messages.
+// A stop in numbers, for comparing and for messages.
 struct Stop {
     double percent;
     RGBColor color;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A resource that counts how many of it are alive.
+// A resource that counts how many of it are alive.
 class Probe : public CHashBase {
   public:
     explicit Probe(std::uint32_t id) : id_(id) { ++alive; }
@@ -30,7 +30,7 @@ using ProbePtr = SharedResourcePtr<Probe>;
 
 class SharedResource : public testing::Test {
   protected:
-    /// The table lives as long as the program, so every test takes ids that no other has used.
+    // The table lives as long as the program, so every test takes ids that no other has used.
     std::uint32_t id_ = nextId_++;
     int aliveBefore_ = Probe::alive;
 

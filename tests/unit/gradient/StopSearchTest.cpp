@@ -15,7 +15,7 @@ double Narrowed(double position) {
     return static_cast<double>(static_cast<float>(position));
 }
 
-/// Whether a click `pixels` from the left end of the ramp means a stop at `stop`.
+// Whether a click `pixels` from the left end of the ramp means a stop at `stop`.
 bool IsMeant(double stop, int pixels, short width) {
     auto colors = ColorsOf({{stop, kBlack}});
     return FindStopNear(colors, static_cast<double>(pixels) / width, width) != colors.end();

@@ -1,3 +1,4 @@
+// The plug-in's relocatable blocks of memory.
 #include "easel/runtime/MemoryBlocks.h"
 #include "tests/support/ErrorOf.h"
 

@@ -1,3 +1,4 @@
+// Resource files as the plug-in opens and closes them.
 #include "easel/runtime/ResourceFiles.h"
 #include "easel/classic/DefaultsStore.h"
 #include "tests/support/ErrorOf.h"
