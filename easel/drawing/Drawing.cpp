@@ -10,6 +10,14 @@ namespace {
 // Room for what marks a selected object around its box, and for the blurred edge of its pixels.
 constexpr double kRepaintMargin = 8;
 
+bool anyBlends(const std::vector<ObjectPtr>& objects) {
+    const Group* last = nullptr;
+    return std::any_of(objects.begin(), objects.end(), [&](const ObjectPtr& object) {
+        const Group* const group = object->group.get();
+        return group && std::exchange(last, group) != group && blendsWithDrawing(*group);
+    });
+}
+
 } // namespace
 
 Drawing Drawing::create(double width, double height) {
@@ -18,7 +26,8 @@ Drawing Drawing::create(double width, double height) {
 
 Drawing::Drawing(double width, double height, std::vector<ObjectPtr> objects,
                  std::shared_ptr<const DocumentSource> source, std::vector<std::string> notes)
-    : width_(width), height_(height), source_(std::move(source)), notes_(std::move(notes)) {
+    : width_(width), height_(height), blends_(anyBlends(objects)), source_(std::move(source)),
+      notes_(std::move(notes)) {
     list_.append(std::move(objects));
     std::vector<PlaceIndex::Item> items;
     items.reserve(list_.size());

@@ -36,6 +36,9 @@ class Drawing {
 
     double width() const { return width_; }
     double height() const { return height_; }
+    // Whether any of its groups blends with what lies below outside of all groups. What the drawing is laid
+    // on has no part in that: such a drawing is painted by itself first.
+    bool blends() const { return blends_; }
     // What of the file is kept but not shown, one sentence each, to be told to the user once.
     const std::vector<std::string>& notes() const { return notes_; }
     // Null for a drawing that came from no file.
@@ -111,6 +114,7 @@ class Drawing {
 
     double width_;
     double height_;
+    bool blends_ = false;
     DisplayList list_;
     PlaceIndex places_;
     std::set<Slot> selection_;

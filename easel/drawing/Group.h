@@ -1,6 +1,8 @@
-// Layers that several objects share: group opacity and clip paths, as a chain from the inside out.
+// Layers that several objects share: opacity, clip paths, masks and blending, as a chain from the inside out.
 #pragma once
 
+#include "easel/drawing/BlendMode.h"
+#include "easel/drawing/Mask.h"
 #include "easel/drawing/Path.h"
 
 #include <memory>
@@ -24,14 +26,24 @@ struct ClipPath {
 };
 
 // Objects that follow each other in the drawing and name the same group are painted into one layer, which is
-// clipped, made fainter by `opacity` and laid on what `parent` (null: the drawing) holds so far.
+// clipped, masked, made fainter by `opacity` and laid on what `parent` (null: the drawing) holds so far, by
+// its blend mode.
 struct Group {
     std::shared_ptr<const Group> parent;
     double opacity = 1;
     std::shared_ptr<const ClipPath> clip; // null: not clipped
     std::uint32_t depth = 1;              // number of groups up to the outermost, this one included
+    MaskPtr mask;                         // null: not masked
+    BlendMode blend = BlendMode::Normal;
+    bool isolated = false; // what blends inside meets nothing outside
 };
 
 using GroupPtr = std::shared_ptr<const Group>;
+
+// Whether its objects need a layer of their own. Else they might as well lie in the parent.
+bool isLayer(const Group& group);
+
+// Whether the group, or one around it, blends with what lies outside of all groups.
+bool blendsWithDrawing(const Group& group);
 
 } // namespace easel::drawing

@@ -84,7 +84,7 @@ bool Object::hitBy(Point p, double reach) const {
 }
 
 Box Object::paintBounds() const {
-    Box box = style ? bounds.grownBy(strokeReach(styleOf(*this)) * unitsOf(*this).largestScale()) : bounds;
+    Box box = style ? bounds.grownBy(strokeReach(styleOf(*this)) * penUnitsOf(*this).largestScale()) : bounds;
     if (markers)
         for (const ObjectPtr& marker : *markers)
             box.add(marker->paintBounds());

@@ -120,9 +120,14 @@ inline const Style& styleOf(const Object& object) {
     return object.style ? *object.style : plainStyle();
 }
 
-// The map from the object's own units to the drawing, which is the shape of its pen.
+// The map from the object's own units to the drawing.
 inline Affine unitsOf(const Object& object) {
     return object.units ? *object.units : Affine();
+}
+
+// The map from the units of the stroke's lengths to the drawing, which is the shape of the pen.
+inline Affine penUnitsOf(const Object& object) {
+    return styleOf(object).stroke.inDrawingUnits ? Affine() : unitsOf(object);
 }
 
 } // namespace easel::drawing

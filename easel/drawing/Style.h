@@ -13,7 +13,7 @@ enum class LineJoin : std::uint8_t { Miter, Round, Bevel };
 enum class LineCap : std::uint8_t { Butt, Round, Square };
 enum class PaintStep : std::uint8_t { Fill, Stroke };
 
-// Lengths are in the object's own units; `Object::units` takes them to the drawing.
+// Lengths are in the units that `penUnitsOf` takes to the drawing.
 struct Stroke {
     Paint paint; // without paint nothing is stroked
     double opacity = 1;
@@ -23,6 +23,7 @@ struct Stroke {
     double miterLimit = 4;
     std::vector<double> dashes; // an even number of lengths, none negative, not all 0; empty for a solid line
     double dashOffset = 0;
+    bool inDrawingUnits = false; // lengths are in drawing units, not in the object's own
 
     friend bool operator==(const Stroke&, const Stroke&) = default;
 };
@@ -39,7 +40,7 @@ struct Style {
 // Whether the stroke leaves any mark.
 bool strokes(const Style& style);
 
-// How far the stroke may reach from the outline, in the object's own units.
+// How far the stroke may reach from the outline, in the units of its lengths.
 double strokeReach(const Style& style);
 
 } // namespace easel::drawing

@@ -2,6 +2,7 @@
 #include "easel/export/CairoPainter.h"
 
 #include "easel/export/GradientRange.h"
+#include "easel/export/MaskAlpha.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectPaintSource.h"
 
@@ -40,16 +41,36 @@ class Saved {
     cairo_t* cairo_;
 };
 
-using Pattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy)>;
-
-Pattern patternOf(const drawing::LinearGeometry& line) {
-    return {cairo_pattern_create_linear(line.start.x, line.start.y, line.end.x, line.end.y),
-            &cairo_pattern_destroy};
+cairo_pattern_t* newPattern(const drawing::LinearGeometry& line) {
+    return cairo_pattern_create_linear(line.start.x, line.start.y, line.end.x, line.end.y);
 }
-Pattern patternOf(const drawing::RadialGeometry& circles) {
-    return {cairo_pattern_create_radial(circles.focus.x, circles.focus.y, circles.focusRadius,
-                                        circles.centre.x, circles.centre.y, circles.radius),
-            &cairo_pattern_destroy};
+cairo_pattern_t* newPattern(const drawing::RadialGeometry& circles) {
+    return cairo_pattern_create_radial(circles.focus.x, circles.focus.y, circles.focusRadius,
+                                       circles.centre.x, circles.centre.y, circles.radius);
+}
+
+void paintPattern(cairo_t* cairo, cairo_pattern_t* pattern, double opacity = 1) {
+    cairo_set_source(cairo, pattern);
+    cairo_paint_with_alpha(cairo, opacity);
+}
+
+bool isBlended(const drawing::ObjectPtr& object) {
+    const drawing::Group* group = object->group.get();
+    while (group && group->blend == drawing::BlendMode::Normal)
+        group = group->parent.get();
+    return group != nullptr;
+}
+
+cairo_operator_t operatorOf(drawing::BlendMode mode) {
+    // In the order of the enumeration.
+    static constexpr cairo_operator_t kOperators[drawing::kBlendModeCount] = {
+        CAIRO_OPERATOR_OVER,          CAIRO_OPERATOR_MULTIPLY,       CAIRO_OPERATOR_SCREEN,
+        CAIRO_OPERATOR_OVERLAY,       CAIRO_OPERATOR_DARKEN,         CAIRO_OPERATOR_LIGHTEN,
+        CAIRO_OPERATOR_COLOR_DODGE,   CAIRO_OPERATOR_COLOR_BURN,     CAIRO_OPERATOR_HARD_LIGHT,
+        CAIRO_OPERATOR_SOFT_LIGHT,    CAIRO_OPERATOR_DIFFERENCE,     CAIRO_OPERATOR_EXCLUSION,
+        CAIRO_OPERATOR_HSL_HUE,       CAIRO_OPERATOR_HSL_SATURATION, CAIRO_OPERATOR_HSL_COLOR,
+        CAIRO_OPERATOR_HSL_LUMINOSITY};
+    return kOperators[static_cast<std::size_t>(mode)];
 }
 
 cairo_extend_t extendOf(drawing::Spread spread) {
@@ -133,7 +154,18 @@ void CairoPainter::paint(const drawing::Drawing& drawing, const Progress& progre
     std::vector<drawing::ObjectPtr> objects;
     objects.reserve(drawing.size());
     drawing.forEach([&](const drawing::ObjectPtr& object) { objects.push_back(object); });
-    paintWithin(nullptr, objects);
+    blends_ = std::any_of(objects.begin(), objects.end(), isBlended);
+    if (!drawing.blends())
+        return paintWithin(nullptr, objects);
+    apart([&] { paintWithin(nullptr, objects); },
+          [&](cairo_pattern_t* pattern) { paintPattern(cairo_, pattern); });
+}
+
+template <class Content, class Use> void CairoPainter::apart(Content paint, Use use) {
+    cairo_push_group(cairo_);
+    paint();
+    const Pattern pattern(cairo_pop_group(cairo_), &cairo_pattern_destroy);
+    use(pattern.get());
 }
 
 void CairoPainter::paintWithin(const drawing::Group* parent, paint::ObjectSpan objects) {
@@ -143,15 +175,35 @@ void CairoPainter::paintWithin(const drawing::Group* parent, paint::ObjectSpan o
 }
 
 void CairoPainter::paintGroup(const drawing::Group& group, paint::ObjectSpan objects) {
+    if (drawing::validOpacity(group.opacity) == 0)
+        return;
+    if (group.blend == drawing::BlendMode::Normal)
+        return clipped(group.clip.get(), [&] { paintContent(group, objects); });
+    apart([&] { clipped(group.clip.get(), [&] { paintContent(group, objects); }); },
+          [&](cairo_pattern_t* content) {
+              const Saved saved(cairo_);
+              cairo_set_operator(cairo_, operatorOf(group.blend));
+              paintPattern(cairo_, content);
+          });
+}
+
+void CairoPainter::paintContent(const drawing::Group& group, paint::ObjectSpan objects) {
     const double opacity = drawing::validOpacity(group.opacity);
-    clipped(group.clip.get(), [&] {
-        if (opacity >= 1)
-            return paintWithin(&group, objects);
-        cairo_push_group(cairo_);
-        paintWithin(&group, objects);
-        cairo_pop_group_to_source(cairo_);
-        cairo_paint_with_alpha(cairo_, opacity);
-    });
+    if (opacity >= 1 && !group.mask && !(blends_ && isLayer(group)))
+        return paintWithin(&group, objects);
+    apart([&] { paintWithin(&group, objects); },
+          [&](cairo_pattern_t* content) {
+              if (!group.mask)
+                  return paintPattern(cairo_, content, opacity);
+              const auto masked = [&] {
+                  const Pattern mask = maskPattern(*group.mask);
+                  cairo_set_source(cairo_, content);
+                  cairo_mask(cairo_, mask.get());
+              };
+              if (opacity >= 1)
+                  return masked();
+              apart(masked, [&](cairo_pattern_t* result) { paintPattern(cairo_, result, opacity); });
+          });
 }
 
 template <class Content> void CairoPainter::clipped(const drawing::ClipPath* clip, Content paint) {
@@ -227,7 +279,7 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
 void CairoPainter::paintStroke(const Object& object, double opacity) {
     const paint::HeldPaintSource source = paint::HeldPaintSource::ofStroke(object);
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
-    const drawing::Affine units = drawing::unitsOf(object);
+    const drawing::Affine units = drawing::penUnitsOf(object);
     if (!source.visible() || !units.invertible() || !std::isfinite(stroke.width))
         return;
     const Saved saved(cairo_);
@@ -253,20 +305,25 @@ void CairoPainter::setSource(const paint::PaintSource& source, double opacity) {
     }
     const auto& paint = std::get<drawing::ColorPaint>(source);
     cairo_set_source_rgba(cairo_, level(paint.color.red), level(paint.color.green), level(paint.color.blue),
-                          drawing::validOpacity(paint.opacity) * opacity);
+                          shareOf(paint.color) * drawing::validOpacity(paint.opacity) * opacity);
 }
 
 void CairoPainter::setGradient(const drawing::Gradient& gradient, double opacity) {
-    const Pattern pattern =
-        std::visit([](const auto& geometry) { return patternOf(geometry); }, gradient.geometry);
+    const Pattern pattern(
+        std::visit([](const auto& geometry) { return newPattern(geometry); }, gradient.geometry),
+        &cairo_pattern_destroy);
     for (const drawing::RampStop& stop : gradient.ramp.stops())
-        cairo_pattern_add_color_stop_rgba(pattern.get(), stop.position, level(stop.color.red),
-                                          level(stop.color.green), level(stop.color.blue),
-                                          drawing::validOpacity(stop.opacity) * opacity);
+        cairo_pattern_add_color_stop_rgba(
+            pattern.get(), stop.position, level(stop.color.red), level(stop.color.green),
+            level(stop.color.blue), shareOf(stop.color) * drawing::validOpacity(stop.opacity) * opacity);
     const cairo_matrix_t toGradient = matrixOf(gradient.toDrawing.inverse());
     cairo_pattern_set_matrix(pattern.get(), &toGradient);
     cairo_pattern_set_extend(pattern.get(), extendOf(gradient.spread));
     cairo_set_source(cairo_, pattern.get());
+}
+
+double CairoPainter::shareOf(const drawing::Rgb16& color) const {
+    return luminanceAsAlpha_ ? luminanceOf(color) : 1;
 }
 
 void CairoPainter::addPath(const drawing::Path& path) {

@@ -5,16 +5,19 @@
 #include "easel/export/Progress.h"
 #include "easel/paint/Painter.h"
 
+#include <memory>
 #include <span>
 
 using cairo_t = struct _cairo;
+using cairo_pattern_t = struct _cairo_pattern;
 
 namespace easel::exports {
 
 class CairoPainter {
   public:
-    // User space of the context is that of the drawing. The context must outlive the painter.
-    explicit CairoPainter(cairo_t* cairo) : cairo_(cairo) {}
+    // User space of the context is that of the drawing. The context must outlive the painter. What can be
+    // said by a picture only gets `detail` pixels for each of the target's own, across and down.
+    explicit CairoPainter(cairo_t* cairo, double detail = 1) : cairo_(cairo), detail_(detail) {}
 
     // Throws Cancelled.
     void paint(const drawing::Drawing& drawing, const Progress& progress = {});
@@ -22,6 +25,9 @@ class CairoPainter {
   private:
     void paintWithin(const drawing::Group* parent, std::span<const drawing::ObjectPtr> objects);
     void paintGroup(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
+    void paintContent(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
+    // Paints something into a group of its own and gives it to use(pattern).
+    template <class Content, class Use> void apart(Content paint, Use use);
     void paintObject(const drawing::Object& object);
     void paintFill(const drawing::Object& object, double opacity);
     void paintStroke(const drawing::Object& object, double opacity);
@@ -31,11 +37,21 @@ class CairoPainter {
     bool narrow(const drawing::ClipPath& clip);
     void paintMask(const drawing::ClipPath& clip);
 
+    using Pattern = std::unique_ptr<cairo_pattern_t, void (*)(cairo_pattern_t*)>;
+    // A pattern whose alpha is what the mask shows.
+    Pattern maskPattern(const drawing::Mask& mask);
+    Pattern maskPicture(const drawing::Mask& mask);
+
     void setSource(const paint::PaintSource& source, double opacity);
     void setGradient(const drawing::Gradient& gradient, double opacity);
+    // What share of its opacity a color is painted with.
+    double shareOf(const drawing::Rgb16& color) const;
     void addPath(const drawing::Path& path);
 
     cairo_t* cairo_;
+    double detail_;
+    bool blends_ = false;           // anywhere in the drawing
+    bool luminanceAsAlpha_ = false; // colors are painted with their luminance in the place of their opacity
     PieceCount painted_;
 };
 

@@ -1,4 +1,5 @@
-// Writes SVG: the objects in their groups, and before them the gradients and clip paths they name.
+// Writes SVG: the objects in their groups, and before them the gradients, clip paths and masks they
+// name.
 #include "easel/export/SvgText.h"
 
 #include "easel/export/GradientRange.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace easel::exports {
 
@@ -59,7 +61,8 @@ class SvgWriter {
     }
     void writeGroup(const drawing::Group& group, paint::ObjectSpan objects) {
         body_ += "<g" + attributeUnless(1, "opacity", drawing::validOpacity(group.opacity)) +
-                 clipAttribute(group.clip.get()) + ">\n";
+                 clipAttribute(group.clip.get()) + maskAttribute(group.mask.get()) +
+                 attribute("style", blendText(group)) + ">\n";
         writeWithin(&group, objects);
         body_ += "</g>\n";
     }
@@ -67,7 +70,7 @@ class SvgWriter {
     void writeObject(const Object& object) {
         written_.next();
         const drawing::Style& style = drawing::styleOf(object);
-        const Affine units = drawing::unitsOf(object);
+        const Affine units = drawing::penUnitsOf(object);
         const bool stroked = drawing::strokes(style) && units.invertible();
         // Where it shows, the pen keeps the shape that the object's own units give it.
         const Affine own = stroked ? units : Affine{};
@@ -153,12 +156,50 @@ class SvgWriter {
         return clipNames_[&clip] = name;
     }
 
+    static std::string blendText(const drawing::Group& group) {
+        std::string text = group.isolated ? "isolation:isolate;" : "";
+        if (group.blend != drawing::BlendMode::Normal)
+            text += "mix-blend-mode:" + std::string(drawing::blendModeName(group.blend));
+        return text;
+    }
+
+    std::string maskAttribute(const drawing::Mask* mask) {
+        return mask ? attribute("mask", referenceTo(maskName(*mask))) : std::string();
+    }
+    std::string maskName(const drawing::Mask& mask) {
+        if (const auto known = maskNames_.find(&mask); known != maskNames_.end())
+            return known->second;
+        const std::string outside = std::exchange(body_, {});
+        writeWithin(nullptr, mask.objects);
+        const std::string content = std::exchange(body_, outside);
+        const std::string name = newName("mask");
+        definitions_ += "<mask" + attribute("id", name) + attribute("maskUnits", "userSpaceOnUse") +
+                        placeText(mask) + measureText(mask.measure) + ">\n" + content + "</mask>\n";
+        return maskNames_[&mask] = name;
+    }
+    // All that the mask's objects may touch, with room for the blurred edges of pixels.
+    static std::string placeText(const drawing::Mask& mask) {
+        drawing::Box box;
+        for (const drawing::ObjectPtr& object : mask.objects)
+            box.add(object->paintBounds().grownBy(1));
+        return attribute("x", box.empty() ? 0 : box.left) + attribute("y", box.empty() ? 0 : box.top) +
+               attribute("width", box.width()) + attribute("height", box.height());
+    }
+    static std::string measureText(drawing::MaskMeasure measure) {
+        if (measure == drawing::MaskMeasure::Alpha)
+            return attribute("mask-type", "alpha");
+        return measure == drawing::MaskMeasure::LinearLuminance
+                   ? attribute("color-interpolation", "linearRGB")
+                   : std::string();
+    }
+
     PieceCount written_;
     std::vector<drawing::ObjectPtr> objects_;
     std::string prefix_ = "easel-";
     int named_ = 0;
     std::map<std::string, std::string> gradientNames_;
     std::map<const drawing::ClipPath*, std::string> clipNames_;
+    std::map<const drawing::Mask*, std::string> maskNames_;
     std::string definitions_;
     std::string body_;
 };

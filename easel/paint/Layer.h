@@ -2,7 +2,9 @@
 // one.
 #pragma once
 
+#include "easel/drawing/BlendMode.h"
 #include "easel/drawing/Geometry.h"
+#include "easel/drawing/Mask.h"
 #include "easel/paint/pixels/Surface.h"
 
 namespace easel::paint {
@@ -23,8 +25,12 @@ class Layer {
 
     // Multiplies each pixel by the alpha of the mask's pixel; both layers cover the same place.
     void maskWith(const Layer& mask);
+    // The same with what `measure` finds of the mask's pixel.
+    void maskWith(const Layer& mask, drawing::MaskMeasure measure);
     // Composes the layer, its opacity from 0 to 1, over the surface.
     void layOn(const SurfaceView& surface, double opacity) const;
+    // The same by a blend mode.
+    void blendWith(const SurfaceView& surface, double opacity, drawing::BlendMode mode) const;
 
   private:
     PixelRect place_;

@@ -1,5 +1,5 @@
-// Objects to pixels: fill and stroke of each, layers where opacity or a clip path concerns several things at
-// once.
+// Objects to pixels: fill and stroke of each, layers where opacity, a clip path, a mask or a blend mode
+// concerns several things at once.
 #include "easel/paint/ObjectPainter.h"
 
 #include "easel/paint/ClipMask.h"
@@ -50,11 +50,13 @@ void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, 
                                const Affine& toSurface) {
     if (!(group.opacity > 0))
         return;
-    if (group.depth > kDeepestLayer || (group.opacity >= 1 && !group.clip))
+    if (group.depth > kDeepestLayer || !isLayer(group))
         return paintWithin(&group, objects, surface, toSurface);
     PixelRect place = pixelsUnder(objects, toSurface, surface.clip());
     if (group.clip)
         place = pixelsInside(*group.clip, toSurface, place);
+    if (group.mask)
+        place = pixelsUnder(group.mask->objects, toSurface, place);
     if (place.empty())
         return;
     Layer layer(place);
@@ -62,7 +64,18 @@ void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, 
     paintWithin(&group, objects, layer.view(), toLayer);
     if (group.clip)
         clipLayer(layer, *group.clip, toLayer, painter_);
-    layer.layOn(surface, group.opacity);
+    if (group.mask)
+        maskLayer(layer, *group.mask, toLayer);
+    if (group.blend == drawing::BlendMode::Normal)
+        layer.layOn(surface, group.opacity);
+    else
+        layer.blendWith(surface, group.opacity, group.blend);
+}
+
+void ObjectPainter::maskLayer(Layer& layer, const drawing::Mask& mask, const Affine& toLayer) {
+    Layer shown(layer.place());
+    paintWithin(nullptr, mask.objects, shown.view(), toLayer);
+    layer.maskWith(shown, mask.measure);
 }
 
 void ObjectPainter::paintObject(const Object& object, const SurfaceView& surface, const Affine& toSurface) {
@@ -104,7 +117,7 @@ void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, 
 void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                                 double opacity) {
     const HeldPaintSource source = HeldPaintSource::ofStroke(object);
-    const Affine units = drawing::unitsOf(object);
+    const Affine units = drawing::penUnitsOf(object);
     const double scale = (toSurface * units).largestScale();
     if (!source.visible() || !units.invertible() || !(scale > 0))
         return;

@@ -8,6 +8,8 @@
 
 namespace easel::paint {
 
+class Layer;
+
 // Holds scratch memory; use one for each thread.
 class ObjectPainter {
   public:
@@ -20,6 +22,7 @@ class ObjectPainter {
                      const SurfaceView& surface, const drawing::Affine& toSurface);
     void paintGroup(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
                     const SurfaceView& surface, const drawing::Affine& toSurface);
+    void maskLayer(Layer& layer, const drawing::Mask& mask, const drawing::Affine& toLayer);
     void paintObject(const drawing::Object& object, const SurfaceView& surface,
                      const drawing::Affine& toSurface);
     void paintSteps(const drawing::Object& object, const SurfaceView& surface,

@@ -36,6 +36,14 @@ template <class Paint> void forEachBand(const SurfaceView& surface, unsigned thr
     });
 }
 
+// What the surface holds already has no part in how the objects blend.
+void paintApart(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
+                const Affine& toSurface) {
+    Layer layer(surface.clip());
+    ObjectPainter().paint(objects, layer.view(), layer.mapped(toSurface));
+    layer.layOn(surface, 1);
+}
+
 } // namespace
 
 void renderObjects(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
@@ -49,7 +57,11 @@ void renderDrawing(const drawing::Drawing& drawing, const SurfaceView& surface, 
                    unsigned threads) {
     if (toSurface.invertible())
         forEachBand(surface, threads, [&](const SurfaceView& band) {
-            ObjectPainter().paint(drawing.objectsWithin(drawnArea(band.clip(), toSurface)), band, toSurface);
+            const auto objects = drawing.objectsWithin(drawnArea(band.clip(), toSurface));
+            if (drawing.blends())
+                paintApart(objects, band, toSurface);
+            else
+                ObjectPainter().paint(objects, band, toSurface);
         });
 }
 

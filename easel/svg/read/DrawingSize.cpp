@@ -13,7 +13,7 @@ drawing::Box shownBounds(const drawing::Object& object) {
     drawing::Box box = object.bounds;
     const drawing::Style& style = styleOf(object);
     if (drawing::strokes(style)) {
-        const double reach = style.stroke.width / 2 * std::sqrt(std::abs(unitsOf(object).determinant()));
+        const double reach = style.stroke.width / 2 * std::sqrt(std::abs(penUnitsOf(object).determinant()));
         box = {box.left - reach, box.top - reach, box.right + reach, box.bottom + reach};
     }
     return box;

@@ -17,9 +17,8 @@ enum class Unsupported : std::uint8_t {
     Animation,
     Filter,
     Mask,
-    Blending,
     Pattern,
-    FixedStroke,
+    VectorEffect,
     ClipShape,
     ExternalSheet,
     External,
@@ -28,7 +27,7 @@ enum class Unsupported : std::uint8_t {
     DeepLayer,
     LinearLight,
 };
-inline constexpr std::size_t kUnsupportedCount = 17;
+inline constexpr std::size_t kUnsupportedCount = 16;
 
 class Notes {
   public:

@@ -136,6 +136,7 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
     style.first = place.style.first;
     if (!std::holds_alternative<NoPaint>(style.stroke.paint)) {
         style.stroke.opacity = place.style.strokeOpacity;
+        style.stroke.inDrawingUnits = place.style.fixedStroke;
         style.stroke.width = std::max(place.style.strokeWidth, 0.0);
         style.stroke.join = place.style.join;
         style.stroke.cap = place.style.cap;

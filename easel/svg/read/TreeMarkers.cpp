@@ -56,12 +56,11 @@ void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, c
     inside.lengths.viewportHeight = frame->height;
     const drawing::Affine toDrawing = shape.toDrawing * frame->toShape;
     inside.toDrawing = toDrawing * frame->toViewport;
-    const double opacity = parseOpacity(stated[Property::Opacity], 1);
-    if (opacity < 1)
-        inside.group = groupWith(nullptr, opacity, nullptr);
+    drawing::Group effects = effectsOf(stated, drawing::Box(), inside);
+    effects.opacity = parseOpacity(stated[Property::Opacity], 1);
+    addGroup(inside, std::move(effects));
     if (!showsOverflow(stated))
         narrow(inside, rectangleClip(frame->viewport, toDrawing));
-    narrow(inside, clips_.clipFor(stated, drawing::Box(), inside));
     noteEffects(stated);
 
     openMarkers_.push_back(marker);
@@ -89,8 +88,14 @@ void TreeReader::readApart(pugi::xml_node element, Place place, std::vector<draw
     std::swap(objects_, objects);
     auto work = std::exchange(work_, {});
     auto open = std::exchange(open_, {});
+    auto hidden = std::exchange(hidden_, {});
+    const std::size_t waiting = std::exchange(waiting_, 0);
+    ++apart_;
     readChildren(element, {std::move(place), {}});
     readAll();
+    --apart_;
+    hidden_ = std::move(hidden);
+    waiting_ = waiting;
     std::swap(objects_, objects);
     work_ = std::move(work);
     open_ = std::move(open);

@@ -14,8 +14,6 @@ namespace easel::svg {
 
 using drawing::Affine;
 using drawing::Box;
-using drawing::Group;
-using drawing::GroupPtr;
 using drawing::Object;
 
 namespace {
@@ -23,8 +21,7 @@ namespace {
 // How often, in elements, progress is told.
 constexpr std::size_t kTick = 512;
 
-// Layers are painted, and use instances written out, by recursion.
-constexpr std::uint32_t kDeepestGroup = 500;
+// Use instances are written out by recursion.
 constexpr std::size_t kDeepestUse = 500;
 // How many steps up the tree cost as much as a point.
 constexpr std::size_t kStepsUp = 16;
@@ -107,69 +104,8 @@ void TreeReader::readAll() {
 void TreeReader::finish(const Work& work) {
     if (work.endsUseInstance)
         open_.pop_back();
-    const WaitingClip& waiting = work.inside.waiting;
-    if (!waiting.group)
-        return;
-    Box box;
-    const Affine back = waiting.toDrawing.inverse();
-    for (std::size_t i = waiting.firstObject; i < objects_.size(); ++i)
-        box.add(objects_[i]->outline.transformed(back).bounds());
-    waiting.group->clip = clips_.clipFor(scene_.cascade.of(waiting.element, work.inside.place.style.custom),
-                                         box, work.inside.place);
-}
-
-std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, const Place& outside) {
-    const StatedStyle stated = scene_.cascade.of(element, outside.style.custom);
-    if (equalIgnoringCase(stated[Property::Display], "none"))
-        return std::nullopt;
-    noteEffects(stated);
-    Inside inside{outside, {}};
-    Place& place = inside.place;
-    place.style = outside.style.inherited(stated, place.lengths);
-    place.toDrawing = outside.toDrawing * transformOf(stated, place.lengths, Box());
-    const double opacity = parseOpacity(stated[Property::Opacity], 1);
-    const bool waits = clips_.asksForBox(stated);
-    auto clip = waits ? nullptr : clips_.clipFor(stated, Box(), place);
-    if (opacity >= 1 && !clip && !waits)
-        return inside;
-    if (auto group = groupWith(outside.group, opacity, std::move(clip))) {
-        if (waits)
-            inside.waiting = {element, group, place.toDrawing, objects_.size()};
-        place.group = std::move(group);
-    }
-    return inside;
-}
-
-std::shared_ptr<Group> TreeReader::groupWith(const GroupPtr& parent, double opacity,
-                                             std::shared_ptr<const drawing::ClipPath> clip) {
-    const std::uint32_t depth = parent ? parent->depth + 1 : 1;
-    if (depth <= kDeepestGroup)
-        return std::make_shared<Group>(Group{parent, opacity, std::move(clip), depth});
-    scene_.notes.add(Unsupported::DeepLayer);
-    return nullptr;
-}
-
-void TreeReader::narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip) {
-    if (!clip)
-        return;
-    if (auto group = groupWith(place.group, 1, std::move(clip)))
-        place.group = std::move(group);
-}
-
-bool TreeReader::showsOverflow(const StatedStyle& stated) {
-    const std::string_view overflow = stated[Property::Overflow];
-    return equalIgnoringCase(overflow, "visible") || equalIgnoringCase(overflow, "auto");
-}
-
-void TreeReader::noteEffects(const StatedStyle& stated) {
-    const auto note = [&](Property property, std::string_view harmless, Unsupported what) {
-        if (!stated[property].empty() && !equalIgnoringCase(stated[property], harmless))
-            scene_.notes.add(what);
-    };
-    note(Property::Filter, "none", Unsupported::Filter);
-    note(Property::Mask, "none", Unsupported::Mask);
-    note(Property::MixBlendMode, "normal", Unsupported::Blending);
-    note(Property::VectorEffect, "none", Unsupported::FixedStroke);
+    if (work.inside.waiting)
+        finishGroup(*work.inside.waiting);
 }
 
 void TreeReader::readElement(pugi::xml_node element, const Place& place) {
@@ -218,22 +154,25 @@ void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name,
         return;
     Place inside = place;
     inside.style = place.style.inherited(stated, inside.lengths);
-    if (!inside.style.visible)
+    if (!inside.style.visible && waiting_ == 0)
         return;
     const auto shape = readShape(element, name, stated, inside.lengths);
     if (!shape)
         return;
+    const Box box = shape->outline.bounds();
+    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, box);
+    if (!inside.style.visible)
+        return addHidden(*shape, inside);
     noteEffects(stated);
     for (const pugi::xml_node child : element.children())
         scene_.notes.addElement(scene_.tree.svgName(child));
-    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, shape->outline.bounds());
     auto object = reader_.read(element, *shape, parseOpacity(stated[Property::Opacity], 1), inside);
     if (!object)
         return;
-    narrow(inside, clips_.clipFor(stated, shape->outline.bounds(), inside));
+    addGroup(inside, effectsOf(stated, box, inside));
     object->group = inside.group;
     addMarkers(*object, *shape, inside);
-    if (openMarkers_.empty())
+    if (apart_ == 0)
         addSource(*object, element, place.use);
     else
         object->id = drawing::Name();
@@ -295,7 +234,7 @@ void TreeReader::readTarget(pugi::xml_node use, pugi::xml_node target, Inside in
 }
 
 void TreeReader::addUseInstance(pugi::xml_node use, pugi::xml_node target, Place& place) {
-    if (!openMarkers_.empty())
+    if (apart_ != 0)
         return;
     source_.useInstances.push_back({place.use, static_cast<std::uint32_t>(scene_.tree.tagBegin(use)),
                                     static_cast<std::uint32_t>(scene_.tree.tagBegin(target))});

@@ -28,16 +28,18 @@ class TreeReader {
     std::vector<drawing::ObjectPtr> takeObjects() { return std::move(objects_); }
 
   private:
-    // A group whose clip path is a share of what the group holds, and so has to wait until that is read.
-    struct WaitingClip {
+    // A group whose clip path or mask is a share of what the group holds, and so has to wait until that is
+    // read.
+    struct WaitingGroup {
         pugi::xml_node element;
         std::shared_ptr<drawing::Group> group; // null: none waits
-        drawing::Affine toDrawing;             // from the units of the group
+        Place place;                           // inside the element, before what narrows its content
         std::size_t firstObject = 0;
+        std::size_t firstHidden = 0;
     };
     struct Inside {
         Place place;
-        WaitingClip waiting;
+        std::shared_ptr<const WaitingGroup> waiting; // null: none
     };
     // Elements that are left to be read in one place. A stack of these stands in for recursion, so that
     // elements may be nested as deep as memory goes.
@@ -68,13 +70,26 @@ class TreeReader {
     Place rootPlace();
     // The place inside a container; nothing if nothing of it is shown.
     std::optional<Inside> enter(pugi::xml_node element, const Place& outside);
-    std::shared_ptr<drawing::Group> groupWith(const drawing::GroupPtr& parent, double opacity,
-                                              std::shared_ptr<const drawing::ClipPath> clip);
+    void finishGroup(const WaitingGroup& waiting);
+    // The box of what was read since, in the group's own units, what is hidden included.
+    drawing::Box boxOf(const WaitingGroup& waiting) const;
+    bool asksForBox(const StatedStyle& stated) const;
+    // What the style makes of a layer, but for its opacity. Of a box that is empty, no shares are taken.
+    drawing::Group effectsOf(const StatedStyle& stated, const drawing::Box& box, const Place& place);
+    // Puts what is read in this place into a layer with these effects, if they have any. The new group, else
+    // null.
+    std::shared_ptr<drawing::Group> addGroup(Place& place, drawing::Group effects);
     void narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip);
+    // The mask that the style asks for; null for none.
+    drawing::MaskPtr maskFor(const StatedStyle& stated, const drawing::Box& box, const Place& place);
+    drawing::MaskPtr readMask(pugi::xml_node mask, const drawing::Box& box, const Place& place);
+    bool masksByBox(const StatedStyle& stated) const;
     // The place inside an element with a viewport of its own, which `use` may give another size.
     Place viewportPlace(pugi::xml_node element, pugi::xml_node use, const Place& outside);
     static bool showsOverflow(const StatedStyle& stated);
     void noteEffects(const StatedStyle& stated);
+    // Keeps the box of a shape that is not shown for those that ask for the box of a group.
+    void addHidden(const Shape& shape, const Place& place);
     void addSource(drawing::Object& object, pugi::xml_node element, std::uint32_t use);
     void addUseInstance(pugi::xml_node use, pugi::xml_node target, Place& place);
     void tick();
@@ -87,6 +102,10 @@ class TreeReader {
     std::vector<drawing::ObjectPtr> objects_;
     std::vector<pugi::xml_node> open_;        // `use` elements whose targets are being read
     std::vector<pugi::xml_node> openMarkers_; // that are being read
+    std::vector<pugi::xml_node> openMasks_;   // that are being read
+    std::vector<drawing::Path> hidden_;       // outlines in the drawing, of a waiting group's hidden shapes
+    std::size_t waiting_ = 0;                 // groups that wait
+    std::size_t apart_ = 0;                   // how often `readApart` is at work
     std::deque<Work> work_;                   // the last is the innermost
     DrawingSize size_;                        // a side that is not known yet is 0
     std::size_t visited_ = 0;

@@ -190,6 +190,7 @@ std::optional<PaintSpec> parsePaint(std::string_view text) {
 ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext& lengths) const {
     ComputedStyle result = *this;
     result.custom = stated.custom;
+    result.fixedStroke = equalIgnoringCase(stated[Property::VectorEffect], "non-scaling-stroke");
     inheritMarkers(stated, markers, result.markers);
     Reader reader(stated, *this, result);
     const auto length = [&lengths](std::string_view text) { return parseLength(text, lengths, Axis::Other); };

@@ -26,11 +26,13 @@ enum class Property : std::uint8_t {
     Filter,
     FontSize,
     Height,
+    Isolation,
     Marker,
     MarkerEnd,
     MarkerMid,
     MarkerStart,
     Mask,
+    MaskType,
     MixBlendMode,
     Opacity,
     Overflow,
@@ -57,7 +59,7 @@ enum class Property : std::uint8_t {
     X,
     Y,
 };
-inline constexpr std::size_t kPropertyCount = 44;
+inline constexpr std::size_t kPropertyCount = 46;
 
 std::optional<Property> propertyFromName(std::string_view name);
 

@@ -103,7 +103,9 @@ std::string strokeAttributes(const Object& object, const Stroke& stroke, Gradien
     const auto* const color = std::get_if<ColorPaint>(&stroke.paint);
     const double opacity = stroke.opacity * (color ? color->opacity : 1);
     return attribute("stroke", strokeText(object, gradients)) + attribute("stroke-width", stroke.width) +
-           attributeUnless(1, "stroke-opacity", opacity) + penText(stroke, Defaults::Stated);
+           attributeUnless(1, "stroke-opacity", opacity) +
+           attribute("vector-effect", stroke.inDrawingUnits ? "non-scaling-stroke" : "") +
+           penText(stroke, Defaults::Stated);
 }
 
 std::string fillAttributes(const Object& object, GradientBlock& gradients) {

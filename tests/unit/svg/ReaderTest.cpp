@@ -233,10 +233,10 @@ TEST(SvgReader, HiddenElementsAreNoObjects) {
 }
 
 TEST(SvgReader, WhatIsNotShownIsNamedOnce) {
-    const Drawing drawing =
-        readOk(svgFile("<text>a</text><text>b</text><image href='http://example.com/a.png'/><g "
-                       "filter='url(#f)'><rect width='1' "
-                       "height='1' mask='url(#m)' fill='url(other.svg#x) red'/></g><script>1</script>"));
+    const Drawing drawing = readOk(svgFile(
+        "<text>a</text><text>b</text><image href='http://example.com/a.png'/><g "
+        "filter='url(#f)'><rect width='1' "
+        "height='1' mask='radial-gradient(red, blue)' fill='url(other.svg#x) red'/></g><script>1</script>"));
     EXPECT_EQ(drawing.notes().size(), 6U);
     EXPECT_EQ(fillOf(drawing).color, (Rgb16{65535, 0, 0}));
 }

@@ -1,0 +1,93 @@
+// Masks for Cairo, which knows those of alpha only: outlines where alpha can tell what the mask shows, and
+// else a picture.
+#include "easel/export/CairoPainter.h"
+#include "easel/export/MaskAlpha.h"
+#include "easel/paint/Layer.h"
+#include "easel/paint/RenderDrawing.h"
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace easel::exports {
+
+using drawing::Affine;
+
+namespace {
+
+// No picture of a mask has more pixels across or down.
+constexpr double kLargestSide = 4096;
+
+Affine mapOf(const cairo_matrix_t& matrix) {
+    return {matrix.xx, matrix.yx, matrix.xy, matrix.yy, matrix.x0, matrix.y0};
+}
+
+// What the mask may show of what is not clipped, in the drawing.
+drawing::Box placeOf(const drawing::Mask& mask, cairo_t* cairo) {
+    drawing::Box objects;
+    for (const drawing::ObjectPtr& object : mask.objects)
+        objects.add(object->paintBounds());
+    drawing::Box shown;
+    cairo_clip_extents(cairo, &shown.left, &shown.top, &shown.right, &shown.bottom);
+    return {std::max(objects.left, shown.left), std::max(objects.top, shown.top),
+            std::min(objects.right, shown.right), std::min(objects.bottom, shown.bottom)};
+}
+
+// A surface with its pixels in it.
+cairo_surface_t* surfaceOf(const paint::Layer& layer) {
+    const paint::PixelRect& place = layer.place();
+    cairo_surface_t* const surface =
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, place.width(), place.height());
+    cairo_surface_flush(surface);
+    unsigned char* const pixels = cairo_image_surface_get_data(surface);
+    if (!pixels)
+        return surface;
+    paint::SurfaceView view(reinterpret_cast<std::uint32_t*>(pixels), place.width(), place.height(),
+                            cairo_image_surface_get_stride(surface));
+    layer.layOn(view, 1);
+    cairo_surface_mark_dirty(surface);
+    return surface;
+}
+
+} // namespace
+
+CairoPainter::Pattern CairoPainter::maskPattern(const drawing::Mask& mask) {
+    const bool luminance = mask.measure != drawing::MaskMeasure::Alpha;
+    if (luminance && !alphaTellsLuminance(mask))
+        return maskPicture(mask);
+    cairo_push_group(cairo_);
+    const bool outside = std::exchange(luminanceAsAlpha_, luminance);
+    paintWithin(nullptr, mask.objects);
+    luminanceAsAlpha_ = outside;
+    return {cairo_pop_group(cairo_), &cairo_pattern_destroy};
+}
+
+CairoPainter::Pattern CairoPainter::maskPicture(const drawing::Mask& mask) {
+    const drawing::Box box = placeOf(mask, cairo_);
+    if (box.empty())
+        return {cairo_pattern_create_rgba(0, 0, 0, 0), &cairo_pattern_destroy};
+    cairo_matrix_t toTarget;
+    cairo_get_matrix(cairo_, &toTarget);
+    const double asked = mapOf(toTarget).largestScale() * detail_;
+    const double scale = std::min(asked, kLargestSide / std::max({box.width(), box.height(), 1.0}));
+    const Affine toPicture = Affine::scaling(scale, scale) * Affine::translation(-box.left, -box.top);
+    const paint::PixelRect place{.right = static_cast<int>(std::ceil(box.width() * scale)) + 1,
+                                 .bottom = static_cast<int>(std::ceil(box.height() * scale)) + 1};
+    paint::Layer shown(place);
+    paint::renderObjects(mask.objects, shown.view(), toPicture);
+    paint::Layer white(place);
+    for (int y = 0; y < place.bottom; ++y)
+        std::fill_n(white.view().row(y), place.right, 0xFFFFFFFF);
+    white.maskWith(shown, mask.measure);
+
+    cairo_surface_t* const surface = surfaceOf(white);
+    Pattern pattern(cairo_pattern_create_for_surface(surface), &cairo_pattern_destroy);
+    cairo_surface_destroy(surface);
+    const cairo_matrix_t matrix{toPicture.a, toPicture.b, toPicture.c, toPicture.d, toPicture.e, toPicture.f};
+    cairo_pattern_set_matrix(pattern.get(), &matrix);
+    return pattern;
+}
+
+} // namespace easel::exports
