@@ -33,7 +33,7 @@ void append(Path& path, const Path& part) {
 
 Path strokeFrame(const Object& object) {
     const std::size_t corners = 4;
-    const Affine units = unitsOf(object);
+    const Affine units = penUnitsOf(object);
     const double radius = styleOf(object).stroke.width / 2;
     Path frame;
     frame.reserve(corners * object.outline.verbs().size(), corners * object.outline.points().size());
