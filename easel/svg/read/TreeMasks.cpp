@@ -18,7 +18,7 @@ namespace {
 // Masks are read, and painted, by recursion.
 constexpr std::size_t kDeepestMask = 8;
 
-bool isShareOfBox(pugi::xml_node mask) {
+bool isPlacedInBox(pugi::xml_node mask) {
     return std::string_view(mask.attribute("maskUnits").value()) != "userSpaceOnUse";
 }
 bool holdsSharesOfBox(pugi::xml_node mask) {
@@ -32,7 +32,7 @@ Affine fromShares(const Box& box) {
 // In shares of the box or in lengths, as the element says. What is no length, and a side below 0, is as if it
 // were not stated.
 Box regionOf(pugi::xml_node mask, const LengthContext& lengths) {
-    const bool shares = isShareOfBox(mask);
+    const bool shares = isPlacedInBox(mask);
     const auto parse = [&](std::string_view text, Axis axis) {
         const auto share = shares ? parseFraction(text) : std::nullopt;
         return share ? share : parseLength(text, lengths, axis);
@@ -61,7 +61,7 @@ MaskMeasure measureOf(const StatedStyle& stated) {
 
 bool TreeReader::masksByBox(const StatedStyle& stated) const {
     const pugi::xml_node mask = scene_.tree.byId(localId(stated[Property::Mask]));
-    return scene_.tree.svgName(mask) == "mask" && (isShareOfBox(mask) || holdsSharesOfBox(mask));
+    return scene_.tree.svgName(mask) == "mask" && (isPlacedInBox(mask) || holdsSharesOfBox(mask));
 }
 
 MaskPtr TreeReader::maskFor(const StatedStyle& stated, const Box& box, const Place& place) {
@@ -76,7 +76,7 @@ MaskPtr TreeReader::maskFor(const StatedStyle& stated, const Box& box, const Pla
     const pugi::xml_node element = scene_.tree.byId(id);
     if (scene_.tree.svgName(element) != "mask")
         return nullptr;
-    const bool byBox = isShareOfBox(element) || holdsSharesOfBox(element);
+    const bool byBox = isPlacedInBox(element) || holdsSharesOfBox(element);
     if (byBox && box.empty())
         return nullptr;
     // Of a box without area, shares leave nothing to show.
@@ -114,7 +114,7 @@ MaskPtr TreeReader::readMask(pugi::xml_node element, const Box& box, const Place
     effects.clip = clips_.clipFor(stated, box, inside);
     effects.mask = maskFor(stated, box, inside);
     addGroup(inside, std::move(effects));
-    const Affine toUser = isShareOfBox(element) ? fromShares(box) : Affine();
+    const Affine toUser = isPlacedInBox(element) ? fromShares(box) : Affine();
     narrow(inside, rectangleClip(region, place.toDrawing * toUser));
     if (holdsSharesOfBox(element))
         inside.toDrawing = inside.toDrawing * fromShares(box);
