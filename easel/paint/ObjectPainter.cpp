@@ -8,6 +8,8 @@
 #include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/stroke/Stroker.h"
 
+#include <algorithm>
+
 namespace easel::paint {
 
 using drawing::Affine;
@@ -122,14 +124,18 @@ void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface
     if (!source.visible() || !units.invertible() || !(scale > 0))
         return;
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
-    StrokeShape shape = units == Affine{} ? strokeShape(object.outline, stroke, kStrokeTolerance / scale)
-                                          : strokeShape(object.outline.transformed(units.inverse()), stroke,
-                                                        kStrokeTolerance / scale);
-    for (drawing::Contour& polygon : shape.polygons)
-        for (drawing::Point& point : polygon.points)
-            point = units(point);
-    painter_.fill(surface, shape.polygons, drawing::FillRule::NonZero, toSurface, source.source(),
-                  opacity * stroke.opacity * shape.opacity);
+    const bool sameUnits = units == Affine{};
+    const drawing::Path outline = sameUnits ? object.outline : object.outline.transformed(units.inverse());
+    const PolygonSource polygons = [&](const PolygonReceiver& receiver) {
+        return strokePolygons(outline, stroke, kStrokeTolerance / scale,
+                              [&](std::span<drawing::Point> corners) {
+                                  if (!sameUnits)
+                                      std::transform(corners.begin(), corners.end(), corners.begin(), units);
+                                  return receiver(corners);
+                              });
+    };
+    painter_.fill(surface, polygons, drawing::FillRule::NonZero, toSurface, source.source(),
+                  opacity * stroke.opacity);
 }
 
 } // namespace easel::paint

@@ -7,6 +7,8 @@
 #include "easel/paint/gradient/RadialShader.h"
 
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace easel::paint {
 
@@ -33,6 +35,9 @@ void fetch(const SurfaceView& surface, const PixelRect& area) {
         static_cast<void>(row[area.right - 1]);
     }
 }
+
+// Some 50 MB of them. Few shapes have more between the rows that a thread paints at a time.
+constexpr std::size_t kMostEdges = std::size_t{1} << 20;
 
 // The largest parameter at the pixels of an area, and the smallest, which for circles may lie between the
 // corners.
@@ -107,19 +112,49 @@ void Painter::sweep(const SurfaceView& surface, drawing::FillRule rule, const Af
                [&](CoverageSink& shader) { rasteriser_.sweep(rule, shader); });
 }
 
+// A shape of more edges than are held at a time is painted in halves, and those in halves if need be.
+// `addSides` gets the number of edges after which it may stop and gives the factor for the opacity.
+template <class AddSides>
+void Painter::fillPart(const SurfaceView& surface, drawing::FillRule rule, const Affine& toSurface,
+                       const PaintSource& source, double opacity, const AddSides& addSides) {
+    const PixelRect& clip = surface.clip();
+    const std::size_t mostEdges = clip.height() > 1 ? kMostEdges : std::numeric_limits<std::size_t>::max();
+    rasteriser_.begin(clip);
+    const double share = addSides(mostEdges);
+    if (rasteriser_.edgeCount() <= mostEdges)
+        return sweep(surface, rule, toSurface, source, opacity * share);
+    const int middle = clip.top + clip.height() / 2;
+    for (const auto& [top, bottom] : {std::pair{clip.top, middle}, std::pair{middle, clip.bottom}})
+        fillPart(surface.clippedTo({.left = clip.left, .top = top, .right = clip.right, .bottom = bottom}),
+                 rule, toSurface, source, opacity, addSides);
+}
+
 void Painter::fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,
                    const Affine& toSurface, const PaintSource& source, double opacity) {
-    rasteriser_.begin(surface.clip());
-    addOutline(rasteriser_, shape, toSurface);
-    sweep(surface, rule, toSurface, source, opacity);
+    fillPart(surface, rule, toSurface, source, opacity, [&](std::size_t mostEdges) {
+        addOutline(rasteriser_, shape, toSurface, mostEdges);
+        return 1.0;
+    });
 }
 
 void Painter::fill(const SurfaceView& surface, std::span<const drawing::Contour> polygons,
                    drawing::FillRule rule, const Affine& toSurface, const PaintSource& source,
                    double opacity) {
-    rasteriser_.begin(surface.clip());
-    addOutline(rasteriser_, polygons, toSurface);
-    sweep(surface, rule, toSurface, source, opacity);
+    fillPart(surface, rule, toSurface, source, opacity, [&](std::size_t) {
+        for (const drawing::Contour& polygon : polygons)
+            addPolygon(rasteriser_, polygon.points, toSurface);
+        return 1.0;
+    });
+}
+
+void Painter::fill(const SurfaceView& surface, const PolygonSource& polygons, drawing::FillRule rule,
+                   const Affine& toSurface, const PaintSource& source, double opacity) {
+    fillPart(surface, rule, toSurface, source, opacity, [&](std::size_t mostEdges) {
+        return polygons([&](std::span<drawing::Point> corners) {
+            addPolygon(rasteriser_, corners, toSurface);
+            return rasteriser_.edgeCount() <= mostEdges;
+        });
+    });
 }
 
 void Painter::fillAll(const SurfaceView& surface, const Affine& toSurface, const PaintSource& source,

@@ -10,6 +10,7 @@
 #include "easel/paint/gradient/RadialPiece.h"
 #include "easel/paint/pixels/Surface.h"
 
+#include <functional>
 #include <span>
 #include <variant>
 
@@ -17,6 +18,12 @@ namespace easel::paint {
 
 // What a shape is filled with. A gradient is only referred to and must live through the call it is given to.
 using PaintSource = std::variant<drawing::ColorPaint, const drawing::Gradient*>;
+
+// Hands over the corners of one polygon after the other, which the receiver may change, until it says that no
+// more are wanted. Gives a factor for the opacity that they are painted with. Asked again, it hands over the
+// same.
+using PolygonReceiver = std::function<bool(std::span<drawing::Point>)>;
+using PolygonSource = std::function<double(const PolygonReceiver&)>;
 
 // Shapes and gradients are in drawing coordinates, which `toSurface` maps to surface coordinates, where pixel
 // (x, y) covers x to x + 1 and y to y + 1. A pixel takes the color at its centre, weighted by the exact share
@@ -31,6 +38,9 @@ class Painter {
     // Polygons that are flat already; each counts as closed.
     void fill(const SurfaceView& surface, std::span<const drawing::Contour> polygons, drawing::FillRule rule,
               const drawing::Affine& toSurface, const PaintSource& source, double opacity = 1);
+    // Polygons that come one at a time, so that not all of them have to be in memory.
+    void fill(const SurfaceView& surface, const PolygonSource& polygons, drawing::FillRule rule,
+              const drawing::Affine& toSurface, const PaintSource& source, double opacity = 1);
     // The whole clip.
     void fillAll(const SurfaceView& surface, const drawing::Affine& toSurface, const PaintSource& source,
                  double opacity = 1);
@@ -39,6 +49,9 @@ class Painter {
     template <class Use>
     void withShader(const SurfaceView& surface, const PixelRect& area, const drawing::Affine& toSurface,
                     const PaintSource& source, double opacity, const Use& use);
+    template <class AddSides>
+    void fillPart(const SurfaceView& surface, drawing::FillRule rule, const drawing::Affine& toSurface,
+                  const PaintSource& source, double opacity, const AddSides& addSides);
     void sweep(const SurfaceView& surface, drawing::FillRule rule, const drawing::Affine& toSurface,
                const PaintSource& source, double opacity);
 

@@ -21,6 +21,11 @@ class Rasteriser {
     // One side of a polygon, in surface coordinates. The sides of a polygon may come in any order but all of
     // them must come, in one sense of rotation. A side with a coordinate that is not finite is left out.
     void addEdge(drawing::Point from, drawing::Point to);
+    // Sides above and below are left out.
+    double top() const { return clip_.top; }
+    double bottom() const { return clip_.bottom; }
+    // How many edges are held, each some dozens of bytes.
+    std::size_t edgeCount() const { return edges_.size(); }
     // Encloses all pixels that the edges touch, within the clip.
     PixelRect bounds() const;
     // Hands every row that the shape touches to the sink.

@@ -4,7 +4,9 @@
 #include "easel/drawing/Segments.h"
 
 #include <cmath>
+#include <limits>
 #include <numeric>
+#include <optional>
 #include <utility>
 
 namespace easel::paint {
@@ -17,13 +19,25 @@ namespace {
 // Points as near as this share of the tolerance are one: the direction from one to the other would be noise.
 constexpr double kSamePoint = 0.01;
 
+// Which subpaths end with a close, in their order.
+std::vector<bool> closings(const drawing::Path& outline) {
+    std::vector<bool> closed;
+    for (const drawing::Verb verb : outline.verbs())
+        if (verb == drawing::Verb::Move || verb == drawing::Verb::Close)
+            closed.push_back(verb == drawing::Verb::Close);
+    closed.push_back(false);
+    return closed;
+}
+
 // Collects the segments of an outline into tracks.
 class TrackSink {
   public:
-    explicit TrackSink(double tolerance) : tolerance_(tolerance) {}
+    TrackSink(const drawing::Path& outline, double tolerance, std::size_t mostPoints,
+              const TrackReceiver& receiver)
+        : outline_(outline), tolerance_(tolerance), mostPoints_(mostPoints), receiver_(receiver) {}
 
     void move(Point p) {
-        finish();
+        finish(false);
         add(p, Turn::Corner);
     }
     void line(Point, Point to) {
@@ -32,42 +46,96 @@ class TrackSink {
     }
     void cubic(const drawing::CubicSegment& curve) {
         drawn_ = true;
-        drawing::flattenCubic(curve, tolerance_, [&](Point, Point to) { add(to, Turn::Smooth); });
+        if (wanted_)
+            drawing::flattenCubic(curve, tolerance_, [&](Point, Point to) { add(to, Turn::Smooth); });
         // The curve's end is a corner like that of a line; where it goes on smoothly, any join is flat.
         if (!track_.points.empty())
             track_.points.back().turn = Turn::Corner;
     }
     void close(Point, Point start) {
         drawn_ = true;
-        track_.closed = true;
-        finish();
+        finish(true);
         // What follows without a move begins where the closed part did.
         add(start, Turn::Corner);
     }
-    void finish() {
-        PenTrack track = std::exchange(track_, {});
-        if (!std::exchange(drawn_, false) || track.points.empty())
-            return;
-        while (track.closed && track.points.size() > 1 &&
-               same(track.points.front().at, track.points.back().at))
-            track.points.pop_back();
-        if (track.points.size() == 1)
-            track.closed = false;
-        tracks.push_back(std::move(track));
+    void finish(bool closed) {
+        if (std::exchange(drawn_, false) && !track_.points.empty()) {
+            if (first_)
+                endOfParts(closed);
+            else
+                endOfWhole(closed);
+            give();
+        }
+        ++subpath_;
+        first_.reset();
+        track_ = {};
     }
-
-    std::vector<PenTrack> tracks;
 
   private:
+    // The first two points of a subpath that comes in parts.
+    struct Beginning {
+        TrackPoint point;
+        Point next;
+    };
+
     void add(Point p, Turn turn) {
-        if (isFinite(p) && (track_.points.empty() || !same(track_.points.back().at, p)))
-            track_.points.push_back({p, turn});
+        if (!wanted_ || !isFinite(p) || (!track_.points.empty() && same(track_.points.back().at, p)))
+            return;
+        track_.points.push_back({p, turn});
+        if (track_.points.size() > mostPoints_)
+            cut();
     }
+    void cut() {
+        const TrackPoint last = track_.points.back();
+        const Point before = track_.points[track_.points.size() - 2].at;
+        const Point middle = (before + last.at) * 0.5;
+        if (same(before, middle))
+            return;
+        if (!first_) {
+            first_ = {track_.points.front(), track_.points[1].at};
+            if (closings_.empty())
+                closings_ = closings(outline_);
+            track_.comesFrom = closings_[subpath_];
+        }
+        track_.points.back() = {middle, Turn::Smooth};
+        track_.goesOn = true;
+        give();
+        track_ = {};
+        track_.comesFrom = true;
+        track_.points = {{middle, Turn::Smooth}, last};
+    }
+    void endOfWhole(bool closed) {
+        track_.closed = closed;
+        while (track_.closed && track_.points.size() > 1 &&
+               same(track_.points.front().at, track_.points.back().at))
+            track_.points.pop_back();
+        if (track_.points.size() == 1)
+            track_.closed = false;
+    }
+    // The last part of a closed subpath goes around the corner where the first one began.
+    void endOfParts(bool closed) {
+        if (!closed)
+            return;
+        if (same(track_.points.back().at, first_->point.at))
+            track_.points.back() = first_->point;
+        else
+            track_.points.push_back(first_->point);
+        track_.points.push_back({(first_->point.at + first_->next) * 0.5, Turn::Smooth});
+        track_.goesOn = true;
+    }
+    void give() { wanted_ = wanted_ && receiver_(track_); }
     bool same(Point a, Point b) const { return length(a - b) <= kSamePoint * tolerance_; }
 
+    const drawing::Path& outline_;
     double tolerance_;
+    std::size_t mostPoints_;
+    const TrackReceiver& receiver_;
+    bool wanted_ = true;
     PenTrack track_;
     bool drawn_ = false;
+    std::size_t subpath_ = 0;
+    std::optional<Beginning> first_;
+    std::vector<bool> closings_; // known once a subpath is cut
 };
 
 // Goes through a pattern of dashes and gaps along a track.
@@ -168,20 +236,24 @@ double lengthOf(const PenTrack& track) {
 
 } // namespace
 
-std::vector<PenTrack> penTracks(const drawing::Path& outline, double tolerance) {
-    TrackSink sink(tolerance);
+void penTracks(const drawing::Path& outline, double tolerance, std::size_t mostPoints,
+               const TrackReceiver& receiver) {
+    TrackSink sink(outline, tolerance, mostPoints, receiver);
     drawing::walkSegments(outline, sink);
-    sink.finish();
-    return std::move(sink.tracks);
+    sink.finish(false);
 }
 
-std::vector<PenTrack> dashed(const std::vector<PenTrack>& tracks, const std::vector<double>& dashes,
-                             double offset) {
-    std::vector<PenTrack> all;
-    for (const PenTrack& track : tracks)
-        for (PenTrack& piece : Dasher(dashes, offset).cut(track))
-            all.push_back(std::move(piece));
-    return all;
+std::vector<PenTrack> penTracks(const drawing::Path& outline, double tolerance) {
+    std::vector<PenTrack> tracks;
+    penTracks(outline, tolerance, std::numeric_limits<std::size_t>::max(), [&](const PenTrack& track) {
+        tracks.push_back(track);
+        return true;
+    });
+    return tracks;
+}
+
+std::vector<PenTrack> dashed(const PenTrack& track, const std::vector<double>& dashes, double offset) {
+    return Dasher(dashes, offset).cut(track);
 }
 
 double dashCount(const std::vector<PenTrack>& tracks, const std::vector<double>& dashes) {

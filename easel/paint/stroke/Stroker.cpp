@@ -23,7 +23,6 @@
 
 namespace easel::paint {
 
-using drawing::Contour;
 using drawing::cross;
 using drawing::dot;
 using drawing::length;
@@ -35,6 +34,8 @@ namespace {
 
 constexpr double kMostDashes = 200000;
 constexpr double kMostArcSteps = 1000;
+// Longer tracks are stroked in parts, so that memory does not grow with their length.
+constexpr std::size_t kMostPoints = 10000;
 
 Point quarterTurn(Point p) {
     return {-p.y, p.x};
@@ -73,12 +74,22 @@ class SidePen {
         put(at - quarterTurn(before) * half_);
     }
     // From this side to the other around the end that `outwards` (a unit vector) points away from.
-    void cap(Point at, Point outwards) {
+    void cap(Point at, Point outwards) { end(at, outwards, stroke_.cap); }
+    // The same where the track goes on.
+    void cut(Point at, Point outwards) { end(at, outwards, LineCap::Butt); }
+
+    std::span<Point> points() { return points_; }
+    void clear() { points_.clear(); }
+
+  private:
+    void put(Point p) { points_.push_back(p); }
+
+    void end(Point at, Point outwards, LineCap cap) {
         const Point side = quarterTurn(outwards) * half_;
         const Point reach = outwards * half_;
-        if (stroke_.cap == LineCap::Round)
+        if (cap == LineCap::Round)
             return arc(at, side, -std::numbers::pi);
-        if (stroke_.cap == LineCap::Square) {
+        if (cap == LineCap::Square) {
             put(at + side + reach);
             put(at - side + reach);
             return;
@@ -86,15 +97,6 @@ class SidePen {
         put(at + side);
         put(at - side);
     }
-    Contour finish() {
-        Contour done{std::move(points_), true};
-        points_.clear();
-        return done;
-    }
-
-  private:
-    void put(Point p) { points_.push_back(p); }
-
     void inner(Point at, Point from, Point to, Point before, Point after, double shorter) {
         const double straight = dot(before, after);
         // Where the sides of both lines meet, if they reach that far.
@@ -167,29 +169,39 @@ void backwards(SidePen& pen, const PenTrack& track, const std::vector<Line>& lin
     }
 }
 
-void addDot(std::vector<Contour>& polygons, SidePen& pen, const PenTrack& track, LineCap cap) {
-    if (cap == LineCap::Butt)
-        return;
-    pen.cap(track.points.front().at, track.direction);
-    pen.cap(track.points.front().at, track.direction * -1);
-    polygons.push_back(pen.finish());
+// Hands over what the pen drew; false if no more is wanted.
+bool give(SidePen& pen, const StrokeReceiver& receiver) {
+    const bool wanted = receiver(pen.points());
+    pen.clear();
+    return wanted;
 }
 
-void addTrack(std::vector<Contour>& polygons, SidePen& pen, const PenTrack& track) {
+bool strokeDot(SidePen& pen, const PenTrack& track, LineCap cap, const StrokeReceiver& receiver) {
+    if (cap == LineCap::Butt)
+        return true;
+    pen.cap(track.points.front().at, track.direction);
+    pen.cap(track.points.front().at, track.direction * -1);
+    return give(pen, receiver);
+}
+
+bool strokeTrack(SidePen& pen, const PenTrack& track, const StrokeReceiver& receiver) {
     const std::vector<Line> lines = linesOf(track);
     const std::size_t count = track.points.size();
     if (track.closed) {
         forwards(pen, track, lines, 0, count);
-        polygons.push_back(pen.finish());
+        if (!give(pen, receiver))
+            return false;
         backwards(pen, track, lines, 0, count);
-        polygons.push_back(pen.finish());
-        return;
+        return give(pen, receiver);
     }
+    const auto end = [&](bool goesOn, Point at, Point outwards) {
+        goesOn ? pen.cut(at, outwards) : pen.cap(at, outwards);
+    };
     forwards(pen, track, lines, 1, count - 1);
-    pen.cap(track.points.back().at, lines.back().direction);
+    end(track.goesOn, track.points.back().at, lines.back().direction);
     backwards(pen, track, lines, 1, count - 1);
-    pen.cap(track.points.front().at, lines.front().direction * -1);
-    polygons.push_back(pen.finish());
+    end(track.comesFrom, track.points.front().at, lines.front().direction * -1);
+    return give(pen, receiver);
 }
 
 double shareUnderDashes(const std::vector<double>& dashes) {
@@ -201,25 +213,29 @@ double shareUnderDashes(const std::vector<double>& dashes) {
 
 } // namespace
 
-StrokeShape strokeShape(const drawing::Path& outline, const drawing::Stroke& stroke, double tolerance) {
-    StrokeShape shape;
+double strokePolygons(const drawing::Path& outline, const drawing::Stroke& stroke, double tolerance,
+                      const StrokeReceiver& receiver) {
     if (!(stroke.width > 0) || !std::isfinite(stroke.width) || !(tolerance > 0))
-        return shape;
-    std::vector<PenTrack> tracks = penTracks(outline, tolerance);
-    if (!stroke.dashes.empty()) {
-        if (dashCount(tracks, stroke.dashes) <= kMostDashes)
-            tracks = dashed(tracks, stroke.dashes, stroke.dashOffset);
-        else
-            shape.opacity = shareUnderDashes(stroke.dashes);
-    }
+        return 1;
     SidePen pen(stroke, tolerance);
-    for (const PenTrack& track : tracks) {
-        if (track.points.size() == 1)
-            addDot(shape.polygons, pen, track, stroke.cap);
-        else
-            addTrack(shape.polygons, pen, track);
+    const auto draw = [&](const PenTrack& track) {
+        return track.points.size() == 1 ? strokeDot(pen, track, stroke.cap, receiver)
+                                        : strokeTrack(pen, track, receiver);
+    };
+    if (stroke.dashes.empty()) {
+        penTracks(outline, tolerance, kMostPoints, draw);
+        return 1;
     }
-    return shape;
+    const std::vector<PenTrack> tracks = penTracks(outline, tolerance);
+    if (dashCount(tracks, stroke.dashes) > kMostDashes) {
+        static_cast<void>(std::all_of(tracks.begin(), tracks.end(), draw));
+        return shareUnderDashes(stroke.dashes);
+    }
+    static_cast<void>(std::all_of(tracks.begin(), tracks.end(), [&](const PenTrack& track) {
+        const std::vector<PenTrack> dashes = dashed(track, stroke.dashes, stroke.dashOffset);
+        return std::all_of(dashes.begin(), dashes.end(), draw);
+    }));
+    return 1;
 }
 
 } // namespace easel::paint

@@ -4,20 +4,19 @@
 #include "easel/drawing/Path.h"
 #include "easel/drawing/Style.h"
 
-#include <vector>
+#include <functional>
+#include <span>
 
 namespace easel::paint {
 
-struct StrokeShape {
-    // To be filled by the non-zero rule.
-    std::vector<drawing::Contour> polygons;
-    // Multiplies the stroke's opacity: below 1 where dashes are too fine to be drawn one by one and the line
-    // is drawn whole, but fainter.
-    double opacity = 1;
-};
+// Takes the corners of one polygon after the other, which it may change; false ends it.
+using StrokeReceiver = std::function<bool(std::span<drawing::Point>)>;
 
-// What the pen covers along the outline, with its joins, caps and dashes. Outline and pen are in the same
-// units; the result strays at most `tolerance` (above 0) from the exact shape.
-StrokeShape strokeShape(const drawing::Path& outline, const drawing::Stroke& stroke, double tolerance);
+// What the pen covers along the outline, with its joins, caps and dashes, as polygons to be filled together
+// by the non-zero rule. Outline and pen are in the same units; the result strays at most `tolerance` (above
+// 0) from the exact shape. Gives a factor for the stroke's opacity: below 1 where dashes are too fine to be
+// drawn one by one and the line is drawn whole, but fainter.
+double strokePolygons(const drawing::Path& outline, const drawing::Stroke& stroke, double tolerance,
+                      const StrokeReceiver& receiver);
 
 } // namespace easel::paint

@@ -17,7 +17,7 @@ using easel::drawing::Path;
 using easel::drawing::Point;
 using easel::drawing::Stroke;
 using easel::paint::Painter;
-using easel::paint::strokeShape;
+using easel::paint::strokePolygons;
 using easel::paint::Surface;
 
 constexpr int kSide = 120;
@@ -35,9 +35,10 @@ Stroke pen(double width, LineJoin join, LineCap cap, std::vector<double> dashes 
 
 Surface stroked(const Path& path, const Stroke& stroke) {
     Surface surface(kSide, kSide);
-    const auto shape = strokeShape(path, stroke, kTolerance);
-    Painter().fill(surface.view(), shape.polygons, FillRule::NonZero, {}, easel::drawing::ColorPaint{},
-                   shape.opacity);
+    Painter().fill(
+        surface.view(),
+        [&](const auto& receiver) { return strokePolygons(path, stroke, kTolerance, receiver); },
+        FillRule::NonZero, {}, easel::drawing::ColorPaint{});
     return surface;
 }
 
@@ -176,10 +177,66 @@ TEST(Stroker, ADashThatRunsThroughTheStartOfAClosedOutlineIsOnePieceWithAJoin) {
 }
 
 TEST(Stroker, DashesFinerThanCanBeDrawnBecomeAFainterLine) {
-    const auto shape =
-        strokeShape(line({0, 0}, {1e7, 0}), pen(4, LineJoin::Miter, LineCap::Butt, {1e-3, 3e-3}), 0.02);
-    EXPECT_DOUBLE_EQ(shape.opacity, 0.25);
-    EXPECT_EQ(shape.polygons.size(), 1u);
+    int polygons = 0;
+    const double opacity =
+        strokePolygons(line({0, 0}, {1e7, 0}), pen(4, LineJoin::Miter, LineCap::Butt, {1e-3, 3e-3}), 0.02,
+                       [&](const auto&) { return ++polygons > 0; });
+    EXPECT_DOUBLE_EQ(opacity, 0.25);
+    EXPECT_EQ(polygons, 1);
+}
+
+Path circleOfLines(int count, Point centre, double radius) {
+    Path path;
+    for (int i = 0; i < count; ++i) {
+        const double angle = 2 * std::numbers::pi * i / count;
+        const Point p{centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
+        i == 0 ? path.moveTo(p) : path.lineTo(p);
+    }
+    return path;
+}
+
+TEST(Stroker, ALongSubpathComesInSeveralPolygonsThatLeaveNoMarkWhereTheyMeet) {
+    Path closed = circleOfLines(25'000, {60, 60}, 40);
+    closed.close();
+    const Stroke stroke = pen(8, LineJoin::Round, LineCap::Square);
+    int polygons = 0;
+    strokePolygons(closed, stroke, kTolerance, [&](const auto&) { return ++polygons > 0; });
+    EXPECT_EQ(polygons, 3);
+    // A ring. Beside its edges every pixel is covered wholly or not at all, at all the cuts too.
+    const Surface surface = stroked(closed, stroke);
+    EXPECT_NEAR(area(surface), std::numbers::pi * (44 * 44 - 36 * 36), 1);
+    for (int y = 0; y < kSide; ++y)
+        for (int x = 0; x < kSide; ++x) {
+            const double distance = std::abs(std::hypot(x + 0.5 - 60, y + 0.5 - 60) - 40);
+            if (std::abs(distance - 4) > 1) {
+                EXPECT_EQ(coverage(surface, x, y), distance < 4 ? 1 : 0) << x << ", " << y;
+            }
+        }
+}
+
+TEST(Stroker, ALongOpenSubpathHasItsCapsAtItsEndsAlone) {
+    // Up to where a twelfth of the circle is missing.
+    const Path open = circleOfLines(25'000, {60, 60}, 40);
+    Path most;
+    for (std::size_t i = 0; i < open.points().size() * 11 / 12; ++i)
+        i == 0 ? most.moveTo(open.points()[i]) : most.lineTo(open.points()[i]);
+    const double ring = std::numbers::pi * (44 * 44 - 36 * 36) * 11 / 12;
+    EXPECT_NEAR(areaOf(most, pen(8, LineJoin::Round, LineCap::Butt)), ring, 1);
+    EXPECT_NEAR(areaOf(most, pen(8, LineJoin::Round, LineCap::Square)), ring + 2 * 4 * 8, 1);
+    EXPECT_NEAR(areaOf(most, pen(8, LineJoin::Round, LineCap::Round)), ring + std::numbers::pi * 16, 1);
+}
+
+TEST(Stroker, ALongSubpathHasNoCapWhereItIsCut) {
+    // The line after the 10,000th point is cut. A square cap in its middle would fill the bevel after it.
+    Path path;
+    path.moveTo({10, 20});
+    for (int i = 1; i < 10'000; ++i)
+        path.lineTo({10 + 90.0 * i / 9'999, 20});
+    path.lineTo({100, 22});
+    path.lineTo({60, 22});
+    const Surface surface = stroked(path, pen(8, LineJoin::Bevel, LineCap::Square));
+    EXPECT_EQ(coverage(surface, 103, 24), 0);
+    EXPECT_EQ(coverage(surface, 100, 23), 1);
 }
 
 TEST(Stroker, ASubpathWithoutLengthIsADotOnlyForCapsThatReachOut) {
