@@ -31,5 +31,5 @@ void SetDefaultsResource(Handle data, unsigned long type, short id, CStr255 name
     classic::Resource resource{static_cast<std::uint32_t>(type), id, 0, name.Text(),
                                files::Bytes(*data, *data + *size)};
     if (const auto kept = process().storage().defaults().put(std::move(resource)); !kept)
-        process().storage().tellError(kept.error());
+        process().storage().tellDefaultsNotKept(kept.error());
 }

@@ -224,7 +224,10 @@ short GetControlData(ControlRef control, short part, OSType tag, long size, void
 
 bool Confirm(short id) {
     journal("Confirm", id);
-    const auto alert = easel::runtime::alertDescription(process().plugin().resources(), id);
+    auto alert = easel::runtime::alertDescription(process().plugin().resources(), id);
+    // A plug-in asks the same of a name that no file can have as of one that a file has.
+    if (const auto refusal = process().storage().takeRefusal(); alert && refusal)
+        alert = easel::runtime::notice(id, refusal->message() + ". Nothing was saved.");
     // A question that cannot be put is taken as declined.
     return alert && process().user().confirm(*alert) == easel::runtime::Answer::Yes;
 }

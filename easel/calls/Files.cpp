@@ -30,7 +30,7 @@ void EnumerShell(short vRefNum, long dirID, unsigned long fileType, FSSpec** lis
 OSErr FSMakeFSSpec(short vRefNum, long dirID, const CStr255& name, FSSpec* out) {
     journal("FSMakeFSSpec", vRefNum, dirID, fromMacRoman(name.Text()));
     classic::FileSpec spec;
-    const auto result = process().storage().files().resolve(vRefNum, dirID, name.Text(), spec);
+    const auto result = process().storage().resolve(vRefNum, dirID, name.Text(), spec);
     if (result == classic::FileResult::Done || result == classic::FileResult::NoSuchFile)
         *out = runtime::hostSpecFrom(spec);
     return static_cast<OSErr>(result);

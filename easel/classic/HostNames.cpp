@@ -28,6 +28,14 @@ std::optional<std::string> nameOnDisk(std::string_view hostName) {
     return isOrdinary(name) ? std::optional(std::move(name)) : std::nullopt;
 }
 
+std::string whyNoFile(std::string_view hostName) {
+    if (hostName.find(':') != std::string_view::npos)
+        return "the name of a file cannot hold ':'";
+    if (hostName.starts_with(kHeaderPrefix))
+        return "the name of a file cannot begin with '._'";
+    return "it cannot be the name of a file";
+}
+
 std::optional<std::string> nameInHost(std::string_view diskName) {
     if (!isOrdinary(diskName))
         return std::nullopt;

@@ -13,6 +13,8 @@ namespace easel::classic {
 // The name on disk, or nothing for what names no file: empty, "." and "..", with a ':' or a zero byte in it,
 // too long, or reserved for our own use ("._" and what follows it, temporary files).
 std::optional<std::string> nameOnDisk(std::string_view hostName);
+/// Of a name that names no file: why, as the end of a sentence that begins with the name.
+std::string whyNoFile(std::string_view hostName);
 
 // The host's name for a file on disk, or nothing where the host cannot name it.
 std::optional<std::string> nameInHost(std::string_view diskName);

@@ -1,7 +1,8 @@
-// A question with two answers, as an alert resource words it.
+// A question with two answers, as an alert resource words it, or what has to be said in its place.
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace easel::runtime {
 
@@ -13,6 +14,18 @@ struct Alert {
     std::string detail; // what there is to know beyond it; may be empty
     std::string yesButton;
     std::string noButton;
+    // Where no answer makes a difference: the text is something to know, with the one button for no.
+    bool isNotice = false;
 };
+
+inline Alert notice(int id, std::string text) {
+    return {.id = id,
+            .title = {},
+            .text = std::move(text),
+            .detail = {},
+            .yesButton = {},
+            .noButton = "OK",
+            .isNotice = true};
+}
 
 } // namespace easel::runtime

@@ -1,7 +1,8 @@
 // What the user is told about storage that fails.
 #include "easel/runtime/Storage.h"
 
-#include <utility>
+#include "easel/classic/HostNames.h"
+#include "easel/classic/MacRoman.h"
 
 namespace easel::runtime {
 
@@ -12,14 +13,34 @@ Storage::Storage(const classic::StoragePlaces& places, MemoryBlocks& blocks, Tel
           [this](const files::Error& error) { tell_(error.message() + ". It could not be read."); }),
       defaults_(places) {}
 
+classic::FileResult Storage::resolve(std::int16_t volume, std::int64_t folder, std::string_view name,
+                                     classic::FileSpec& out) {
+    using enum classic::FileResult;
+    const auto result = files_.resolve(volume, folder, name, out);
+    refusal_.reset();
+    if (result != Done && result != NoSuchFile)
+        refusal_ = refusalOf(result, name);
+    return result;
+}
+
+files::Error Storage::refusalOf(classic::FileResult result, std::string_view name) const {
+    if (result == classic::FileResult::BadName)
+        return {classic::fromMacRoman(name), classic::whyNoFile(name), {}};
+    return unusable_ ? *unusable_ : files::Error{classic::fromMacRoman(name), "its folder is not there", {}};
+}
+
 void Storage::tellError(const files::Error& error) {
-    if (keeping_ == Keeping::AsFarAsKnown)
-        tell_(error.message() + ". The change was not kept.");
+    tell_(error.message() + ". The change was not kept.");
 }
 
 void Storage::tellNothingIsKept(const files::Error& error) {
-    if (std::exchange(keeping_, Keeping::Nothing) == Keeping::AsFarAsKnown)
+    if (!std::exchange(unusable_, error))
         tell_(error.message() + ". The current gradient and templates will not be kept.");
+}
+
+void Storage::tellDefaultsNotKept(const files::Error& error) {
+    if (!unusable_)
+        tellError(error);
 }
 
 } // namespace easel::runtime

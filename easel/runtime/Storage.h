@@ -6,7 +6,10 @@
 #include "easel/runtime/ResourceFiles.h"
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace easel::runtime {
 
@@ -19,19 +22,29 @@ class Storage {
     Storage(const classic::StoragePlaces& places, MemoryBlocks& blocks, Tell tell);
 
     classic::HostFiles& files() { return files_; }
+    // As the files resolve it; see takeRefusal.
+    classic::FileResult resolve(std::int16_t volume, std::int64_t folder, std::string_view name,
+                                classic::FileSpec& out);
+    // Why the name that was resolved last can be that of no file: a question that is asked right after it is
+    // about something that does not exist and cannot be made. Nothing if it can be one, and once taken.
+    std::optional<files::Error> takeRefusal() { return std::exchange(refusal_, std::nullopt); }
     Enumeration& enumeration() { return enumeration_; }
     ResourceFiles& resourceFiles() { return resourceFiles_; }
     const classic::DefaultsStore& defaults() const { return defaults_; }
 
-    // Tells the user what could not be kept. Once it is known that nothing can be, there is no more to say.
+    // Tells the user what could not be kept.
     void tellError(const files::Error& error);
+    // Tells it in advance of the defaults and templates, for want of a folder; the first time only.
     void tellNothingIsKept(const files::Error& error);
+    // Tells that the defaults could not be kept, unless it was told in advance.
+    void tellDefaultsNotKept(const files::Error& error);
 
   private:
-    enum class Keeping { AsFarAsKnown, Nothing };
+    files::Error refusalOf(classic::FileResult result, std::string_view name) const;
 
     Tell tell_;
-    Keeping keeping_ = Keeping::AsFarAsKnown;
+    std::optional<files::Error> unusable_; // why there is no folder to keep anything in
+    std::optional<files::Error> refusal_;
     classic::HostFiles files_;
     Enumeration enumeration_;
     ResourceFiles resourceFiles_;

@@ -272,6 +272,27 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
     EXPECT_EQ(quit(), 0);
 }
 
+TEST_F(EditorTest, ATemplateNameThatNoFileCanHaveIsNotAskedAboutButSaidToBeNone) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    openTemplates(editor);
+    screen().type("Sav");
+    screen().key("Return");
+    waitForDialog("Save Template");
+    screen().type("a:b");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Save Template"));
+    const Window notice = waitForDialog("Easel");
+    const std::string said = messageOf(notice);
+    EXPECT_NE(said.find("a:b.GRD: the name of a file cannot hold ':'. Nothing was saved."), std::string::npos)
+        << said;
+    EXPECT_EQ(said.find("Replace"), std::string::npos) << "nothing is there to be replaced";
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_TRUE(getsKeyboard(editor.title));
+    closeEditorWith("Escape");
+}
+
 TEST_F(EditorTest, ACharacterThatNamesCannotHoldIsRefusedWithABeep) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);

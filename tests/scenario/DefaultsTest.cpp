@@ -131,18 +131,32 @@ TEST(Defaults, ADamagedFileGivesTheDefaultGradientAndIsKeptInTheTrashWhenItIsRep
 }
 
 // The folder cannot be made below a file, whoever runs the test.
-TEST(Defaults, WithoutAFolderForPreferencesTheToolWorksAndTheUserIsToldOnceWhy) {
+TEST(Defaults, WithoutAFolderForPreferencesTheToolWorksAndTheUserIsToldWhyAtTheStartAndAtEachSave) {
     const Player player;
     writeContent(player.folder() / "file", "");
     writeContent(player.folder() / "s.easel",
                  kShowCurrent + "options\n" + saveAs("a") +
-                     "answer yes\nchoose 9 2\ncommand cancel\nhit 11\nhit 1\nclick 20 20\nquit\n");
+                     "print dialog\nanswer yes\nchoose 9 2\ncommand cancel\nhit 11\nhit 1\nclick 20 20\n"
+                     "quit\n");
     const auto played = player.run({"play", "s.easel", "--prefs", "file/below", "--plugin", GRADIENT_MODULE});
     EXPECT_EQ(played.exitCode, 0);
-    expectDefault(played.answers.back()["gradient"]);
+    expectDefault(played["gradient"]);
+    const std::string why =
+        (fs::canonical(player.folder()) / "file/below/Gradient Templates").string() + ": Not a directory. ";
+    EXPECT_EQ(played["dialog"]["text"], why + "Nothing was saved.");
     EXPECT_EQ(played.messages,
-              (fs::canonical(player.folder()) / "file/below/Gradient Templates").string() +
-                  ": Not a directory. The current gradient and templates will not be kept.\n");
+              why + "The current gradient and templates will not be kept.\n" + why + "Nothing was saved.\n");
+}
+
+TEST(Defaults, AFileInPlaceOfTheTemplateFolderIsLeftAloneAndNamedWhenATemplateIsSaved) {
+    const Player player;
+    writeContent(templateFolder(player), "kept");
+    const auto played = player.play(inEditor(saveAs("a") + "answer yes\n") + "quit\n");
+    EXPECT_EQ(played.exitCode, 0);
+    EXPECT_THAT(played.messages,
+                testing::EndsWith("Gradient Templates: Not a directory. Nothing was saved.\n"));
+    EXPECT_EQ(contentOf(templateFolder(player)), "kept");
+    EXPECT_TRUE(fs::exists(storeOf(player).file())) << "the current gradient is kept nevertheless";
 }
 
 TEST(Defaults, AFolderForPreferencesThatIsMissingIsMade) {

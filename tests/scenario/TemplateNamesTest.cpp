@@ -81,6 +81,34 @@ TEST(TemplateNames, ACharacterThatTheEncodingLacksIsNotAcceptedAndNothingIsWritt
     EXPECT_THAT(namesIn(played["templates"]), ElementsAre("ab.GRD"));
 }
 
+// The plug-in asks whether to replace what it could not resolve. The host does not say that it is there.
+TEST(TemplateNames, OneThatNoFileCanHaveIsNotClaimedToExistAndTheUserIsToldWhyNothingWasSaved) {
+    for (const auto& [name, reason] :
+         {std::pair("a:b", "cannot hold ':'"), {"._a", "cannot begin with '._'"}})
+        for (const char* answer : {"yes", "no"}) {
+            const Player player;
+            const auto played =
+                player.play(inEditor(saveAs(name) + "print dialog\nanswer " + answer + "\nprint dialog\n"));
+            EXPECT_EQ(played.exitCode, 0);
+            const std::string told =
+                std::string(name) + ".GRD: the name of a file " + reason + ". Nothing was saved.";
+            EXPECT_EQ(played.all("dialog")[0], json({{"id", 9320}, {"kind", "alert"}, {"text", told}}));
+            EXPECT_EQ(played.messages, told + "\n");
+            EXPECT_TRUE(offered(played["dialog"]).empty());
+            EXPECT_TRUE(filesBelow(player.preferences()).empty());
+        }
+}
+
+TEST(TemplateNames, AfterOneThatNoFileCanHaveQuestionsAreAboutWhatIsThereAgain) {
+    const Player player;
+    const auto played = player.play(inEditor(saveAs("a") + saveAs("b:c") + "answer no\n" + saveAs("a") +
+                                             "print dialog\nanswer no\nchoose 9 2\nselect 1\n"
+                                             "command ok\nprint dialog\nanswer yes\n"));
+    EXPECT_EQ(played.exitCode, 0) << played.messages;
+    EXPECT_EQ(played.all("dialog")[0]["text"], "Replace the template of this name?");
+    EXPECT_EQ(played.all("dialog")[1]["text"], "Delete the selected templates?");
+}
+
 TEST(TemplateNames, AFileWhoseNameTheHostCannotHoldIsLeftAlone) {
     const Player player;
     writeContent(templateFolder(player) / "\u65E5\u672C.GRD", "kept");

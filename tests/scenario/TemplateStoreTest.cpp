@@ -89,9 +89,9 @@ TEST(TemplateStore, ANameThatCannotBeResolvedIsAskedAboutThoughNoFileExistsAndNo
     const Player player;
     writeContent(player.preferences() / "b.GRD", "outside");
     for (const char* name : {"a:b", ":b", "::b", "._b"}) {
-        const auto played = player.playToEnd(
-            inEditor("choose 9 1\nset 4 \"" + std::string(name) +
-                     "\"\nhit 1\nprint dialog\nanswer yes\nprint templates\nprint resourcefiles\n"));
+        const auto played = player.play(
+            inEditor(saveAs(name) + "print dialog\nanswer yes\nprint templates\nprint resourcefiles\n"));
+        EXPECT_EQ(played.exitCode, 0) << played.messages;
         EXPECT_EQ(played.all("dialog")[0]["id"], 9320) << name;
         EXPECT_EQ(played["templates"], json::array()) << name;
         EXPECT_EQ(played["resourceFiles"], json({{"current", 1}, {"open", {1}}}));

@@ -11,7 +11,7 @@ namespace easel::window {
 
 runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs) {
     QMessageBox box(over);
-    box.setIcon(QMessageBox::Question);
+    box.setIcon(alert.isNotice ? QMessageBox::Warning : QMessageBox::Question);
     box.setWindowTitle(alert.title.empty() ? QObject::tr("Easel") : QString::fromStdString(alert.title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(alert.text));
@@ -19,12 +19,13 @@ runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dia
     const auto caption = [](const std::string& text) {
         return QString::fromStdString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
     };
-    QPushButton* yes = box.addButton(caption(alert.yesButton), QMessageBox::AcceptRole);
+    QPushButton* yes =
+        alert.isNotice ? nullptr : box.addButton(caption(alert.yesButton), QMessageBox::AcceptRole);
     QPushButton* no = box.addButton(caption(alert.noButton), QMessageBox::RejectRole);
-    box.setDefaultButton(yes);
+    box.setDefaultButton(yes ? yes : no);
     box.setEscapeButton(no);
     dialogs.run(box);
-    return box.clickedButton() == yes ? runtime::Answer::Yes : runtime::Answer::No;
+    return yes && box.clickedButton() == yes ? runtime::Answer::Yes : runtime::Answer::No;
 }
 
 UnsavedChoice askAboutUnsaved(const QString& drawingName, QWidget* over, DialogStack& dialogs) {

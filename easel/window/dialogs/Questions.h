@@ -10,7 +10,8 @@ namespace easel::window {
 
 class DialogStack;
 
-// Return is yes, Escape is no, and so is the end of all waiting. The box belongs to `over`.
+// Return is yes, Escape is no, and so are the end of all waiting and the one button of a notice. The box
+// belongs to `over`.
 runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs);
 
 enum class UnsavedChoice { Save, Discard, Cancel };

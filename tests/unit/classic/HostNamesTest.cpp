@@ -23,6 +23,13 @@ TEST(HostNames, OrdinaryNamesStayAsTheyAre) {
         EXPECT_EQ(nameOnDisk(name), name);
 }
 
+TEST(HostNames, OfANameThatNamesNoFileItIsSaidWhy) {
+    EXPECT_EQ(whyNoFile("a:b"), "the name of a file cannot hold ':'");
+    EXPECT_EQ(whyNoFile("._:"), "the name of a file cannot hold ':'");
+    EXPECT_EQ(whyNoFile("._a"), "the name of a file cannot begin with '._'");
+    EXPECT_EQ(whyNoFile(std::string(64, 'a')), "it cannot be the name of a file");
+}
+
 TEST(HostNames, NamesOnDiskAreComposed) {
     EXPECT_EQ(nameOnDisk(mac("Cafe\u0301")), "Caf\u00E9");
     EXPECT_EQ(nameInHost("Cafe\u0301"), mac("Caf\u00E9"));
