@@ -151,6 +151,7 @@ void SetUserDrawProc(DialogRef ref, short number, TRect<short>& box, UserItemUPP
     if (!dialog || !dialog->item(number))
         return;
     dialog->setDrawProcedure(number, procedure);
+    dialog->setDivider(number, procedure == UpdateSeparatorUPP);
     box = easel::runtime::toHost(dialog->item(number)->bounds);
 }
 

@@ -93,6 +93,11 @@ void Dialog::setDrawProcedure(int number, ItemDrawProcedure procedure) {
     invalidate(number);
 }
 
+void Dialog::setDivider(int number, bool divider) {
+    if (DialogItem* target = itemOfKind(number, ItemKind::UserDrawn))
+        target->divider = divider;
+}
+
 void Dialog::invalidate(int number) {
     DialogItem* target = itemOfKind(number, ItemKind::UserDrawn);
     if (!target)

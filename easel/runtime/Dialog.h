@@ -109,7 +109,8 @@ class Dialog {
     void selectText(int item, TextSelection selection);
     // Chooses an entry of a popup; a hit. Refused when the entry cannot be selected.
     EditOutcome chooseEntry(int item, int entry);
-    // Moves the keyboard focus, selecting all of an edit field; no hit. 0 takes the focus away.
+    // Moves the keyboard focus, selecting all of an edit field; no hit. 0 takes the focus away, and a divider
+    // leaves it where it is.
     void setFocus(int item);
     // A press in a user item or an edit field, or a click on a control. Disabled items are not hit.
     void hit(int item);
@@ -122,6 +123,8 @@ class Dialog {
     void setText(int item, std::string text);
     void setValue(int item, int value);
     void setDrawProcedure(int item, ItemDrawProcedure procedure);
+    // From then on the user item is a divider, or no longer one.
+    void setDivider(int item, bool divider);
     void setStandardKeys(StandardKeys keys) { standardKeys_ = keys; }
     void invalidate(int item);
     void show();

@@ -109,7 +109,10 @@ void Dialog::moveFocus(int number) {
 }
 
 void Dialog::setFocus(int number) {
-    moveFocus(item(number) ? number : 0);
+    const DialogItem* const target = item(number);
+    if (target && target->divider)
+        return;
+    moveFocus(target ? number : 0);
     if (const DialogItem* field = focusedField())
         selectText(number, {0, static_cast<int>(field->text.size())});
 }

@@ -45,6 +45,7 @@ struct DialogItem {
     std::string
         accessibleName; // UTF-8; what a screen reader says, which for a drawn item is all there is to say
     bool enabled = true;
+    bool divider = false; // a user item that is a line between groups: there is nothing to do with it
     ButtonRole role = ButtonRole::Plain;           // of a button
     TextAlignment alignment = TextAlignment::Left; // of a static text
 

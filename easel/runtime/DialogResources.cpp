@@ -76,7 +76,8 @@ DialogItem itemOf(const classic::PluginResources& resources, const ItemResource&
     item.text = encoded(resource.title);
     item.tooltip = resource.tip;
     item.accessibleName = resource.label.empty() ? resource.title : resource.label;
-    item.enabled = resource.kind != ItemResourceKind::Separator;
+    item.divider = resource.kind == ItemResourceKind::Separator;
+    item.enabled = !item.divider;
     item.role = roleOf(resource.role);
     item.alignment = alignmentOf(resource.alignment);
     if (item.kind == ItemKind::Popup) {

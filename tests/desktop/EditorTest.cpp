@@ -272,6 +272,20 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
     EXPECT_EQ(quit(), 0);
 }
 
+TEST_F(EditorTest, TheTabKeyPassesOverTheLinesBetweenTheGroups) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    // From the position to the swatch, the preview and, past the line above it, the templates.
+    for (int i = 0; i < 3; ++i)
+        screen().key("Tab");
+    screen().key("space");
+    EXPECT_TRUE(eventually([&] {
+        return screen().popupAt(in(editor, {EditorItems::preview.left, EditorItems::preview.top}));
+    }));
+    screen().key("Escape");
+    closeEditorWith("Escape");
+}
+
 TEST_F(EditorTest, ATemplateNameThatNoFileCanHaveIsNotAskedAboutButSaidToBeNone) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);

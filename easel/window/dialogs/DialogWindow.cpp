@@ -53,11 +53,6 @@ ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& i
     return nullptr;
 }
 
-// A separator is drawn like a user item but there is nothing to do with it.
-bool isSeparator(const runtime::DialogItem& item) {
-    return item.kind == runtime::ItemKind::UserDrawn && !item.enabled;
-}
-
 } // namespace
 
 DialogWindow::DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, QWidget* parent)
@@ -90,7 +85,7 @@ void DialogWindow::addItem(const runtime::DialogItem& item) {
     widget->setToolTip(QString::fromStdString(item.tooltip));
     if (!item.accessibleName.empty())
         widget->setAccessibleName(QString::fromStdString(item.accessibleName));
-    if (isSeparator(item)) {
+    if (item.divider) {
         widget->setFocusPolicy(Qt::NoFocus);
         widget->setAttribute(Qt::WA_TransparentForMouseEvents);
     }

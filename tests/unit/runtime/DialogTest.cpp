@@ -64,6 +64,18 @@ class DialogTest : public testing::Test {
     Dialog dialog_{description(), {}, ports_};
 };
 
+TEST_F(DialogTest, ADividerLeavesTheKeyboardWhereItIs) {
+    dialog_.setFocus(4);
+    dialog_.setDivider(6, true);
+    dialog_.setFocus(6);
+    EXPECT_EQ(dialog_.focus(), 4);
+    dialog_.setDivider(6, false);
+    dialog_.setFocus(6);
+    EXPECT_EQ(dialog_.focus(), 6);
+    dialog_.setDivider(3, true);
+    EXPECT_FALSE(field().divider) << "a field is not drawn by the program";
+}
+
 TEST_F(DialogTest, OpensWithItsFirstEditFieldFocused) {
     EXPECT_EQ(dialog_.focus(), 3);
 }
