@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
+#include <fstream>
 #include <thread>
 
 namespace desktop {
@@ -283,6 +285,36 @@ TEST_F(EditorTest, TheTabKeyPassesOverTheLinesBetweenTheGroups) {
         return screen().popupAt(in(editor, {EditorItems::preview.left, EditorItems::preview.top}));
     }));
     screen().key("Escape");
+    closeEditorWith("Escape");
+}
+
+// The desktop says that it is dark while a line is dragged in the preview, which clips what is drawn to it.
+TEST_F(EditorTest, ADesktopThatTurnsDarkDuringADragLeavesTheEditorWhole) {
+    namespace fs = std::filesystem;
+    fs::create_directory(folder() / "bin");
+    const std::string says = (folder() / "says").string();
+    std::ofstream(folder() / "bin" / "gsettings")
+        << "#!/bin/sh\nwhile [ ! -e " << says << " ]; do sleep 0.05; done\necho prefer-dark\n";
+    fs::permissions(folder() / "bin" / "gsettings", fs::perms::owner_all);
+    startWithDrawing({{"PATH", (folder() / "bin").string() + ":" + std::getenv("PATH")}});
+    const Window editor = openEditor(160, 290);
+    const auto at = [&](Spot spot) { return screen().picture().at(spot); };
+    const Spot button = in(editor, {EditorItems::cancel.x - 36, EditorItems::cancel.y});
+    const std::uint32_t rampBefore = at(onRamp(editor, 0.5));
+    const std::uint32_t buttonBefore = at(button);
+    const Spot middle = in(editor, EditorItems::preview.middle());
+    screen().moveTo(middle);
+    screen().press();
+    screen().glideTo(middle + Spot{0, 40});
+    std::ofstream(says) << "dark";
+    EXPECT_TRUE(eventually([&] { return at(button) != buttonBefore; }));
+    screen().glideTo(middle + Spot{0, 60});
+    EXPECT_EQ(at(onRamp(editor, 0.5)), rampBefore);
+    screen().release();
+    // The image is made anew once the mouse is up: its ground is then that of the desktop.
+    const Spot ground = in(editor, {8, 200});
+    EXPECT_TRUE(eventually([&] { return (at(ground) & 0xff) < 0x60; }));
+    EXPECT_EQ(at(onRamp(editor, 0.5)), rampBefore);
     closeEditorWith("Escape");
 }
 

@@ -11,6 +11,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace easel::window {
 namespace {
 
@@ -129,7 +131,19 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
     QDialog::keyPressEvent(event);
 }
 
+void DialogWindow::programIs(Program program) {
+    program_ = program;
+    if (program_ == Program::Waiting && std::exchange(unmatched_, false))
+        matchScreen();
+}
+
+// Whoever tracks the mouse takes off the lines it drew by drawing them again, and clips what is drawn. So the
+// image stays as it is until that is over, and is shown larger or smaller meanwhile.
 void DialogWindow::matchScreen() {
+    if (program_ == Program::Busy) {
+        unmatched_ = true;
+        return;
+    }
     dialog_.setScreen({devicePixelRatioF(), themeOf(palette())});
     dialog_.drawInvalidItems();
     content_->update();

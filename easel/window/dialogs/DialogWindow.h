@@ -25,6 +25,10 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
 
     void reject() override;
 
+    // What the program that runs the dialog does: it waits for a hit, or acts on one.
+    enum class Program { Waiting, Busy };
+    void programIs(Program program);
+
   protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -39,11 +43,14 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
 
     void addItem(const runtime::DialogItem& item);
     void followFocus(const QWidget* now);
+    // Makes the image anew for the screen as it is now, as soon as the program is not drawing in it.
     void matchScreen();
 
     runtime::Dialog& dialog_;
     DialogContent* content_;
     std::map<int, ItemWidget*> items_;
+    Program program_ = Program::Waiting;
+    bool unmatched_ = false;
 };
 
 } // namespace easel::window

@@ -39,8 +39,11 @@ std::int16_t ShownDialogs::nextHit(runtime::Dialog& dialog) {
     const auto found = shown_.find(&dialog);
     if (found == shown_.end())
         return 0;
-    const InputGate::Scope scope(interaction_.gate, &found->second->window);
+    DialogWindow& window = found->second->window;
+    const InputGate::Scope scope(interaction_.gate, &window);
+    window.programIs(DialogWindow::Program::Waiting);
     interaction_.waiting.sleepUntil([&dialog] { return dialog.hasHit(); });
+    window.programIs(DialogWindow::Program::Busy);
     if (interaction_.waiting.cancelled())
         return 0;
     return static_cast<std::int16_t>(dialog.takeHit().value_or(0));
