@@ -58,6 +58,17 @@ TEST_F(StoredGradient, ABlockIsReadWhileItIsLockedAndThenGivenBack) {
     EXPECT_THAT(gBlockEvents, ElementsAre("dispose"));
 }
 
+TEST_F(StoredGradient, AGradientThatCannotBeMadeIntoBytesLeavesTheStoreAlone) {
+    SaveDefaults();
+    gCurrentGradient.ColorList().clear();
+    easel::runtime::process().journal().switchOn();
+    SaveDefaults();
+    EXPECT_THAT(easel::runtime::process().journal().take(), ElementsAre("MakeGradientData()"));
+    InitDefaults();
+    EXPECT_THAT(StopsOf(gCurrentGradient.ColorList()),
+                ElementsAre(Stop{0.25, kRed}, Stop{0.5, kGreen}, Stop{0.75, kBlue}));
+}
+
 TEST_F(StoredGradient, WhatWasSavedComesBackWhole) {
     SaveDefaults();
     gCurrentGradient = CGradientData();

@@ -2,6 +2,7 @@
 #include "Gradient/TemplateUtil/DeleteTemplateDialog.h"
 #include "Gradient/TemplateUtil/TemplateMenu.h"
 #include "Gradient/TemplateUtil/TemplateStore.h"
+#include "Gradient/editor/TemplateHits.h"
 #include "Gradient/model/GradientBlock.h"
 #include "easel/runtime/CFString.h"
 #include "tests/unit/gradient/EditorStage.h"
@@ -92,6 +93,14 @@ TEST_F(TemplateFiles, ATemplateWhoseForkCannotBeOpenedGivesNoBlock) {
     std::filesystem::remove(path("x.GRD", "._"));
     std::filesystem::create_symlink("._x.GRD", path("x.GRD", "._"));
     EXPECT_FALSE(loads("x.GRD"));
+}
+
+TEST_F(TemplateFiles, AGradientThatCannotBeMadeIntoBytesReplacesNothing) {
+    save("a.GRD");
+    CGradientData gradient;
+    gradient.ColorList().clear();
+    SaveGradientTemplate(gradient, "a");
+    EXPECT_TRUE(loads("a.GRD"));
 }
 
 TEST_F(TemplateFiles, EveryListIsReadFromTheFolderAfresh) {
