@@ -51,6 +51,16 @@ TEST(TemplateName, OkWithoutANameIsNoConfirmation) {
               (std::pair<bool, std::string>(false, "")));
 }
 
+TEST(TemplateName, ADialogThatCannotBeMadeIsACancel) {
+    const TemporaryFolder folder;
+    easel::runtime::Process withoutResources(easel::classic::StoragePlaces::within(folder.path()));
+    ScriptedUser user({});
+    const easel::runtime::UserScope inFront(withoutResources, user);
+    std::string name = "Offered";
+    EXPECT_FALSE(ModalGetTemplateName(name));
+    EXPECT_EQ(name, "Offered");
+}
+
 TEST(TemplateName, OnlyATextThatIsTooLongIsWrittenBack) {
     std::vector<std::string> calls;
     askedWith("",
