@@ -2,6 +2,7 @@
 #include "easel/classic/FolderCatalog.h"
 
 #include "easel/classic/HostNames.h"
+#include "easel/files/FolderReader.h"
 
 #include <algorithm>
 
@@ -20,12 +21,9 @@ bool isAscii(std::string_view text) {
 
 // The name on disk that stands for the host's name, where it is not the composed one.
 std::optional<std::string> otherSpelling(const fs::path& folder, std::string_view hostName) {
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        const auto name = at->path().filename().string();
-        if (nameInHost(name) == hostName)
-            return name;
-    }
+    for (files::FolderReader entries(folder); entries.next();)
+        if (nameInHost(entries.name()) == hostName)
+            return entries.name();
     return std::nullopt;
 }
 

@@ -2,6 +2,7 @@
 #include "easel/classic/FolderListing.h"
 
 #include "easel/classic/HostNames.h"
+#include "easel/files/FolderReader.h"
 #include "easel/text/Ascii.h"
 
 #include <algorithm>
@@ -15,22 +16,20 @@ namespace easel::classic {
 
 FolderListing listFolder(const fs::path& folder) {
     FolderListing listing;
-    auto& files = listing.files;
+    auto& listed = listing.files;
     std::unordered_set<std::string> headers;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        auto name = at->path().filename().string();
-        listing.hasLinks = listing.hasLinks || at->is_symlink(error);
+    for (files::FolderReader entries(folder); entries.next();) {
+        std::string name = entries.name();
+        listing.hasLinks = listing.hasLinks || entries.isLink();
         if (name.starts_with(kHeaderPrefix))
             headers.insert(name.substr(kHeaderPrefix.size()));
-        else if (auto hostName = nameInHost(name); hostName && at->is_regular_file(error))
-            files.push_back({std::move(*hostName), {folder, std::move(name)}, {}});
-        error.clear();
+        else if (auto hostName = nameInHost(name); hostName && entries.isRegularFile())
+            listed.push_back({std::move(*hostName), {folder, std::move(name)}, {}});
     }
-    for (auto& file : files)
+    for (auto& file : listed)
         if (headers.contains(file.file.name))
             file.info = readFinderInfo(file.file);
-    std::sort(files.begin(), files.end(), isListedBefore);
+    std::sort(listed.begin(), listed.end(), isListedBefore);
     return listing;
 }
 

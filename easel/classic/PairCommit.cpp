@@ -7,6 +7,7 @@
 #include "easel/classic/PairCommit.h"
 
 #include "easel/files/FolderLock.h"
+#include "easel/files/FolderReader.h"
 
 #include <cerrno>
 #include <sys/stat.h>
@@ -85,13 +86,13 @@ void removeMarkedHeaders(const fs::path& folder, const fs::path& marker) {
     struct stat marked {};
     if (::lstat(marker.c_str(), &marked) != 0 || marked.st_nlink < 2)
         return;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        const auto name = at->path().filename().string();
+    for (files::FolderReader entries(folder); entries.next();) {
+        const std::string name = entries.name();
+        const fs::path file = folder / name;
         struct stat status {};
-        if (name.starts_with(kHeaderPrefix) && ::lstat(at->path().c_str(), &status) == 0 &&
+        if (name.starts_with(kHeaderPrefix) && ::lstat(file.c_str(), &status) == 0 &&
             status.st_ino == marked.st_ino && !isThere(folder / name.substr(kHeaderPrefix.size())))
-            ::unlink(at->path().c_str());
+            ::unlink(file.c_str());
     }
 }
 

@@ -1,6 +1,7 @@
 // Writing a file by way of a temporary one: write, flush, rename, flush the folder.
 #include "easel/files/AtomicFile.h"
 
+#include "easel/files/FolderReader.h"
 #include <cerrno>
 #include <random>
 #include <set>
@@ -201,13 +202,13 @@ Result<> flushFileSystem(const fs::path& folder) {
 
 std::vector<fs::path> leftoversIn(const fs::path& folder) {
     std::vector<fs::path> found;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        if (!isTemporaryName(at->path().filename().native()))
+    for (FolderReader entries(folder); entries.next();) {
+        if (!isTemporaryName(entries.name()))
             continue;
-        const FileDescriptor open(::open(at->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        fs::path file = folder / entries.name();
+        const FileDescriptor open(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
         if (open && ::flock(open.number(), LOCK_EX | LOCK_NB) == 0)
-            found.push_back(at->path());
+            found.push_back(std::move(file));
     }
     return found;
 }

@@ -2,6 +2,7 @@
 #include "easel/files/ScratchFolder.h"
 
 #include <cstdlib>
+#include <exception>
 
 namespace fs = std::filesystem;
 
@@ -17,9 +18,12 @@ Result<ScratchFolder> ScratchFolder::make() {
 }
 
 ScratchFolder::~ScratchFolder() {
-    std::error_code ignored;
-    if (!path_.empty())
-        fs::remove_all(path_, ignored);
+    try {
+        if (!path_.empty())
+            fs::remove_all(path_);
+    } catch (const std::exception&) {
+        // What cannot be removed is left to whoever cleans temporary folders.
+    }
 }
 
 } // namespace easel::files

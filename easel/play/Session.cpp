@@ -60,7 +60,7 @@ void Session::playStep(const Step& step) {
     try {
         playCommand(*this, commandOf(step), step);
     } catch (const std::exception& error) {
-        steps_.fail(step.line, error.what());
+        steps_.fail(step.line, reasonOf(error));
     }
 }
 
