@@ -6,6 +6,7 @@
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
 #include "easel/paint/ObjectPaintSource.h"
+#include "easel/paint/pixels/Parallel.h"
 #include "easel/paint/stroke/Stroker.h"
 
 #include <algorithm>
@@ -21,6 +22,14 @@ namespace {
 constexpr double kStrokeTolerance = 0.02; // pixels
 // Layers in layers beyond this depth are painted straight on, so that hostile files cannot use up the memory.
 constexpr std::uint32_t kDeepestLayer = 100;
+
+// Layers that exist at one time take no more than this. Where they would, they are painted in strips.
+constexpr std::size_t kMostLayerBytes = std::size_t{192} << 20;
+
+std::size_t bytesOf(const PixelRect& place) {
+    return static_cast<std::size_t>(place.width()) * static_cast<std::size_t>(place.height()) *
+           static_cast<std::size_t>(kBytesPerPixel);
+}
 
 PixelRect pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelRect& limit) {
     drawing::Box box;
@@ -61,6 +70,25 @@ void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, 
         place = pixelsUnder(group.mask->objects, toSurface, place);
     if (place.empty())
         return;
+    const std::size_t bytes = (group.mask || group.clip ? 2 : 1) * bytesOf(place);
+    if (layerBytes_ + bytes > kMostLayerBytes / usefulThreads() && place.height() > 1)
+        return paintHalves(group, objects, surface.clippedTo(place), toSurface);
+    layerBytes_ += bytes;
+    paintLayer(group, objects, place, surface, toSurface);
+    layerBytes_ -= bytes;
+}
+
+void ObjectPainter::paintHalves(const drawing::Group& group, ObjectSpan objects, const SurfaceView& surface,
+                                const Affine& toSurface) {
+    PixelRect upper = surface.clip();
+    PixelRect lower = surface.clip();
+    upper.bottom = lower.top = upper.top + upper.height() / 2;
+    paintGroup(group, objects, surface.clippedTo(upper), toSurface);
+    paintGroup(group, objects, surface.clippedTo(lower), toSurface);
+}
+
+void ObjectPainter::paintLayer(const drawing::Group& group, ObjectSpan objects, const PixelRect& place,
+                               const SurfaceView& surface, const Affine& toSurface) {
     Layer layer(place);
     const Affine toLayer = layer.mapped(toSurface);
     paintWithin(&group, objects, layer.view(), toLayer);

@@ -22,6 +22,11 @@ class ObjectPainter {
                      const SurfaceView& surface, const drawing::Affine& toSurface);
     void paintGroup(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
                     const SurfaceView& surface, const drawing::Affine& toSurface);
+    // One half of the rows after the other.
+    void paintHalves(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
+                     const SurfaceView& surface, const drawing::Affine& toSurface);
+    void paintLayer(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
+                    const PixelRect& place, const SurfaceView& surface, const drawing::Affine& toSurface);
     void maskLayer(Layer& layer, const drawing::Mask& mask, const drawing::Affine& toLayer);
     void paintObject(const drawing::Object& object, const SurfaceView& surface,
                      const drawing::Affine& toSurface);
@@ -33,6 +38,7 @@ class ObjectPainter {
                      const drawing::Affine& toSurface, double opacity);
 
     Painter painter_;
+    std::size_t layerBytes_ = 0; // of the groups that are being painted
 };
 
 } // namespace easel::paint

@@ -132,4 +132,23 @@ TEST(GroupEffects, APartPaintedAnewIsThatPartOfTheWhole) {
     EXPECT_EQ(part.row(8)[9], 0xFFFFFFFFU);
 }
 
+// Each layer of this size takes two megabytes: all at once would be more than there is for them.
+TEST(GroupEffects, ManyWideLayersInEachOtherArePaintedInStrips) {
+    constexpr int kDepth = 99;
+    constexpr int kWide = 16384;
+    std::string content = "<rect width='40' height='40' fill='white'/>";
+    for (int i = 0; i < kDepth; ++i)
+        content = "<g style='isolation:isolate' opacity='.996'>" + content + "</g>";
+    const drawing::Drawing drawing = drawingOf(content);
+    paint::Surface surface(kWide, kSide);
+    paint::renderDrawing(drawing, surface.view(), drawing::Affine::scaling(kWide / 40.0, 1));
+    // Each layer takes four thousandths of a level of 255, a whole level once that is rounded, from those
+    // above 125 levels.
+    const std::uint32_t first = surface.row(0)[0];
+    EXPECT_EQ(first >> 24, 255U - kDepth);
+    for (int y = 0; y < kSide; ++y)
+        for (int x = 0; x < kWide; ++x)
+            ASSERT_EQ(surface.row(y)[x], first) << x << ',' << y;
+}
+
 } // namespace
