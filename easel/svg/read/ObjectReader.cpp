@@ -95,6 +95,36 @@ Paint kept(PlacedPaint placed) {
     return NoPaint();
 }
 
+double lengthOf(const drawing::Path& path) {
+    constexpr double kFlatness = 1e-4; // of the larger side
+    const drawing::Box box = path.bounds();
+    const double side = std::max(box.width(), box.height());
+    if (!(side > 0))
+        return 0;
+    double sum = 0;
+    for (const drawing::Contour& contour : flatten(path, side * kFlatness)) {
+        const std::vector<drawing::Point>& points = contour.points;
+        for (std::size_t i = 1; i < points.size(); ++i)
+            sum += length(points[i] - points[i - 1]);
+        if (contour.closed)
+            sum += length(points.front() - points.back());
+    }
+    return sum;
+}
+
+// Lengths along the outline are shares of a length that the author may state.
+void scaleDashes(drawing::Stroke& stroke, pugi::xml_node element, const drawing::Path& outline) {
+    const double stated = element.attribute("pathLength").as_double();
+    if (stroke.dashes.empty() || !(stated > 0))
+        return;
+    const double scale = lengthOf(outline) / stated;
+    if (!(scale > 0) || !inRange(scale))
+        return;
+    for (double& dash : stroke.dashes)
+        dash *= scale;
+    stroke.dashOffset *= scale;
+}
+
 bool strokeInRange(const ComputedStyle& style) {
     return style.stroke.kind == PaintSpec::Kind::None ||
            (inRange(style.strokeWidth) && inRange(style.miterLimit) && inRange(style.dashOffset));
@@ -144,6 +174,7 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
         style.stroke.dashOffset = place.style.dashOffset;
         if (place.style.dashes)
             style.stroke.dashes = *place.style.dashes;
+        scaleDashes(style.stroke, element, place.style.fixedStroke ? object.outline : shape.outline);
     }
     object.style = shared(std::move(style));
     return object;

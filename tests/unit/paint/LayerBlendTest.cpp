@@ -63,8 +63,8 @@ TEST(Blending, MixesEachChannelByTheFormulaOfItsMode) {
               levels(0.2 + 0.2 * (0.448 - 0.2), 0.4 - 0.2 * 0.4 * 0.6, 0.8 - 0.6 * 0.8 * 0.2));
     EXPECT_EQ(colorOf(blend(BlendMode::SoftLight, opaque({102, 102, 102}), opaque({204, 255, 128})))[1],
               std::lround(std::sqrt(0.4) * 255));
-    EXPECT_EQ(colorOf(blend(BlendMode::ColorBurn, opaque({204, 255, 204}), opaque({128, 0, 255}))),
-              levels(1 - 0.2 / (128.0 / 255), 1, 0.8));
+    EXPECT_EQ(colorOf(blend(BlendMode::ColorBurn, opaque({204, 255, 204}), opaque({128, 0, 0}))),
+              levels(1 - 0.2 / (128.0 / 255), 1, 0));
     EXPECT_EQ(colorOf(blend(BlendMode::ColorDodge, opaque({0, 51, 102}), opaque({255, 255, 51}))),
               levels(0, 1, 0.5));
 }

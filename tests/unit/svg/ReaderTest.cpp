@@ -210,6 +210,21 @@ TEST(SvgReader, StrokePropertiesReachTheObject) {
     EXPECT_EQ(style.first, PaintStep::Stroke);
 }
 
+TEST(SvgReader, DashesAreSharesOfTheStatedPathLength) {
+    const auto dashes = [](const std::string& shape) {
+        const Drawing drawing = readOk(svgFile("<g transform='scale(3)'>" + shape +
+                                               " pathLength='10' fill='none' stroke='red' "
+                                               "stroke-dasharray='1 4' stroke-dashoffset='2'/></g>"));
+        const Stroke& stroke = styleOf(*drawing.object(0)).stroke;
+        EXPECT_NEAR(stroke.dashOffset, 2 * stroke.dashes[0], 1e-9);
+        EXPECT_NEAR(stroke.dashes[1], 4 * stroke.dashes[0], 1e-9);
+        return stroke.dashes[0];
+    };
+    EXPECT_NEAR(dashes("<path d='M0 0H20V10'"), 3, 1e-9);
+    EXPECT_NEAR(dashes("<rect width='20' height='10'"), 6, 1e-9);
+    EXPECT_NEAR(dashes("<circle r='10'"), 2 * std::acos(-1.0), 0.01);
+}
+
 TEST(SvgReader, GroupOpacityAndClipPathsBecomeGroupsThatObjectsShare) {
     const Drawing drawing =
         readOk(svgFile("<clipPath id='c'><rect width='5' height='5' clip-rule='evenodd'/></clipPath><g "
