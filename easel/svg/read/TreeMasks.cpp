@@ -90,11 +90,22 @@ MaskPtr TreeReader::maskFor(const StatedStyle& stated, const Box& box, const Pla
         scene_.notes.add(Unsupported::DeepLayer);
         return nullptr;
     }
+    if (!byBox && openMasks_.empty() && lastMask_.isFor(element, place))
+        return lastMask_.mask;
     scene_.budget.spend(1);
     openMasks_.push_back(element);
     MaskPtr mask = readMask(element, box, place);
     openMasks_.pop_back();
+    // What leads in a circle reads differently from where the circle is entered.
+    if (!byBox && openMasks_.empty() && !asksForBox(scene_.cascade.of(element)))
+        lastMask_ = {element, place.toDrawing, place.lengths.viewportWidth, place.lengths.viewportHeight,
+                     mask};
     return mask;
+}
+
+bool TreeReader::KnownMask::isFor(pugi::xml_node asked, const Place& place) const {
+    return mask && element == asked && toDrawing == place.toDrawing &&
+           viewportWidth == place.lengths.viewportWidth && viewportHeight == place.lengths.viewportHeight;
 }
 
 // What narrows the mask in turn is around its content: what is not there has neither luminance nor alpha.

@@ -41,6 +41,16 @@ class TreeReader {
         Place place;
         std::shared_ptr<const WaitingGroup> waiting; // null: none
     };
+    // The last mask that depends on nothing but its place: neighbours often share it.
+    struct KnownMask {
+        pugi::xml_node element;
+        drawing::Affine toDrawing;
+        double viewportWidth = 0;
+        double viewportHeight = 0;
+        drawing::MaskPtr mask; // null: none is known
+
+        bool isFor(pugi::xml_node asked, const Place& place) const;
+    };
     // Elements that are left to be read in one place. A stack of these stands in for recursion, so that
     // elements may be nested as deep as memory goes.
     struct Work {
@@ -103,11 +113,12 @@ class TreeReader {
     std::vector<pugi::xml_node> open_;        // `use` elements whose targets are being read
     std::vector<pugi::xml_node> openMarkers_; // that are being read
     std::vector<pugi::xml_node> openMasks_;   // that are being read
-    std::vector<drawing::Path> hidden_;       // outlines in the drawing, of a waiting group's hidden shapes
-    std::size_t waiting_ = 0;                 // groups that wait
-    std::size_t apart_ = 0;                   // how often `readApart` is at work
-    std::deque<Work> work_;                   // the last is the innermost
-    DrawingSize size_;                        // a side that is not known yet is 0
+    KnownMask lastMask_;
+    std::vector<drawing::Path> hidden_; // outlines in the drawing, of a waiting group's hidden shapes
+    std::size_t waiting_ = 0;           // groups that wait
+    std::size_t apart_ = 0;             // how often `readApart` is at work
+    std::deque<Work> work_;             // the last is the innermost
+    DrawingSize size_;                  // a side that is not known yet is 0
     std::size_t visited_ = 0;
 };
 

@@ -46,6 +46,21 @@ TEST(Groups, DrawingsBlendWhereNoGroupAroundIsolates) {
     EXPECT_TRUE(readOk(svgFile("<g opacity='.5'>" + blended + "</g>" + blended)).blends());
 }
 
+TEST(Groups, NeighborsShareAMaskThatDependsOnItsPlaceAlone) {
+    const auto masks = [](const std::string& mask, const std::string& second) {
+        const Drawing drawing = readOk(svgFile(mask + kRect + "/></mask>" + kRect + " mask='url(#m)'/>" +
+                                               kRect + " mask='url(#m)' " + second + "/>"));
+        return std::pair(drawing.object(0)->group->mask, drawing.object(1)->group->mask);
+    };
+    const std::string inUserSpace = "<mask id='m' maskUnits='userSpaceOnUse'>";
+    const auto [one, same] = masks(inUserSpace, "");
+    EXPECT_EQ(one, same);
+    const auto [here, elsewhere] = masks(inUserSpace, "transform='translate(3)'");
+    EXPECT_EQ(elsewhere->objects.at(0)->bounds.left, here->objects.at(0)->bounds.left + 3);
+    const auto [wide, narrow] = masks("<mask id='m' maskContentUnits='objectBoundingBox'>", "x='5'");
+    EXPECT_NE(wide->objects.at(0)->bounds, narrow->objects.at(0)->bounds);
+}
+
 TEST(Groups, MasksThatLeadBackToThemselvesAreNoneThereAndNoted) {
     const Drawing drawing = readOk(svgFile("<mask id='m' maskUnits='userSpaceOnUse' mask='url(#n)'>" + kRect +
                                            "/></mask><mask id='n' maskUnits='userSpaceOnUse'><g id='g' "
