@@ -9,7 +9,7 @@ function(include_root target scope folder)
     file(MAKE_DIRECTORY "${root}")
     file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}" "${root}/${folder}" SYMBOLIC)
   endif()
-  target_include_directories(${target} ${scope} "${root}")
+  target_include_directories(${target} ${scope} "$<BUILD_INTERFACE:${root}>")
 endfunction()
 
 # room_root(<target> <folder>): lets whoever links a target include the headers of one folder as "<folder>/...". The root

@@ -2,6 +2,7 @@
 #include "easel/commands/Failure.h"
 #include "easel/commands/PlayCommand.h"
 #include "easel/commands/RenderCommand.h"
+#include "easel/commands/SelfDescription.h"
 #include "easel/commands/TemplatesCommand.h"
 #include "easel/commands/WindowCommand.h"
 
@@ -14,7 +15,7 @@
 namespace {
 
 int run(int argc, char** argv) {
-    CLI::App app{"Easel, a drawing application with a gradient tool"};
+    CLI::App app{"Easel, a drawing application with a gradient tool", "easel"};
     app.set_version_flag("--version", "easel " EASEL_VERSION);
     easel::window::StartUp startUp;
     startUp.version = EASEL_VERSION;
@@ -23,6 +24,11 @@ int run(int argc, char** argv) {
     easel::commands::addPlayCommand(app, exitCode);
     easel::commands::addRenderCommand(app, exitCode);
     easel::commands::addTemplatesCommand(app, exitCode);
+    easel::commands::addSelfDescription(app, exitCode);
+    // Last, as a command takes over the words that the program has when it is added.
+    app.footer("Files:\n"
+               "  $XDG_CONFIG_HOME/kestrad (usually ~/.config/kestrad)\n"
+               "The current gradient, the templates and the settings of the window.");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

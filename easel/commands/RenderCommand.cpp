@@ -37,19 +37,24 @@ void addRenderCommand(CLI::App& app, int& exitCode) {
     CLI::App* command =
         app.add_subcommand("render", "Write a drawing as a PNG, PDF or SVG picture, without a display");
     const auto request = std::make_shared<RenderRequest>();
-    command->add_option("IN", request->drawing, "The drawing, an SVG file")->required();
+    command->add_option("DRAWING", request->drawing, "The drawing, an SVG file")->required()->type_name("");
     command
         ->add_option(
-            "OUT", request->picture,
+            "PICTURE", request->picture,
             "The picture; its ending, .png, .pdf or .svg, chooses the format. A PNG has a transparent "
             "background; PDF and SVG keep outlines and gradients as such. A file of that name is replaced")
-        ->required();
-    CLI::Option* const width = command->add_option(
-        "--width", request->size.width,
-        "Make the picture so many pixels wide, its height following (in a PDF, 96 to the inch)");
+        ->required()
+        ->type_name("");
+    CLI::Option* const width =
+        command
+            ->add_option(
+                "--width", request->size.width,
+                "Make the picture so many pixels wide, its height following (in a PDF, 96 to the inch)")
+            ->type_name("PIXELS");
     command
         ->add_option("--scale", request->size.scale,
                      "Make the picture so many times the drawing's size (default 1: a pixel for each unit)")
+        ->type_name("FACTOR")
         ->excludes(width);
     command->footer("Examples:\n"
                     "  easel render flower.svg flower.png --width 1920\n"

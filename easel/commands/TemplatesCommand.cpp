@@ -138,9 +138,10 @@ CLI::App* addAction(CLI::App& command, const std::string& name, const std::strin
                     const Request& request, int& exitCode,
                     int (*action)(const TemplateShelf&, const TemplatesRequest&)) {
     CLI::App* added = command.add_subcommand(name, help);
-    added->add_option(
-        "--prefs", request->preferences,
-        "The preferences folder (default: $XDG_CONFIG_HOME/kestrad, usually ~/.config/kestrad)");
+    added
+        ->add_option("--prefs", request->preferences,
+                     "The preferences folder (default: $XDG_CONFIG_HOME/kestrad, usually ~/.config/kestrad)")
+        ->type_name("FOLDER");
     added->callback([request, &exitCode, action] {
         exitCode = withShelf(*request, [&](const TemplateShelf& shelf) { return action(shelf, *request); });
     });
@@ -164,29 +165,39 @@ void addTemplatesCommand(CLI::App& app, int& exitCode) {
 
     CLI::App* shown =
         addAction(*command, "show", "Print a template's kind, direction and stops", request, exitCode, show);
-    shown->add_option("NAME", request->name, "The template, with or without .GRD")->required();
-    shown->add_option("--picture", request->picture,
-                      "Write a picture of it too: a square in a .png, .pdf or .svg file");
+    shown->add_option("TEMPLATE", request->name, "The template, with or without .GRD")
+        ->required()
+        ->type_name("");
+    shown
+        ->add_option("--picture", request->picture,
+                     "Write a picture of it too: a square in a .png, .pdf or .svg file")
+        ->type_name("PICTURE");
 
     const std::string formats = std::string("its ending chooses the format: ") + exchange::kFormatsInWords;
     CLI::App* exported = addAction(*command, "export", "Write a template to a file for other programs",
                                    request, exitCode, exportTemplate);
-    exported->add_option("NAME", request->name, "The template, with or without .GRD")->required();
-    exported->add_option("FILE", request->file, "The file; " + formats)->required();
+    exported->add_option("TEMPLATE", request->name, "The template, with or without .GRD")
+        ->required()
+        ->type_name("");
+    exported->add_option("FILE", request->file, "The file; " + formats)->required()->type_name("");
     exported->footer("What the format cannot hold is said in a line on standard error.");
 
     CLI::App* imported =
         addAction(*command, "import", "Make templates of gradients in files", request, exitCode, import);
-    imported->add_option("FILE", request->files, "The files; " + formats)->required();
-    imported->add_option("--name", request->newName,
-                         "The template's name (default: the file's, without its ending)");
+    imported->add_option("FILE", request->files, "The files; " + formats)->required()->type_name("");
+    imported
+        ->add_option("--name", request->newName,
+                     "The template's name (default: the file's, without its ending)")
+        ->type_name("NAME");
     imported->footer(
         "A template that is replaced goes to the trash. What a template cannot hold is said in a line on "
         "standard error.");
 
     CLI::App* removed =
         addAction(*command, "delete", "Move a template to the trash", request, exitCode, remove);
-    removed->add_option("NAME", request->name, "The template, with or without .GRD")->required();
+    removed->add_option("TEMPLATE", request->name, "The template, with or without .GRD")
+        ->required()
+        ->type_name("");
 
     command->footer("Exit status: 0, or 2 with a message that names the file and the reason.");
 }

@@ -1,6 +1,8 @@
 // Finds the window's library beside the program and hands over to it.
 #include "easel/commands/WindowCommand.h"
 
+#include "easel/files/ProgramFolders.h"
+
 #include <CLI/CLI.hpp>
 
 #include <cstdlib>
@@ -23,10 +25,13 @@ bool hasDisplay() {
 } // namespace
 
 void addWindowOptions(CLI::App& app, window::StartUp& startUp) {
-    app.add_option("FILE", startUp.files, "Drawings (SVG) to open, each in a window of its own");
+    app.add_option("DRAWING", startUp.files, "Drawings (SVG) to open, each in a window of its own")
+        ->type_name("");
     app.add_option("--plugin", startUp.plugin,
-                   "The plug-in module to load instead of the one beside the program");
-    app.add_option("--prefs", startUp.preferences, "The folder for defaults, templates and settings");
+                   "The plug-in module to load instead of the one that came with the program")
+        ->type_name("MODULE");
+    app.add_option("--prefs", startUp.preferences, "The folder for defaults, templates and settings")
+        ->type_name("FOLDER");
 }
 
 int runWindow(const window::StartUp& startUp, int argc, char** argv) {
@@ -36,8 +41,8 @@ int runWindow(const window::StartUp& startUp, int argc, char** argv) {
                      "The commands play, render and templates work without one; see easel --help.\n";
         return 2;
     }
-    // The program's run path names the folders that may hold the library.
-    void* library = dlopen("libeaselwindow.so", RTLD_NOW | RTLD_LOCAL);
+    const std::filesystem::path file = files::ownLibrary(EASEL_WINDOW_LIBRARY);
+    void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!library) {
         std::cerr << "easel: this build has no window: " << dlerror() << "\n";
         return 2;

@@ -1,6 +1,7 @@
 // Loads the plug-in with the dynamic linker.
 #include "easel/runtime/PluginModule.h"
 
+#include "easel/files/ProgramFolders.h"
 #include "easel/runtime/Process.h"
 
 #include <dlfcn.h>
@@ -75,11 +76,7 @@ fs::path PluginModule::resourceFolder(const fs::path& file) {
 }
 
 fs::path PluginModule::defaultFile() {
-    std::error_code error;
-    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-    const fs::path beside = folder / "plugins" / "Gradient.so";
-    const fs::path installed = folder / ".." / "lib" / "easel" / "plugins" / "Gradient.so";
-    return !fs::exists(beside, error) && fs::exists(installed, error) ? installed.lexically_normal() : beside;
+    return files::pluginFile("Gradient.so");
 }
 
 } // namespace easel::runtime

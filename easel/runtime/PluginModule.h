@@ -39,8 +39,7 @@ class PluginModule {
     std::filesystem::path resourceFolder() const { return resourceFolder(file_); }
     static std::filesystem::path resourceFolder(const std::filesystem::path& file);
 
-    // Where the module of this program is: in `plugins` beside the program, else in `../lib/easel/plugins`.
-    // Gives the first of the two when neither exists, so that the error names the place where it is expected.
+    // Where the module that came with this program is, or is expected.
     static std::filesystem::path defaultFile();
 
   private:

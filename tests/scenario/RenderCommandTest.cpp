@@ -123,7 +123,7 @@ TEST_F(RenderCommand, AFailureLeavesTheOldPicture) {
 TEST_F(RenderCommand, AMissingArgumentIsNamed) {
     const Played run = player.run({"render", "in.svg"});
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_THAT(run.messages, HasSubstr("OUT"));
+    EXPECT_THAT(run.messages, HasSubstr("PICTURE"));
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 // Starts the desktop: the application, the plug-in, the windows; and takes them down in the reverse order.
 #include "easel/window/main/RunWindow.h"
 
+#include "easel/files/ProgramFolders.h"
 #include "easel/runtime/PluginModule.h"
 #include "easel/runtime/Process.h"
 #include "easel/runtime/TemplateFolder.h"
 #include "easel/window/look/EaselStyle.h"
+#include "easel/window/look/PictureIcon.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/Application.h"
 #include "easel/window/main/DesktopUser.h"
@@ -76,7 +78,9 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("kestrad"));
     QCoreApplication::setApplicationName(QStringLiteral("easel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Easel"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("easel"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(EASEL_ID));
+    QGuiApplication::setWindowIcon(
+        pictureIcon(easel::files::sharedFile("icons/hicolor/scalable/apps/" EASEL_ID ".svg")));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     if (!startUp.preferences.empty())
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
