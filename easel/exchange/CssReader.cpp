@@ -22,9 +22,10 @@ struct Reading {
     Mixing mixing = Mixing::Untold;
 };
 
-// The angle of the record: 0 to the right and growing clockwise, where CSS has 0 upwards.
+// The angle of the record: 0 to the right and growing counter-clockwise, where CSS has 0 upwards and grows
+// clockwise.
 void setAngle(CGradientData& gradient, double cssDegrees) {
-    gradient.SetAngle(static_cast<float>(std::remainder(cssDegrees - 90, 360)));
+    gradient.SetAngle(static_cast<float>(std::remainder(90 - cssDegrees, 360)));
 }
 
 std::optional<double> degreesIn(std::string_view word) {

@@ -17,7 +17,7 @@ std::string directionText(const CGradientData& gradient, std::vector<std::string
         notes.emplace_back("its angle is no number; it is taken as 0");
         return "90deg";
     }
-    const double degrees = std::fmod(static_cast<double>(gradient.Angle()) + 90, 360);
+    const double degrees = std::fmod(90 - static_cast<double>(gradient.Angle()), 360);
     return svg::numberText(static_cast<float>(degrees < 0 ? degrees + 360 : degrees)) + "deg";
 }
 

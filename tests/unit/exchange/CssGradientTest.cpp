@@ -40,16 +40,17 @@ double angleOf(const std::string& direction) {
     return static_cast<double>(imported("linear-gradient(" + direction + ", red, blue)").gradient.Angle());
 }
 
+// CSS turns clockwise from upwards, the record counter-clockwise from the right.
 TEST(CssGradient, AnglesTurnFromUpwardsToTheRecordsFromTheRight) {
     EXPECT_EQ(angleOf("90deg"), 0);
     EXPECT_EQ(angleOf("to right"), 0);
-    EXPECT_EQ(angleOf("0.5turn"), 90);
-    EXPECT_EQ(angleOf("to bottom"), 90);
-    EXPECT_EQ(angleOf("0"), -90);
-    EXPECT_EQ(angleOf("to top left"), -135);
+    EXPECT_EQ(angleOf("0.5turn"), -90);
+    EXPECT_EQ(angleOf("to bottom"), -90);
+    EXPECT_EQ(angleOf("0"), 90);
+    EXPECT_EQ(angleOf("to top left"), 135);
     EXPECT_EQ(angleOf("100grad"), 0);
     EXPECT_NEAR(angleOf("1.5707963268rad"), 0, 1e-6);
-    EXPECT_EQ(imported("linear-gradient(red, blue)").gradient.Angle(), 90.F);
+    EXPECT_EQ(imported("linear-gradient(red, blue)").gradient.Angle(), -90.F);
 }
 
 TEST(CssGradient, PositionsThatAreLeftOutAreSpreadEvenly) {
