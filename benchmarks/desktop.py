@@ -49,6 +49,10 @@ class Program:
         open(self.times, "w").close()
         self.read = 0
         environment = os.environ | {"EASEL_TIMES": self.times, "XDG_CONFIG_HOME": settings, "XDG_DATA_HOME": settings}
+        # The offer of templates to begin with would lie above the drawing.
+        os.makedirs(os.path.join(settings, "kestrad"), exist_ok=True)
+        with open(os.path.join(settings, "kestrad", "easel.conf"), "w") as file:
+            file.write("[General]\nstarterTemplatesAnswered=true\n")
         self.begun = time.monotonic()
         self.process = subprocess.Popen([easel, drawing], env=environment, stderr=subprocess.DEVNULL)
 

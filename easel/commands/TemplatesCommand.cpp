@@ -3,6 +3,7 @@
 
 #include "easel/commands/Failure.h"
 #include "easel/exchange/GradientFiles.h"
+#include "easel/exchange/StarterTemplates.h"
 #include "easel/exchange/SvgGradient.h"
 #include "easel/exchange/TemplateShelf.h"
 #include "easel/export/ExportDrawing.h"
@@ -126,6 +127,15 @@ int import(const TemplateShelf& shelf, const TemplatesRequest& request) {
     return exitCode;
 }
 
+int addStarters(const TemplateShelf& shelf, const TemplatesRequest&) {
+    const auto added = exchange::addStarterTemplates(shelf, exchange::starterTemplates());
+    if (!added)
+        return fail(added.error());
+    for (const std::string& name : *added)
+        std::cout << name << "\n";
+    return 0;
+}
+
 int remove(const TemplateShelf& shelf, const TemplatesRequest& request) {
     if (const auto removed = shelf.remove(request.name); !removed)
         return fail(removed.error());
@@ -198,6 +208,12 @@ void addTemplatesCommand(CLI::App& app, int& exitCode) {
     removed->add_option("TEMPLATE", request->name, "The template, with or without .GRD")
         ->required()
         ->type_name("");
+
+    CLI::App* starters = addAction(*command, "starter", "Add the templates that come with the program",
+                                   request, exitCode, addStarters);
+    starters->footer(
+        "Prints the names of those that were added. A template of yours that has the name of one of them "
+        "stays as it is.");
 
     command->footer("Exit status: 0, or 2 with a message that names the file and the reason.");
 }

@@ -25,6 +25,7 @@ void DesktopTest::SetUp() {
     folder_ = pattern;
     for (const char* name : {"config", "data", "home"})
         fs::create_directories(folder_ / name);
+    answerStarterOffer();
     writeDrawing();
 }
 
@@ -41,6 +42,12 @@ void DesktopTest::TearDown() {
     screen().release();
     program_.reset();
     fs::remove_all(folder_);
+}
+
+// The question would stand above the drawing in every test.
+void DesktopTest::answerStarterOffer() const {
+    fs::create_directories(configuration() / "kestrad");
+    std::ofstream(configuration() / "kestrad" / "easel.conf") << "[General]\nstarterTemplatesAnswered=true\n";
 }
 
 void DesktopTest::writeDrawing() const {

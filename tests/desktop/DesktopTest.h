@@ -107,6 +107,8 @@ class DesktopTest : public testing::Test {
     std::string saved();
 
   private:
+    void answerStarterOffer() const;
+
     static std::unique_ptr<Screen> screen_;
     std::filesystem::path folder_;
     std::unique_ptr<Process> program_;

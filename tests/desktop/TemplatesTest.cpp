@@ -8,6 +8,43 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// The first start, at which nothing was answered yet.
+class StarterOfferTest : public DesktopTest {
+  protected:
+    void startForTheFirstTime() {
+        fs::remove(settings());
+        start({});
+        EXPECT_TRUE(getsKeyboard("Untitled"));
+    }
+    fs::path settings() const { return configuration() / "kestrad" / "easel.conf"; }
+    fs::path templates() const { return configuration() / "kestrad" / "Gradient Templates"; }
+    bool isAnswered() const {
+        return contents(settings()).find("starterTemplatesAnswered=true") != std::string::npos;
+    }
+};
+
+TEST_F(StarterOfferTest, TemplatesAreAddedWhenTheyAreWanted) {
+    startForTheFirstTime();
+    EXPECT_FALSE(fs::exists(templates())) << "nothing is put there without being asked";
+    screen().key("alt+a");
+    EXPECT_TRUE(eventually([&] { return fs::exists(templates() / "._Wood.GRD"); }));
+    EXPECT_TRUE(fs::exists(templates() / "Clear Sky.GRD"));
+    EXPECT_TRUE(eventually([&] { return isAnswered(); }));
+    EXPECT_EQ(quit(), 0);
+}
+
+TEST_F(StarterOfferTest, ARefusalIsRemembered) {
+    startForTheFirstTime();
+    screen().key("alt+t");
+    EXPECT_TRUE(eventually([&] { return isAnswered(); }));
+    EXPECT_EQ(quit(), 0);
+    start({});
+    EXPECT_TRUE(getsKeyboard("Untitled"));
+    screen().key("alt+a");
+    EXPECT_EQ(quit(), 0);
+    EXPECT_FALSE(fs::exists(templates()));
+}
+
 class TemplatesTest : public DesktopTest {
   protected:
     // Red, green and blue at equal distances, under that name and under thousands of others.

@@ -50,6 +50,18 @@ TEST_F(TemplatesCommand, ListsTemplatesByNameInThePopupsOrder) {
     EXPECT_EQ(ran.err, "");
 }
 
+TEST_F(TemplatesCommand, AddsTheStartersAndLeavesTemplatesOfTheUserAlone) {
+    saveThreeStops("Gold");
+    const auto ran = run("starter");
+    EXPECT_EQ(ran.exitCode, 0) << ran.err;
+    EXPECT_EQ(std::count(ran.out.begin(), ran.out.end(), '\n'), 11);
+    EXPECT_THAT(ran.out, testing::Not(HasSubstr("Gold")));
+    EXPECT_THAT(run("show Gold").out, HasSubstr("stop    25 %  #ff0000"));
+    // The first color of a sky is above.
+    EXPECT_THAT(run("show 'Clear Sky'").out, HasSubstr("angle   -90 degrees\nstop    0 %  #1d5fb4"));
+    EXPECT_EQ(run("starter").out, "");
+}
+
 TEST_F(TemplatesCommand, ShowsTheStopsWithOrWithoutTheEndingAndMakesAPicture) {
     saveThreeStops("Sunset");
     const auto ran = run("show Sunset --picture s.png");

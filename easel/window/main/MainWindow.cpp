@@ -88,9 +88,13 @@ void MainWindow::setDrawing(drawing::Drawing drawing, const QString& file) {
     file_ = file;
     notice_->tell(joined(drawingWindow_.drawing().notes()));
     toldCosts_.clear();
+    drawingChanged();
+    showAnew();
+}
+
+void MainWindow::showAnew() {
     // The canvas has to have its place beside the notice before it fits the drawing in.
     centralWidget()->layout()->activate();
-    drawingChanged();
     canvas_->showAnew();
 }
 

@@ -43,6 +43,9 @@ class MainWindow : public QMainWindow {
     // Whether nothing was ever done to it and it came from no file, so that it is only a place to open
     // something in.
     bool isPristine() const;
+    NoticeBar& notice() { return *notice_; }
+    // Shows the drawing as when it was opened, beside what the notice bar tells by now.
+    void showAnew();
     // Another drawing takes the place of the one shown.
     void setDrawing(drawing::Drawing drawing, const QString& file);
 

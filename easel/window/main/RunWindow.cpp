@@ -13,6 +13,7 @@
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/PluginSession.h"
 #include "easel/window/main/SharedParts.h"
+#include "easel/window/main/StarterOffer.h"
 #include "easel/window/main/Workspace.h"
 #include "easel/window/waiting/TellProblem.h"
 #include "easel/window/waiting/TerminationSignals.h"
@@ -58,13 +59,15 @@ std::filesystem::path folderOfTemplates(const StartUp& startUp) {
     return found ? *found : std::filesystem::path();
 }
 
-void openFirstWindows(Workspace& workspace, const StartUp& startUp, runtime::Process& process) {
+void openFirstWindows(Workspace& workspace, const StartUp& startUp, SharedParts& shared) {
     // The first window is there before its drawing is read, and shows itself if that takes a while.
     const QPointer<MainWindow> first = &workspace.newDrawing();
     for (const std::filesystem::path& file : startUp.files)
         workspace.openFile(QFile::decodeName(file.c_str()), first);
+    if (first && offerStarterTemplates(first->notice(), shared))
+        first->showAnew();
     // Once the user looks at the window, what the gradient editor will ask for first is made ready.
-    QTimer::singleShot(kAtLeisure, [&process] { process.storage().files().prepareListing(); });
+    QTimer::singleShot(kAtLeisure, [&shared] { shared.process.storage().files().prepareListing(); });
 }
 
 } // namespace
@@ -97,7 +100,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     shared.templateFolder = folderOfTemplates(startUp);
     const TerminationSignals signals([&workspace] { workspace.quit(); });
     QTimer::singleShot(0, &workspace, [&] {
-        openFirstWindows(workspace, startUp, process);
+        openFirstWindows(workspace, startUp, shared);
         if (!plugin.problem().isEmpty())
             tellProblem(plugin.problem().toStdString(), shared.interaction.dialogs);
     });

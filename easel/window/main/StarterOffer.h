@@ -1,0 +1,13 @@
+// The question whether a user without templates would like some to begin with.
+#pragma once
+
+namespace easel::window {
+
+class NoticeBar;
+struct SharedParts;
+
+// Asks in the notice bar, unless the user has templates or has answered before. The bar and the parts outlive
+// the answer. Whether it asked.
+bool offerStarterTemplates(NoticeBar& notice, SharedParts& shared);
+
+} // namespace easel::window
