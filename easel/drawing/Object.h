@@ -20,15 +20,15 @@
 namespace easel::drawing {
 
 // Values are the kind numbers that plug-ins see; 0 stands for "no object" there.
-enum class Kind : std::uint8_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line };
+enum class Kind : std::uint8_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line, Picture };
 
-inline constexpr Kind kAllKinds[] = {Kind::Rect, Kind::Ellipse,  Kind::Polygon,
-                                     Kind::Path, Kind::Polyline, Kind::Line};
+inline constexpr Kind kAllKinds[] = {Kind::Rect,     Kind::Ellipse, Kind::Polygon, Kind::Path,
+                                     Kind::Polyline, Kind::Line,    Kind::Picture};
 
-// "rect", "ellipse", "polygon", "path", "polyline", "line".
+// "rect", "ellipse", "polygon", "path", "polyline", "line", "picture".
 std::string_view kindName(Kind kind);
 std::optional<Kind> kindFromName(std::string_view name);
-// Closed kinds carry gradients: all but polyline and line.
+// Closed shapes carry gradients: all but polyline, line and picture.
 bool carriesGradient(Kind kind);
 
 // A set of kinds, such as the filter of a pick.
@@ -82,7 +82,7 @@ struct Object {
     RemainderPtr remainder;             // what the record cannot hold
     GroupPtr group;                     // innermost layer; null: the drawing itself
     // Painted over fill and stroke as far as the object itself shows, back to front: arrow heads and the
-    // like. Their groups are theirs alone. Null: none.
+    // like, and what a picture made of shapes holds. Their groups are theirs alone. Null: none.
     std::shared_ptr<const std::vector<std::shared_ptr<const Object>>> markers;
 
     // Tight box of the outline, without stroke. Kept by `sealed`.

@@ -1,4 +1,4 @@
-// What shapes are painted with: plain colors and gradients.
+// What shapes are painted with: plain colors, gradients, patterns and pictures.
 #pragma once
 
 #include "easel/drawing/Gradient.h"
@@ -19,10 +19,15 @@ struct NoPaint {
     friend bool operator==(const NoPaint&, const NoPaint&) = default;
 };
 
+struct Pattern;
+struct PlacedPicture;
+
 // Never null in a paint.
 using GradientPtr = std::shared_ptr<const Gradient>;
+using PatternPtr = std::shared_ptr<const Pattern>;
+using PicturePtr = std::shared_ptr<const PlacedPicture>;
 
-using Paint = std::variant<NoPaint, ColorPaint, GradientPtr>;
+using Paint = std::variant<NoPaint, ColorPaint, GradientPtr, PatternPtr, PicturePtr>;
 
 // The gradient of a paint that is one, else null.
 inline const Gradient* gradientIn(const Paint& paint) {

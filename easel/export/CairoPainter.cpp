@@ -270,10 +270,33 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
     const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
     if (!source.visible())
         return;
-    setSource(source.source(), opacity * drawing::validOpacity(drawing::styleOf(object).fillOpacity));
+    opacity *= drawing::validOpacity(drawing::styleOf(object).fillOpacity);
+    if (source.picture())
+        return paintPicture(object, *source.picture(), opacity);
+    setSource(source.source(), opacity);
     addPath(object.outline);
     cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
     cairo_fill(cairo_);
+}
+
+void CairoPainter::paintPicture(const Object& object, const drawing::PlacedPicture& picture, double opacity) {
+    cairo_surface_t* const surface = pictures_.surfaceOf(picture.picture);
+    if (!surface || !picture.toDrawing.invertible())
+        return;
+    const Saved saved(cairo_);
+    addPath(object.outline);
+    cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
+    cairo_clip(cairo_);
+    const cairo_matrix_t own = matrixOf(picture.toDrawing);
+    cairo_transform(cairo_, &own);
+    cairo_set_source_surface(cairo_, surface, 0, 0);
+    // On pixels, the clip alone is to make its sides smooth. A PDF keeps the picture's own file as long as
+    // nothing goes on beyond it.
+    if (cairo_surface_get_type(cairo_get_target(cairo_)) == CAIRO_SURFACE_TYPE_IMAGE)
+        cairo_pattern_set_extend(cairo_get_source(cairo_), CAIRO_EXTEND_PAD);
+    cairo_pattern_set_filter(cairo_get_source(cairo_),
+                             picture.smooth ? CAIRO_FILTER_GOOD : CAIRO_FILTER_NEAREST);
+    cairo_paint_with_alpha(cairo_, opacity);
 }
 
 void CairoPainter::paintStroke(const Object& object, double opacity) {

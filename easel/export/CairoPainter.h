@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/CairoPicture.h"
 #include "easel/export/Progress.h"
 #include "easel/paint/Painter.h"
 
@@ -41,6 +42,7 @@ class CairoPainter {
     // A pattern whose alpha is what the mask shows.
     Pattern maskPattern(const drawing::Mask& mask);
     Pattern maskPicture(const drawing::Mask& mask);
+    void paintPicture(const drawing::Object& object, const drawing::PlacedPicture& picture, double opacity);
 
     void setSource(const paint::PaintSource& source, double opacity);
     void setGradient(const drawing::Gradient& gradient, double opacity);
@@ -52,6 +54,7 @@ class CairoPainter {
     double detail_;
     bool blends_ = false;           // anywhere in the drawing
     bool luminanceAsAlpha_ = false; // colors are painted with their luminance in the place of their opacity
+    CairoPictures pictures_;
     PieceCount painted_;
 };
 

@@ -8,6 +8,7 @@
 #include "easel/svg/style/Color.h"
 #include "easel/svg/write/ElementText.h"
 #include "easel/svg/write/GradientElement.h"
+#include "easel/svg/write/PictureText.h"
 #include "easel/svg/write/StyleText.h"
 
 #include <algorithm>
@@ -17,6 +18,7 @@
 namespace easel::exports {
 
 using drawing::Affine;
+using drawing::Box;
 using drawing::Object;
 using svg::attribute;
 using svg::attributeUnless;
@@ -25,6 +27,14 @@ using svg::referenceTo;
 using svg::transformAttribute;
 
 namespace {
+
+// Whether the outline cuts something off the picture; it is no larger than the picture.
+bool showsInPart(const Object& object, const drawing::PlacedPicture& placed) {
+    constexpr double kUnseen = 1e-6; // of a pixel
+    const Box shown = object.outline.transformed(placed.toDrawing.inverse()).bounds();
+    return shown.left > kUnseen || shown.top > kUnseen || shown.right < placed.picture->width() - kUnseen ||
+           shown.bottom < placed.picture->height() - kUnseen;
+}
 
 class SvgWriter {
   public:
@@ -70,6 +80,9 @@ class SvgWriter {
     void writeObject(const Object& object) {
         written_.next();
         const drawing::Style& style = drawing::styleOf(object);
+        if (const auto* const picture = std::get_if<drawing::PicturePtr>(&object.fill);
+            picture && object.kind == drawing::Kind::Picture)
+            return writePicture(object, **picture);
         const Affine units = drawing::penUnitsOf(object);
         const bool stroked = drawing::strokes(style) && units.invertible();
         // Where it shows, the pen keeps the shape that the object's own units give it.
@@ -91,6 +104,30 @@ class SvgWriter {
             writeWithin(nullptr, *object.markers);
             body_ += "</g>\n";
         }
+    }
+    // What is cut off by its outline is hidden by a clip path of the same outline.
+    void writePicture(const Object& object, const drawing::PlacedPicture& placed) {
+        const drawing::Picture& picture = *placed.picture;
+        const bool cut = showsInPart(object, placed);
+        body_ += "<g" + attribute("id", object.id.text()) +
+                 attributeUnless(1, "opacity", drawing::validOpacity(drawing::styleOf(object).opacity));
+        if (cut)
+            body_ += attribute("clip-path", referenceTo(outlineClip(object)));
+        body_ += ">\n";
+        const std::string place =
+            transformAttribute("transform", placed.toDrawing) + svg::renderingText(placed);
+        std::string& name = pictureNames_[&picture];
+        if (name.empty()) {
+            name = newName("picture");
+            definitions_ += "<image" + attribute("id", name) + svg::pictureAttributes(picture) + "/>\n";
+        }
+        body_ += "<use" + attribute("href", '#' + name) + place + "/>\n</g>\n";
+    }
+    std::string outlineClip(const Object& object) {
+        const std::string name = newName("clip");
+        definitions_ += "<clipPath" + attribute("id", name) + "><path" +
+                        attribute("d", pathText(object.outline)) + "/></clipPath>\n";
+        return name;
     }
     std::string fillText(const Object& object, const Affine& toOwn) {
         const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
@@ -198,6 +235,7 @@ class SvgWriter {
     std::string prefix_ = "easel-";
     int named_ = 0;
     std::map<std::string, std::string> gradientNames_;
+    std::map<const drawing::Picture*, std::string> pictureNames_;
     std::map<const drawing::ClipPath*, std::string> clipNames_;
     std::map<const drawing::Mask*, std::string> maskNames_;
     std::string definitions_;

@@ -14,6 +14,12 @@ HeldPaintSource::HeldPaintSource(const drawing::Paint& paint) {
     } else if (const auto* gradient = drawing::gradientIn(paint)) {
         gradient_ = *gradient;
         visible_ = true;
+    } else if (const auto* picture = std::get_if<drawing::PicturePtr>(&paint)) {
+        picture_ = picture->get();
+        visible_ = true;
+    } else if (const auto* pattern = std::get_if<drawing::PatternPtr>(&paint)) {
+        pattern_ = pattern->get();
+        visible_ = true;
     }
 }
 

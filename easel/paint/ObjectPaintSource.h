@@ -4,13 +4,16 @@
 #include "easel/drawing/Gradient.h"
 #include "easel/drawing/GradientFit.h"
 #include "easel/drawing/Object.h"
+#include "easel/drawing/Pattern.h"
+#include "easel/drawing/Picture.h"
 #include "easel/paint/Painter.h"
 
 #include <optional>
 
 namespace easel::paint {
 
-// A paint source together with the gradient it may refer to. Stays where it was made.
+// A paint source together with the gradient it may refer to. Stays where it was made, and no
+// longer than the object.
 class HeldPaintSource {
   public:
     HeldPaintSource(const HeldPaintSource&) = delete;
@@ -22,6 +25,10 @@ class HeldPaintSource {
 
     // False where nothing is painted.
     bool visible() const { return visible_; }
+    // What has to be made into an image before it is painted; null if it is neither.
+    const drawing::PlacedPicture* picture() const { return picture_; }
+    const drawing::Pattern* pattern() const { return pattern_; }
+    // Everything else.
     PaintSource source() const { return gradient_ ? PaintSource(&*gradient_) : PaintSource(color_); }
 
   private:
@@ -31,6 +38,8 @@ class HeldPaintSource {
 
     drawing::ColorPaint color_;
     std::optional<drawing::Gradient> gradient_;
+    const drawing::PlacedPicture* picture_ = nullptr; // of the object
+    const drawing::Pattern* pattern_ = nullptr;       // of the object
     bool visible_ = false;
 };
 

@@ -38,6 +38,11 @@ PixelRect pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelRe
     return pixelsUnder(box, toSurface, limit);
 }
 
+Image imageOf(const drawing::PicturePixels& pixels, const drawing::PlacedPicture& placed) {
+    return {pixels.pixels.data(), pixels.width, pixels.height, pixels.width,
+            placed.toDrawing,     false,        placed.smooth};
+}
+
 bool shows(const Object& object, drawing::PaintStep step) {
     return step == drawing::PaintStep::Fill ? object.fillPattern != drawing::FillPattern::None
                                             : drawing::strokes(drawing::styleOf(object));
@@ -138,18 +143,19 @@ void ObjectPainter::paintSteps(const Object& object, const SurfaceView& surface,
 void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                               double opacity) {
     const HeldPaintSource fill = HeldPaintSource::ofFill(object);
-    if (fill.visible())
-        painter_.fill(surface, object.outline, object.fillRule, toSurface, fill.source(),
+    withSource(fill, object, surface, toSurface, [&](const PaintSource& source) {
+        painter_.fill(surface, object.outline, object.fillRule, toSurface, source,
                       opacity * drawing::styleOf(object).fillOpacity);
+    });
 }
 
 // The pen is round in the object's own units only, so the stroke is made there and mapped to the drawing.
 void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                                 double opacity) {
-    const HeldPaintSource source = HeldPaintSource::ofStroke(object);
+    const HeldPaintSource held = HeldPaintSource::ofStroke(object);
     const Affine units = drawing::penUnitsOf(object);
     const double scale = (toSurface * units).largestScale();
-    if (!source.visible() || !units.invertible() || !(scale > 0))
+    if (!held.visible() || !units.invertible() || !(scale > 0))
         return;
     const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
     const bool sameUnits = units == Affine{};
@@ -162,8 +168,24 @@ void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface
                                   return receiver(corners);
                               });
     };
-    painter_.fill(surface, polygons, drawing::FillRule::NonZero, toSurface, source.source(),
-                  opacity * stroke.opacity);
+    withSource(held, object, surface, toSurface, [&](const PaintSource& source) {
+        painter_.fill(surface, polygons, drawing::FillRule::NonZero, toSurface, source,
+                      opacity * stroke.opacity);
+    });
+}
+
+template <class Fill>
+void ObjectPainter::withSource(const HeldPaintSource& held, const Object&, const SurfaceView&, const Affine&,
+                               const Fill& fill) {
+    if (!held.visible())
+        return;
+    if (!held.picture())
+        return fill(held.source());
+    const auto pixels = held.picture()->picture->pixels();
+    if (!pixels)
+        return;
+    const Image image = imageOf(*pixels, *held.picture());
+    fill(PaintSource(&image));
 }
 
 } // namespace easel::paint

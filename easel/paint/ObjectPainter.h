@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Object.h"
+#include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/Painter.h"
 
 #include <span>
@@ -36,6 +37,11 @@ class ObjectPainter {
                    const drawing::Affine& toSurface, double opacity);
     void paintStroke(const drawing::Object& object, const SurfaceView& surface,
                      const drawing::Affine& toSurface, double opacity);
+
+    // Calls `fill` with the source as the painter takes it, or not at all if there is nothing to show.
+    template <class Fill>
+    void withSource(const HeldPaintSource& held, const drawing::Object& object, const SurfaceView& surface,
+                    const drawing::Affine& toSurface, const Fill& fill);
 
     Painter painter_;
     std::size_t layerBytes_ = 0; // of the groups that are being painted

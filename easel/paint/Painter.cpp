@@ -5,6 +5,8 @@
 #include "easel/paint/gradient/FlatShader.h"
 #include "easel/paint/gradient/PointShader.h"
 #include "easel/paint/gradient/RadialShader.h"
+#include "easel/paint/picture/StraightImageShader.h"
+#include "easel/paint/picture/TurnedImageShader.h"
 
 #include <cmath>
 #include <limits>
@@ -64,6 +66,37 @@ ParameterRange rangeOf(const RadialMap& map, const PixelRect& area) {
     return {-map.radius / map.radiusStep, cornersRange(map, area).highest};
 }
 
+// Beyond it, doubles no longer tell pixels apart.
+constexpr double kFarthestPixel = 1e12;
+
+bool canBeComputed(const Affine& toImage) {
+    const auto near = [](double value) { return std::abs(value) <= kFarthestPixel; };
+    return near(toImage.a) && near(toImage.b) && near(toImage.c) && near(toImage.d) && near(toImage.e) &&
+           near(toImage.f);
+}
+
+// Whether the map turns so little that no pixel of the area shows it.
+bool isStraight(const Affine& toImage, const PixelRect& area) {
+    constexpr double kUnseen = 1e-3;
+    return std::abs(toImage.c) * area.bottom < kUnseen && std::abs(toImage.b) * area.right < kUnseen;
+}
+
+// Calls `use` with the shader for the image, or not at all if it has no extent.
+template <class Use>
+void withImageShader(const SurfaceView& surface, const PixelRect& area, const Affine& toSurface,
+                     const Image& image, double opacity, const Use& use) {
+    const Affine placed = toSurface * image.toDrawing;
+    const Affine toImage = placed.inverse();
+    if (!placed.invertible() || !canBeComputed(toImage))
+        return;
+    if (isStraight(toImage, area)) {
+        StraightImageShader shader(surface, area, image, toImage, opacity);
+        return use(shader);
+    }
+    TurnedImageShader shader(surface, area, image, toImage, opacity);
+    use(shader);
+}
+
 } // namespace
 
 // Calls `use` with the shader for the paint source, which serves the pixels of `area`.
@@ -76,6 +109,8 @@ void Painter::withShader(const SurfaceView& surface, const PixelRect& area, cons
         FlatShader shader(surface, colorSpans_, opacity);
         return use(shader);
     }
+    if (const auto* image = std::get_if<const Image*>(&source))
+        return withImageShader(surface, area, toSurface, **image, opacity, use);
     const drawing::Gradient& gradient = *std::get<const drawing::Gradient*>(source);
     const ParameterMap map = parameterMapOf(gradient, toSurface);
     const auto laidOut = [&](const auto& known) {

@@ -1,4 +1,4 @@
-// Fills shapes with colors and gradients.
+// Fills shapes with colors, gradients and images.
 #pragma once
 
 #include "easel/drawing/Gradient.h"
@@ -8,6 +8,7 @@
 #include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/gradient/LinearShader.h"
 #include "easel/paint/gradient/RadialPiece.h"
+#include "easel/paint/picture/Image.h"
 #include "easel/paint/pixels/Surface.h"
 
 #include <functional>
@@ -16,8 +17,9 @@
 
 namespace easel::paint {
 
-// What a shape is filled with. A gradient is only referred to and must live through the call it is given to.
-using PaintSource = std::variant<drawing::ColorPaint, const drawing::Gradient*>;
+// What a shape is filled with. A gradient or an image is only referred to and must live through the call it
+// is given to.
+using PaintSource = std::variant<drawing::ColorPaint, const drawing::Gradient*, const Image*>;
 
 // Hands over the corners of one polygon after the other, which the receiver may change, until it says that no
 // more are wanted. Gives a factor for the opacity that they are painted with. Asked again, it hands over the
@@ -25,10 +27,10 @@ using PaintSource = std::variant<drawing::ColorPaint, const drawing::Gradient*>;
 using PolygonReceiver = std::function<bool(std::span<drawing::Point>)>;
 using PolygonSource = std::function<double(const PolygonReceiver&)>;
 
-// Shapes and gradients are in drawing coordinates, which `toSurface` maps to surface coordinates, where pixel
-// (x, y) covers x to x + 1 and y to y + 1. A pixel takes the color at its centre, weighted by the exact share
-// of its area that the shape covers, and is composed over what was there. Nothing is painted outside the
-// view's clip. `opacity`, from 0 to 1, multiplies that of the paint source.
+// Shapes, gradients and images are in drawing coordinates, which `toSurface` maps to surface coordinates,
+// where pixel (x, y) covers x to x + 1 and y to y + 1. A pixel takes the color at its centre, weighted by the
+// exact share of its area that the shape covers, and is composed over what was there. Nothing is painted
+// outside the view's clip. `opacity`, from 0 to 1, multiplies that of the paint source.
 //
 // A painter keeps scratch memory from one fill to the next; use one for each thread.
 class Painter {

@@ -64,9 +64,11 @@ Path outlineOf(Kind kind, Arguments& arguments) {
     case Kind::Polyline:
         return drawing::polylinePath(arguments.points(2));
     case Kind::Line:
+        return line(arguments);
+    case Kind::Picture:
         break;
     }
-    return line(arguments);
+    throw PlayError("a picture cannot be added");
 }
 
 std::shared_ptr<const drawing::Style> thinLine() {

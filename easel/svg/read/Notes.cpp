@@ -7,7 +7,11 @@ namespace {
 // In the order of the enumeration.
 constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
     "Text is kept in the file but not shown.",
-    "Images are kept in the file but not shown.",
+    "Videos and canvases are kept in the file but not shown.",
+    "Pictures that are neither PNG, JPEG, GIF, WebP nor SVG are kept in the file but not shown.",
+    "Pictures that are damaged are kept in the file but not shown.",
+    "Pictures of more than 32 million pixels are kept in the file but not shown.",
+    "Pictures outside the file are not read.",
     "Content in other languages than SVG is kept in the file but not shown.",
     "Scripts are kept in the file but not run.",
     "Animations are kept in the file but not played.",
@@ -29,8 +33,8 @@ constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
 void Notes::addElement(std::string_view svgName) {
     if (svgName == "text" || svgName.substr(0, 4) == "flow")
         add(Unsupported::Text);
-    else if (svgName == "image" || svgName == "video" || svgName == "canvas")
-        add(Unsupported::Image);
+    else if (svgName == "video" || svgName == "canvas")
+        add(Unsupported::Video);
     else if (svgName == "foreignObject")
         add(Unsupported::Foreign);
     else if (svgName == "script")

@@ -11,7 +11,11 @@ namespace easel::svg {
 
 enum class Unsupported : std::uint8_t {
     Text,
-    Image,
+    Video,
+    PictureFormat,
+    PictureDamaged,
+    PictureTooLarge,
+    PictureElsewhere,
     Foreign,
     Script,
     Animation,
@@ -27,7 +31,7 @@ enum class Unsupported : std::uint8_t {
     DeepLayer,
     LinearLight,
 };
-inline constexpr std::size_t kUnsupportedCount = 16;
+inline constexpr std::size_t kUnsupportedCount = 20;
 
 class Notes {
   public:

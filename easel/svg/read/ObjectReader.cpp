@@ -180,6 +180,29 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
     return object;
 }
 
+std::optional<Object> ObjectReader::readPicture(pugi::xml_node element, const drawing::Path& outline,
+                                                drawing::PlacedPicture picture, double opacity,
+                                                const Place& place) {
+    scene_.budget.spend(Budget::kObject);
+    auto placed = placedPath(outline, place.toDrawing);
+    if (!placed) {
+        scene_.notes.add(Unsupported::OutOfRange);
+        return std::nullopt;
+    }
+    Object object;
+    object.kind = Kind::Picture;
+    object.id = element.attribute("id").value();
+    object.outline = std::move(*placed);
+    object.units = sharedUnits(place.toDrawing);
+    object.fillPattern = FillPattern::Other;
+    picture.toDrawing = place.toDrawing * picture.toDrawing;
+    object.fill = std::make_shared<const drawing::PlacedPicture>(std::move(picture));
+    Style style;
+    style.opacity = opacity;
+    object.style = shared(std::move(style));
+    return object;
+}
+
 std::shared_ptr<const ContextPaints> ObjectReader::contextOf(const Shape& shape, const Place& place) const {
     const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
     return std::make_shared<const ContextPaints>(

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Object.h"
+#include "easel/drawing/Picture.h"
 #include "easel/svg/read/Scene.h"
 #include "easel/svg/read/Shapes.h"
 
@@ -19,6 +20,11 @@ class ObjectReader {
     // Nothing, which is noted, if its numbers are out of range.
     std::optional<drawing::Object> read(pugi::xml_node element, const Shape& shape, double opacity,
                                         const Place& place);
+
+    // A picture that shows inside the outline, which is in the element's own units.
+    std::optional<drawing::Object> readPicture(pugi::xml_node element, const drawing::Path& outline,
+                                               drawing::PlacedPicture picture, double opacity,
+                                               const Place& place);
 
     // What the markers of that shape may be painted with.
     std::shared_ptr<const ContextPaints> contextOf(const Shape& shape, const Place& place) const;

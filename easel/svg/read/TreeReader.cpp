@@ -33,7 +33,8 @@ std::string_view attributeText(pugi::xml_node element, const char* name) {
 } // namespace
 
 TreeReader::TreeReader(const Scene& scene, Source& source, std::function<bool(double)> progress)
-    : scene_(scene), source_(source), progress_(std::move(progress)), clips_(scene), reader_(scene) {}
+    : scene_(scene), source_(source), progress_(std::move(progress)), clips_(scene), reader_(scene),
+      pictures_(scene) {}
 
 void TreeReader::tick() {
     if (++visited_ % kTick != 0 || !progress_)
@@ -115,6 +116,8 @@ void TreeReader::readElement(pugi::xml_node element, const Place& place) {
         return;
     if (isShape(name))
         readShapeElement(element, name, place);
+    else if (name == "image")
+        readImage(element, place);
     else if (name == "g" || name == "a" || name == "svg" || name == "switch" || name == "use")
         readContainer(element, name, place);
     else
@@ -169,14 +172,19 @@ void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name,
     auto object = reader_.read(element, *shape, parseOpacity(stated[Property::Opacity], 1), inside);
     if (!object)
         return;
-    addGroup(inside, effectsOf(stated, box, inside));
-    object->group = inside.group;
     addMarkers(*object, *shape, inside);
+    addObject(std::move(*object), element, stated, box, std::move(inside));
+}
+
+void TreeReader::addObject(Object object, pugi::xml_node element, const StatedStyle& stated, const Box& box,
+                           Place inside) {
+    addGroup(inside, effectsOf(stated, box, inside));
+    object.group = inside.group;
     if (apart_ == 0)
-        addSource(*object, element, place.use);
+        addSource(object, element, inside.use);
     else
-        object->id = drawing::Name();
-    objects_.push_back(sealed(std::move(*object)));
+        object.id = drawing::Name();
+    objects_.push_back(sealed(std::move(object)));
 }
 
 void TreeReader::addSource(Object& object, pugi::xml_node element, std::uint32_t use) {

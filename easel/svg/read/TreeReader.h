@@ -5,6 +5,7 @@
 #include "easel/svg/read/DrawingSize.h"
 #include "easel/svg/read/MarkerVertices.h"
 #include "easel/svg/read/ObjectReader.h"
+#include "easel/svg/read/PictureReader.h"
 #include "easel/svg/read/Scene.h"
 #include "easel/svg/text/Source.h"
 
@@ -65,6 +66,11 @@ class TreeReader {
     void readElement(pugi::xml_node element, const Place& place);
     void readContainer(pugi::xml_node element, std::string_view name, const Place& place);
     void readShapeElement(pugi::xml_node element, std::string_view name, const Place& place);
+    void readImage(pugi::xml_node element, const Place& place);
+    // Adds an object that was read of the element. `box` is that of the element in its own units, in which
+    // `inside` is.
+    void addObject(drawing::Object object, pugi::xml_node element, const StatedStyle& stated,
+                   const drawing::Box& box, Place inside);
     void addMarkers(drawing::Object& object, const Shape& shape, const Place& place);
     void readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
                     std::vector<drawing::ObjectPtr>& markers);
@@ -109,6 +115,7 @@ class TreeReader {
     std::function<bool(double)> progress_;
     ClipReader clips_;
     ObjectReader reader_;
+    PictureReader pictures_;
     std::vector<drawing::ObjectPtr> objects_;
     std::vector<pugi::xml_node> open_;        // `use` elements whose targets are being read
     std::vector<pugi::xml_node> openMarkers_; // that are being read

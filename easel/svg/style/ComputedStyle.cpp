@@ -221,6 +221,11 @@ ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext&
     reader.read(Property::Visibility, &ComputedStyle::visible, [](std::string_view text) {
         return std::optional(!equalIgnoringCase(text, "hidden") && !equalIgnoringCase(text, "collapse"));
     });
+    reader.read(Property::ImageRendering, &ComputedStyle::smoothPictures, [](std::string_view text) {
+        return std::optional(!equalIgnoringCase(text, "optimizeSpeed") &&
+                             !equalIgnoringCase(text, "pixelated") &&
+                             !equalIgnoringCase(text, "crisp-edges"));
+    });
     return result;
 }
 

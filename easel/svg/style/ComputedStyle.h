@@ -47,6 +47,7 @@ struct ComputedStyle {
     drawing::PaintStep first = drawing::PaintStep::Fill;
     bool visible = true;
     bool fixedStroke = false; // the element's own: whether its stroke is as wide as if nothing were scaled
+    bool smoothPictures = true;
     std::array<std::string_view, 3>
         markers; // ids of those at the start, in between and at the end; empty: none
     std::shared_ptr<const ContextPaints> context; // null: outside of markers

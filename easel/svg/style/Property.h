@@ -26,6 +26,7 @@ enum class Property : std::uint8_t {
     Filter,
     FontSize,
     Height,
+    ImageRendering,
     Isolation,
     Marker,
     MarkerEnd,
@@ -59,7 +60,7 @@ enum class Property : std::uint8_t {
     X,
     Y,
 };
-inline constexpr std::size_t kPropertyCount = 46;
+inline constexpr std::size_t kPropertyCount = 47;
 
 std::optional<Property> propertyFromName(std::string_view name);
 

@@ -3,6 +3,7 @@
 #include "easel/svg/style/Color.h"
 #include "easel/svg/text/Number.h"
 #include "easel/svg/write/ElementText.h"
+#include "easel/svg/write/PictureText.h"
 #include "easel/svg/write/StyleText.h"
 
 namespace easel::svg {
@@ -119,10 +120,20 @@ std::string fillAttributes(const Object& object, GradientBlock& gradients) {
            ruleText("fill-rule", object.fillRule);
 }
 
+// In the units of its pixels.
+std::string pictureText(const Object& object, const drawing::PlacedPicture& placed,
+                        const Affine& placeToDrawing, const std::string& prefix) {
+    return '<' + prefix + "image" + attribute("id", object.id.text()) + pictureAttributes(*placed.picture) +
+           transformAttribute("transform", placeToDrawing.inverse() * placed.toDrawing) +
+           renderingText(placed) + attributeUnless(1, "opacity", styleOf(object).opacity) + "/>";
+}
+
 } // namespace
 
 std::string objectText(const Object& object, const Affine& placeToDrawing, const std::string& prefix,
                        GradientBlock& gradients) {
+    if (const auto* const picture = std::get_if<drawing::PicturePtr>(&object.fill))
+        return pictureText(object, **picture, placeToDrawing, prefix);
     const Affine own = unitsOf(object);
     const bool ownUnits = own.invertible();
     const Affine units = ownUnits ? own : placeToDrawing;
