@@ -273,10 +273,26 @@ void CairoPainter::paintFill(const Object& object, double opacity) {
     opacity *= drawing::validOpacity(drawing::styleOf(object).fillOpacity);
     if (source.picture())
         return paintPicture(object, *source.picture(), opacity);
-    setSource(source.source(), opacity);
-    addPath(object.outline);
-    cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
-    cairo_fill(cairo_);
+    withSource(source, opacity, [&] {
+        addPath(object.outline);
+        cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
+        cairo_fill(cairo_);
+    });
+}
+
+template <class Use>
+void CairoPainter::withSource(const paint::HeldPaintSource& held, double opacity, Use use) {
+    if (!held.pattern()) {
+        setSource(held.source(), opacity);
+        return use();
+    }
+    const auto patterned = [&] {
+        if (setPattern(*held.pattern()))
+            use();
+    };
+    if (opacity >= 1)
+        return patterned();
+    apart(patterned, [&](cairo_pattern_t* result) { paintPattern(cairo_, result, opacity); });
 }
 
 void CairoPainter::paintPicture(const Object& object, const drawing::PlacedPicture& picture, double opacity) {
@@ -305,8 +321,13 @@ void CairoPainter::paintStroke(const Object& object, double opacity) {
     const drawing::Affine units = drawing::penUnitsOf(object);
     if (!source.visible() || !units.invertible() || !std::isfinite(stroke.width))
         return;
+    withSource(source, opacity * drawing::validOpacity(stroke.opacity),
+               [&] { strokeOutline(object, units); });
+}
+
+void CairoPainter::strokeOutline(const Object& object, const drawing::Affine& units) {
+    const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
     const Saved saved(cairo_);
-    setSource(source.source(), opacity * drawing::validOpacity(stroke.opacity));
     addPath(object.outline);
     // The path is already fixed in the page's space; what is changed now is the shape of the pen.
     const cairo_matrix_t own = matrixOf(units);

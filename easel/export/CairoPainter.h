@@ -4,6 +4,7 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/export/CairoPicture.h"
 #include "easel/export/Progress.h"
+#include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/Painter.h"
 
 #include <memory>
@@ -32,6 +33,8 @@ class CairoPainter {
     void paintObject(const drawing::Object& object);
     void paintFill(const drawing::Object& object, double opacity);
     void paintStroke(const drawing::Object& object, double opacity);
+    // With the source that the context has. `units` shape the pen.
+    void strokeOutline(const drawing::Object& object, const drawing::Affine& units);
     // Paints something through the clip path.
     template <class Content> void clipped(const drawing::ClipPath* clip, Content paint);
     // Narrows the context's clip; false, having done nothing, if only a mask can say it.
@@ -44,7 +47,11 @@ class CairoPainter {
     Pattern maskPicture(const drawing::Mask& mask);
     void paintPicture(const drawing::Object& object, const drawing::PlacedPicture& picture, double opacity);
 
+    // Calls `use` when the context has the source, with `opacity` from 0 to 1 in it or laid on the result.
+    template <class Use> void withSource(const paint::HeldPaintSource& held, double opacity, Use use);
     void setSource(const paint::PaintSource& source, double opacity);
+    // False, having done nothing, for a pattern without extent.
+    bool setPattern(const drawing::Pattern& pattern);
     void setGradient(const drawing::Gradient& gradient, double opacity);
     // What share of its opacity a color is painted with.
     double shareOf(const drawing::Rgb16& color) const;

@@ -38,6 +38,8 @@ std::optional<LightRange> rangeOf(const drawing::Gradient& gradient) {
 std::optional<LightRange> rangeOf(const paint::HeldPaintSource& held) {
     if (!held.visible())
         return kBlack;
+    if (held.picture() || held.pattern())
+        return std::nullopt;
     const paint::PaintSource source = held.source();
     if (const auto* const gradient = std::get_if<const drawing::Gradient*>(&source))
         return rangeOf(**gradient);

@@ -133,16 +133,42 @@ class SvgWriter {
         const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
         if (!source.visible())
             return attribute("fill", "none");
-        return paintText("fill", source.source(), drawing::styleOf(object).fillOpacity, toOwn);
+        return heldText("fill", source, drawing::styleOf(object).fillOpacity, toOwn);
     }
     std::string strokeText(const Object& object, const Affine& toOwn) {
         const paint::HeldPaintSource source = paint::HeldPaintSource::ofStroke(object);
         if (!source.visible())
             return {};
         const drawing::Stroke& stroke = drawing::styleOf(object).stroke;
-        return paintText("stroke", source.source(), stroke.opacity, toOwn) +
+        return heldText("stroke", source, stroke.opacity, toOwn) +
                attributeUnless(1, "stroke-width", stroke.width) +
                svg::penText(stroke, svg::Defaults::LeftOut);
+    }
+
+    std::string heldText(const std::string& property, const paint::HeldPaintSource& held, double opacity,
+                         const Affine& toOwn) {
+        if (!held.pattern())
+            return paintText(property, held.source(), opacity, toOwn);
+        return attribute(property, referenceTo(patternName(*held.pattern(), toOwn))) +
+               attributeUnless(1, property + "-opacity", drawing::validOpacity(opacity));
+    }
+    // Its content is written as if the cell began where its units do.
+    std::string patternName(const drawing::Pattern& pattern, const Affine& toOwn) {
+        const Affine toCell = Affine::translation(pattern.cell.left, pattern.cell.top);
+        const std::string place = transformAttribute("patternTransform", toOwn * pattern.toDrawing * toCell);
+        std::string& name = patternNames_[{&pattern, place}];
+        if (!name.empty())
+            return name;
+        name = newName("pattern");
+        std::string outside = std::exchange(body_, {});
+        writeWithin(nullptr, *pattern.objects);
+        const std::string content = std::exchange(body_, std::move(outside));
+        definitions_ +=
+            "<pattern" + attribute("id", name) + attribute("patternUnits", "userSpaceOnUse") +
+            attribute("width", pattern.cell.width()) + attribute("height", pattern.cell.height()) + place +
+            (pattern.showsOverflow ? attribute("overflow", "visible") : "") + "><g" +
+            transformAttribute("transform", toCell.inverse()) + ">\n" + content + "</g></pattern>\n";
+        return name;
     }
 
     std::string paintText(const std::string& property, const paint::PaintSource& source, double opacity,
@@ -236,6 +262,7 @@ class SvgWriter {
     int named_ = 0;
     std::map<std::string, std::string> gradientNames_;
     std::map<const drawing::Picture*, std::string> pictureNames_;
+    std::map<std::pair<const drawing::Pattern*, std::string>, std::string> patternNames_;
     std::map<const drawing::ClipPath*, std::string> clipNames_;
     std::map<const drawing::Mask*, std::string> maskNames_;
     std::string definitions_;

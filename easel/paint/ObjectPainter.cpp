@@ -51,6 +51,7 @@ bool shows(const Object& object, drawing::PaintStep step) {
 } // namespace
 
 void ObjectPainter::paint(ObjectSpan objects, const SurfaceView& surface, const Affine& toSurface) {
+    cells_ = {};
     paintWithin(nullptr, objects, surface, toSurface);
 }
 
@@ -175,17 +176,24 @@ void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface
 }
 
 template <class Fill>
-void ObjectPainter::withSource(const HeldPaintSource& held, const Object&, const SurfaceView&, const Affine&,
-                               const Fill& fill) {
+void ObjectPainter::withSource(const HeldPaintSource& held, const Object& object, const SurfaceView& surface,
+                               const Affine& toSurface, const Fill& fill) {
     if (!held.visible())
         return;
-    if (!held.picture())
-        return fill(held.source());
-    const auto pixels = held.picture()->picture->pixels();
-    if (!pixels)
-        return;
-    const Image image = imageOf(*pixels, *held.picture());
-    fill(PaintSource(&image));
+    if (held.picture()) {
+        if (const auto pixels = held.picture()->picture->pixels()) {
+            const Image image = imageOf(*pixels, *held.picture());
+            fill(PaintSource(&image));
+        }
+    } else if (held.pattern()) {
+        const drawing::Box filled = object.paintBounds();
+        const PatternImage shown(*held.pattern(), filled, pixelsUnder(filled, toSurface, surface.clip()),
+                                 toSurface, cells_);
+        if (shown.image())
+            fill(PaintSource(shown.image()));
+    } else {
+        fill(held.source());
+    }
 }
 
 } // namespace easel::paint

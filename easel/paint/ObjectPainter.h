@@ -4,6 +4,7 @@
 #include "easel/drawing/Object.h"
 #include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/Painter.h"
+#include "easel/paint/PatternImage.h"
 
 #include <span>
 
@@ -45,6 +46,7 @@ class ObjectPainter {
 
     Painter painter_;
     std::size_t layerBytes_ = 0; // of the groups that are being painted
+    PatternCells cells_;
 };
 
 } // namespace easel::paint

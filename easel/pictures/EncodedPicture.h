@@ -17,7 +17,7 @@ enum class Refusal : std::uint8_t {
 };
 
 // What is decoded takes up to 8 bytes for each pixel while it is made.
-inline constexpr std::int64_t kMostPixels = std::int64_t{32} << 20;
+inline constexpr std::int64_t kMostPixels = std::int64_t{24} << 20;
 
 using Opened = std::variant<std::shared_ptr<const drawing::Picture>, Refusal>;
 

@@ -5,8 +5,8 @@
 namespace easel::pictures {
 
 namespace {
-// 128 MiB of pixels.
-constexpr std::size_t kMostShared = std::size_t{32} << 20;
+// 64 MiB of pixels.
+constexpr std::size_t kMostShared = std::size_t{16} << 20;
 } // namespace
 
 RecentPixels& RecentPixels::shared() {

@@ -2,6 +2,7 @@
 
 #include "easel/drawing/GradientDescription.h"
 #include "easel/drawing/StandardGradient.h"
+#include "easel/svg/read/PatternFrame.h"
 #include "easel/svg/text/RecordText.h"
 
 #include <algorithm>
@@ -181,8 +182,7 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
 }
 
 std::optional<Object> ObjectReader::readPicture(pugi::xml_node element, const drawing::Path& outline,
-                                                drawing::PlacedPicture picture, double opacity,
-                                                const Place& place) {
+                                                double opacity, const Place& place) {
     scene_.budget.spend(Budget::kObject);
     auto placed = placedPath(outline, place.toDrawing);
     if (!placed) {
@@ -194,9 +194,6 @@ std::optional<Object> ObjectReader::readPicture(pugi::xml_node element, const dr
     object.id = element.attribute("id").value();
     object.outline = std::move(*placed);
     object.units = sharedUnits(place.toDrawing);
-    object.fillPattern = FillPattern::Other;
-    picture.toDrawing = place.toDrawing * picture.toDrawing;
-    object.fill = std::make_shared<const drawing::PlacedPicture>(std::move(picture));
     Style style;
     style.opacity = opacity;
     object.style = shared(std::move(style));
@@ -212,7 +209,7 @@ std::shared_ptr<const ContextPaints> ObjectReader::contextOf(const Shape& shape,
 void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedStyle& style) {
     const GradientElement* const element = gradientOf(style.fill);
     if (!element) {
-        object.fill = paintWithoutGradient(style.fill, style);
+        object.fill = paintWithoutGradient(style.fill, at, style);
     } else {
         PlacedPaint placed = place(*element, at);
         if (carriesGradient(object.kind) && setGradient(object, *element, placed))
@@ -242,7 +239,7 @@ const GradientElement* ObjectReader::gradientOf(const PaintSpec& spec) const {
 
 Paint ObjectReader::paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const {
     const GradientElement* const element = gradientOf(spec);
-    return element ? kept(place(*element, at)) : paintWithoutGradient(spec, style);
+    return element ? kept(place(*element, at)) : paintWithoutGradient(spec, at, style);
 }
 
 PlacedPaint ObjectReader::place(const GradientElement& element, const PaintPlace& at) const {
@@ -250,13 +247,14 @@ PlacedPaint ObjectReader::place(const GradientElement& element, const PaintPlace
     return placedGradient(element, at);
 }
 
-Paint ObjectReader::paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const {
+Paint ObjectReader::paintWithoutGradient(const PaintSpec& spec, const PaintPlace& at,
+                                         const ComputedStyle& style) const {
     if (spec.kind != PaintSpec::Kind::Server)
         return plainPaint(spec.kind, spec, style);
     if (spec.serverId.empty())
         scene_.notes.add(Unsupported::External);
-    else if (scene_.tree.svgName(scene_.tree.byId(spec.serverId)) == "pattern")
-        scene_.notes.add(Unsupported::Pattern);
+    if (const pugi::xml_node server = scene_.tree.byId(spec.serverId); isPattern(scene_.tree.svgName(server)))
+        return patterns_(server, at);
     return plainPaint(spec.fallback, spec, style);
 }
 

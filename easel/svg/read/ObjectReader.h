@@ -2,29 +2,33 @@
 #pragma once
 
 #include "easel/drawing/Object.h"
-#include "easel/drawing/Picture.h"
 #include "easel/svg/read/Scene.h"
 #include "easel/svg/read/Shapes.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace easel::svg {
 
 class ObjectReader {
   public:
-    explicit ObjectReader(const Scene& scene) : scene_(scene) {}
+    // What a pattern element is on a shape; nothing where it disables painting.
+    using PatternReader = std::function<drawing::Paint(pugi::xml_node pattern, const PaintPlace& at)>;
+
+    ObjectReader(const Scene& scene, PatternReader patterns)
+        : scene_(scene), patterns_(std::move(patterns)) {}
 
     // The object without its group. `place` is inside the element: its style and units are the element's own.
     // Nothing, which is noted, if its numbers are out of range.
     std::optional<drawing::Object> read(pugi::xml_node element, const Shape& shape, double opacity,
                                         const Place& place);
 
-    // A picture that shows inside the outline, which is in the element's own units.
+    // A picture, still without what it shows. The outline is in the element's own units.
     std::optional<drawing::Object> readPicture(pugi::xml_node element, const drawing::Path& outline,
-                                               drawing::PlacedPicture picture, double opacity,
-                                               const Place& place);
+                                               double opacity, const Place& place);
 
     // What the markers of that shape may be painted with.
     std::shared_ptr<const ContextPaints> contextOf(const Shape& shape, const Place& place) const;
@@ -37,7 +41,8 @@ class ObjectReader {
     static bool setGradient(drawing::Object& object, const GradientElement& element,
                             const PlacedPaint& placed);
     drawing::Paint paint(const PaintSpec& spec, const PaintPlace& at, const ComputedStyle& style) const;
-    drawing::Paint paintWithoutGradient(const PaintSpec& spec, const ComputedStyle& style) const;
+    drawing::Paint paintWithoutGradient(const PaintSpec& spec, const PaintPlace& at,
+                                        const ComputedStyle& style) const;
     // Null if the paint is no gradient of the file.
     const GradientElement* gradientOf(const PaintSpec& spec) const;
     PlacedPaint place(const GradientElement& element, const PaintPlace& at) const;
@@ -45,6 +50,7 @@ class ObjectReader {
     std::shared_ptr<const drawing::Affine> sharedUnits(const drawing::Affine& units);
 
     const Scene& scene_;
+    PatternReader patterns_;
     std::vector<StylePtr> recent_; // styles of the last objects: neighbours mostly look alike
     std::size_t nextRecent_ = 0;
     std::shared_ptr<const drawing::Affine> lastUnits_; // of the last object that has any of its own

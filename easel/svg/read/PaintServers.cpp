@@ -1,5 +1,6 @@
 #include "easel/svg/read/PaintServers.h"
 
+#include "easel/svg/read/ReferenceChain.h"
 #include "easel/svg/style/Color.h"
 #include "easel/svg/style/ComputedStyle.h"
 #include "easel/svg/text/RecordText.h"
@@ -17,8 +18,6 @@ using drawing::Spread;
 
 namespace {
 
-constexpr std::size_t kLongestChain = 1000;
-
 bool isGradient(std::string_view name) {
     return name == "linearGradient" || name == "radialGradient";
 }
@@ -31,45 +30,14 @@ std::optional<Spread> parseSpread(std::string_view text) {
     return Spread::Pad;
 }
 
-// The element and those it refers to, nearest first.
-class Chain {
-  public:
-    Chain(const XmlTree& tree, pugi::xml_node element) {
-        while (element && isGradient(tree.svgName(element))) {
-            if (std::find(elements_.begin(), elements_.end(), element) != elements_.end() ||
-                elements_.size() == kLongestChain) {
-                circular_ = true;
-                return;
-            }
-            elements_.push_back(element);
-            element = tree.byId(localId(hrefOf(element)));
-        }
-    }
-
-    const std::vector<pugi::xml_node>& elements() const { return elements_; }
-    // Whether it would go on for ever; the reference that closes the circle counts as none.
-    bool circular() const { return circular_; }
-
-    // The attribute of the nearest element that has it.
-    std::string_view attribute(const char* name) const {
-        for (const pugi::xml_node element : elements_)
+// What the nearest element of one kind says: geometry is not taken over from the other one.
+const char* geometryOf(const ReferenceChain& chain, const char* name) {
+    for (const pugi::xml_node element : chain.elements())
+        if (std::string_view(element.name()) == chain.elements().front().name())
             if (const pugi::xml_attribute found = element.attribute(name))
-                return trimmed(found.value());
-        return {};
-    }
-    // The same among the elements of one kind: geometry is not taken over from the other one.
-    const char* geometry(const char* name) const {
-        for (const pugi::xml_node element : elements_)
-            if (std::string_view(element.name()) == elements_.front().name())
-                if (const pugi::xml_attribute found = element.attribute(name))
-                    return found.value();
-        return "";
-    }
-
-  private:
-    std::vector<pugi::xml_node> elements_;
-    bool circular_ = false;
-};
+                return found.value();
+    return "";
+}
 
 } // namespace
 
@@ -96,7 +64,7 @@ std::optional<std::size_t> PaintServers::idNumber(std::string_view id) {
 }
 
 const GradientElement& PaintServers::read(pugi::xml_node element) {
-    const Chain chain(tree_, element);
+    const ReferenceChain chain(tree_, element, isGradient);
     circular_ = circular_ || chain.circular();
     linearLight_ =
         linearLight_ || equalIgnoringCase(cascade_.of(element)[Property::ColorInterpolation], "linearRGB");
@@ -105,7 +73,7 @@ const GradientElement& PaintServers::read(pugi::xml_node element) {
         gradient.units = GradientUnits::UserSpaceOnUse;
     gradient.transform = parseTransform(chain.attribute("gradientTransform")).value_or(drawing::Affine());
     gradient.spread = parseSpread(chain.attribute("spreadMethod")).value_or(Spread::Pad);
-    const auto text = [&chain](const char* name) { return chain.geometry(name); };
+    const auto text = [&chain](const char* name) { return geometryOf(chain, name); };
     if (tree_.svgName(element) == "linearGradient")
         gradient.geometry = LineTexts{text("x1"), text("y1"), text("x2"), text("y2")};
     else

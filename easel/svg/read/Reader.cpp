@@ -77,7 +77,8 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
     Notes notes;
     if (cascade.sheetsImport())
         notes.add(Unsupported::ExternalSheet);
-    const Scene scene{tree, cascade, servers, budget, notes};
+    const Surroundings around{source->file, {}};
+    const Scene scene{tree, cascade, servers, budget, notes, around};
     TreeReader reader(scene, *source, options.progress);
     reader.readRoot();
     source->objects.shrink_to_fit();

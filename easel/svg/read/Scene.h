@@ -9,9 +9,20 @@
 #include "easel/svg/text/XmlTree.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
+#include <vector>
 
 namespace easel::svg {
+
+struct ShapePicture;
+
+// Where what is read comes from.
+struct Surroundings {
+    std::filesystem::path file; // empty: from none
+    std::vector<const ShapePicture*>
+        open; // the drawings in drawings that are being read, the outermost first
+};
 
 struct Scene {
     const XmlTree& tree;
@@ -19,6 +30,7 @@ struct Scene {
     PaintServers& servers;
     Budget& budget;
     Notes& notes;
+    const Surroundings& around;
 };
 
 // Where in the drawing an element is read.

@@ -44,27 +44,75 @@ void TreeReader::readImage(pugi::xml_node element, const Place& place) {
     inside.style = place.style.inherited(stated, inside.lengths);
     if (!inside.style.visible && waiting_ == 0)
         return;
-    auto picture = pictures_.picture(hrefOf(element));
-    if (!picture)
-        return;
-    const double width = picture->width();
-    const double height = picture->height();
-    const Box viewport = viewportOf(stated, inside.lengths, width, height);
-    if (!(viewport.width() > 0 && viewport.height() > 0))
-        return;
-    inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, viewport);
-    if (!inside.style.visible)
-        return addHidden({drawing::Kind::Picture, drawing::rectanglePath(viewport), {}}, inside);
     noteEffects(stated);
-    const Affine fit =
-        fitViewBox({0, 0, width, height}, element.attribute("preserveAspectRatio").value(), viewport);
-    const Box whole = mapped(fit, {0, 0, width, height});
-    const Box shown = showsOverflow(stated) ? whole : whole.intersection(viewport);
-    auto object = reader_.readPicture(element, drawing::rectanglePath(shown),
-                                      {std::move(picture), fit, inside.style.smoothPictures},
+    const PictureContent content = pictures_.content(hrefOf(element));
+    if (const auto* const pixels = std::get_if<std::shared_ptr<const drawing::Picture>>(&content))
+        addPicture(element, stated, std::move(inside), *pixels);
+    else if (const auto* const shapes = std::get_if<std::shared_ptr<const ShapePicture>>(&content))
+        addShapes(element, stated, std::move(inside), **shapes);
+}
+
+std::optional<TreeReader::PictureFrame> TreeReader::framePicture(pugi::xml_node element,
+                                                                 const StatedStyle& stated, Place& inside,
+                                                                 double width, double height) {
+    PictureFrame frame;
+    frame.viewport = viewportOf(stated, inside.lengths, width, height);
+    if (!(frame.viewport.width() > 0 && frame.viewport.height() > 0))
+        return std::nullopt;
+    inside.toDrawing = inside.toDrawing * transformOf(stated, inside.lengths, frame.viewport);
+    if (!inside.style.visible) {
+        addHidden({drawing::Kind::Picture, drawing::rectanglePath(frame.viewport), {}}, inside);
+        return std::nullopt;
+    }
+    frame.fit =
+        fitViewBox({0, 0, width, height}, element.attribute("preserveAspectRatio").value(), frame.viewport);
+    const Box whole = mapped(frame.fit, {0, 0, width, height});
+    frame.shown = showsOverflow(stated) ? whole : whole.intersection(frame.viewport);
+    return frame;
+}
+
+void TreeReader::addPicture(pugi::xml_node element, const StatedStyle& stated, Place inside,
+                            std::shared_ptr<const drawing::Picture> picture) {
+    const auto frame = framePicture(element, stated, inside, picture->width(), picture->height());
+    if (!frame)
+        return;
+    auto object = reader_.readPicture(element, drawing::rectanglePath(frame->shown),
                                       parseOpacity(stated[Property::Opacity], 1), inside);
-    if (object)
-        addObject(std::move(*object), element, stated, viewport, std::move(inside));
+    if (!object)
+        return;
+    object->fillPattern = drawing::FillPattern::Other;
+    object->fill = std::make_shared<const drawing::PlacedPicture>(drawing::PlacedPicture{
+        std::move(picture), inside.toDrawing * frame->fit, inside.style.smoothPictures});
+    addObject(std::move(*object), element, stated, frame->viewport, std::move(inside));
+}
+
+// The shapes are what the picture shows beside its outline, cut off there.
+void TreeReader::addShapes(pugi::xml_node element, const StatedStyle& stated, Place inside,
+                           const ShapePicture& picture) {
+    std::optional<PictureFrame> frame;
+    const auto placed = [&](DrawingSize size) -> std::optional<Placement> {
+        const Box usual = viewportOf(stated, inside.lengths, kUsualSize.width, kUsualSize.height);
+        const double width = size.width > 0 ? size.width : usual.width();
+        const double height = size.height > 0 ? size.height : usual.height();
+        if (!(width > 0 && height > 0))
+            return std::nullopt;
+        frame = framePicture(element, stated, inside, width, height);
+        if (!frame)
+            return std::nullopt;
+        Place within;
+        narrow(within, rectangleClip(frame->shown, inside.toDrawing));
+        return Placement{inside.toDrawing * frame->fit, within.group};
+    };
+    auto shapes = readEmbedded(picture, scene_, placed);
+    if (!shapes)
+        return;
+    auto object = reader_.readPicture(element, drawing::rectanglePath(frame->shown),
+                                      parseOpacity(stated[Property::Opacity], 1), inside);
+    if (!object)
+        return;
+    if (!shapes->empty())
+        object->markers = std::make_shared<const std::vector<drawing::ObjectPtr>>(std::move(*shapes));
+    addObject(std::move(*object), element, stated, frame->viewport, std::move(inside));
 }
 
 } // namespace easel::svg

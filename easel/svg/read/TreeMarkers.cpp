@@ -68,10 +68,10 @@ void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, c
     openMarkers_.pop_back();
 }
 
-// The style that the elements around hand down, wherever the marker is shown.
-Place TreeReader::placeAround(pugi::xml_node marker) const {
+// The style that the elements around hand down, wherever a marker or pattern is shown.
+Place TreeReader::placeAround(pugi::xml_node element) const {
     std::vector<pugi::xml_node> around;
-    for (pugi::xml_node above = marker.parent(); above.type() == pugi::node_element; above = above.parent())
+    for (pugi::xml_node above = element.parent(); above.type() == pugi::node_element; above = above.parent())
         around.push_back(above);
     scene_.budget.spend(around.size());
     Place place;

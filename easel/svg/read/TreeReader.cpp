@@ -33,7 +33,9 @@ std::string_view attributeText(pugi::xml_node element, const char* name) {
 } // namespace
 
 TreeReader::TreeReader(const Scene& scene, Source& source, std::function<bool(double)> progress)
-    : scene_(scene), source_(source), progress_(std::move(progress)), clips_(scene), reader_(scene),
+    : scene_(scene), source_(source), progress_(std::move(progress)), clips_(scene),
+      reader_(scene,
+              [this](pugi::xml_node pattern, const PaintPlace& at) { return readPattern(pattern, at); }),
       pictures_(scene) {}
 
 void TreeReader::tick() {
@@ -78,13 +80,30 @@ Place TreeReader::rootPlace() {
 void TreeReader::readRoot() {
     const Place outside = rootPlace();
     source_.rootToDrawing = outside.toDrawing;
+    readFrom(outside);
+    size_ = settled(size_, objects_);
+}
+
+bool TreeReader::readPlaced(const PlaceEmbedded& place) {
+    Place outside = rootPlace();
+    const auto placement = place(size_);
+    if (!placement)
+        return false;
+    outside.toDrawing = placement->toDrawing * outside.toDrawing;
+    outside.group = placement->group;
+    ++apart_;
+    readFrom(outside);
+    --apart_;
+    return true;
+}
+
+void TreeReader::readFrom(const Place& outside) {
     auto inside = enter(scene_.tree.root(), outside);
     if (inside) {
         inside->place.lengths.rootFontSize = inside->place.lengths.fontSize;
         readChildren(scene_.tree.root(), std::move(*inside));
         readAll();
     }
-    size_ = settled(size_, objects_);
 }
 
 void TreeReader::readAll() {

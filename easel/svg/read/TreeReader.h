@@ -3,14 +3,17 @@
 
 #include "easel/svg/read/ClipReader.h"
 #include "easel/svg/read/DrawingSize.h"
+#include "easel/svg/read/EmbeddedDrawing.h"
 #include "easel/svg/read/MarkerVertices.h"
 #include "easel/svg/read/ObjectReader.h"
+#include "easel/svg/read/PatternFrame.h"
 #include "easel/svg/read/PictureReader.h"
 #include "easel/svg/read/Scene.h"
 #include "easel/svg/text/Source.h"
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,6 +28,8 @@ class TreeReader {
 
     // Reads everything. Throws ReadError.
     void readRoot();
+    // The same as a part of another drawing, all objects belonging to no file. False if there is no place.
+    bool readPlaced(const PlaceEmbedded& place);
     DrawingSize size() const { return size_; }
     std::vector<drawing::ObjectPtr> takeObjects() { return std::move(objects_); }
 
@@ -61,12 +66,37 @@ class TreeReader {
         bool endsUseInstance = false; // the innermost of `open_`
     };
 
+    // What a pattern showed on the last shape that had it: neighbors mostly show the same.
+    struct ReadPattern {
+        drawing::Affine contentToOwn;
+        double width = 0, height = 0; // of what percentages are of
+        bool showsOverflow = false;
+        std::shared_ptr<const std::vector<drawing::ObjectPtr>> objects;
+        drawing::PatternPtr last;
+    };
+
+    // In the element's own units.
+    struct PictureFrame {
+        drawing::Box viewport; // into which the picture is fitted
+        drawing::Box shown;    // as far as it is not cut off
+        drawing::Affine fit;   // from the units of the picture
+    };
+
     void readAll();
     void finish(const Work& work);
     void readElement(pugi::xml_node element, const Place& place);
     void readContainer(pugi::xml_node element, std::string_view name, const Place& place);
     void readShapeElement(pugi::xml_node element, std::string_view name, const Place& place);
     void readImage(pugi::xml_node element, const Place& place);
+    // Where a picture of that size lies, if it shows. Brings `inside` from the units around the element's
+    // transform to those inside of it.
+    std::optional<PictureFrame> framePicture(pugi::xml_node element, const StatedStyle& stated, Place& inside,
+                                             double width, double height);
+    // A picture of pixels, and one of shapes. `inside` is in the units around the element's transform.
+    void addPicture(pugi::xml_node element, const StatedStyle& stated, Place inside,
+                    std::shared_ptr<const drawing::Picture> picture);
+    void addShapes(pugi::xml_node element, const StatedStyle& stated, Place inside,
+                   const ShapePicture& picture);
     // Adds an object that was read of the element. `box` is that of the element in its own units, in which
     // `inside` is.
     void addObject(drawing::Object object, pugi::xml_node element, const StatedStyle& stated,
@@ -74,7 +104,10 @@ class TreeReader {
     void addMarkers(drawing::Object& object, const Shape& shape, const Place& place);
     void readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
                     std::vector<drawing::ObjectPtr>& markers);
-    Place placeAround(pugi::xml_node marker) const;
+    // The pattern on a shape; nothing where it disables painting.
+    drawing::Paint readPattern(pugi::xml_node pattern, const PaintPlace& at);
+    ReadPattern readPatternContent(pugi::xml_node content, const PatternFrame& frame);
+    Place placeAround(pugi::xml_node element) const;
     // Adds what the element holds to other objects than the drawing's.
     void readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects);
     void readUse(pugi::xml_node element, Inside inside);
@@ -83,6 +116,7 @@ class TreeReader {
     void readSwitch(pugi::xml_node element, Inside inside);
     bool leadsBack(pugi::xml_node use, pugi::xml_node target);
 
+    void readFrom(const Place& outside);
     Place rootPlace();
     // The place inside a container; nothing if nothing of it is shown.
     std::optional<Inside> enter(pugi::xml_node element, const Place& outside);
@@ -117,9 +151,11 @@ class TreeReader {
     ObjectReader reader_;
     PictureReader pictures_;
     std::vector<drawing::ObjectPtr> objects_;
-    std::vector<pugi::xml_node> open_;        // `use` elements whose targets are being read
-    std::vector<pugi::xml_node> openMarkers_; // that are being read
-    std::vector<pugi::xml_node> openMasks_;   // that are being read
+    std::vector<pugi::xml_node> open_;               // `use` elements whose targets are being read
+    std::vector<pugi::xml_node> openMarkers_;        // that are being read
+    std::vector<pugi::xml_node> openMasks_;          // that are being read
+    std::vector<pugi::xml_node> openPatterns_;       // whose content is being read
+    std::map<pugi::xml_node, ReadPattern> patterns_; // by the elements whose content they show
     KnownMask lastMask_;
     std::vector<drawing::Path> hidden_; // outlines in the drawing, of a waiting group's hidden shapes
     std::size_t waiting_ = 0;           // groups that wait

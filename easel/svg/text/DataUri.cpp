@@ -36,18 +36,6 @@ int hexValue(char c) {
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
-std::string withoutPercents(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool escaped =
-            text[i] == '%' && i + 2 < text.size() && hexValue(text[i + 1]) >= 0 && hexValue(text[i + 2]) >= 0;
-        result += escaped ? static_cast<char>(hexValue(text[i + 1]) << 4 | hexValue(text[i + 2])) : text[i];
-        i += escaped ? 2 : 0;
-    }
-    return result;
-}
-
 std::optional<std::string> fromBase64(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size() / 4 * 3 + 3);
@@ -80,6 +68,18 @@ std::optional<std::string> fromBase64(std::string_view text) {
 }
 
 } // namespace
+
+std::string withoutPercents(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool escaped =
+            text[i] == '%' && i + 2 < text.size() && hexValue(text[i + 1]) >= 0 && hexValue(text[i + 2]) >= 0;
+        result += escaped ? static_cast<char>(hexValue(text[i + 1]) << 4 | hexValue(text[i + 2])) : text[i];
+        i += escaped ? 2 : 0;
+    }
+    return result;
+}
 
 bool isDataUri(std::string_view text) {
     return equalIgnoringCase(trimmed(text).substr(0, kScheme.size()), kScheme);

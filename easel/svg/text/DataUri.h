@@ -17,6 +17,9 @@ bool isDataUri(std::string_view text);
 // Nothing unless the text is a data URI whose data can be told.
 std::optional<DataUri> parseDataUri(std::string_view text);
 
+// The text with "%20" and its like as the bytes they stand for.
+std::string withoutPercents(std::string_view text);
+
 // The bytes in base64, on one line.
 std::string base64Text(std::string_view bytes);
 

@@ -23,6 +23,8 @@ class Budget {
     static constexpr std::size_t kObject = 32;
 
     explicit Budget(std::size_t fileSize) : left_(kBase + kPerByte * fileSize) {}
+    // For a file that is read along.
+    void allow(std::size_t fileSize) { left_ += kPerByte * fileSize; }
     void spend(std::size_t units) {
         if (units > left_)
             throw ReadError{Fault::TooComplex,

@@ -79,6 +79,9 @@ TEST_P(CrossCheck, LooksAsLibrsvgShowsIt) {
 }
 
 TEST_P(CrossCheck, LooksAsCairoPaintsItsGradientsAndStrokes) {
+    if (GetParam() == "patterns")
+        GTEST_SKIP()
+            << "On pixels, Cairo cuts off what a recording that repeats holds; a PDF repeats it itself.";
     const Drawing drawing = opened(easel::svg::readFile(fileOf(GetParam())));
     const Surface one = ours(drawing);
     const Surface cairos = paintedByCairo(one.width(), one.height(), [&](cairo_t* cairo) {
