@@ -1,0 +1,54 @@
+// Which font a run of text asks for, and the measures of one.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace easel::type {
+
+enum class Slant : std::uint8_t { Upright, Italic, Oblique };
+
+// In the order from narrow to wide.
+enum class Stretch : std::uint8_t {
+    UltraCondensed,
+    ExtraCondensed,
+    Condensed,
+    SemiCondensed,
+    Normal,
+    SemiExpanded,
+    Expanded,
+    ExtraExpanded,
+    UltraExpanded
+};
+
+// How letters stand in vertical lines: as their script wants it, all upright, or all lying on their side.
+enum class Upright : std::uint8_t { ByScript, All, None };
+
+struct Font {
+    std::string families; // separated by commas, the best first; what is missing is replaced by the next
+    int weight = 400;     // 100 to 1000
+    Slant slant = Slant::Upright;
+    Stretch stretch = Stretch::Normal;
+    bool smallCaps = false;
+    bool ligatures = true;  // those that are not needed to write the script
+    std::string language{}; // as in xml:lang; empty: English
+
+    friend bool operator==(const Font&, const Font&) = default;
+};
+
+// Heights over the baseline, in ems; below it they are negative.
+struct FontMetrics {
+    double ascent = 0.8;
+    double descent = -0.2;
+    double xHeight = 0.5;
+    double hanging = 0.8;
+    double mathematical = 0.4;
+    double ideographic = -0.2;
+    // Middle of the line and its thickness.
+    double underline = -0.1;
+    double underlineThickness = 0.05;
+    double strikethrough = 0.3;
+    double strikethroughThickness = 0.05;
+};
+
+} // namespace easel::type

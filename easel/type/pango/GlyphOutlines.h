@@ -1,0 +1,48 @@
+// Outlines of glyphs as their fonts have them, not fitted to any grid of pixels.
+#pragma once
+
+#include "easel/drawing/Path.h"
+
+#include <hb.h>
+#include <pango/pango.h>
+
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+
+namespace easel::type {
+
+struct Unref {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+template <class Object> using Held = std::unique_ptr<Object, Unref>;
+
+class GlyphOutlines {
+  public:
+    // `unitsPerEm`: those that the fonts are scaled to.
+    explicit GlyphOutlines(double unitsPerEm);
+
+    // In ems, down is positive. Copies share their memory.
+    drawing::Path of(PangoFont* font, std::uint32_t glyph);
+
+  private:
+    struct KnownFont {
+        Held<PangoFont> font; // keeps the address from being another font's
+        drawing::Affine toEms;
+        bool embolden = false;
+        std::unordered_map<std::uint32_t, drawing::Path> outlines;
+    };
+
+    KnownFont& known(PangoFont* font);
+
+    struct DestroyFuncs {
+        void operator()(hb_draw_funcs_t* funcs) const { hb_draw_funcs_destroy(funcs); }
+    };
+
+    double unitsPerEm_;
+    std::unique_ptr<hb_draw_funcs_t, DestroyFuncs> pen_;
+    std::unordered_map<PangoFont*, KnownFont> fonts_;
+    std::size_t count_ = 0;
+};
+
+} // namespace easel::type
