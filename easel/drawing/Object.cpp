@@ -9,8 +9,8 @@
 namespace easel::drawing {
 
 namespace {
-constexpr std::array<std::string_view, 7> kKindNames = {"rect",     "ellipse", "polygon", "path",
-                                                        "polyline", "line",    "picture"};
+constexpr std::array<std::string_view, 8> kKindNames = {"rect",     "ellipse", "polygon", "path",
+                                                        "polyline", "line",    "picture", "text"};
 
 // Modules have tables of their own, so that equal gradients of two modules are two objects.
 bool same(const ObjectGradient& a, const ObjectGradient& b) {
@@ -33,7 +33,7 @@ std::optional<Kind> kindFromName(std::string_view name) {
 }
 
 bool carriesGradient(Kind kind) {
-    return kind != Kind::Polyline && kind != Kind::Line && kind != Kind::Picture;
+    return kind != Kind::Polyline && kind != Kind::Line && kind != Kind::Picture && kind != Kind::Text;
 }
 
 KindSet KindSet::all() {

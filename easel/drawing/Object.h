@@ -20,15 +20,15 @@
 namespace easel::drawing {
 
 // Values are the kind numbers that plug-ins see; 0 stands for "no object" there.
-enum class Kind : std::uint8_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line, Picture };
+enum class Kind : std::uint8_t { Rect = 1, Ellipse, Polygon, Path, Polyline, Line, Picture, Text };
 
 inline constexpr Kind kAllKinds[] = {Kind::Rect,     Kind::Ellipse, Kind::Polygon, Kind::Path,
-                                     Kind::Polyline, Kind::Line,    Kind::Picture};
+                                     Kind::Polyline, Kind::Line,    Kind::Picture, Kind::Text};
 
-// "rect", "ellipse", "polygon", "path", "polyline", "line", "picture".
+// "rect", "ellipse", "polygon", "path", "polyline", "line", "picture", "text".
 std::string_view kindName(Kind kind);
 std::optional<Kind> kindFromName(std::string_view name);
-// Closed shapes carry gradients: all but polyline, line and picture.
+// Closed shapes carry gradients: all but polyline, line, picture and text.
 bool carriesGradient(Kind kind);
 
 // A set of kinds, such as the filter of a pick.
@@ -82,7 +82,8 @@ struct Object {
     RemainderPtr remainder;             // what the record cannot hold
     GroupPtr group;                     // innermost layer; null: the drawing itself
     // Painted over fill and stroke as far as the object itself shows, back to front: arrow heads and the
-    // like, and what a picture made of shapes holds. Their groups are theirs alone. Null: none.
+    // like, what a picture made of shapes holds, and what of a text has paints of its own. Their groups are
+    // theirs alone. Null: none.
     std::shared_ptr<const std::vector<std::shared_ptr<const Object>>> markers;
 
     // Tight box of the outline, without stroke. Kept by `sealed`.

@@ -66,9 +66,10 @@ Path outlineOf(Kind kind, Arguments& arguments) {
     case Kind::Line:
         return line(arguments);
     case Kind::Picture:
+    case Kind::Text:
         break;
     }
-    throw PlayError("a picture cannot be added");
+    throw PlayError("a " + std::string(kindName(kind)) + " cannot be added");
 }
 
 std::shared_ptr<const drawing::Style> thinLine() {

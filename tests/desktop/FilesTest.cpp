@@ -165,7 +165,7 @@ TEST_F(FilesTest, ALargeDrawingShowsItsProgressAndIsCancelledLeavingTheOneThatWa
 
 TEST_F(FilesTest, WhatIsNotShownIsNamedOnceUntilItIsPutAway) {
     std::ofstream(drawing()) << R"(<svg xmlns="http://www.w3.org/2000/svg" width="600" height="400">
-  <text y="20">One</text><text y="40">Two</text>
+  <script>1</script><script>2</script>
   <rect x="60" y="40" width="200" height="140" fill="#12c84a"/></svg>)";
     start({drawing().string()});
     const Area below = waitForColor(kPlain);
@@ -176,7 +176,7 @@ TEST_F(FilesTest, WhatIsNotShownIsNamedOnceUntilItIsPutAway) {
         screen().key("ctrl+c");
         return !(text = screen().clipboard()).empty();
     }));
-    EXPECT_EQ(text, "Text is kept in the file but not shown.");
+    EXPECT_EQ(text, "Scripts are kept in the file but not run.");
     screen().click({window.right - 50, window.top + 73});
     EXPECT_TRUE(eventually([&] { return waitForColor(kPlain).top < below.top; }))
         << "the canvas takes its place";

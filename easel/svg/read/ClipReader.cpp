@@ -1,6 +1,6 @@
 #include "easel/svg/read/ClipReader.h"
 
-#include "easel/svg/read/Shapes.h"
+#include "easel/svg/read/TextReader.h"
 #include "easel/svg/style/PlacedTransform.h"
 #include "easel/svg/text/Scanner.h"
 
@@ -100,8 +100,15 @@ ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, con
 
 void ClipReader::addShape(ClipPath& clip, pugi::xml_node child, const Place& place) {
     const std::string_view name = scene_.tree.svgName(child);
-    if (name == "text")
-        scene_.notes.add(Unsupported::Text);
+    if (name == "text") {
+        // Its font may be stated further out, where nothing is that changes other shapes.
+        Place around = place;
+        around.style = placeAround(scene_, child).style;
+        around.lengths.fontSize = around.style.fontSize;
+        if (auto shape = shapeOf(child, around))
+            clip.shapes.push_back(std::move(*shape));
+        return;
+    }
     auto shape = name == "use" ? repeatedShape(child, place) : shapeOf(child, place);
     if (shape)
         clip.shapes.push_back(std::move(*shape));
@@ -111,13 +118,13 @@ std::optional<ClipShape> ClipReader::shapeOf(pugi::xml_node element, const Place
     const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
     Place inside = place;
     inside.style = place.style.inherited(stated, inside.lengths);
-    if (equalIgnoringCase(stated[Property::Display], "none") || !inside.style.visible)
+    if (equalIgnoringCase(stated[Property::Display], "none"))
         return std::nullopt;
-    const auto shape = readShape(element, scene_.tree.svgName(element), stated, inside.lengths);
+    const auto shape = visibleShape(element, stated, inside);
     if (!shape)
         return std::nullopt;
     scene_.budget.spend(Budget::kObject + shape->outline.points().size());
-    const Box box = shape->outline.bounds();
+    const Box box = shape->box();
     inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, box);
     auto outline = placedPath(shape->outline, inside.toDrawing);
     if (!outline) {
@@ -125,6 +132,17 @@ std::optional<ClipShape> ClipReader::shapeOf(pugi::xml_node element, const Place
         return std::nullopt;
     }
     return ClipShape{std::move(*outline), inside.style.clipRule, clipFor(stated, box, inside)};
+}
+
+std::optional<Shape> ClipReader::visibleShape(pugi::xml_node element, const StatedStyle& stated,
+                                              const Place& place) {
+    const std::string_view name = scene_.tree.svgName(element);
+    if (name == "text") {
+        const auto text = readText(element, stated, scene_, place);
+        return text ? std::optional(Shape{drawing::Kind::Text, text->wholeOutline(), {}, text->cells})
+                    : std::nullopt;
+    }
+    return place.style.visible ? readShape(element, name, stated, place.lengths) : std::nullopt;
 }
 
 std::optional<ClipShape> ClipReader::repeatedShape(pugi::xml_node use, const Place& place) {

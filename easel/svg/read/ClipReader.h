@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/svg/read/Scene.h"
+#include "easel/svg/read/Shapes.h"
 
 #include <memory>
 #include <optional>
@@ -28,6 +29,8 @@ class ClipReader {
     ClipPtr read(pugi::xml_node element, const drawing::Box& box, const Place& place);
     void addShape(drawing::ClipPath& clip, pugi::xml_node child, const Place& place);
     std::optional<drawing::ClipShape> shapeOf(pugi::xml_node element, const Place& place);
+    // Of the element as its style shows it.
+    std::optional<Shape> visibleShape(pugi::xml_node element, const StatedStyle& stated, const Place& place);
     std::optional<drawing::ClipShape> repeatedShape(pugi::xml_node use, const Place& place);
 
     const Scene& scene_;

@@ -6,7 +6,7 @@ namespace {
 
 // In the order of the enumeration.
 constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
-    "Text is kept in the file but not shown.",
+    "Some of the text is kept in the file but not shown.",
     "Videos and canvases are kept in the file but not shown.",
     "Pictures that are neither PNG, JPEG, GIF, WebP nor SVG are kept in the file but not shown.",
     "Pictures that are damaged are kept in the file but not shown.",
@@ -31,7 +31,7 @@ constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
 } // namespace
 
 void Notes::addElement(std::string_view svgName) {
-    if (svgName == "text" || svgName.substr(0, 4) == "flow")
+    if (svgName.substr(0, 4) == "flow")
         add(Unsupported::Text);
     else if (svgName == "video" || svgName == "canvas")
         add(Unsupported::Video);

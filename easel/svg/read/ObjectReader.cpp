@@ -154,7 +154,7 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
     object.fillRule = place.style.fillRule;
     object.outline = std::move(*outline);
     object.units = sharedUnits(place.toDrawing);
-    const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
+    const PaintPlace at{shape.box(), place.toDrawing, place.lengths};
     setFill(object, at, place.style);
     // A path that is neither closed nor filled is a line; only closed shapes take a gradient.
     if (object.kind == Kind::Path && object.fillPattern == FillPattern::None && !object.outline.closed())
@@ -201,7 +201,7 @@ std::optional<Object> ObjectReader::readPicture(pugi::xml_node element, const dr
 }
 
 std::shared_ptr<const ContextPaints> ObjectReader::contextOf(const Shape& shape, const Place& place) const {
-    const PaintPlace at{shape.outline.bounds(), place.toDrawing, place.lengths};
+    const PaintPlace at{shape.box(), place.toDrawing, place.lengths};
     return std::make_shared<const ContextPaints>(
         ContextPaints{paint(place.style.fill, at, place.style), paint(place.style.stroke, at, place.style)});
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace easel::svg {
 
@@ -12,6 +13,21 @@ constexpr double kFarthest = 1e9;
 
 bool inRange(double value) {
     return std::abs(value) <= kFarthest;
+}
+
+Place placeAround(const Scene& scene, pugi::xml_node element) {
+    std::vector<pugi::xml_node> around;
+    for (pugi::xml_node above = element.parent(); above.type() == pugi::node_element; above = above.parent())
+        around.push_back(above);
+    scene.budget.spend(around.size());
+    Place place;
+    for (auto it = around.rbegin(); it != around.rend(); ++it) {
+        const StatedStyle stated = scene.cascade.of(*it, place.style.custom);
+        place.style = place.style.inherited(stated, place.lengths);
+        if (it == around.rbegin())
+            place.lengths.rootFontSize = place.lengths.fontSize;
+    }
+    return place;
 }
 
 std::optional<drawing::Path> placedPath(const drawing::Path& path, const drawing::Affine& toDrawing) {

@@ -42,6 +42,9 @@ struct Place {
     std::uint32_t use = 0; // the use instance that is being read
 };
 
+// The style that the elements around hand down to one, wherever it is shown.
+Place placeAround(const Scene& scene, pugi::xml_node element);
+
 // The path in drawing coordinates. Nothing if a coordinate is beyond what is computed with.
 std::optional<drawing::Path> placedPath(const drawing::Path& path, const drawing::Affine& toDrawing);
 

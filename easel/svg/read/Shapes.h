@@ -16,6 +16,10 @@ struct Shape {
     drawing::Kind kind = drawing::Kind::Path;
     drawing::Path outline;                 // in the element's own units
     std::vector<std::uint32_t> insideArcs; // numbers of its verbs that end inside an arc of the path data
+    drawing::Box cells{};                  // of text, around what its letters take up; empty for other shapes
+
+    // What shares of the shape's box are measured by.
+    drawing::Box box() const { return cells.empty() ? outline.bounds() : cells; }
 };
 
 bool isShape(std::string_view svgName);

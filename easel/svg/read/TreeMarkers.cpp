@@ -70,18 +70,7 @@ void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, c
 
 // The style that the elements around hand down, wherever a marker or pattern is shown.
 Place TreeReader::placeAround(pugi::xml_node element) const {
-    std::vector<pugi::xml_node> around;
-    for (pugi::xml_node above = element.parent(); above.type() == pugi::node_element; above = above.parent())
-        around.push_back(above);
-    scene_.budget.spend(around.size());
-    Place place;
-    for (auto it = around.rbegin(); it != around.rend(); ++it) {
-        const StatedStyle stated = scene_.cascade.of(*it, place.style.custom);
-        place.style = place.style.inherited(stated, place.lengths);
-        if (it == around.rbegin())
-            place.lengths.rootFontSize = place.lengths.fontSize;
-    }
-    return place;
+    return svg::placeAround(scene_, element);
 }
 
 void TreeReader::readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects) {

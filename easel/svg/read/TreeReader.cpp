@@ -137,6 +137,8 @@ void TreeReader::readElement(pugi::xml_node element, const Place& place) {
         readShapeElement(element, name, place);
     else if (name == "image")
         readImage(element, place);
+    else if (name == "text")
+        readTextElement(element, place);
     else if (name == "g" || name == "a" || name == "svg" || name == "switch" || name == "use")
         readContainer(element, name, place);
     else

@@ -20,6 +20,8 @@
 
 namespace easel::svg {
 
+struct TextShape;
+
 class TreeReader {
   public:
     // `progress` may be empty. Spans and use instances are added to `source`, whose text the tree was made
@@ -101,6 +103,9 @@ class TreeReader {
     // `inside` is.
     void addObject(drawing::Object object, pugi::xml_node element, const StatedStyle& stated,
                    const drawing::Box& box, Place inside);
+    void readTextElement(pugi::xml_node element, const Place& place);
+    std::optional<drawing::Object> textObject(pugi::xml_node element, const TextShape& text, double opacity,
+                                              const Place& place);
     void addMarkers(drawing::Object& object, const Shape& shape, const Place& place);
     void readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
                     std::vector<drawing::ObjectPtr>& markers);

@@ -1,6 +1,7 @@
 #include "easel/svg/style/ComputedStyle.h"
 
 #include "easel/svg/style/Color.h"
+#include "easel/svg/style/TextStyle.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
@@ -149,6 +150,11 @@ std::optional<double> parseFontSize(std::string_view text, const LengthContext& 
 
 } // namespace
 
+const TextStyle& textStyleOf(const ComputedStyle& style) {
+    static const TextStyle kPlain;
+    return style.textStyle ? *style.textStyle : kPlain;
+}
+
 double parseOpacity(std::string_view text, double otherwise) {
     const auto value = parseFraction(text);
     return value ? std::clamp(*value, 0.0, 1.0) : otherwise;
@@ -199,6 +205,8 @@ ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext&
     reader.read(Property::FontSize, &ComputedStyle::fontSize,
                 [&](std::string_view text) { return parseFontSize(text, lengths); });
     lengths.fontSize = result.fontSize;
+    if (stated.statesText())
+        result.textStyle = std::make_shared<const TextStyle>(textStyleOf(*this).inherited(stated, lengths));
     reader.read(Property::Color, &ComputedStyle::color,
                 [&](std::string_view text) { return parseColor(text, this->color); });
     reader.read(Property::Fill, &ComputedStyle::fill, parsePaint);

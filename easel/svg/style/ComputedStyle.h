@@ -23,6 +23,8 @@ struct PaintSpec {
     std::string_view serverId;
 };
 
+struct TextStyle;
+
 // What the shape that shows a marker is painted with.
 struct ContextPaints {
     drawing::Paint fill;
@@ -52,10 +54,14 @@ struct ComputedStyle {
         markers; // ids of those at the start, in between and at the end; empty: none
     std::shared_ptr<const ContextPaints> context; // null: outside of markers
     const CustomProperties* custom = nullptr;     // null: none
+    std::shared_ptr<const TextStyle> textStyle;   // null: nothing is stated of it
 
     // The style of an element in one with this style. Font sizes in `lengths` are brought up to date.
     ComputedStyle inherited(const StatedStyle& stated, LengthContext& lengths) const;
 };
+
+// The style that none stands for, where nothing is stated.
+const TextStyle& textStyleOf(const ComputedStyle& style);
 
 // Nothing for a paint that is not understood.
 std::optional<PaintSpec> parsePaint(std::string_view text);

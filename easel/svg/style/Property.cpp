@@ -1,8 +1,10 @@
 #include "easel/svg/style/Property.h"
 
+#include "easel/svg/style/FontShorthand.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
+#include <span>
 #include <unordered_map>
 
 namespace easel::svg {
@@ -56,7 +58,27 @@ constexpr std::array<std::string_view, kPropertyCount> kNames = {"clip-path",
                                                                  "visibility",
                                                                  "width",
                                                                  "x",
-                                                                 "y"};
+                                                                 "y",
+                                                                 "alignment-baseline",
+                                                                 "baseline-shift",
+                                                                 "direction",
+                                                                 "dominant-baseline",
+                                                                 "font",
+                                                                 "font-family",
+                                                                 "font-stretch",
+                                                                 "font-style",
+                                                                 "font-variant",
+                                                                 "font-weight",
+                                                                 "glyph-orientation-vertical",
+                                                                 "letter-spacing",
+                                                                 "text-anchor",
+                                                                 "text-decoration",
+                                                                 "text-decoration-line",
+                                                                 "text-orientation",
+                                                                 "unicode-bidi",
+                                                                 "white-space",
+                                                                 "word-spacing",
+                                                                 "writing-mode"};
 
 } // namespace
 
@@ -77,6 +99,23 @@ void StatedStyle::set(Property property, std::string_view value, Importance impo
         return;
     values_[i] = trimmed(value);
     important_[i] = importance == Importance::Important;
+    if (property < kFirstOfText)
+        return;
+    statesText_ = true;
+    if (property == Property::Font)
+        setFont(values_[i], importance);
+}
+
+void StatedStyle::setFont(std::string_view shorthand, Importance importance) {
+    const FontStatements font = parseFont(shorthand);
+    if (font.families.empty())
+        return;
+    set(Property::FontStyle, font.style, importance);
+    set(Property::FontVariant, font.variant, importance);
+    set(Property::FontWeight, font.weight, importance);
+    set(Property::FontStretch, font.stretch, importance);
+    set(Property::FontSize, font.size, importance);
+    set(Property::FontFamily, font.families, importance);
 }
 
 void StatedStyle::set(const Declaration& declaration) {
@@ -85,11 +124,12 @@ void StatedStyle::set(const Declaration& declaration) {
 }
 
 bool StatedStyle::asksForCustomProperties() const {
-    return std::any_of(values_.begin(), values_.end(), asksForCustomProperty);
+    return std::any_of(values_.begin(), statedEnd(), asksForCustomProperty);
 }
 
 void StatedStyle::replace(CustomValues& values, const CustomProperties* properties) {
-    for (std::string_view& value : values_)
+    const std::size_t count = static_cast<std::size_t>(statedEnd() - values_.begin());
+    for (std::string_view& value : std::span(values_).first(count))
         if (asksForCustomProperty(value))
             value = trimmed(values.replaced(value, properties));
 }

@@ -59,8 +59,31 @@ enum class Property : std::uint8_t {
     Width,
     X,
     Y,
+    // Of text.
+    AlignmentBaseline,
+    BaselineShift,
+    Direction,
+    DominantBaseline,
+    Font,
+    FontFamily,
+    FontStretch,
+    FontStyle,
+    FontVariant,
+    FontWeight,
+    GlyphOrientation,
+    LetterSpacing,
+    TextAnchor,
+    TextDecoration,
+    TextDecorationLine,
+    TextOrientation,
+    UnicodeBidi,
+    WhiteSpace,
+    WordSpacing,
+    WritingMode,
 };
-inline constexpr std::size_t kPropertyCount = 47;
+inline constexpr std::size_t kPropertyCount = 67;
+// From here on they are of text.
+inline constexpr Property kFirstOfText = Property::AlignmentBaseline;
 
 std::optional<Property> propertyFromName(std::string_view name);
 
@@ -75,14 +98,25 @@ class StatedStyle {
     void set(Property property, std::string_view value, Importance importance);
     void set(const Declaration& declaration);
     bool asksForCustomProperties() const;
+    // Whether any property of text is stated.
+    bool statesText() const { return statesText_; }
     // Puts what they stand for in the place of values that ask for custom properties.
     void replace(CustomValues& values, const CustomProperties* custom);
 
     const CustomProperties* custom = nullptr; // that hold inside the element; null: none
 
   private:
-    std::array<std::string_view, kPropertyCount> values_;
+    using Values = std::array<std::string_view, kPropertyCount>;
+
+    void setFont(std::string_view shorthand, Importance importance);
+    // Past the last of the values that may be stated.
+    Values::const_iterator statedEnd() const {
+        return statesText_ ? values_.end() : values_.begin() + static_cast<std::ptrdiff_t>(kFirstOfText);
+    }
+
+    Values values_;
     std::array<bool, kPropertyCount> important_{};
+    bool statesText_ = false;
 };
 
 class Cascade {

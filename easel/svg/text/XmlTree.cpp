@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::string_view kSvgNamespace = "http://www.w3.org/2000/svg";
 
+constexpr std::size_t kLongestPrefix = 32;
+
 std::size_t lineOf(const std::string& text, std::ptrdiff_t offset) {
     const auto end =
         text.begin() + std::clamp<std::ptrdiff_t>(offset, 0, static_cast<std::ptrdiff_t>(text.size()));
@@ -49,6 +51,21 @@ void expandText(pugi::xml_node element, Entities& entities) {
             part.set_value(entities.expanded(part.value()).c_str());
 }
 
+bool isTextTag(std::string_view afterBracket) {
+    if (afterBracket.starts_with("text"))
+        return true;
+    const std::size_t end = afterBracket.substr(0, kLongestPrefix).find_first_of(": />");
+    return end != std::string_view::npos && afterBracket.substr(end).starts_with(":text");
+}
+
+// Blanks between elements mean something in text only, and drawings without text do without a node for each.
+unsigned parseOptions(const std::string& text) {
+    for (std::size_t at = text.find('<'); at != std::string::npos; at = text.find('<', at + 1))
+        if (isTextTag(std::string_view(text).substr(at + 1)))
+            return pugi::parse_default | pugi::parse_ws_pcdata;
+    return pugi::parse_default;
+}
+
 std::string_view prefixOf(std::string_view name) {
     const std::size_t colon = name.find(':');
     return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon + 1);
@@ -60,7 +77,7 @@ XmlTree::XmlTree(const std::string& text) {
     if (text.find('\0') != std::string::npos)
         throw ReadError{Fault::NotXml, "it is not XML: it holds characters that no text has"};
     const pugi::xml_parse_result result =
-        document_.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_utf8);
+        document_.load_buffer(text.data(), text.size(), parseOptions(text), pugi::encoding_utf8);
     if (result.status == pugi::status_out_of_memory)
         throw std::bad_alloc();
     if (!result)
@@ -82,9 +99,9 @@ void XmlTree::index(const std::string& text) {
         noteNamespaces(element);
         if (std::string_view(element.name()).ends_with("style")) {
             sheets_.push_back(element);
-            if (!entities.empty())
-                expandText(element, entities);
         }
+        if (!entities.empty())
+            expandText(element, entities);
         // An empty id is none: whatever refers to nothing would refer to it.
         if (const std::string_view id = element.attribute("id").value(); !id.empty())
             withIds_.push_back({id, element});

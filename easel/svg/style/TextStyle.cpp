@@ -1,0 +1,244 @@
+#include "easel/svg/style/TextStyle.h"
+
+#include "easel/svg/text/Scanner.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace easel::svg {
+
+namespace {
+
+template <class Value> struct Word {
+    std::string_view word;
+    Value value;
+};
+
+template <class Value, std::size_t Count>
+std::optional<Value> valueOf(std::string_view text, const Word<Value> (&words)[Count]) {
+    for (const Word<Value>& each : words)
+        if (equalIgnoringCase(text, each.word))
+            return each.value;
+    return std::nullopt;
+}
+
+constexpr int kLightest = 1;
+constexpr int kHeaviest = 1000;
+
+// The steps that "bolder" and "lighter" make.
+int bolder(int weight) {
+    return weight < 350 ? 400 : weight < 550 ? 700 : std::max(weight, 900);
+}
+int lighter(int weight) {
+    return weight < 550 ? std::min(weight, 100) : weight < 750 ? 400 : 700;
+}
+
+std::optional<int> parseWeight(std::string_view text, int outer) {
+    if (equalIgnoringCase(text, "normal"))
+        return 400;
+    if (equalIgnoringCase(text, "bold"))
+        return 700;
+    if (equalIgnoringCase(text, "bolder"))
+        return bolder(outer);
+    if (equalIgnoringCase(text, "lighter"))
+        return lighter(outer);
+    Scanner scanner(text);
+    const auto number = scanner.number();
+    if (!number || !scanner.done() || !(*number >= kLightest && *number <= kHeaviest))
+        return std::nullopt;
+    return static_cast<int>(std::lround(*number));
+}
+
+std::optional<type::Slant> parseSlant(std::string_view text) {
+    // An angle may follow.
+    static constexpr Word<type::Slant> kWords[] = {
+        {"normal", type::Slant::Upright}, {"italic", type::Slant::Italic}, {"oblique", type::Slant::Oblique}};
+    return valueOf(text.substr(0, text.find_first_of(" \t\r\n")), kWords);
+}
+
+std::optional<type::Stretch> parseStretch(std::string_view text) {
+    using enum type::Stretch;
+    static constexpr Word<type::Stretch> kWords[] = {{"ultra-condensed", UltraCondensed},
+                                                     {"extra-condensed", ExtraCondensed},
+                                                     {"condensed", Condensed},
+                                                     {"semi-condensed", SemiCondensed},
+                                                     {"normal", Normal},
+                                                     {"semi-expanded", SemiExpanded},
+                                                     {"expanded", Expanded},
+                                                     {"extra-expanded", ExtraExpanded},
+                                                     {"ultra-expanded", UltraExpanded}};
+    static constexpr double kShares[] = {0.5, 0.625, 0.75, 0.875, 1, 1.125, 1.25, 1.5, 2};
+    if (const auto word = valueOf(text, kWords))
+        return word;
+    const auto share = text.ends_with('%') ? parseFraction(text) : std::nullopt;
+    if (!share)
+        return std::nullopt;
+    const auto* const nearest =
+        std::min_element(std::begin(kShares), std::end(kShares),
+                         [&](double a, double b) { return std::abs(a - *share) < std::abs(b - *share); });
+    return static_cast<type::Stretch>(nearest - std::begin(kShares));
+}
+
+std::optional<type::Anchor> parseAnchor(std::string_view text) {
+    static constexpr Word<type::Anchor> kWords[] = {
+        {"start", type::Anchor::Start}, {"middle", type::Anchor::Middle}, {"end", type::Anchor::End}};
+    return valueOf(text, kWords);
+}
+
+std::optional<WhiteSpace> parseWhiteSpace(std::string_view text) {
+    static constexpr Word<WhiteSpace> kWords[] = {
+        {"normal", WhiteSpace::Collapse},   {"nowrap", WhiteSpace::Collapse},
+        {"pre-line", WhiteSpace::Collapse}, {"pre", WhiteSpace::Preserve},
+        {"pre-wrap", WhiteSpace::Preserve}, {"break-spaces", WhiteSpace::Preserve}};
+    return valueOf(text, kWords);
+}
+
+std::optional<type::Direction> parseWritingMode(std::string_view text) {
+    using enum type::Direction;
+    static constexpr Word<type::Direction> kWords[] = {
+        {"horizontal-tb", Horizontal}, {"lr", Horizontal},
+        {"lr-tb", Horizontal},         {"rl", Horizontal},
+        {"rl-tb", Horizontal},         {"vertical-rl", Vertical},
+        {"vertical-lr", Vertical},     {"tb", Vertical},
+        {"tb-rl", Vertical},           {"sideways-rl", Vertical}};
+    return valueOf(text, kWords);
+}
+
+std::optional<type::Upright> parseOrientation(std::string_view text) {
+    using enum type::Upright;
+    static constexpr Word<type::Upright> kWords[] = {
+        {"mixed", ByScript}, {"auto", ByScript}, {"upright", All},
+        {"0", All},          {"0deg", All},      {"sideways", None},
+        {"90", None},        {"90deg", None},    {"sideways-right", None}};
+    return valueOf(text, kWords);
+}
+
+std::optional<double> parseSpacing(std::string_view text, const LengthContext& lengths) {
+    if (equalIgnoringCase(text, "normal"))
+        return 0;
+    // A percentage is one of the font's size.
+    if (text.ends_with('%')) {
+        const auto share = parseFraction(text);
+        return share ? std::optional(*share * lengths.fontSize) : std::nullopt;
+    }
+    return parseLength(text, lengths, Axis::Other);
+}
+
+bool isNameOfWords(std::string_view name) {
+    Scanner scanner(name);
+    while (!scanner.done()) {
+        scanner.take('-');
+        if (text::isDigit(scanner.peek()) || scanner.word().empty())
+            return false;
+        scanner.skipSpaces();
+    }
+    return true;
+}
+
+// What is handed down stays where nothing or "inherit" is stated.
+template <class Value, class Parser>
+void read(const StatedStyle& stated, Property property, Value TextStyle::*member, TextStyle& style,
+          Parser parse) {
+    const std::string_view text = stated[property];
+    if (text.empty() || equalIgnoringCase(text, "inherit") || equalIgnoringCase(text, "unset"))
+        return;
+    if (equalIgnoringCase(text, "initial"))
+        style.*member = TextStyle().*member;
+    else if (const auto value = parse(text))
+        style.*member = *value;
+}
+
+} // namespace
+
+TextStyle TextStyle::inherited(const StatedStyle& stated, const LengthContext& lengths) const {
+    TextStyle style = *this;
+    const auto spacing = [&](std::string_view text) { return parseSpacing(text, lengths); };
+    read(stated, Property::FontFamily, &TextStyle::families, style, [](std::string_view text) {
+        return familyNames(text).empty() ? std::nullopt : std::optional(text);
+    });
+    read(stated, Property::FontWeight, &TextStyle::weight, style,
+         [&](std::string_view text) { return parseWeight(text, weight); });
+    read(stated, Property::FontStyle, &TextStyle::slant, style, parseSlant);
+    read(stated, Property::FontStretch, &TextStyle::stretch, style, parseStretch);
+    read(stated, Property::FontVariant, &TextStyle::smallCaps, style, [](std::string_view text) {
+        return std::optional(text.find("small-caps") != std::string_view::npos);
+    });
+    read(stated, Property::LetterSpacing, &TextStyle::letterSpacing, style, spacing);
+    read(stated, Property::WordSpacing, &TextStyle::wordSpacing, style, spacing);
+    read(stated, Property::TextAnchor, &TextStyle::anchor, style, parseAnchor);
+    read(stated, Property::DominantBaseline, &TextStyle::baseline, style, [](std::string_view text) {
+        return std::optional(parseBaseline(text).value_or(Baseline::Alphabetic));
+    });
+    read(stated, Property::WhiteSpace, &TextStyle::whiteSpace, style, parseWhiteSpace);
+    read(stated, Property::WritingMode, &TextStyle::direction, style, parseWritingMode);
+    read(stated, Property::GlyphOrientation, &TextStyle::upright, style, parseOrientation);
+    read(stated, Property::TextOrientation, &TextStyle::upright, style, parseOrientation);
+    read(stated, Property::Direction, &TextStyle::rightToLeft, style,
+         [](std::string_view text) { return std::optional(equalIgnoringCase(text, "rtl")); });
+    return style;
+}
+
+std::string familyNames(std::string_view stated) {
+    std::string names;
+    Scanner scanner(stated);
+    while (!scanner.done()) {
+        scanner.skipSeparator();
+        const char quote = scanner.peek();
+        std::string_view name;
+        if (scanner.take('"') || scanner.take('\'')) {
+            name = scanner.until(quote);
+            scanner.until(',');
+        } else {
+            name = trimmed(scanner.until(','));
+            if (!isNameOfWords(name))
+                return {};
+        }
+        if (!name.empty())
+            names.append(names.empty() ? "" : ",").append(name);
+    }
+    return names;
+}
+
+std::optional<Baseline> parseBaseline(std::string_view text) {
+    using enum Baseline;
+    static constexpr Word<Baseline> kWords[] = {{"alphabetic", Alphabetic},
+                                                {"ideographic", Ideographic},
+                                                {"hanging", Hanging},
+                                                {"mathematical", Mathematical},
+                                                {"middle", Middle},
+                                                {"central", Central},
+                                                {"text-before-edge", TextTop},
+                                                {"before-edge", TextTop},
+                                                {"text-top", TextTop},
+                                                {"top", TextTop},
+                                                {"text-after-edge", TextBottom},
+                                                {"after-edge", TextBottom},
+                                                {"text-bottom", TextBottom},
+                                                {"bottom", TextBottom},
+                                                {"center", Central}};
+    return valueOf(text, kWords);
+}
+
+double heightOf(Baseline baseline, const type::FontMetrics& metrics) {
+    switch (baseline) {
+    case Baseline::Alphabetic:
+        break;
+    case Baseline::Ideographic:
+        return metrics.ideographic;
+    case Baseline::Hanging:
+        return metrics.hanging;
+    case Baseline::Mathematical:
+        return metrics.mathematical;
+    case Baseline::Middle:
+        return metrics.xHeight / 2;
+    case Baseline::Central:
+        return (metrics.ascent + metrics.descent) / 2;
+    case Baseline::TextTop:
+        return metrics.ascent;
+    case Baseline::TextBottom:
+        return metrics.descent;
+    }
+    return 0;
+}
+
+} // namespace easel::svg
