@@ -1,14 +1,18 @@
 #include "easel/type/Typesetter.h"
 
+#include "easel/files/ProgramFolders.h"
+
 #include <dlfcn.h>
+
+#include <filesystem>
 
 namespace easel::type {
 
 namespace {
 
 Typesetter* loadTypesetter() {
-    // It lies beside the library that this is part of, which is where the run path of that points to.
-    void* const library = dlopen("libeaseltype.so", RTLD_NOW | RTLD_LOCAL);
+    const std::filesystem::path file = files::ownLibrary(EASEL_TYPE_LIBRARY);
+    void* const library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* const symbol = library ? dlsym(library, kTypesetterSymbol) : nullptr;
     return symbol ? reinterpret_cast<TypesetterFunction>(symbol)() : nullptr;
 }
