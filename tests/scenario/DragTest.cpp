@@ -177,8 +177,24 @@ TEST(RadialPress, AtTheCornersOfTheBoundsGivesZeroAndOne) {
 }
 
 TEST(RadialPress, OutsideTheBoundsGivesFractionsBeyondThem) {
-    EXPECT_EQ(gradientAfter(kRadial + "click 98 50\n")["start"], json({-0.01, 0.0}));
-    EXPECT_EQ(gradientAfter(kRadial + "click 300 152\n")["end"], json({1.0, 1.02}));
+    for (const auto& [click, fractions] : {std::pair("click 98 50\n", json({-0.01, 0.0})),
+                                           {"click 302 100\n", json({1.01, 0.5})},
+                                           {"click 300 152\n", json({1.0, 1.02})}}) {
+        const json gradient = gradientAfter(kRadial + click);
+        EXPECT_EQ(gradient["start"], fractions);
+        EXPECT_EQ(gradient["end"], fractions);
+    }
+}
+
+TEST(RadialPress, CallsTheHostInTheOrderOfTheSteps) {
+    const Played played = playWithTool(kRadial + "journal on\nclick 150 75\nprint journal\n");
+    const auto journal = played["journal"].get<std::vector<std::string>>();
+    const auto begin = std::find(journal.begin(), journal.end(), "ObjToPoly(0.07)");
+    const auto end = std::find(journal.begin(), journal.end(), "DeleteUObj(0)");
+    EXPECT_EQ(std::vector<std::string>(begin, end),
+              (std::vector<std::string>{"ObjToPoly(0.07)", "TessObject::WhatObject()", "TessObject::BBox()",
+                                        "kBlackPat()", "TessObject::SetFillPattern()",
+                                        "TessObject::SetGradient()", "RecoverObject()"}));
 }
 
 TEST(RadialPress, TracksNoDrag) {

@@ -214,6 +214,13 @@ TEST(EditorSwatches, WhileAStopIsDraggedRampAndPreviewFollowAndTheSwatchDoesNot)
     EXPECT_EQ(shown("s4.png").at(40, 16), kBlack) << "drawn once the button is released";
 }
 
+TEST(EditorSwatches, AStopDraggedPastAnotherShowsTheNewOrderAtOnce) {
+    const Player player;
+    player.playToEnd("new 400 300\nstart\n" + openEditorOn(kThreeStops) +
+                     "press item 4 6 10\nmove item 4 306 10\npicture item 4 r.png\nrelease\nhit 2\n");
+    EXPECT_EQ(Picture(player.folder() / "r.png").at(56, 10), 0xff0000u) << "red is the first stop now";
+}
+
 // Putting a stop back gives it its old color after the editor has taken note of the new one, and nothing
 // tells it.
 TEST(EditorSwatches, AStopThatCameBackShowsTheRampsColorInTheSwatchUntilTheMouseMovesOn) {

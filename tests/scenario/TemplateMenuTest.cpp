@@ -156,6 +156,14 @@ TEST_F(TemplateMenu, AnEmptyNameSavesNothing) {
     EXPECT_EQ(popupIn(played["dialog"]), 1);
 }
 
+TEST_F(TemplateMenu, ThePopupIsResetOnceItIsRebuilt) {
+    const std::vector<std::string> calls =
+        edit("journal on\n" + saveAs("a") + "print journal\n")["journal"];
+    ASSERT_GE(calls.size(), 3U);
+    EXPECT_THAT(std::vector(calls.end() - 3, calls.end()),
+                ElementsAre(testing::StartsWith("SetMenuItemText("), "SetItemCtlValue(9, 4)", "ModalDialog()"));
+}
+
 TEST_F(TemplateMenu, ACancelledNameSavesNothingAndLeavesThePopupAtSave) {
     const Played played = edit("choose 9 1\ntype \"Nothing\"\nhit 2\nprint dialog\nprint templates\n");
     EXPECT_EQ(played["templates"], json::array());

@@ -117,6 +117,8 @@ TEST(DecimalNumber, BeyondWhatADoubleHoldsIsInfiniteAndBelowItZero) {
     // The digits decide together with the exponent.
     EXPECT_EQ(ReadDecimal(("1" + std::string(400, '0') + "e-50").c_str()), kInfinity);
     EXPECT_EQ(ReadDecimal(("." + std::string(400, '0') + "1e50").c_str()), 0.0);
+    EXPECT_EQ(ReadDecimal((std::string(240, '0') + "1e-400").c_str()), 0.0);
+    EXPECT_EQ(ReadDecimal(("0x1" + std::string(300, '0') + "p-100").c_str()), kInfinity);
 }
 
 TEST(DecimalNumber, ReadsEveryTextAsTheCLibraryDoesInItsOwnLocale) {

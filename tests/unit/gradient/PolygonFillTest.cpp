@@ -3,6 +3,7 @@
 #include "easel/runtime/HostGraphics.h"
 #include "host/Drawing.h"
 #include "tests/unit/gradient/DrawnGradient.h"
+#include "tests/unit/gradient/FailingMemory.h"
 #include "tests/unit/gradient/Polygons.h"
 #include "tests/unit/gradient/Records.h"
 
@@ -43,6 +44,17 @@ TEST(PolygonFill, ExtendsTheRampFlatToBothEndsInACopy) {
     EXPECT_THAT(StopsOf(drawn.ColorList()),
                 ElementsAre(Stop{0.0, kRed}, Stop{0.2, kRed}, Stop{0.7, kBlue}, Stop{1.0, kBlue}));
     EXPECT_EQ(gradient.ColorList().size(), 2u);
+}
+
+TEST(PolygonFill, LeavesNoMemoryBehind) {
+    for (const KGradientType type : {kLinearGradient, kRadialGradient}) {
+        CGradientData gradient = RecordWith({{0.2, kRed}, {0.7, kBlue}});
+        gradient.SetType(type);
+        DrawnOnRect(WideRect(), gradient);
+        const long before = FailingMemory::LiveBlocks();
+        DrawnOnRect(WideRect(), gradient);
+        EXPECT_EQ(FailingMemory::LiveBlocks(), before) << type;
+    }
 }
 
 TEST(PolygonFill, AddsNoStopsToARampThatReachesBothEnds) {

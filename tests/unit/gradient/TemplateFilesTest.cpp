@@ -122,7 +122,9 @@ TEST_F(TemplateFiles, OnlyFilesOfTheTypeAreListed) {
 
 TEST_F(TemplateFiles, DeletingANameThatIsNotThereDoesNothing) {
     save("a.GRD");
+    stage_.process().journal().switchOn();
     DeleteTemplate("missing.GRD");
+    EXPECT_THAT(stage_.process().journal().take(), testing::Not(testing::Contains("FSpDelete()")));
     EXPECT_THAT(listed(), ElementsAre("a.GRD"));
     DeleteTemplate("a.GRD");
     EXPECT_THAT(listed(), IsEmpty());
