@@ -157,11 +157,11 @@ TEST_F(TemplateMenu, AnEmptyNameSavesNothing) {
 }
 
 TEST_F(TemplateMenu, ThePopupIsResetOnceItIsRebuilt) {
-    const std::vector<std::string> calls =
-        edit("journal on\n" + saveAs("a") + "print journal\n")["journal"];
+    const std::vector<std::string> calls = edit("journal on\n" + saveAs("a") + "print journal\n")["journal"];
     ASSERT_GE(calls.size(), 3U);
-    EXPECT_THAT(std::vector(calls.end() - 3, calls.end()),
-                ElementsAre(testing::StartsWith("SetMenuItemText("), "SetItemCtlValue(9, 4)", "ModalDialog()"));
+    EXPECT_THAT(
+        std::vector(calls.end() - 3, calls.end()),
+        ElementsAre(testing::StartsWith("SetMenuItemText("), "SetItemCtlValue(9, 4)", "ModalDialog()"));
 }
 
 TEST_F(TemplateMenu, ACancelledNameSavesNothingAndLeavesThePopupAtSave) {

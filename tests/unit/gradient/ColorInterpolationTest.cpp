@@ -96,6 +96,14 @@ TEST(ColorInterpolation, MatchesWholeNumberArithmeticOnDyadicPositions) {
     }
 }
 
+TEST(ColorInterpolation, KeepsTheLowSixteenBitsOfWhatAnIntegerHolds) {
+    // Out of order, a ramp is followed far beyond its stops: here to twice the position and two more.
+    const CGradientData gradient = RecordWith({{1.0, kBlack}, {0.5, RGBColor{1, 0, 0}}});
+    EXPECT_EQ(ColorAt(gradient, -32767.0), (RGBColor{0, 0, 0}));
+    EXPECT_EQ(ColorAt(gradient, -1073741822.75), (RGBColor{65535, 0, 0}));
+    EXPECT_EQ(ColorAt(gradient, -1073741823.0), kBlack);
+}
+
 TEST(ColorInterpolation, SurvivesPositionsThatAreNotNumbers) {
     const double nan = std::nan("");
     const double infinity = std::numeric_limits<double>::infinity();

@@ -119,6 +119,10 @@ TEST(DecimalNumber, BeyondWhatADoubleHoldsIsInfiniteAndBelowItZero) {
     EXPECT_EQ(ReadDecimal(("." + std::string(400, '0') + "1e50").c_str()), 0.0);
     EXPECT_EQ(ReadDecimal((std::string(240, '0') + "1e-400").c_str()), 0.0);
     EXPECT_EQ(ReadDecimal(("0x1" + std::string(300, '0') + "p-100").c_str()), kInfinity);
+    // A decimal digit weighs one power of the exponent's base, a hexadecimal one four.
+    EXPECT_EQ(ReadDecimal(("1" + std::string(400, '0') + "e-750").c_str()), 0.0);
+    EXPECT_EQ(ReadDecimal(("0x1" + std::string(1500, '0') + "p-4600").c_str()), kInfinity);
+    EXPECT_EQ(ReadDecimal(("0x1" + std::string(1500, '0') + "p-7200").c_str()), 0.0);
 }
 
 TEST(DecimalNumber, ReadsEveryTextAsTheCLibraryDoesInItsOwnLocale) {

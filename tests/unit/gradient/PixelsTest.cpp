@@ -1,6 +1,6 @@
 // Coordinates and colors that are too small a matter to be seen in a picture.
-#include "Gradient/model/Colors.h"
 #include "Gradient/model/Pixels.h"
+#include "Gradient/model/Colors.h"
 
 #include <gtest/gtest.h>
 
