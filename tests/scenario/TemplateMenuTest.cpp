@@ -157,7 +157,7 @@ TEST_F(TemplateMenu, AnEmptyNameSavesNothing) {
 }
 
 TEST_F(TemplateMenu, ThePopupIsResetOnceItIsRebuilt) {
-    const std::vector<std::string> calls = edit("journal on\n" + saveAs("a") + "print journal\n")["journal"];
+    const std::vector<std::string> calls = edit("journal on\n" + save("a") + "print journal\n")["journal"];
     ASSERT_GE(calls.size(), 3U);
     EXPECT_THAT(
         std::vector(calls.end() - 3, calls.end()),
