@@ -82,7 +82,7 @@ TEST(Pattern, KeepsItsPhaseOverManyCells) {
         double covered = 0;
         for (int i = 0; i < 10; ++i)
             covered += std::max(0.0, std::min(x + 1.0, i * kPeriod + 3) - std::max<double>(x, i * kPeriod));
-        EXPECT_NEAR(level(surface.row(30)[x], 24) / 255.0, covered, 0.3) << x;
+        EXPECT_NEAR(level(surface.row(30)[x], 24) / 255.0, covered, 0.15) << x;
         light += level(surface.row(30)[x], 24) / 255.0 - covered;
     }
     EXPECT_NEAR(light, 0, 0.5);

@@ -113,7 +113,8 @@ TEST(SvgPicture, ThatIsNotShownIsNamed) {
         EXPECT_EQ(drawing.size(), 0U) << reference;
         return drawing.notes().empty() ? "" : drawing.notes().front();
     };
-    EXPECT_EQ(noteOf("http://example.org/a.png"), "Pictures are read from the folder of the drawing and those below it, and from nowhere else.");
+    EXPECT_EQ(noteOf("http://example.org/a.png"),
+              "Pictures are read from the folder of the drawing and those below it, and from nowhere else.");
     EXPECT_EQ(noteOf("data:image/png;base64,****"),
               "Pictures that are damaged are kept in the file but not shown.");
     EXPECT_EQ(noteOf("data:image/tiff;base64,SUkqAA=="),
