@@ -1,4 +1,4 @@
-// Builds the list of shortcuts from the menus themselves, so that it cannot fall behind.
+// Builds the list of shortcuts from the actions themselves, so that it cannot fall behind.
 #include "easel/window/main/HelpDialogs.h"
 
 #include "easel/window/waiting/DialogStack.h"
@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <set>
 #include <utility>
 
 namespace easel::window {
@@ -24,15 +25,41 @@ QString withoutMnemonic(QString text) {
     return text.remove(QLatin1Char('&'));
 }
 
-void addMenu(QTreeWidget& list, const QMenu& menu) {
-    auto* group = new QTreeWidgetItem(&list, {withoutMnemonic(menu.title())});
+using Listed = std::set<const QAction*>;
+
+QTreeWidgetItem* addGroup(QTreeWidget& list, const QString& title) {
+    auto* group = new QTreeWidgetItem(&list, {title});
     group->setFirstColumnSpanned(true);
+    return group;
+}
+
+void addAction(QTreeWidgetItem& group, const QAction& action) {
+    QStringList keys;
+    for (const QKeySequence& key : action.shortcuts())
+        keys << key.toString(QKeySequence::NativeText);
+    new QTreeWidgetItem(&group, {withoutMnemonic(action.text()), keys.join(QObject::tr(" or "))});
+}
+
+void addMenu(QTreeWidget& list, const QMenu& menu, Listed& listed) {
+    QTreeWidgetItem* group = addGroup(list, withoutMnemonic(menu.title()));
     for (const QAction* action : menu.actions())
         if (action->menu() && !action->menu()->isEmpty())
-            addMenu(list, *action->menu());
-        else if (!action->shortcut().isEmpty())
-            new QTreeWidgetItem(group, {withoutMnemonic(action->text()),
-                                        action->shortcut().toString(QKeySequence::NativeText)});
+            addMenu(list, *action->menu(), listed);
+        else if (!action->shortcut().isEmpty() && listed.insert(action).second)
+            addAction(*group, *action);
+    if (group->childCount() == 0)
+        delete group;
+}
+
+// What has keys and is in no menu is in the palette of tools.
+void addOthers(QTreeWidget& list, const QMainWindow& window, Listed& listed) {
+    QTreeWidgetItem* group = nullptr;
+    for (const QAction* action : window.findChildren<QAction*>())
+        if (!action->shortcut().isEmpty() && listed.insert(action).second) {
+            if (!group)
+                group = addGroup(list, QObject::tr("Tools"));
+            addAction(*group, *action);
+        }
 }
 
 void addMouse(QTreeWidget& list) {
@@ -47,8 +74,7 @@ void addMouse(QTreeWidget& list) {
         std::pair{QObject::tr("Move the view"), QObject::tr("Wheel, middle button, or Space and drag")},
         std::pair{QObject::tr("Break off a drag"), QObject::tr("Escape")},
     };
-    auto* group = new QTreeWidgetItem(&list, {QObject::tr("Mouse")});
-    group->setFirstColumnSpanned(true);
+    QTreeWidgetItem* group = addGroup(list, QObject::tr("Mouse"));
     for (const auto& [what, how] : lines)
         new QTreeWidgetItem(group, {what, how});
 }
@@ -65,8 +91,10 @@ void showShortcuts(const QMainWindow& window, DialogStack& dialogs) {
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setAccessibleName(QObject::tr("Shortcuts"));
     addMouse(*list);
+    Listed listed;
     for (const QAction* action : window.menuBar()->actions())
-        addMenu(*list, *action->menu());
+        addMenu(*list, *action->menu(), listed);
+    addOthers(*list, window, listed);
     list->expandAll();
     list->setItemsExpandable(false);
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -9,7 +9,7 @@ namespace easel::window {
 
 class DialogStack;
 
-// Lists the keys of the window's menus and what the mouse does.
+// Lists all keys of the window and what the mouse does.
 void showShortcuts(const QMainWindow& window, DialogStack& dialogs);
 
 void showAbout(const std::string& version, DialogStack& dialogs);
