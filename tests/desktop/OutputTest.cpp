@@ -9,6 +9,7 @@
 namespace desktop {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -22,6 +23,24 @@ class OutputTest : public DesktopTest {
         chooseInMenu({"alt+f", "e", key});
         answerFileDialog("Export as " + title, file);
     }
+    // As many keys as it takes to change the size, and Return.
+    void answerSize(const std::vector<std::string>& keys = {}) {
+        waitForDialog("Picture Size");
+        for (const std::string& key : keys)
+            screen().key(key);
+        screen().key("Return");
+        EXPECT_TRUE(vanishes("Picture Size"));
+    }
+    // Width and height as the header tells them.
+    std::vector<int> sizeOf(const std::string& png) const {
+        const auto number = [&](std::size_t at) {
+            int value = 0;
+            for (std::size_t i = at; i < at + 4; ++i)
+                value = value * 256 + static_cast<unsigned char>(png.at(i));
+            return value;
+        };
+        return {number(16), number(20)};
+    }
     // Files are moved into place whole, so what is there is complete.
     std::string written(const fs::path& file) const {
         EXPECT_TRUE(eventually([&] { return fs::exists(file); })) << file;
@@ -32,11 +51,11 @@ class OutputTest : public DesktopTest {
 TEST_F(OutputTest, ADrawingIsExportedInThreeFormatsWithTheirEndings) {
     startWithDrawing();
     exportAs("p", "PNG", in("picture"));
+    answerSize();
     const std::string png = written(in("picture.png"));
     ASSERT_GT(png.size(), 24U);
     EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1a\n");
-    // Width and height in the header: 600 by 400.
-    EXPECT_EQ(png.substr(16, 8), std::string("\0\0\x02\x58\0\0\x01\x90", 8));
+    EXPECT_THAT(sizeOf(png), ElementsAre(600, 400));
 
     exportAs("d", "PDF", in("page"));
     const std::string pdf = written(in("page.pdf"));
@@ -51,6 +70,21 @@ TEST_F(OutputTest, ADrawingIsExportedInThreeFormatsWithTheirEndings) {
     EXPECT_EQ(quit(), 0) << "an export changes nothing in the drawing";
 }
 
+TEST_F(OutputTest, ThePixelsOfAPictureAreAskedForAndKept) {
+    startWithDrawing();
+    exportAs("p", "PNG", in("wide"));
+    // The width is selected, and the height follows.
+    answerSize({"9", "0", "0"});
+    EXPECT_THAT(sizeOf(written(in("wide.png"))), ElementsAre(900, 600));
+    exportAs("p", "PNG", in("again"));
+    answerSize();
+    EXPECT_THAT(sizeOf(written(in("again.png"))), ElementsAre(900, 600));
+    // Two pixels for each of the drawing's units, of which 96 make an inch.
+    exportAs("p", "PNG", in("fine"));
+    answerSize({"alt+r", "1", "9", "2"});
+    EXPECT_THAT(sizeOf(written(in("fine.png"))), ElementsAre(1200, 800));
+}
+
 TEST_F(OutputTest, AnEndingThatIsNoneIsFollowedByTheFormatsOwnAndReplacingIsAsked) {
     std::ofstream(in("version1.2.png")) << "before";
     startWithDrawing();
@@ -62,6 +96,7 @@ TEST_F(OutputTest, AnEndingThatIsNoneIsFollowedByTheFormatsOwnAndReplacingIsAske
     exportAs("p", "PNG", in("version1.2"));
     waitForDialog("Easel");
     screen().key("Return");
+    answerSize();
     EXPECT_TRUE(eventually([&] { return contents(in("version1.2.png")).starts_with("\x89PNG"); }));
     EXPECT_FALSE(fs::exists(in("version1.2")));
 }

@@ -25,7 +25,7 @@ class StarterOfferTest : public DesktopTest {
 
 TEST_F(StarterOfferTest, TemplatesAreAddedWhenTheyAreWanted) {
     startForTheFirstTime();
-    EXPECT_FALSE(fs::exists(templates())) << "nothing is put there without being asked";
+    EXPECT_FALSE(fs::exists(templates() / "Wood.GRD")) << "nothing is put there without being asked";
     screen().key("alt+a");
     EXPECT_TRUE(eventually([&] { return fs::exists(templates() / "._Wood.GRD"); }));
     EXPECT_TRUE(fs::exists(templates() / "Clear Sky.GRD"));
@@ -42,7 +42,7 @@ TEST_F(StarterOfferTest, ARefusalIsRemembered) {
     EXPECT_TRUE(getsKeyboard("Untitled"));
     screen().key("alt+a");
     EXPECT_EQ(quit(), 0);
-    EXPECT_FALSE(fs::exists(templates()));
+    EXPECT_FALSE(fs::exists(templates() / "Wood.GRD"));
 }
 
 class TemplatesTest : public DesktopTest {

@@ -2,6 +2,7 @@
 #include "easel/export/ExportDrawing.h"
 #include "easel/runtime/Alert.h"
 #include "easel/svg/Document.h"
+#include "easel/window/dialogs/PictureSizeQuestion.h"
 #include "easel/window/dialogs/Questions.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/PrintDrawing.h"
@@ -132,11 +133,18 @@ void MainWindow::exportAs(const QString& suffix) {
     const QString file = fileForExport(suffix);
     if (file.isEmpty())
         return;
+    exports::SizeRequest size;
+    if (QFileInfo(file).suffix().compare(QLatin1String("png"), Qt::CaseInsensitive) == 0) {
+        const drawing::Drawing& drawing = drawingWindow_.drawing();
+        size.scale = askForPictureScale({drawing.width(), drawing.height()}, shared_.interaction.dialogs);
+        if (!size.scale)
+            return;
+    }
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     files::Result<> exported;
     workBeside(shared_.interaction, tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
                [&](const exports::Progress& progress) {
-                   exported = exports::exportDrawing(drawingWindow_.drawing(), path, {}, progress);
+                   exported = exports::exportDrawing(drawingWindow_.drawing(), path, size, progress);
                });
     if (!exported && !exported.error().isCancellation())
         tellProblem(exported.error().message(), shared_.interaction.dialogs);
