@@ -123,6 +123,7 @@ void ModalDialog(ModalFilterUPP filter, short* itemHit) {
         return;
     dialog->setStandardKeys(filter == StdDlogFilterUPP ? easel::runtime::StandardKeys::On
                                                        : easel::runtime::StandardKeys::Off);
+    process().drag().finish(*dialog);
     drawAndShow(*dialog);
     // Nobody answers any more when the program is quitting, which is a Cancel.
     if (const short hit = process().user().nextHit(*dialog))

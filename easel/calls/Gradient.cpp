@@ -10,6 +10,8 @@
 #include <iterator>
 
 using easel::drawing::Kind;
+using easel::runtime::DialogDrag;
+using easel::runtime::dialogDrag;
 using easel::runtime::journal;
 using easel::runtime::process;
 
@@ -20,7 +22,10 @@ constexpr RGBColor kWhite{65535, 65535, 65535};
 
 } // namespace
 
-CGradientColor::CGradientColor(const RGBColor& color, double percent) : color_(color), percent_(percent) {}
+CGradientColor::CGradientColor(const RGBColor& color, double percent) : color_(color), percent_(percent) {
+    if (DialogDrag* const drag = dialogDrag())
+        drag->stopMade();
+}
 RGBColor CGradientColor::ColorRGB() const {
     return color_;
 }
@@ -28,7 +33,9 @@ void CGradientColor::SetColor(const RGBColor& color) {
     color_ = color;
 }
 void CGradientColor::SetPercent(float percent) {
-    percent_ = static_cast<double>(percent);
+    const double wanted = static_cast<double>(percent);
+    DialogDrag* const drag = dialogDrag();
+    percent_ = drag ? drag->positionFor(percent_, wanted) : wanted;
 }
 bool CGradientColor::operator<(const CGradientColor& other) const {
     return percent_ < other.percent_;
@@ -48,19 +55,22 @@ float CGradientData::Angle() const {
     return fields_.angle;
 }
 void CGradientData::SetAngle(float degrees) {
-    fields_.angle = degrees;
+    const DialogDrag* const drag = dialogDrag();
+    fields_.angle = drag ? drag->angleFor(fields_.angle, degrees) : degrees;
 }
 TPoint<double> CGradientData::Start() const {
     return fields_.start;
 }
 void CGradientData::SetStart(TPoint<double> start) {
-    fields_.start = start;
+    DialogDrag* const drag = dialogDrag();
+    fields_.start = drag ? drag->startFor(fields_.start, start) : start;
 }
 TPoint<double> CGradientData::End() const {
     return fields_.end;
 }
 void CGradientData::SetEnd(TPoint<double> end) {
-    fields_.end = end;
+    DialogDrag* const drag = dialogDrag();
+    fields_.end = drag ? drag->endFor(fields_.end, end) : end;
 }
 double CGradientData::StartRadius() const {
     return fields_.startRadius;

@@ -1,6 +1,7 @@
 // Implements host/Mouse.h.
 #include "host/Mouse.h"
 
+#include "easel/runtime/Dialog.h"
 #include "easel/runtime/DrawingWindow.h"
 #include "easel/runtime/HostPixels.h"
 #include "easel/runtime/HostPoint.h"
@@ -29,7 +30,10 @@ Switch switchOf(bool on) {
 bool StillDown() {
     journal("StillDown");
     process().dialogs().flushFront();
-    return process().user().waitWhileDown().down;
+    const bool down = process().user().waitWhileDown().down;
+    if (const easel::runtime::Dialog* dialog = process().dialogs().front(); dialog && down)
+        process().drag().followed(*dialog);
+    return down;
 }
 
 void WaitMove(TPoint<short> from, TPoint<short>& to, long ticks) {

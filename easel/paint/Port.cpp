@@ -108,8 +108,16 @@ void Port::fillSpan(int row, int from, int to, const PixelRect& clip, Ink ink) {
         if (!inverts)
             start[column] = set ? foreground : background;
         else if (set)
-            start[column] ^= kColorBits;
+            invert(row, column);
     }
+}
+
+void Port::invert(int row, int column) {
+    const std::size_t at = static_cast<std::size_t>(row) * static_cast<std::size_t>(imageWidth_) +
+                           static_cast<std::size_t>(column);
+    pixels_[at] ^= kColorBits;
+    inverted_.resize(pixels_.size());
+    inverted_[at] = !inverted_[at];
 }
 
 void Port::fillRect(const PixelRect& rect, Ink ink) {

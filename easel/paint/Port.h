@@ -62,6 +62,9 @@ class Port {
     int imageHeight() const { return imageHeight_; }
     std::uint32_t* pixels() { return pixels_.data(); }
     const std::uint32_t* pixels() const { return pixels_.data(); }
+    // For each pixel of the image whether it is inverted at present, which cannot be seen over middle gray;
+    // empty as long as none ever was.
+    const std::vector<bool>& inverted() const { return inverted_; }
     // Where a rectangle of port pixels lies in the image; it may reach outside.
     PixelRect imageRect(const PixelRect& rect) const;
     // What has been drawn since the last call, in port pixels; empty when nothing was.
@@ -100,12 +103,14 @@ class Port {
     void fillRect(const PixelRect& rect, Ink ink);
     void drawLine(PixelPoint from, PixelPoint to);
     bool patternBit(int row, int column) const;
+    void invert(int row, int column);
 
     PixelRect bounds_;
     double scale_;
     int imageWidth_;
     int imageHeight_;
     std::vector<std::uint32_t> pixels_;
+    std::vector<bool> inverted_;
     PortState state_;
     PixelRect damage_;
     bool recording_ = false;

@@ -41,6 +41,10 @@ Process& process() {
     return *gCurrent;
 }
 
+DialogDrag* dialogDrag() {
+    return gCurrent != nullptr ? &gCurrent->drag() : nullptr;
+}
+
 Journal* openJournal() {
     return gCurrent && gCurrent->journal().isOn() ? &gCurrent->journal() : nullptr;
 }

@@ -2,6 +2,7 @@
 // handed out.
 #pragma once
 
+#include "easel/runtime/DialogDrag.h"
 #include "easel/runtime/Journal.h"
 #include "easel/runtime/MemoryBlocks.h"
 #include "easel/runtime/OpenDialogs.h"
@@ -47,6 +48,7 @@ class Process {
     Ports& ports() { return ports_; }
     PolygonRecording& recording() { return recording_; }
     OpenDialogs& dialogs() { return dialogs_; }
+    DialogDrag& drag() { return drag_; }
     TPalette& palette() { return palette_; }
     PluginResourceFile& plugin() { return plugin_; }
     Storage& storage() { return storage_; }
@@ -63,6 +65,7 @@ class Process {
     Ports ports_;
     PolygonRecording recording_;
     OpenDialogs dialogs_;
+    DialogDrag drag_;
     TPalette palette_;
     PluginResourceFile plugin_;
     Storage storage_;

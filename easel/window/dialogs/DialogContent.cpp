@@ -2,14 +2,48 @@
 #include "easel/window/dialogs/DialogContent.h"
 
 #include "easel/paint/Port.h"
+#include "easel/runtime/DialogDrag.h"
 #include "easel/window/waiting/PointerTracker.h"
 
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
+#include <deque>
+#include <utility>
 
 namespace easel::window {
+namespace {
+
+// Black with a white rim where pixels are inverted, so that a line is seen over any color; null for none.
+QImage marksOver(const paint::Port& port) {
+    const std::vector<bool>& inverted = port.inverted();
+    const int width = port.imageWidth();
+    const int height = port.imageHeight();
+    const int rim = static_cast<int>(std::ceil(port.scale()));
+    QImage marks;
+    for (auto at = std::find(inverted.begin(), inverted.end(), true); at != inverted.end();
+         at = std::find(at + 1, inverted.end(), true)) {
+        if (marks.isNull()) {
+            marks = QImage(width, height, QImage::Format_ARGB32);
+            marks.fill(Qt::transparent);
+            marks.setDevicePixelRatio(port.scale());
+        }
+        const auto index = static_cast<int>(at - inverted.begin());
+        const int x = index % width;
+        const int y = index / width;
+        for (int row = std::max(y - rim, 0); row <= std::min(y + rim, height - 1); ++row)
+            for (int column = std::max(x - rim, 0); column <= std::min(x + rim, width - 1); ++column) {
+                const auto pixel = static_cast<std::size_t>(row) * static_cast<std::size_t>(width) +
+                                   static_cast<std::size_t>(column);
+                marks.setPixelColor(column, row, inverted[pixel] ? Qt::black : Qt::white);
+            }
+    }
+    return marks;
+}
+
+} // namespace
 
 DialogContent::DialogContent(runtime::Dialog& dialog, PointerTracker& pointer, QWidget* parent)
     : QWidget(parent), dialog_(dialog), pointer_(pointer) {
@@ -26,8 +60,22 @@ drawing::Point DialogContent::toLocal(QPointF position) const {
 }
 
 void DialogContent::press(int item, QPointF position) {
+    pressed_ = position;
     pointer_.pressed(*this, position);
+    if (runtime::DialogDrag* const drag = runtime::dialogDrag())
+        drag->begin();
     dialog_.hit(item);
+}
+
+bool DialogContent::takeBackDrag() {
+    runtime::DialogDrag* const drag = runtime::dialogDrag();
+    if (!drag || !pointer_.followedOn(*this))
+        return false;
+    std::deque<QPointF> way;
+    for (const paint::PixelPoint& step : drag->takeBack())
+        way.push_back(pressed_ + QPointF(step.h, step.v));
+    pointer_.leadBack(std::move(way));
+    return true;
 }
 
 void DialogContent::move(QPointF position) {
@@ -47,6 +95,8 @@ void DialogContent::paintEvent(QPaintEvent* event) {
     painter.setClipRegion(event->region());
     painter.fillRect(rect(), palette().window());
     painter.drawImage(QPointF(0, 0), image);
+    if (const QImage marks = marksOver(port); !marks.isNull())
+        painter.drawImage(QPointF(0, 0), marks);
 }
 
 } // namespace easel::window

@@ -30,12 +30,16 @@ class DialogContent : public QWidget, public PointerSurface {
     void move(QPointF position);
     void release(QPointF position);
 
+    // Takes back what the mouse has dragged since it went down; false if it drags nothing.
+    bool takeBackDrag();
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     runtime::Dialog& dialog_;
     PointerTracker& pointer_;
+    QPointF pressed_;
 };
 
 } // namespace easel::window

@@ -124,6 +124,9 @@ void DialogWindow::reject() {
 }
 
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
+    // Escape gives up the least that is going on.
+    if (event->key() == Qt::Key_Escape && content_->takeBackDrag())
+        return;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         dialog_.hit(kDefaultItem);
         return;

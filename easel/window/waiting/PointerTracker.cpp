@@ -21,19 +21,28 @@ void PointerTracker::pressed(PointerSurface& surface, QPointF position) {
     releasePosition_.reset();
     lastAnswer_.reset();
     unheeded_ = false;
+    led_ = false;
+    followed_ = false;
     sinceScroll_.start();
 }
 
 void PointerTracker::moved(QPointF position) {
-    if (!down_)
+    if (!down_ || led_)
         return;
     newPosition_ = position;
 }
 
 void PointerTracker::released(QPointF position) {
-    if (!down_)
+    if (!down_ || led_)
         return;
     releasePosition_ = position;
+}
+
+void PointerTracker::leadBack(std::deque<QPointF> way) {
+    newPosition_.reset();
+    releasePosition_.reset();
+    way_ = std::move(way);
+    led_ = true;
 }
 
 void PointerTracker::forget(const PointerSurface& surface) {
@@ -45,6 +54,14 @@ void PointerTracker::forget(const PointerSurface& surface) {
 
 // Moves on to what happened next; false if nothing did.
 bool PointerTracker::takeNews() {
+    if (led_ && down_) {
+        down_ = !way_.empty();
+        if (down_) {
+            position_ = way_.front();
+            way_.pop_front();
+        }
+        return true;
+    }
     if (newPosition_) {
         position_ = *newPosition_;
         newPosition_.reset();
@@ -69,6 +86,7 @@ bool PointerTracker::nearEdge() const {
 }
 
 runtime::MouseState PointerTracker::waitWhileDown() {
+    followed_ = true;
     // Whoever follows the mouse asks this between hearing of a move and showing it.
     if (!down_ || waiting_.cancelled() || std::exchange(unheeded_, false))
         return mouse();
@@ -80,6 +98,7 @@ runtime::MouseState PointerTracker::waitWhileDown() {
 }
 
 runtime::MouseState PointerTracker::waitForMove(drawing::Point from) {
+    followed_ = true;
     takeNews();
     const auto answer = [this] {
         const runtime::MouseState state = mouse();

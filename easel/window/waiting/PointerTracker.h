@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QPointF>
 
+#include <deque>
 #include <optional>
 
 namespace easel::window {
@@ -23,6 +24,8 @@ class PointerTracker {
     void pressed(PointerSurface& surface, QPointF position);
     void moved(QPointF position);
     void released(QPointF position);
+    // From now on the mouse goes this way, each place on its own, and then the button goes up.
+    void leadBack(std::deque<QPointF> way);
     // The surface goes away.
     void forget(const PointerSurface& surface);
 
@@ -32,6 +35,11 @@ class PointerTracker {
     runtime::MouseState waitForMove(drawing::Point from);
     bool dragBegins(drawing::Point from, double distance);
     void scrollTowardsMouse();
+
+    // Somebody has asked about the mouse since it was pressed on this surface.
+    bool followedOn(const PointerSurface& surface) const {
+        return down_ && followed_ && surface_ == &surface;
+    }
 
     // The button went up, though whoever follows the mouse may not have heard of it yet.
     bool over() const { return !down_ || releasePosition_; }
@@ -49,6 +57,9 @@ class PointerTracker {
     bool down_ = false;
     std::optional<QPointF> newPosition_;
     std::optional<QPointF> releasePosition_;
+    std::deque<QPointF> way_;
+    bool led_ = false; // along the way
+    bool followed_ = false;
     std::optional<drawing::Point> lastAnswer_;
     bool unheeded_ = false; // the last answer was news, and what it led to is not on the screen yet
     QElapsedTimer sinceScroll_;

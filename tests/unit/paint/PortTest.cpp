@@ -145,6 +145,18 @@ TEST(Port, AnInvertingPenTurnsBlackWhiteAndWhiteBlackWhateverTheForeground) {
     EXPECT_EQ(picture(port), (Picture{"#.#."}));
 }
 
+TEST(Port, KnowsWhichPixelsAreInverted) {
+    Port port = whitePort(4, 2);
+    EXPECT_TRUE(port.inverted().empty());
+    port.state().pen.mode = PenMode::Invert;
+    port.moveTo({1, 1});
+    port.lineTo({2, 1});
+    EXPECT_EQ(port.inverted(), (std::vector<bool>{false, false, false, false, false, true, true, false}));
+    port.moveTo({2, 1});
+    port.lineTo({3, 1});
+    EXPECT_EQ(port.inverted(), (std::vector<bool>{false, false, false, false, false, true, false, true}));
+}
+
 PortPolygon recordTriangle(Port& port, PixelPoint apex, int size) {
     port.openPolygon();
     port.moveTo(apex);
