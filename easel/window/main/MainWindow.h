@@ -4,6 +4,7 @@
 #include "easel/drawing/GradientCommands.h"
 #include "easel/drawing/GradientDescription.h"
 #include "easel/runtime/DrawingWindow.h"
+#include "easel/runtime/TemplateSaves.h"
 #include "easel/window/waiting/CancelFirst.h"
 
 #include <QMainWindow>
@@ -118,6 +119,7 @@ class MainWindow : public QMainWindow {
     void rememberCost();
     void gradientsEdited();
     void tellCost(drawing::Loss loss);
+    void tellWhatStaysBehind(const drawing::WholeGradient& gradient);
     void showWhatIsKept();
 
     // MainWindow.cpp
@@ -153,6 +155,7 @@ class MainWindow : public QMainWindow {
     struct Pressed {
         std::optional<drawing::WholeGradient> gradient;
         std::size_t undoLevels = 0;
+        runtime::TemplateSaves templates;
     };
     std::optional<Pressed> pressed_;
     drawing::Loss cost_ = drawing::Loss::None; // of the first change of what is about to be changed

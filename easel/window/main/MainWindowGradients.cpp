@@ -106,7 +106,7 @@ void MainWindow::buildGradientMenu(QMenu& edit) {
 
 void MainWindow::gradientPressed(drawing::Point at) {
     const Drawing& drawing = drawingWindow_.drawing();
-    pressed_ = Pressed{std::nullopt, drawing.undoLevels()};
+    pressed_ = Pressed{std::nullopt, drawing.undoLevels(), runtime::TemplateSaves(shared_.templateFolder)};
     cost_ = Loss::None;
     const auto hit = drawing.pick(at, kReach / canvas_->zoom(), gradientKinds());
     if (!hit)
@@ -125,6 +125,8 @@ void MainWindow::gradientPressed(drawing::Point at) {
 void MainWindow::gradientReleased() {
     const std::optional<Pressed> before = std::exchange(pressed_, std::nullopt);
     const Loss cost = std::exchange(cost_, Loss::None);
+    if (before && before->gradient && before->templates.any())
+        tellWhatStaysBehind(*before->gradient);
     const Drawing& drawing = drawingWindow_.drawing();
     const std::vector<std::size_t> selection = drawing.selection();
     if (!before || drawing.undoLevels() <= before->undoLevels || selection.size() != 1)
@@ -173,6 +175,20 @@ void MainWindow::gradientsEdited() {
     if (drawingWindow_.drawing().undoLevels() > levelsBefore_)
         tellCost(cost_);
     drawingChanged();
+}
+
+void MainWindow::tellWhatStaysBehind(const WholeGradient& gradient) {
+    Kept kept;
+    kept.add(gradient);
+    if (kept.opacity && kept.ellipse)
+        notice_->tell(tr("A template has opaque colors and circles: the opacity and the ellipse of this "
+                         "gradient stay behind, with the shape."));
+    else if (kept.opacity)
+        notice_->tell(tr("A template has opaque colors: the opacity of this gradient stays behind, with the "
+                         "shape."));
+    else if (kept.ellipse)
+        notice_->tell(tr("A template has circles: the ellipse of this gradient stays behind, with the "
+                         "shape."));
 }
 
 void MainWindow::tellCost(Loss loss) {

@@ -1,0 +1,35 @@
+// Whether templates were saved since some moment.
+#include "easel/runtime/TemplateSaves.h"
+
+#include <system_error>
+#include <utility>
+
+namespace easel::runtime {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The beginning of time for what is not there.
+fs::file_time_type lastChange(const fs::path& path) {
+    std::error_code missing;
+    const fs::file_time_type time = fs::last_write_time(path, missing);
+    return missing ? fs::file_time_type::min() : time;
+}
+
+} // namespace
+
+TemplateSaves::TemplateSaves(fs::path folder) : folder_(std::move(folder)), changed_(lastChange(folder_)) {}
+
+bool TemplateSaves::any() const {
+    // Files are written elsewhere and renamed, which changes the folder, as deleting one does.
+    if (lastChange(folder_) == changed_)
+        return false;
+    std::error_code failed;
+    for (fs::directory_iterator file(folder_, failed), end; !failed && file != end; file.increment(failed))
+        if (lastChange(file->path()) > changed_)
+            return true;
+    return false;
+}
+
+} // namespace easel::runtime
