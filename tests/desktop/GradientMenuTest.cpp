@@ -47,8 +47,11 @@ int difference(std::uint32_t a, std::uint32_t b) {
 }
 
 TEST_F(GradientMenuTest, AGradientIsPastedOntoSeveralShapesAndOneUndoTakesItBack) {
+    std::string before = contents(drawing());
+    const std::string opaque = "stop-color=\"#f0d060\"";
+    before.replace(before.find(opaque), opaque.size(), opaque + " stop-opacity=\".25\"");
+    std::ofstream(drawing()) << before;
     startWithDrawing();
-    const std::string before = contents(drawing());
     screen().key("v");
     select({kGradMiddle});
     screen().key("ctrl+shift+c");
@@ -58,7 +61,9 @@ TEST_F(GradientMenuTest, AGradientIsPastedOntoSeveralShapesAndOneUndoTakesItBack
     EXPECT_TRUE(colorVanishes(kMarker));
     const std::string after = saved();
     for (const char* id : {"plain", "marker"})
-        EXPECT_THAT(gradientOf(after, id), AllOf(HasSubstr("#203080"), HasSubstr("#f0d060"))) << id;
+        EXPECT_THAT(gradientOf(after, id),
+                    AllOf(HasSubstr("#203080"), HasSubstr("#f0d060\" stop-opacity=\"0.25\"")))
+            << id;
     screen().key("ctrl+z");
     waitForColor(kPlain);
     waitForColor(kMarker);
@@ -195,6 +200,168 @@ TEST_F(GradientMenuTest, AGlowThatIsDraggedStaysAGlow) {
     EXPECT_EQ(pixelAt(680, 234), outside) << "beyond its circle nothing changes";
     EXPECT_LT(difference(pixelAt(670, 240), outside), 0x28) << "its edge lets the sky through";
     EXPECT_THAT(gradientOf(saved(), "glow"), HasSubstr("stop-opacity=\"0.95\""));
+    // Its middle, 56 to the left of the circle's and 152 above, goes to 152 to the left and 56 below, behind
+    // the hills.
+    const std::uint32_t green = pixelAt(380, 330) >> 8 & 0xff;
+    screen().key("ctrl+shift+t");
+    EXPECT_TRUE(eventually([&] { return (pixelAt(380, 330) >> 8 & 0xff) > green + 10; }));
+    EXPECT_GT(difference(pixelAt(420, 200), 0xfff3c4), 0x20);
+    EXPECT_THAT(gradientOf(saved(), "glow"), HasSubstr("stop-opacity=\"0.95\""));
+}
+
+TEST_F(GradientMenuTest, StrokesAreReversedInsteadOfFills) {
+    std::string svg = contents(drawing());
+    svg.insert(svg.rfind("</svg>"), "<line id=\"line\" x1=\"60\" y1=\"200\" x2=\"560\" y2=\"200\" "
+                                    "stroke=\"url(#s)\" stroke-width=\"12\"/>");
+    svg.insert(svg.find("</defs>"), "<linearGradient id=\"s\" gradientUnits=\"userSpaceOnUse\" x1=\"60\" "
+                                    "x2=\"560\"><stop stop-color=\"#ff0000\"/>"
+                                    "<stop offset=\"1\" stop-color=\"#0000ff\"/></linearGradient>");
+    std::ofstream(drawing()) << svg;
+    startWithDrawing();
+    EXPECT_LT(difference(pixelAt(66, 204), 0xff0000), 8);
+    const std::uint32_t fill = pixelAt(80, 300);
+    screen().key("v");
+    select({{310, 200}, kGradMiddle});
+    screen().key("ctrl+shift+d");
+    screen().key("ctrl+shift+r");
+    EXPECT_TRUE(eventually([&] { return difference(pixelAt(66, 204), 0x0000ff) < 8; }));
+    EXPECT_EQ(pixelAt(80, 300), fill) << "which is not stroked";
+    const std::string after = saved();
+    EXPECT_THAT(gradientOf(after, "line"), HasSubstr("stop-color=\"#0000ff\""));
+    EXPECT_THAT(gradientOf(after, "grad"), HasSubstr("id=\"l\"")) << "still as the file had it";
+    screen().key("ctrl+z");
+    EXPECT_TRUE(eventually([&] { return difference(pixelAt(66, 204), 0xff0000) < 8; }));
+    EXPECT_EQ(saved(), svg);
+}
+
+TEST_F(GradientMenuTest, AnAngleIsTyped) {
+    startWithDrawing();
+    screen().key("v");
+    select({kGradMiddle});
+    const std::uint32_t left = pixelAt(64, 230);
+    screen().key("ctrl+shift+a");
+    waitForDialog("Angle");
+    screen().type("90");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Angle"));
+    EXPECT_TRUE(eventually([&] { return difference(pixelAt(160, 226), 0xf0d060) < 0x14; })) << "upwards";
+    EXPECT_LT(difference(pixelAt(160, 354), 0x203080), 0x14);
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    screen().key("ctrl+z");
+    EXPECT_TRUE(eventually([&] { return pixelAt(64, 230) == left; }));
+    EXPECT_LT(difference(pixelAt(64, 354), left), 4);
+}
+
+TEST_F(GradientMenuTest, APlainColorIsGivenToGradientsAndPlainShapes) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    screen().key("v");
+    select({kGradMiddle, kMarkerMiddle});
+    const std::uint32_t gradient = pixelAt(80, 300);
+    screen().key("ctrl+shift+k");
+    waitForDialog("Plain color");
+    screen().key("alt+h");
+    screen().key("ctrl+a");
+    screen().type("#3c78b4");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Plain color"));
+    EXPECT_TRUE(colorVanishes(kMarker));
+    for (const Spot place : {Spot{64, 230}, Spot{250, 350}, kMarkerMiddle})
+        EXPECT_EQ(pixelAt(place.x, place.y), 0x3c78b4U);
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    screen().key("ctrl+z");
+    waitForColor(kMarker);
+    EXPECT_EQ(pixelAt(80, 300), gradient);
+    EXPECT_EQ(contents(drawing()), before);
+    EXPECT_EQ(quit(), 0) << "nothing to ask about";
+}
+
+TEST_F(GradientMenuTest, TenShapesTakeAPastedGradientAndGiveItBackAtOnce) {
+    std::string svg = contents(drawing());
+    std::vector<Spot> middles;
+    for (int i = 0; i < 10; ++i) {
+        const Spot at{300 + 28 * (i % 5), 50 + 60 * (i / 5)};
+        svg.insert(svg.rfind("</svg>"), "<rect x=\"" + std::to_string(at.x) + "\" y=\"" +
+                                            std::to_string(at.y) +
+                                            "\" width=\"20\" height=\"50\" fill=\"#00aa88\"/>\n");
+        middles.push_back({at.x + 10, at.y + 25});
+    }
+    std::ofstream(drawing()) << svg;
+    startWithDrawing();
+    screen().key("v");
+    select({kGradMiddle});
+    screen().key("ctrl+shift+c");
+    select(middles);
+    screen().key("ctrl+shift+v");
+    EXPECT_TRUE(colorVanishes(0x00aa88));
+    for (const Spot middle : middles) {
+        // A quarter and three quarters of the way.
+        EXPECT_LT(difference(pixelAt(middle.x - 5, middle.y), 0x545878), 0x10);
+        EXPECT_LT(difference(pixelAt(middle.x + 5, middle.y), 0xbca868), 0x10);
+    }
+    screen().key("ctrl+z");
+    for (const Spot middle : middles)
+        EXPECT_TRUE(eventually([&] { return pixelAt(middle.x, middle.y) == 0x00aa88; }));
+    EXPECT_EQ(quit(), 0) << "nothing to ask about";
+}
+
+TEST_F(GradientMenuTest, AGlossyButtonThatIsEditedStaysGlossy) {
+    std::string svg = contents(drawing());
+    svg.insert(svg.find("</defs>"),
+               "<linearGradient id=\"body\" x2=\"0\" y2=\"1\"><stop stop-color=\"#2a6ad0\"/>"
+               "<stop offset=\"1\" stop-color=\"#0a2050\"/></linearGradient>"
+               "<linearGradient id=\"gloss\" x2=\"0\" y2=\"1\"><stop stop-color=\"#ffffff\" "
+               "stop-opacity=\".85\"/><stop offset=\"1\" stop-color=\"#ffffff\" stop-opacity=\"0\"/>"
+               "</linearGradient>");
+    svg.insert(svg.rfind("</svg>"),
+               "<rect id=\"button\" x=\"300\" y=\"60\" width=\"180\" height=\"100\" rx=\"30\" "
+               "fill=\"url(#body)\"/><rect id=\"shine\" x=\"310\" y=\"64\" width=\"160\" height=\"46\" "
+               "rx=\"22\" fill=\"url(#gloss)\"/>");
+    std::ofstream(drawing()) << svg;
+    startWithDrawing();
+    const std::uint32_t body = pixelAt(390, 112);
+    const std::uint32_t dull = pixelAt(390, 107);
+    EXPECT_LT(difference(pixelAt(390, 66), 0xe0e8f8), 0x18);
+    // The white becomes yellow; how far one sees through it stays.
+    const Window editor = openEditor(390, 90);
+    screen().click(in(editor, EditorItems::swatch));
+    waitForDialog("Color of the gradient stop");
+    screen().key("alt+h");
+    screen().key("ctrl+a");
+    screen().type("#ffff00");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Color of the gradient stop"));
+    closeEditorWith("Return");
+    EXPECT_TRUE(eventually([&] { return (pixelAt(390, 66) & 0xff) < 0x50; }));
+    EXPECT_GT(pixelAt(390, 66) >> 16, 0xd0U);
+    EXPECT_LT(difference(pixelAt(390, 107), dull), 0x14) << "at its lower end one still sees the button";
+    EXPECT_EQ(pixelAt(390, 112), body);
+    EXPECT_THAT(gradientOf(saved(), "shine"), AllOf(HasSubstr("#ffff00\" stop-opacity=\"0.85\""),
+                                                    HasSubstr("#ffffff\" stop-opacity=\"0\"")));
+}
+
+TEST_F(GradientMenuTest, WhatATemplateLeavesBehindIsTold) {
+    std::string svg = contents(drawing());
+    const std::string exact = "stop-color=\"#a02040\"";
+    svg.replace(svg.find(exact), exact.size(), exact + " stop-opacity=\".5\"");
+    std::ofstream(drawing()) << svg;
+    startWithDrawing();
+    const int top = waitForColor(kPlain).top;
+    const auto saveTemplate = [&](Spot shape, const std::string& name) {
+        const Window editor = openEditor(shape.x, shape.y);
+        openTemplates(editor);
+        screen().type("Sav");
+        screen().key("Return");
+        waitForDialog("Save Template");
+        screen().type(name);
+        screen().key("Return");
+        EXPECT_TRUE(vanishes("Save Template"));
+        closeEditorWith("Escape");
+    };
+    saveTemplate(kGradMiddle, "Opaque");
+    EXPECT_EQ(waitForColor(kPlain).top, top) << "nothing stays behind";
+    saveTemplate({420, 290}, "Glass");
+    EXPECT_TRUE(eventually([&] { return waitForColor(kPlain).top > top + 5; }));
 }
 
 } // namespace
