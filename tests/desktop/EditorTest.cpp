@@ -281,10 +281,13 @@ TEST_F(EditorTest, TheTabKeyPassesOverTheLinesBetweenTheGroups) {
     for (int i = 0; i < 3; ++i)
         screen().key("Tab");
     screen().key("space");
-    EXPECT_TRUE(eventually([&] {
+    const auto isOpen = [&] {
         return screen().popupAt(in(editor, {EditorItems::preview.left, EditorItems::preview.top}));
-    }));
+    };
+    EXPECT_TRUE(eventually(isOpen));
     screen().key("Escape");
+    // A key that comes before the popup is gone is the popup's, too.
+    EXPECT_TRUE(eventually([&] { return !isOpen(); }));
     closeEditorWith("Escape");
 }
 
