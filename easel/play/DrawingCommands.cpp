@@ -68,7 +68,7 @@ void filter(Session& session, Arguments& arguments) {
         do {
             const std::string& name = arguments.text("KIND");
             const auto kind = drawing::kindFromName(name);
-            if (!kind)
+            if (!kind || !canBeAdded(*kind))
                 throw PlayError("there is no kind \"" + name + "\"");
             kinds.add(*kind);
         } while (!arguments.empty());

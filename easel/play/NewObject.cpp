@@ -104,6 +104,10 @@ TPoint<double> fractions(Arguments& arguments, const char* h, const char* v) {
 
 } // namespace
 
+bool canBeAdded(Kind kind) {
+    return kind != Kind::Picture && kind != Kind::Text;
+}
+
 drawing::Object newObject(Arguments& arguments) {
     const std::string& name = arguments.text("KIND");
     const auto kind = drawing::kindFromName(name);

@@ -7,6 +7,9 @@
 
 namespace easel::play {
 
+// Whether `newObject` makes objects of the kind. Scenarios name no others: pictures and text come from files.
+bool canBeAdded(drawing::Kind kind);
+
 // `KIND ID …`: an unfilled object of that kind; open kinds have a thin black line, since nothing else of them
 // would show. Throws PlayError.
 drawing::Object newObject(Arguments& arguments);

@@ -3,6 +3,7 @@
 
 #include "easel/drawing/GradientFit.h"
 #include "easel/drawing/StrokeGradient.h"
+#include "easel/play/NewObject.h"
 #include "easel/play/PlayError.h"
 #include "easel/play/Session.h"
 #include "easel/runtime/HostPoint.h"
@@ -105,7 +106,7 @@ Json filterNames(const SelDescrimT& filter) {
     Json names = Json::array();
     const drawing::KindSet kinds = runtime::kindsIn(filter);
     for (const drawing::Kind kind : drawing::kAllKinds)
-        if (kinds.has(kind))
+        if (kinds.has(kind) && canBeAdded(kind))
             names.push_back(std::string(kindName(kind)));
     return names;
 }
