@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <hb-ot.h>
 
+#include <cmath>
 #include <memory>
 
 using namespace easel::type;
@@ -39,6 +40,44 @@ struct FontFile {
     }
 };
 
+// Adds up what a glyph of the file encloses, in square ems.
+class AreaPen {
+  public:
+    AreaPen(const FontFile& file, hb_codepoint_t glyph) : unitsPerEm_(file.unitsPerEm) {
+        const std::unique_ptr<hb_draw_funcs_t, void (*)(hb_draw_funcs_t*)> funcs{hb_draw_funcs_create(),
+                                                                                 hb_draw_funcs_destroy};
+        hb_draw_funcs_set_line_to_func(funcs.get(), lineTo, nullptr, nullptr);
+        hb_draw_funcs_set_quadratic_to_func(funcs.get(), quadraticTo, nullptr, nullptr);
+        hb_font_get_glyph_shape(file.font.get(), glyph, funcs.get(), this);
+    }
+    double area() const { return sum_ / unitsPerEm_ / unitsPerEm_; }
+
+  private:
+    using Point = easel::drawing::Point;
+
+    void add(Point from, Point to) { sum_ += cross(from, to) / 2; }
+    static Point point(float x, float y) { return {static_cast<double>(x), static_cast<double>(y)}; }
+    static void lineTo(hb_draw_funcs_t*, void* pen, hb_draw_state_t* at, float x, float y, void*) {
+        static_cast<AreaPen*>(pen)->add(point(at->current_x, at->current_y), point(x, y));
+    }
+    static void quadraticTo(hb_draw_funcs_t*, void* pen, hb_draw_state_t* at, float x1, float y1, float x,
+                            float y, void*) {
+        constexpr int kPieces = 100;
+        const Point from = point(at->current_x, at->current_y);
+        Point last = from;
+        for (int i = 1; i <= kPieces; ++i) {
+            const double t = static_cast<double>(i) / kPieces;
+            const Point next =
+                from * ((1 - t) * (1 - t)) + point(x1, y1) * (2 * t * (1 - t)) + point(x, y) * (t * t);
+            static_cast<AreaPen*>(pen)->add(last, next);
+            last = next;
+        }
+    }
+
+    double unitsPerEm_;
+    double sum_ = 0;
+};
+
 } // namespace
 
 TEST(Typesetter, OutlinesAreAsLargeAsTheFontSays) {
@@ -57,6 +96,19 @@ TEST(Typesetter, OutlinesAreAsLargeAsTheFontSays) {
         EXPECT_NEAR(box.bottom, -(extents.y_bearing + extents.height) / file.unitsPerEm, unit);
         EXPECT_NEAR(clusters[0].advance,
                     hb_font_get_glyph_h_advance(file.font.get(), file.glyph(letter)) / file.unitsPerEm, 1e-5);
+    }
+}
+
+TEST(Typesetter, CurvesBulgeAsTheFontSays) {
+    const FontFile file;
+    for (const char letter : {'O', 'S', 'g'}) {
+        const AreaPen pen(file, file.glyph(static_cast<char32_t>(letter)));
+        double area = 0;
+        for (const auto& contour :
+             easel::drawing::flatten(shaped(lineOf(std::string(1, letter)))[0].outline, 1e-5))
+            for (std::size_t i = 0; i < contour.points.size(); ++i)
+                area += cross(contour.points[i], contour.points[(i + 1) % contour.points.size()]) / 2;
+        EXPECT_NEAR(std::abs(area), std::abs(pen.area()), 0.001 * std::abs(pen.area())) << letter;
     }
 }
 
