@@ -32,7 +32,7 @@ Drawing::Drawing(double width, double height, std::vector<ObjectPtr> objects,
     std::vector<PlaceIndex::Item> items;
     items.reserve(list_.size());
     list_.forEach(
-        [&](Slot slot, const ObjectPtr& object) { items.emplace_back(object->paintBounds(), slot); });
+        [&](Slot slot, const ObjectPtr& object) { items.emplace_back(object->shownBounds(), slot); });
     places_.assign(items);
 }
 
@@ -91,8 +91,8 @@ void Drawing::erase(std::size_t index) {
 void Drawing::amend(std::size_t index, const ObjectPtr& object) {
     const Slot slot = list_.slotAt(index);
     const ObjectPtr before = list_.replace(slot, object);
-    places_.erase(before->paintBounds(), slot);
-    places_.insert(object->paintBounds(), slot);
+    places_.erase(before->shownBounds(), slot);
+    places_.insert(object->shownBounds(), slot);
     changed(before);
     changed(object);
     history_.close();
@@ -146,7 +146,7 @@ void Drawing::revert(const Edit& edit) {
 void Drawing::putIn(std::size_t index, Slot slot, const ObjectPtr& object) {
     // Changes outside the undo history may have left fewer objects than a step of the history knew.
     list_.insert(std::min(index, list_.size()), slot, object);
-    places_.insert(object->paintBounds(), slot);
+    places_.insert(object->shownBounds(), slot);
     changed(object);
 }
 
@@ -155,7 +155,7 @@ ObjectPtr Drawing::takeOut(Slot slot) {
         return nullptr;
     selection_.erase(slot);
     ObjectPtr object = list_.erase(slot);
-    places_.erase(object->paintBounds(), slot);
+    places_.erase(object->shownBounds(), slot);
     changed(object);
     return object;
 }
@@ -206,8 +206,12 @@ void Drawing::invalidateSelection() {
 }
 
 void Drawing::changed(const ObjectPtr& object) {
-    if (listener_)
-        listener_(object->paintBounds().grownBy(kRepaintMargin));
+    if (!listener_)
+        return;
+    // What marks a selected object lies around the object itself, wherever a filter shows it.
+    Box area = object->shownBounds();
+    area.add(object->paintBounds());
+    listener_(area.grownBy(kRepaintMargin));
 }
 
 } // namespace easel::drawing

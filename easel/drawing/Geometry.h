@@ -124,4 +124,14 @@ inline Affine operator*(const Affine& outer, const Affine& inner) {
             outer.a * inner.e + outer.c * inner.f + outer.e, outer.b * inner.e + outer.d * inner.f + outer.f};
 }
 
+// The box around what the map makes of a box; empty for an empty one.
+inline Box boxUnder(const Box& box, const Affine& map) {
+    Box mapped;
+    if (!box.empty())
+        for (const Point corner : {Point{box.left, box.top}, Point{box.right, box.top},
+                                   Point{box.left, box.bottom}, Point{box.right, box.bottom}})
+            mapped.add(map(corner));
+    return mapped;
+}
+
 } // namespace easel::drawing

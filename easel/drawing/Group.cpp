@@ -25,7 +25,7 @@ std::optional<BlendMode> blendModeFromName(std::string_view name) {
 
 bool isLayer(const Group& group) {
     return group.opacity < 1 || group.clip || group.mask || group.blend != BlendMode::Normal ||
-           group.isolated;
+           group.isolated || group.filter;
 }
 
 bool blendsWithDrawing(const Group& group) {

@@ -11,6 +11,7 @@
 namespace easel::drawing {
 
 struct ClipPath;
+struct Filter;
 
 // One shape of a clip path, in drawing coordinates; `clip` narrows this shape alone.
 struct ClipShape {
@@ -26,8 +27,8 @@ struct ClipPath {
 };
 
 // Objects that follow each other in the drawing and name the same group are painted into one layer, which is
-// clipped, masked, made fainter by `opacity` and laid on what `parent` (null: the drawing) holds so far, by
-// its blend mode.
+// filtered, clipped, masked, made fainter by `opacity` and laid on what `parent` (null: the drawing) holds so
+// far, by its blend mode.
 struct Group {
     std::shared_ptr<const Group> parent;
     double opacity = 1;
@@ -35,7 +36,8 @@ struct Group {
     std::uint32_t depth = 1;              // number of groups up to the outermost, this one included
     MaskPtr mask;                         // null: not masked
     BlendMode blend = BlendMode::Normal;
-    bool isolated = false; // what blends inside meets nothing outside
+    bool isolated = false;                // what blends inside meets nothing outside
+    std::shared_ptr<const Filter> filter; // null: not filtered
 };
 
 using GroupPtr = std::shared_ptr<const Group>;

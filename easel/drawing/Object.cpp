@@ -1,5 +1,6 @@
 #include "easel/drawing/Object.h"
 
+#include "easel/drawing/Filter.h"
 #include "easel/drawing/ShapeGradient.h"
 
 #include <algorithm>
@@ -89,6 +90,14 @@ Box Object::paintBounds() const {
         for (const ObjectPtr& marker : *markers)
             box.add(marker->paintBounds());
     return box;
+}
+
+Box Object::boundsWithin(const Group* within) const {
+    const Filter* outermost = nullptr;
+    for (const Group* around = group.get(); around && around != within; around = around->parent.get())
+        if (around->filter)
+            outermost = around->filter.get();
+    return outermost ? outermost->bounds() : paintBounds();
 }
 
 ObjectPtr sealed(Object object) {

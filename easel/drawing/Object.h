@@ -103,8 +103,12 @@ struct Object {
     bool showsGradient() const;
     // Whether the point is inside by the fill rule, or within `reach` of the outline (drawing units).
     bool hitBy(Point p, double reach) const;
-    // Everything that painting the object may touch: outline and stroke.
+    // Everything that painting the object alone may touch: outline and stroke.
     Box paintBounds() const;
+    // What its group `within` (null: the drawing) shows of it: the region of the outermost filter on the way
+    // there, or all that painting it may touch.
+    Box boundsWithin(const Group* within) const;
+    Box shownBounds() const { return group ? boundsWithin(nullptr) : paintBounds(); }
 };
 
 using ObjectPtr = std::shared_ptr<const Object>;

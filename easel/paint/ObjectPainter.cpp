@@ -2,6 +2,7 @@
 // concerns several things at once.
 #include "easel/paint/ObjectPainter.h"
 
+#include "easel/drawing/Filter.h"
 #include "easel/paint/ClipMask.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
@@ -23,24 +24,38 @@ constexpr double kStrokeTolerance = 0.02; // pixels
 // Layers in layers beyond this depth are painted straight on, so that hostile files cannot use up the memory.
 constexpr std::uint32_t kDeepestLayer = 100;
 
-// Layers that exist at one time take no more than this. Where they would, they are painted in strips.
-constexpr std::size_t kMostLayerBytes = std::size_t{192} << 20;
+// Layers that exist at one time take no more than this, which leaves as much to filters. Where they would,
+// they are painted in strips.
+constexpr std::size_t kMostLayerBytes = std::size_t{96} << 20;
 
 std::size_t bytesOf(const PixelRect& place) {
     return static_cast<std::size_t>(place.width()) * static_cast<std::size_t>(place.height()) *
            static_cast<std::size_t>(kBytesPerPixel);
 }
 
-PixelRect pixelsUnder(ObjectSpan objects, const Affine& toSurface, const PixelRect& limit) {
+PixelRect pixelsUnder(const drawing::Group* within, ObjectSpan objects, const Affine& toSurface,
+                      const PixelRect& limit) {
     drawing::Box box;
     for (const ObjectPtr& object : objects)
-        box.add(object->paintBounds());
+        box.add(object->boundsWithin(within));
     return pixelsUnder(box, toSurface, limit);
 }
 
 Image imageOf(const drawing::PicturePixels& pixels, const drawing::PlacedPicture& placed) {
     return {pixels.pixels.data(), pixels.width, pixels.height, pixels.width,
             placed.toDrawing,     false,        placed.smooth};
+}
+
+// What may show of the group where it is laid on what lies below.
+PixelRect pixelsUnder(const drawing::Group& group, ObjectSpan objects, const Affine& toSurface,
+                      const PixelRect& limit) {
+    PixelRect place = group.filter ? pixelsUnder(group.filter->bounds(), toSurface, limit)
+                                   : pixelsUnder(&group, objects, toSurface, limit);
+    if (group.clip)
+        place = pixelsInside(*group.clip, toSurface, place);
+    if (group.mask)
+        place = pixelsUnder(nullptr, group.mask->objects, toSurface, place);
+    return place;
 }
 
 bool shows(const Object& object, drawing::PaintStep step) {
@@ -69,11 +84,7 @@ void ObjectPainter::paintGroup(const drawing::Group& group, ObjectSpan objects, 
         return;
     if (group.depth > kDeepestLayer || !isLayer(group))
         return paintWithin(&group, objects, surface, toSurface);
-    PixelRect place = pixelsUnder(objects, toSurface, surface.clip());
-    if (group.clip)
-        place = pixelsInside(*group.clip, toSurface, place);
-    if (group.mask)
-        place = pixelsUnder(group.mask->objects, toSurface, place);
+    const PixelRect place = pixelsUnder(group, objects, toSurface, surface.clip());
     if (place.empty())
         return;
     const std::size_t bytes = (group.mask || group.clip ? 2 : 1) * bytesOf(place);
@@ -97,7 +108,7 @@ void ObjectPainter::paintLayer(const drawing::Group& group, ObjectSpan objects, 
                                const SurfaceView& surface, const Affine& toSurface) {
     Layer layer(place);
     const Affine toLayer = layer.mapped(toSurface);
-    paintWithin(&group, objects, layer.view(), toLayer);
+    paintContent(group, objects, layer.view(), toLayer);
     if (group.clip)
         clipLayer(layer, *group.clip, toLayer, painter_);
     if (group.mask)

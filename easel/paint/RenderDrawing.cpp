@@ -36,11 +36,23 @@ template <class Paint> void forEachBand(const SurfaceView& surface, unsigned thr
     });
 }
 
+// The surface with all that it holds is one sheet.
+class WholeSurface {
+  public:
+    WholeSurface(const SurfaceView& surface, const Affine& toSurface, FilterPictures* kept)
+        : sheet_{toSurface, {.right = surface.width(), .bottom = surface.height()}, kept ? kept : &own_} {}
+    ObjectPainter painter() const { return ObjectPainter(sheet_); }
+
+  private:
+    FilterPictures own_;
+    Sheet sheet_;
+};
+
 // What the surface holds already has no part in how the objects blend.
-void paintApart(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
-                const Affine& toSurface) {
+void paintApart(const WholeSurface& whole, std::span<const drawing::ObjectPtr> objects,
+                const SurfaceView& surface, const Affine& toSurface) {
     Layer layer(surface.clip());
-    ObjectPainter().paint(objects, layer.view(), layer.mapped(toSurface));
+    whole.painter().paint(objects, layer.view(), layer.mapped(toSurface));
     layer.layOn(surface, 1);
 }
 
@@ -48,21 +60,25 @@ void paintApart(std::span<const drawing::ObjectPtr> objects, const SurfaceView& 
 
 void renderObjects(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
                    const Affine& toSurface, unsigned threads) {
-    if (toSurface.invertible())
-        forEachBand(surface, threads,
-                    [&](const SurfaceView& band) { ObjectPainter().paint(objects, band, toSurface); });
+    if (!toSurface.invertible())
+        return;
+    const WholeSurface whole(surface, toSurface, nullptr);
+    forEachBand(surface, threads,
+                [&](const SurfaceView& band) { whole.painter().paint(objects, band, toSurface); });
 }
 
 void renderDrawing(const drawing::Drawing& drawing, const SurfaceView& surface, const Affine& toSurface,
-                   unsigned threads) {
-    if (toSurface.invertible())
-        forEachBand(surface, threads, [&](const SurfaceView& band) {
-            const auto objects = drawing.objectsWithin(drawnArea(band.clip(), toSurface));
-            if (drawing.blends())
-                paintApart(objects, band, toSurface);
-            else
-                ObjectPainter().paint(objects, band, toSurface);
-        });
+                   unsigned threads, FilterPictures* kept) {
+    if (!toSurface.invertible())
+        return;
+    const WholeSurface whole(surface, toSurface, kept);
+    forEachBand(surface, threads, [&](const SurfaceView& band) {
+        const auto objects = drawing.objectsWithin(drawnArea(band.clip(), toSurface));
+        if (drawing.blends())
+            paintApart(whole, objects, band, toSurface);
+        else
+            whole.painter().paint(objects, band, toSurface);
+    });
 }
 
 } // namespace easel::paint

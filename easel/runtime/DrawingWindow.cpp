@@ -1,6 +1,7 @@
 // Paints a drawing into its window's image where it was marked.
 #include "easel/runtime/DrawingWindow.h"
 
+#include "easel/paint/FilterPictures.h"
 #include "easel/paint/Port.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/paint/pixels/Surface.h"
@@ -64,7 +65,8 @@ void whiten(paint::Surface& image, const paint::PixelRect& box) {
 DrawingWindow::DrawingWindow(drawing::Drawing drawing, Process& process)
     : process_(process),
       port_(std::make_unique<paint::Port>(paint::PixelRect{.right = 1, .bottom = 1}, 1.0, kWhite & 0xffffff)),
-      drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)) {
+      drawing_(std::move(drawing)), view_(wholeDrawing(drawing_)),
+      filterPictures_(std::make_unique<paint::FilterPictures>()) {
     process_.ports().add(*port_);
     mark(view_.seen());
     listen();
@@ -90,6 +92,7 @@ void DrawingWindow::listen() {
 
 void DrawingWindow::setDrawing(drawing::Drawing drawing) {
     drawing_ = std::move(drawing);
+    filterPictures_ = std::make_unique<paint::FilterPictures>();
     listen();
     feedback_.clear();
     setView(view_);
@@ -130,7 +133,8 @@ void DrawingWindow::paintMarked() {
         if (box.empty())
             continue;
         whiten(*image_, box);
-        paint::renderDrawing(drawing_, image_->view().clippedTo(box), view_.toImage());
+        paint::renderDrawing(drawing_, image_->view().clippedTo(box), view_.toImage(), paint::usefulThreads(),
+                             filterPictures_.get());
     }
 }
 

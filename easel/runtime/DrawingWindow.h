@@ -13,6 +13,7 @@
 #include <vector>
 
 namespace easel::paint {
+class FilterPictures;
 class Port;
 class Surface;
 } // namespace easel::paint
@@ -85,6 +86,7 @@ class DrawingWindow {
     drawing::Drawing drawing_;
     View view_;
     std::unique_ptr<paint::Surface> image_;
+    std::unique_ptr<paint::FilterPictures> filterPictures_; // as last painted
     std::vector<drawing::Box> marks_;
     std::vector<ConstructionLine> feedback_;
     std::optional<long> cursor_;

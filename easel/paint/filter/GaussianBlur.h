@@ -1,0 +1,15 @@
+// Blurs pictures with a bell curve, or what comes near it.
+#pragma once
+
+#include "easel/paint/pixels/Surface.h"
+
+namespace easel::paint {
+
+// The picture blurred with these standard deviations, in pixels, not below 0; outside of it all is
+// transparent.
+Surface blurred(const Surface& picture, double deviationX, double deviationY);
+
+// How many pixels away a pixel may have a part in a blurred one.
+int blurReach(double deviation);
+
+} // namespace easel::paint

@@ -1,0 +1,16 @@
+// Colors between sRGB and linear light.
+#pragma once
+
+#include "easel/paint/pixels/Surface.h"
+
+namespace easel::paint {
+
+// The same colors with channels in proportion to light, and back.
+Surface inLinearLight(const Surface& picture);
+Surface inSrgb(const Surface& picture);
+
+// 0 to 1.
+double linearLightOf(double srgb);
+double srgbOf(double linear);
+
+} // namespace easel::paint
