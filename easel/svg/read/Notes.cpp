@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
     "Content in other languages than SVG is kept in the file but not shown.",
     "Scripts are kept in the file but not run.",
     "Animations are kept in the file but not played.",
-    "Filter effects are kept in the file but not shown.",
+    "Filters of other kinds than those of SVG and CSS are kept in the file but not applied.",
     "Masks other than mask elements are kept in the file but not applied.",
     "Vector effects other than strokes of fixed width are kept in the file but not applied.",
     "Clip paths other than outlines are kept in the file but not applied.",

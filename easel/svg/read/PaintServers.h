@@ -56,12 +56,13 @@ class PaintServers {
     bool circular() const { return circular_; }
     // Whether one that was asked for mixes its colors in linear light.
     bool linearLight() const { return linearLight_; }
+    // What `currentColor` stands for in the element, where it stands in the file.
+    drawing::ColorPaint colorAt(pugi::xml_node element) const;
 
   private:
     std::optional<std::size_t> idNumber(std::string_view id);
     const GradientElement& read(pugi::xml_node element);
     void readStops(pugi::xml_node element, std::pmr::vector<drawing::RampStop>& stops) const;
-    drawing::ColorPaint colorAt(pugi::xml_node element) const;
 
     const XmlTree& tree_;
     const Cascade& cascade_;

@@ -36,15 +36,17 @@ std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, cons
     Place& place = inside.place;
     place.style = outside.style.inherited(stated, place.lengths);
     place.toDrawing = outside.toDrawing * transformOf(stated, place.lengths, Box());
-    const bool waits = asksForBox(stated);
+    const std::size_t filters = filters_.countOf(stated);
+    const bool waits = filters > 0 || asksForBox(stated);
     Group effects = waits ? Group() : effectsOf(stated, Box(), place);
     effects.opacity = parseOpacity(stated[Property::Opacity], 1);
     // Even if nothing else does, what it waits for makes a layer of it.
     effects.isolated = effects.isolated || waits;
     const Place before = waits ? place : Place();
     if (auto group = addGroup(place, std::move(effects)); group && waits) {
-        inside.waiting = std::make_shared<const WaitingGroup>(
-            WaitingGroup{element, std::move(group), before, objects_.size(), hidden_.size()});
+        FilteredGroups filtered = addFiltered(place, group, filters);
+        inside.waiting = std::make_shared<const WaitingGroup>(WaitingGroup{
+            element, std::move(group), before, objects_.size(), hidden_.size(), std::move(filtered)});
         ++waiting_;
     }
     return inside;
@@ -52,12 +54,14 @@ std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, cons
 
 void TreeReader::finishGroup(const WaitingGroup& waiting) {
     const StatedStyle stated = scene_.cascade.of(waiting.element, waiting.place.style.custom);
-    Group effects = effectsOf(stated, boxOf(waiting), waiting.place);
+    const Box box = boxOf(waiting);
+    Group effects = effectsOf(stated, box, waiting.place);
     Group& group = *waiting.group;
     group.clip = std::move(effects.clip);
     group.mask = std::move(effects.mask);
     group.blend = effects.blend;
     group.isolated = effects.isolated;
+    setFilters(waiting.filtered, stated, box, waiting.place, waiting.firstObject);
     if (--waiting_ == 0)
         hidden_.clear();
 }
@@ -121,7 +125,6 @@ void TreeReader::noteEffects(const StatedStyle& stated) {
         if (!stated[property].empty() && !equalIgnoringCase(stated[property], harmless))
             scene_.notes.add(what);
     };
-    note(Property::Filter, "none", Unsupported::Filter);
     if (!equalIgnoringCase(stated[Property::VectorEffect], "non-scaling-stroke"))
         note(Property::VectorEffect, "none", Unsupported::VectorEffect);
 }

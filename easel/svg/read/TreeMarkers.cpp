@@ -59,6 +59,8 @@ void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, c
     drawing::Group effects = effectsOf(stated, drawing::Box(), inside);
     effects.opacity = parseOpacity(stated[Property::Opacity], 1);
     addGroup(inside, std::move(effects));
+    if (filters_.countOf(stated) > 0)
+        scene_.notes.add(Unsupported::Filter);
     if (!showsOverflow(stated))
         narrow(inside, rectangleClip(frame->viewport, toDrawing));
     noteEffects(stated);
@@ -74,13 +76,17 @@ Place TreeReader::placeAround(pugi::xml_node element) const {
 }
 
 void TreeReader::readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects) {
+    readApart({{std::move(place), {}}, element.first_child()}, objects);
+}
+
+void TreeReader::readApart(Work first, std::vector<drawing::ObjectPtr>& objects) {
     std::swap(objects_, objects);
     auto work = std::exchange(work_, {});
     auto open = std::exchange(open_, {});
     auto hidden = std::exchange(hidden_, {});
     const std::size_t waiting = std::exchange(waiting_, 0);
     ++apart_;
-    readChildren(element, {std::move(place), {}});
+    work_.push_back(std::move(first));
     readAll();
     --apart_;
     hidden_ = std::move(hidden);

@@ -34,6 +34,8 @@ std::string_view attributeText(pugi::xml_node element, const char* name) {
 
 TreeReader::TreeReader(const Scene& scene, Source& source, std::function<bool(double)> progress)
     : scene_(scene), source_(source), progress_(std::move(progress)), clips_(scene),
+      filters_(scene,
+               [this](pugi::xml_node target, const Place& place) { return readFilterImage(target, place); }),
       reader_(scene,
               [this](pugi::xml_node pattern, const PaintPlace& at) { return readPattern(pattern, at); }),
       pictures_(scene) {}
@@ -199,13 +201,18 @@ void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name,
 
 void TreeReader::addObject(Object object, pugi::xml_node element, const StatedStyle& stated, const Box& box,
                            Place inside) {
-    addGroup(inside, effectsOf(stated, box, inside));
+    const std::size_t filters = filters_.countOf(stated);
+    drawing::Group effects = effectsOf(stated, box, inside);
+    if (filters > 0)
+        moveOpacity(object, effects);
+    const FilteredGroups filtered = addFiltered(inside, addGroup(inside, std::move(effects)), filters);
     object.group = inside.group;
     if (apart_ == 0)
         addSource(object, element, inside.use);
     else
         object.id = drawing::Name();
     objects_.push_back(sealed(std::move(object)));
+    setFilters(filtered, stated, box, inside, objects_.size() - 1);
 }
 
 void TreeReader::addSource(Object& object, pugi::xml_node element, std::uint32_t use) {

@@ -4,6 +4,7 @@
 #include "easel/svg/read/ClipReader.h"
 #include "easel/svg/read/DrawingSize.h"
 #include "easel/svg/read/EmbeddedDrawing.h"
+#include "easel/svg/read/FilterReader.h"
 #include "easel/svg/read/MarkerVertices.h"
 #include "easel/svg/read/ObjectReader.h"
 #include "easel/svg/read/PatternFrame.h"
@@ -36,6 +37,10 @@ class TreeReader {
     std::vector<drawing::ObjectPtr> takeObjects() { return std::move(objects_); }
 
   private:
+    // The groups of one element that are filtered, in the order in which the filters work: the first is the
+    // innermost.
+    using FilteredGroups = std::vector<std::shared_ptr<drawing::Group>>;
+
     // A group whose clip path or mask is a share of what the group holds, and so has to wait until that is
     // read.
     struct WaitingGroup {
@@ -44,6 +49,7 @@ class TreeReader {
         Place place;                           // inside the element, before what narrows its content
         std::size_t firstObject = 0;
         std::size_t firstHidden = 0;
+        FilteredGroups filtered;
     };
     struct Inside {
         Place place;
@@ -115,6 +121,7 @@ class TreeReader {
     Place placeAround(pugi::xml_node element) const;
     // Adds what the element holds to other objects than the drawing's.
     void readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects);
+    void readApart(Work work, std::vector<drawing::ObjectPtr>& objects);
     void readUse(pugi::xml_node element, Inside inside);
     void readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside);
     void readChildren(pugi::xml_node element, Inside inside);
@@ -134,6 +141,15 @@ class TreeReader {
     // Puts what is read in this place into a layer with these effects, if they have any. The new group, else
     // null.
     std::shared_ptr<drawing::Group> addGroup(Place& place, drawing::Group effects);
+    static void moveOpacity(drawing::Object& object, drawing::Group& group);
+    // Adds groups for so many filters, the last of which is for the group that has been added already.
+    FilteredGroups addFiltered(Place& place, const std::shared_ptr<drawing::Group>& group, std::size_t count);
+    // Gives them the filters that the style asks for; they hold the objects from this one on.
+    void setFilters(const FilteredGroups& groups, const StatedStyle& stated, const drawing::Box& box,
+                    const Place& place, std::size_t firstObject);
+    // The objects of a picture that a filter takes from the file; null if there are none.
+    std::shared_ptr<const std::vector<drawing::ObjectPtr>> readFilterImage(pugi::xml_node target,
+                                                                           const Place& place);
     void narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip);
     // The mask that the style asks for; null for none.
     drawing::MaskPtr maskFor(const StatedStyle& stated, const drawing::Box& box, const Place& place);
@@ -153,6 +169,7 @@ class TreeReader {
     Source& source_;
     std::function<bool(double)> progress_;
     ClipReader clips_;
+    FilterReader filters_;
     ObjectReader reader_;
     PictureReader pictures_;
     std::vector<drawing::ObjectPtr> objects_;
@@ -161,6 +178,7 @@ class TreeReader {
     std::vector<pugi::xml_node> openMasks_;          // that are being read
     std::vector<pugi::xml_node> openPatterns_;       // whose content is being read
     std::map<pugi::xml_node, ReadPattern> patterns_; // by the elements whose content they show
+    std::vector<pugi::xml_node> openImages_;         // elements that filters show and that are being read
     KnownMask lastMask_;
     std::vector<drawing::Path> hidden_; // outlines in the drawing, of a waiting group's hidden shapes
     std::size_t waiting_ = 0;           // groups that wait

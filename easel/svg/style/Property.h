@@ -16,6 +16,7 @@ enum class Property : std::uint8_t {
     ClipRule,
     Color,
     ColorInterpolation,
+    ColorInterpolationFilters,
     Cx,
     Cy,
     D,
@@ -24,10 +25,13 @@ enum class Property : std::uint8_t {
     FillOpacity,
     FillRule,
     Filter,
+    FloodColor,
+    FloodOpacity,
     FontSize,
     Height,
     ImageRendering,
     Isolation,
+    LightingColor,
     Marker,
     MarkerEnd,
     MarkerMid,
@@ -81,7 +85,7 @@ enum class Property : std::uint8_t {
     WordSpacing,
     WritingMode,
 };
-inline constexpr std::size_t kPropertyCount = 67;
+inline constexpr std::size_t kPropertyCount = 71;
 // From here on they are of text.
 inline constexpr Property kFirstOfText = Property::AlignmentBaseline;
 

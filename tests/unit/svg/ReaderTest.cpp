@@ -250,7 +250,7 @@ TEST(SvgReader, HiddenElementsAreNoObjects) {
 TEST(SvgReader, WhatIsNotShownIsNamedOnce) {
     const Drawing drawing = readOk(svgFile(
         "<flowRoot/><flowRoot/><image href='http://example.com/a.png'/><g "
-        "filter='url(#f)'><rect width='1' "
+        "filter='glow(2)'><rect width='1' "
         "height='1' mask='radial-gradient(red, blue)' fill='url(other.svg#x) red'/></g><script>1</script>"));
     EXPECT_EQ(drawing.notes().size(), 6U);
     EXPECT_EQ(fillOf(drawing).color, (Rgb16{65535, 0, 0}));
