@@ -56,6 +56,10 @@ void addRenderCommand(CLI::App& app, int& exitCode) {
                      "Make the picture so many times the drawing's size (default 1: a pixel for each unit)")
         ->type_name("FACTOR")
         ->excludes(width);
+    command
+        ->add_option("--filter-dpi", request->size.dotsPerInch,
+                     "In a PDF or SVG, the dots to an inch of what filters show (default 300)")
+        ->check(CLI::Range(1, 2400));
     command->footer("Examples:\n"
                     "  easel render flower.svg flower.png --width 1920\n"
                     "  easel render flower.svg flower.pdf\n"

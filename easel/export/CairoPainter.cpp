@@ -190,8 +190,8 @@ void CairoPainter::paintGroup(const drawing::Group& group, paint::ObjectSpan obj
 void CairoPainter::paintContent(const drawing::Group& group, paint::ObjectSpan objects) {
     const double opacity = drawing::validOpacity(group.opacity);
     if (opacity >= 1 && !group.mask && !(blends_ && isLayer(group)))
-        return paintWithin(&group, objects);
-    apart([&] { paintWithin(&group, objects); },
+        return paintObjects(group, objects);
+    apart([&] { paintObjects(group, objects); },
           [&](cairo_pattern_t* content) {
               if (!group.mask)
                   return paintPattern(cairo_, content, opacity);

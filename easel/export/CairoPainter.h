@@ -4,6 +4,7 @@
 #include "easel/drawing/Drawing.h"
 #include "easel/export/CairoPicture.h"
 #include "easel/export/Progress.h"
+#include "easel/paint/FilterPictures.h"
 #include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/Painter.h"
 
@@ -28,6 +29,8 @@ class CairoPainter {
     void paintWithin(const drawing::Group* parent, std::span<const drawing::ObjectPtr> objects);
     void paintGroup(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
     void paintContent(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
+    void paintObjects(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
+    void paintFiltered(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects);
     // Paints something into a group of its own and gives it to use(pattern).
     template <class Content, class Use> void apart(Content paint, Use use);
     void paintObject(const drawing::Object& object);
@@ -63,6 +66,7 @@ class CairoPainter {
     bool luminanceAsAlpha_ = false; // colors are painted with their luminance in the place of their opacity
     CairoPictures pictures_;
     PieceCount painted_;
+    paint::FilterPictures filterPictures_;
 };
 
 } // namespace easel::exports

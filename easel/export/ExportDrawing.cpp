@@ -5,6 +5,7 @@
 #include "easel/export/PngFile.h"
 #include "easel/export/SvgText.h"
 #include "easel/files/AtomicFile.h"
+#include "easel/paint/FilterPictures.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/text/Ascii.h"
 
@@ -27,12 +28,13 @@ using std::filesystem::path;
 
 void paintInParts(const drawing::Drawing& drawing, paint::Surface& surface, double scale,
                   const Progress& progress) {
+    paint::FilterPictures filterPictures;
     const int rows = kPartRowsPerThread * static_cast<int>(paint::usefulThreads());
     for (int top = 0; top < surface.height(); top += rows) {
         progress.tell(static_cast<double>(top) / surface.height());
         paint::renderDrawing(
             drawing, surface.view().clippedTo({.top = top, .right = surface.width(), .bottom = top + rows}),
-            drawing::Affine::scaling(scale, scale));
+            drawing::Affine::scaling(scale, scale), paint::usefulThreads(), &filterPictures);
     }
 }
 
@@ -54,8 +56,9 @@ Result<> exportOutlines(const drawing::Drawing& drawing, const path& file, const
     if (!scale)
         return tl::unexpected(scale.error().of(file));
     if (asPdf)
-        return files::replaceFile(file, encodePdf(drawing, pageOf(drawing, *scale), progress));
-    return files::replaceFile(file, encodeSvg(drawing, *scale, progress));
+        return files::replaceFile(file,
+                                  encodePdf(drawing, pageOf(drawing, *scale, request.dotsPerInch), progress));
+    return files::replaceFile(file, encodeSvg(drawing, *scale, progress, request.dotsPerInch));
 }
 
 } // namespace

@@ -18,9 +18,6 @@ constexpr double kShareOfPainting = 0.15;
 // With this many bytes for each object, the writing counts as half done.
 constexpr double kHalfOfAnObject = 30;
 
-// What PDF can say by a picture only is finer than most printers are.
-constexpr double kPixelsAPoint = 300.0 / 72;
-
 struct Output {
     Progress progress;
     double halfBytes = 1;
@@ -56,9 +53,9 @@ void check(const Output& out, cairo_status_t status) {
 
 } // namespace
 
-PdfPage pageOf(const drawing::Drawing& drawing, double scale) {
+PdfPage pageOf(const drawing::Drawing& drawing, double scale, double dotsPerInch) {
     const double points = kPointsPerUnit * scale;
-    return {drawing.width() * points, drawing.height() * points, 0, 0, points};
+    return {drawing.width() * points, drawing.height() * points, 0, 0, points, dotsPerInch};
 }
 
 files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress) {
@@ -75,7 +72,7 @@ files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, con
         cairo_scale(cairo.get(), page.pointsAUnit, page.pointsAUnit);
         cairo_rectangle(cairo.get(), 0, 0, drawing.width(), drawing.height());
         cairo_clip(cairo.get());
-        CairoPainter(cairo.get(), kPixelsAPoint).paint(drawing, progress.part(0, kShareOfPainting));
+        CairoPainter(cairo.get(), page.dotsPerInch / 72).paint(drawing, progress.part(0, kShareOfPainting));
         check(out, cairo_status(cairo.get()));
     }
     cairo_surface_finish(surface.get());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/PictureSize.h"
 #include "easel/export/Progress.h"
 #include "easel/files/Bytes.h"
 
@@ -13,14 +14,15 @@ struct PdfPage {
     double height = 0;
     double left = 0; // of the drawing, from the page's left edge
     double top = 0;
-    double pointsAUnit = 1; // what a drawing unit is long
+    double pointsAUnit = 1;                 // what a drawing unit is long
+    double dotsPerInch = kUsualDotsPerInch; // of what can be said by a picture only
 };
 
 // A drawing unit at scale 1 is a 96th of an inch.
-inline constexpr double kPointsPerUnit = 72.0 / 96.0;
+inline constexpr double kPointsPerUnit = 72 / kInch;
 
 // A page that is as large as the drawing at that scale.
-PdfPage pageOf(const drawing::Drawing& drawing, double scale);
+PdfPage pageOf(const drawing::Drawing& drawing, double scale, double dotsPerInch = kUsualDotsPerInch);
 
 // The bytes of a PDF file with one page. What lies outside the drawing's own area is not shown. Throws
 // std::bad_alloc and Cancelled.

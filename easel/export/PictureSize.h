@@ -8,10 +8,16 @@
 
 namespace easel::exports {
 
-// At most one of them; none is scale 1, a pixel for each drawing unit.
+// Finer than most printers are.
+inline constexpr double kUsualDotsPerInch = 300;
+inline constexpr double kInch = 96; // in drawing units at scale 1
+
+// Width or scale; neither is scale 1, a pixel for each drawing unit.
 struct SizeRequest {
     std::optional<double> width; // pixels; the height follows
     std::optional<double> scale;
+    // How fine what PDF and SVG can hold as pixels only is to be, such as what filters show.
+    double dotsPerInch = kUsualDotsPerInch;
 };
 
 struct PictureSize {

@@ -3,8 +3,11 @@
 #include "easel/export/SvgText.h"
 
 #include "easel/export/GradientRange.h"
+#include "easel/export/PictureElement.h"
 #include "easel/paint/GroupRuns.h"
+#include "easel/paint/Layer.h"
 #include "easel/paint/ObjectPaintSource.h"
+#include "easel/paint/ObjectPainter.h"
 #include "easel/svg/style/Color.h"
 #include "easel/svg/write/ElementText.h"
 #include "easel/svg/write/GradientElement.h"
@@ -38,8 +41,10 @@ bool showsInPart(const Object& object, const drawing::PlacedPicture& placed) {
 
 class SvgWriter {
   public:
-    SvgWriter(const drawing::Drawing& drawing, const Progress& progress)
-        : written_(progress, drawing.size()) {
+    // What filters show gets `fineness` pixels for each unit.
+    SvgWriter(const drawing::Drawing& drawing, const Progress& progress, double fineness)
+        : written_(progress, drawing.size()),
+          fineness_(fineness), page_{0, 0, drawing.width(), drawing.height()} {
         drawing.forEach([&](const drawing::ObjectPtr& object) { objects_.push_back(object); });
         // Names of our own must not be those of objects.
         while (nameTaken())
@@ -73,8 +78,21 @@ class SvgWriter {
         body_ += "<g" + attributeUnless(1, "opacity", drawing::validOpacity(group.opacity)) +
                  clipAttribute(group.clip.get()) + maskAttribute(group.mask.get()) +
                  attribute("style", blendText(group)) + ">\n";
-        writeWithin(&group, objects);
+        if (group.filter)
+            writeFiltered(group, objects);
+        else
+            writeWithin(&group, objects);
         body_ += "</g>\n";
+    }
+    void writeFiltered(const drawing::Group& group, paint::ObjectSpan objects) {
+        for (std::size_t i = 0; i < objects.size(); ++i)
+            written_.next();
+        const Affine toPixels = Affine::scaling(fineness_, fineness_);
+        const auto picture = paint::ObjectPainter::filteredPicture(
+            group, objects, toPixels, paint::pixelsUnder(page_, toPixels, paint::kAllPixels),
+            filterPictures_);
+        if (picture.pixels)
+            body_ += pictureElement(*picture.pixels, picture.pixelsTo(toPixels.inverse())) + "\n";
     }
 
     void writeObject(const Object& object) {
@@ -257,6 +275,9 @@ class SvgWriter {
     }
 
     PieceCount written_;
+    double fineness_;
+    drawing::Box page_;
+    paint::FilterPictures filterPictures_;
     std::vector<drawing::ObjectPtr> objects_;
     std::string prefix_ = "easel-";
     int named_ = 0;
@@ -271,8 +292,10 @@ class SvgWriter {
 
 } // namespace
 
-std::string encodeSvg(const drawing::Drawing& drawing, double scale, const Progress& progress) {
-    return SvgWriter(drawing, progress).document(drawing.width(), drawing.height(), scale);
+std::string encodeSvg(const drawing::Drawing& drawing, double scale, const Progress& progress,
+                      double dotsPerInch) {
+    return SvgWriter(drawing, progress, scale * dotsPerInch / kInch)
+        .document(drawing.width(), drawing.height(), scale);
 }
 
 } // namespace easel::exports
