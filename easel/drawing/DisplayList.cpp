@@ -32,7 +32,7 @@ std::size_t DisplayList::indexOf(Slot slot) const {
 }
 
 Slot DisplayList::newSlot() {
-    objects_.emplace_back();
+    objects_.add();
     blockOf_.push_back(kNoBlock);
     return static_cast<Slot>(objects_.size() - 1);
 }
@@ -43,7 +43,7 @@ void DisplayList::insert(std::size_t index, Slot slot, ObjectPtr object) {
     const Place place = placeOf(index);
     std::vector<Slot>& slots = blocks_[place.block].slots;
     slots.insert(slots.begin() + static_cast<std::ptrdiff_t>(place.position), slot);
-    objects_[slot] = std::move(object);
+    objects_.replace(slot, std::move(object));
     blockOf_[slot] = static_cast<std::uint32_t>(place.block);
     ++size_;
     if (slots.size() > kLargestBlock)
@@ -61,22 +61,21 @@ ObjectPtr DisplayList::erase(Slot slot) {
         renumber(block);
     }
     recount(block);
-    return std::exchange(objects_[slot], nullptr);
+    return objects_.replace(slot, nullptr);
 }
 
 ObjectPtr DisplayList::replace(Slot slot, ObjectPtr object) {
-    return std::exchange(objects_[slot], std::move(object));
+    return objects_.replace(slot, std::move(object));
 }
 
 void DisplayList::append(std::vector<ObjectPtr> objects) {
-    objects_.reserve(objects_.size() + objects.size());
     blockOf_.reserve(blockOf_.size() + objects.size());
     for (ObjectPtr& object : objects) {
         if (blocks_.empty() || blocks_.back().slots.size() >= kLargestBlock / 2)
             blocks_.emplace_back();
         const Slot slot = newSlot();
         blocks_.back().slots.push_back(slot);
-        objects_[slot] = std::move(object);
+        objects_.replace(slot, std::move(object));
         blockOf_[slot] = static_cast<std::uint32_t>(blocks_.size() - 1);
     }
     size_ += objects.size();

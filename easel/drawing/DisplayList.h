@@ -1,16 +1,13 @@
 // The objects of a drawing from back to front, quick to change and to number however many there are.
 #pragma once
 
-#include "easel/drawing/Object.h"
+#include "easel/drawing/ObjectPages.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace easel::drawing {
-
-// Names one entry of the list for as long as the drawing lives: never given to another entry.
-using Slot = std::uint32_t;
 
 // The list is cut into blocks of some hundred entries, so that finding, inserting and deleting at an index,
 // and finding the index of an entry, take time that grows with the square root of the number of entries at
@@ -62,7 +59,7 @@ class DisplayList {
     void recount(std::size_t firstBlock);
 
     std::vector<Block> blocks_;
-    std::vector<ObjectPtr> objects_;     // by slot
+    ObjectPages objects_;
     std::vector<std::uint32_t> blockOf_; // by slot
     std::size_t size_ = 0;
 };

@@ -4,8 +4,10 @@
 #include "easel/drawing/DisplayList.h"
 #include "easel/drawing/History.h"
 #include "easel/drawing/PlaceIndex.h"
+#include "easel/drawing/Snapshot.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -43,6 +45,7 @@ class Drawing {
     const std::vector<std::string>& notes() const { return notes_; }
     // Null for a drawing that came from no file.
     const std::shared_ptr<const DocumentSource>& source() const { return source_; }
+    Snapshot snapshot() const { return {width_, height_, list_, source_}; }
 
     // Objects. An index counts from 0 at the back.
     std::size_t size() const { return list_.size(); }
@@ -84,6 +87,10 @@ class Drawing {
     // Whether the drawing differs from what was last read or saved.
     bool dirty() const { return history_.dirty(); }
     void markSaved() { history_.markSaved(); }
+    // No state of the drawing counts as saved until it is saved again.
+    void markUnsaved() { history_.markUnsaved(); }
+    // Numbers the states of the drawing: another one after each change, the same one when a change is undone.
+    std::uint64_t revision() const { return history_.revision(); }
 
     // Selection.
     bool selected(std::size_t index) const { return selection_.contains(list_.slotAt(index)); }

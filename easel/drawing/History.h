@@ -58,8 +58,12 @@ class History {
 
     bool dirty() const { return revision_ != savedRevision_; }
     void markSaved() { savedRevision_ = revision_; }
+    void markUnsaved() { savedRevision_ = kNoRevision; }
+    std::uint64_t revision() const { return revision_; }
 
   private:
+    static constexpr std::uint64_t kNoRevision = UINT64_MAX;
+
     void settle();
 
     std::vector<Step> done_;

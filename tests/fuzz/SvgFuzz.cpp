@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string changed = svg::toBytes(*drawing);
     require(svg::readBytes(changed, "again.svg").has_value());
     // What would be lost is refused when saving; that it is found must be all that happens.
-    svg::lostIn(changed, *drawing);
+    svg::lostIn(changed, drawing->snapshot());
     drawing->undo();
     require(svg::toBytes(*drawing) == bytes);
     return 0;

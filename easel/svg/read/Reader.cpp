@@ -112,6 +112,11 @@ Result<Drawing> readBytes(std::string bytes, const std::filesystem::path& file, 
     return readNamed(std::move(bytes), file, {}, options);
 }
 
+Result<Drawing> readBytesOf(const std::filesystem::path& file, std::string bytes,
+                            const ReadOptions& options) {
+    return readNamed(std::move(bytes), file, file, options);
+}
+
 Result<Drawing> readFile(const std::filesystem::path& file, const ReadOptions& options) {
     try {
         return files::readWholeFile(file, options.largestFile).and_then([&](const files::Bytes& bytes) {

@@ -20,11 +20,12 @@ using drawing::Object;
 using drawing::ObjectPtr;
 using drawing::Paint;
 using drawing::PaintOrigin;
+using drawing::Snapshot;
 
 namespace {
 
 // The objects in the order of their elements in the file: those that keep theirs, then those that get one.
-std::vector<ObjectPtr> inFileOrder(const Drawing& drawing) {
+std::vector<ObjectPtr> inFileOrder(const Snapshot& drawing) {
     std::map<ElementSpan, ObjectPtr> kept;
     std::vector<ObjectPtr> added;
     drawing.forEach([&](const ObjectPtr& object) {
@@ -33,7 +34,7 @@ std::vector<ObjectPtr> inFileOrder(const Drawing& drawing) {
             added.push_back(object);
     });
     std::vector<ObjectPtr> objects;
-    if (const auto* const source = dynamic_cast<const Source*>(drawing.source().get()))
+    if (const auto* const source = dynamic_cast<const Source*>(drawing.source.get()))
         for (const ElementSpan& element : source->objects)
             if (const auto found = kept.find(element); found != kept.end())
                 objects.push_back(found->second);
@@ -84,7 +85,7 @@ std::string nameOf(const Object& object, std::size_t number) {
 
 } // namespace
 
-std::optional<std::string> lostIn(const std::string& bytes, const Drawing& drawing) {
+std::optional<std::string> lostIn(const std::string& bytes, const Snapshot& drawing) {
     const files::Result<Drawing> read = readBytes(bytes, {});
     if (!read)
         return "it could not be opened again: " + read.error().reason;

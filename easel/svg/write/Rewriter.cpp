@@ -11,11 +11,11 @@
 
 namespace easel::svg {
 
-using drawing::Drawing;
 using drawing::ElementSpan;
 using drawing::Object;
 using drawing::ObjectPtr;
 using drawing::PaintOrigin;
+using drawing::Snapshot;
 
 namespace {
 
@@ -60,7 +60,7 @@ void removeElement(Splices& splices, const std::string& text, std::size_t tag) {
 
 } // namespace
 
-Rewriter::Rewriter(const Drawing& drawing, const Source& source)
+Rewriter::Rewriter(const Snapshot& drawing, const Source& source)
     : drawing_(drawing), source_(source), text_(source.text()), lineBreak_(lineBreakOf(text_)),
       gradients_(text_, source.prefix) {}
 

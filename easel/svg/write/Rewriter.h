@@ -1,7 +1,7 @@
 // Carries the changes of a drawing over into the text of the file that it came from.
 #pragma once
 
-#include "easel/drawing/Drawing.h"
+#include "easel/drawing/Snapshot.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/write/GradientText.h"
 #include "easel/svg/write/PaintStatement.h"
@@ -17,7 +17,7 @@ namespace easel::svg {
 
 class Rewriter {
   public:
-    Rewriter(const drawing::Drawing& drawing, const Source& source);
+    Rewriter(const drawing::Snapshot& drawing, const Source& source);
 
     // The bytes of the file with the changes in it; without changes those that were read.
     std::string rewritten();
@@ -48,7 +48,7 @@ class Rewriter {
     std::string keptGradients(const std::string& newText) const;
     void addNewObjects(Splices& splices) const;
 
-    const drawing::Drawing& drawing_;
+    const drawing::Snapshot& drawing_;
     const Source& source_;
     const std::string& text_;
     std::string lineBreak_;

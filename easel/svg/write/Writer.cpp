@@ -13,17 +13,18 @@
 namespace easel::svg {
 
 using drawing::Drawing;
+using drawing::Snapshot;
 
 namespace {
 
-std::string newFile(const Drawing& drawing) {
+std::string newFile(const Snapshot& drawing) {
     GradientBlock gradients({}, {});
     std::string objects;
     drawing.forEach([&](const drawing::ObjectPtr& object) {
         objects += "  " + objectText(*object, drawing::Affine(), {}, gradients) + '\n';
     });
-    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" +
-                       documentTag(drawing.width(), drawing.height()) + '\n';
+    std::string text =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + documentTag(drawing.width, drawing.height) + '\n';
     if (!gradients.empty())
         text += std::string("  <defs ") + kOwnBlockAttribute + "=\"" + kOwnBlockValue + "\">" +
                 gradients.text("\n    ") + "\n  </defs>\n";
@@ -32,8 +33,8 @@ std::string newFile(const Drawing& drawing) {
 
 enum class Packing : std::uint8_t { None, Gzip };
 
-const Source* sourceOf(const Drawing& drawing) {
-    return dynamic_cast<const Source*>(drawing.source().get());
+const Source* sourceOf(const Snapshot& drawing) {
+    return dynamic_cast<const Source*>(drawing.source.get());
 }
 
 Packing packingOf(const Source* source) {
@@ -48,7 +49,7 @@ Packing packingFor(const std::filesystem::path& file, const Source* source) {
     return equalIgnoringCase(file.extension().string(), ".svgz") ? Packing::Gzip : Packing::None;
 }
 
-std::string unpackedBytes(const Drawing& drawing) {
+std::string unpackedBytes(const Snapshot& drawing) {
     const Source* const source = sourceOf(drawing);
     return source ? Rewriter(drawing, *source).rewritten() : newFile(drawing);
 }
@@ -61,26 +62,48 @@ std::string packed(std::string bytes, const Source* source, Packing packing) {
     return unchanged ? source->packed : files::packedGzip(bytes);
 }
 
+// What a save puts into that file; an error if that would not give every fill again.
+files::Result<std::string> checkedBytes(const Snapshot& drawing, const std::filesystem::path& file) {
+    const Source* const source = sourceOf(drawing);
+    std::string bytes = unpackedBytes(drawing);
+    if (!source || bytes != source->bytes)
+        if (const auto lost = lostIn(bytes, drawing))
+            return tl::unexpected(files::Error{file, *lost + "; nothing was saved", {}});
+    return packed(std::move(bytes), source, packingFor(file, source));
+}
+
 } // namespace
 
-std::string toBytes(const Drawing& drawing) {
+std::string toBytes(const Snapshot& drawing) {
     const Source* const source = sourceOf(drawing);
     return packed(unpackedBytes(drawing), source, packingOf(source));
 }
 
-files::Result<> saveFile(Drawing& drawing, const std::filesystem::path& file) {
+std::string toBytes(const Drawing& drawing) {
+    return toBytes(drawing.snapshot());
+}
+
+std::string openedBytes(const Drawing& drawing) {
+    const auto* const source = dynamic_cast<const Source*>(drawing.source().get());
+    if (!source)
+        return {};
+    return source->packed.empty() ? source->bytes : source->packed;
+}
+
+files::Result<std::string> bytesFor(const Drawing& drawing, const std::filesystem::path& file) {
     try {
-        const Source* const source = sourceOf(drawing);
-        std::string bytes = unpackedBytes(drawing);
-        if (!source || bytes != source->bytes)
-            if (const auto lost = lostIn(bytes, drawing))
-                return tl::unexpected(files::Error{file, *lost + "; nothing was saved", {}});
-        bytes = packed(std::move(bytes), source, packingFor(file, source));
-        return files::replaceFile(file, std::string_view(bytes)).map([&] { drawing.markSaved(); });
+        return checkedBytes(drawing.snapshot(), file);
     } catch (const std::bad_alloc&) {
         return tl::unexpected(files::Error{file, "there is not enough memory to write it",
                                            std::make_error_code(std::errc::not_enough_memory)});
     }
+}
+
+files::Result<> saveFile(Drawing& drawing, const std::filesystem::path& file) {
+    const auto bytes = bytesFor(drawing, file);
+    if (!bytes)
+        return tl::unexpected(bytes.error());
+    return files::replaceFile(file, std::string_view(*bytes)).map([&] { drawing.markSaved(); });
 }
 
 } // namespace easel::svg

@@ -215,4 +215,53 @@ TEST(Drawing, AnEarlierStepIsNotTakenBack) {
     EXPECT_EQ(drawing.undoLevels(), 1U);
 }
 
+std::string ids(const Snapshot& snapshot) {
+    std::string result;
+    snapshot.forEach([&](const ObjectPtr& object) { result += object->id.text(); });
+    return result;
+}
+
+TEST(Drawing, ASnapshotStaysAsItWasWhileTheDrawingChanges) {
+    Drawing drawing = threeRectangles();
+    const Snapshot before = drawing.snapshot();
+    drawing.amend(1, rectangle("B", {0, 0, 5, 5}));
+    drawing.erase(0);
+    drawing.insert(0, rectangle("x", {0, 0, 5, 5}));
+    const Snapshot after = drawing.snapshot();
+    drawing.erase(2);
+    EXPECT_EQ(ids(before), "abc");
+    EXPECT_EQ(ids(after), "xBc");
+    EXPECT_EQ(ids(drawing), "xB");
+    EXPECT_EQ(before.width, 100);
+}
+
+TEST(Drawing, ASnapshotSharesItsObjects) {
+    const Drawing drawing = threeRectangles();
+    const long uses = drawing.object(0).use_count();
+    const Snapshot snapshot = drawing.snapshot();
+    EXPECT_EQ(drawing.object(0).use_count(), uses);
+}
+
+TEST(Drawing, ARevisionComesBackWithItsState) {
+    Drawing drawing = threeRectangles();
+    const auto before = drawing.revision();
+    drawing.prepareUndo(3);
+    drawing.erase(0);
+    EXPECT_NE(drawing.revision(), before);
+    drawing.undo();
+    EXPECT_EQ(drawing.revision(), before);
+}
+
+TEST(Drawing, WhatWasNeverSavedIsDirtyInEveryState) {
+    Drawing drawing = threeRectangles();
+    drawing.markUnsaved();
+    EXPECT_TRUE(drawing.dirty());
+    drawing.prepareUndo(3);
+    drawing.erase(0);
+    drawing.undo();
+    EXPECT_TRUE(drawing.dirty());
+    drawing.markSaved();
+    EXPECT_FALSE(drawing.dirty());
+}
+
 } // namespace

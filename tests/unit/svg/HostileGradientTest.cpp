@@ -43,7 +43,7 @@ void changeSaveAndReopen(const std::string& gradient, const std::string& shape) 
         record.SetAngle(77);
         record.SetEnd({0.75, 0.25});
         giveGradient(drawing, 0, record);
-        EXPECT_EQ(lostIn(toBytes(drawing), drawing), std::nullopt);
+        EXPECT_EQ(lostIn(toBytes(drawing), drawing.snapshot()), std::nullopt);
         EXPECT_TRUE(recordOf(readOk(toBytes(drawing))));
     }
     EXPECT_TRUE(drawing.undo() && drawing.undo());
