@@ -81,7 +81,7 @@ PlayOutcome playScenario(const PlayRequest& request, std::istream& input, std::o
     const bool played = session.play();
     session.unloadPlugin();
     process.storage().files().settle();
-    return played ? PlayOutcome::Played : PlayOutcome::Failed;
+    return played && process.storage().keptAll() ? PlayOutcome::Played : PlayOutcome::Failed;
 }
 
 } // namespace easel::play

@@ -23,6 +23,12 @@ classic::FileResult Storage::resolve(std::int16_t volume, std::int64_t folder, s
     return result;
 }
 
+std::optional<files::Error> Storage::takeRefusal() {
+    if (refusal_ && unusable_)
+        keptAll_ = false;
+    return std::exchange(refusal_, std::nullopt);
+}
+
 files::Error Storage::refusalOf(classic::FileResult result, std::string_view name) const {
     if (result == classic::FileResult::BadName)
         return {classic::fromMacRoman(name), classic::whyNoFile(name), {}};
@@ -30,6 +36,7 @@ files::Error Storage::refusalOf(classic::FileResult result, std::string_view nam
 }
 
 void Storage::tellError(const files::Error& error) {
+    keptAll_ = false;
     tell_(error.message() + ". The change was not kept.");
 }
 
@@ -39,6 +46,7 @@ void Storage::tellNothingIsKept(const files::Error& error) {
 }
 
 void Storage::tellDefaultsNotKept(const files::Error& error) {
+    keptAll_ = false;
     if (!unusable_)
         tellError(error);
 }

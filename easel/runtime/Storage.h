@@ -27,11 +27,13 @@ class Storage {
                                 classic::FileSpec& out);
     // Why the name that was resolved last can be that of no file: a question that is asked right after it is
     // about something that does not exist and cannot be made. Nothing if it can be one, and once taken.
-    std::optional<files::Error> takeRefusal() { return std::exchange(refusal_, std::nullopt); }
+    std::optional<files::Error> takeRefusal();
     Enumeration& enumeration() { return enumeration_; }
     ResourceFiles& resourceFiles() { return resourceFiles_; }
     const classic::DefaultsStore& defaults() const { return defaults_; }
 
+    // Whether nothing that was to be kept was lost so far.
+    bool keptAll() const { return keptAll_; }
     // Tells the user what could not be kept.
     void tellError(const files::Error& error);
     // Tells it in advance of the defaults and templates, for want of a folder; the first time only.
@@ -43,6 +45,7 @@ class Storage {
     files::Error refusalOf(classic::FileResult result, std::string_view name) const;
 
     Tell tell_;
+    bool keptAll_ = true;
     std::optional<files::Error> unusable_; // why there is no folder to keep anything in
     std::optional<files::Error> refusal_;
     classic::HostFiles files_;

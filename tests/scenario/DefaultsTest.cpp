@@ -139,7 +139,7 @@ TEST(Defaults, WithoutAFolderForPreferencesTheToolWorksAndTheUserIsToldWhyAtTheS
                      "print dialog\nanswer yes\nchoose 9 2\ncommand cancel\nhit 11\nhit 1\nclick 20 20\n"
                      "quit\n");
     const auto played = player.run({"play", "s.easel", "--prefs", "file/below", "--plugin", GRADIENT_MODULE});
-    EXPECT_EQ(played.exitCode, 0);
+    EXPECT_EQ(played.exitCode, 2) << "a template and the gradient were to be kept";
     expectDefault(played["gradient"]);
     const std::string why =
         (fs::canonical(player.folder()) / "file/below/Gradient Templates").string() + ": Not a directory. ";
@@ -152,7 +152,7 @@ TEST(Defaults, AFileInPlaceOfTheTemplateFolderIsLeftAloneAndNamedWhenATemplateIs
     const Player player;
     writeContent(templateFolder(player), "kept");
     const auto played = player.play(inEditor(saveAs("a") + "answer yes\n") + "quit\n");
-    EXPECT_EQ(played.exitCode, 0);
+    EXPECT_EQ(played.exitCode, 2);
     EXPECT_THAT(played.messages,
                 testing::EndsWith("Gradient Templates: Not a directory. Nothing was saved.\n"));
     EXPECT_EQ(contentOf(templateFolder(player)), "kept");

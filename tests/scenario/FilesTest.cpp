@@ -7,6 +7,7 @@
 
 #include <random>
 #include <sstream>
+#include <sys/resource.h>
 
 namespace {
 
@@ -174,6 +175,21 @@ TEST(Undo, ThenRedoOfRandomEditsRestoresTheDrawingByteForByte) {
         EXPECT_EQ(windows[2]["objects"], windows[0]["objects"]);
         EXPECT_GT(windows[0]["undoLevels"], 5);
     }
+}
+
+TEST(Files, ALimitOnFileSizesEndsASaveWithAMessageThatNamesTheFile) {
+    const Player player;
+    writeContent(player.folder() / "two.svg", kTwoShapes);
+    writeContent(player.folder() / "s.easel", "start\nopen two.svg\nclick 5 5\nsave two.svg\n");
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{100, before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const Played played = player.run({"play", "s.easel", "--plugin", GRADIENT_MODULE});
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(played.exitCode, 2) << "and no signal's number";
+    EXPECT_THAT(played.messages, testing::HasSubstr("two.svg: File too large"));
+    EXPECT_EQ(contentOf(player.folder() / "two.svg"), kTwoShapes);
 }
 
 } // namespace
