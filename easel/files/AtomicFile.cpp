@@ -18,7 +18,8 @@ constexpr std::size_t kDigits = 16;
 constexpr char kSuffix = '~';
 
 std::string newTemporaryName() {
-    static std::mt19937_64 random{std::random_device{}() ^ static_cast<std::uint64_t>(::getpid()) << 32};
+    thread_local std::mt19937_64 random{std::random_device{}() ^ static_cast<std::uint64_t>(::getpid())
+                                                                     << 32};
     constexpr std::string_view kHex = "0123456789abcdef";
     std::string name(kPrefix);
     for (auto bits = random(); name.size() < kPrefix.size() + kDigits; bits >>= 4)

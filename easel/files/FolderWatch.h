@@ -20,6 +20,9 @@ class FolderWatch {
     // happened, or the path leads to another folder now. Then the watch has to be started again.
     std::optional<std::vector<std::string>> changes();
 
+    // Can be read from when there are changes; negative without a watch. Another one after each start.
+    int descriptor() const { return events_.number(); }
+
     // Whether no change can escape the system: the folder is on this machine's own disk or in its memory.
     bool seesAll() const { return seesAll_; }
 

@@ -80,7 +80,8 @@ std::map<std::string, std::string> DesktopTest::environment() const {
             {"LC_ALL", "C.UTF-8"},
             {"HOME", folder_ / "home"},
             {"XDG_CONFIG_HOME", configuration()},
-            {"XDG_DATA_HOME", folder_ / "data"}};
+            {"XDG_DATA_HOME", folder_ / "data"},
+            {"XDG_STATE_HOME", folder_ / "state"}};
 }
 
 void DesktopTest::start(const std::vector<std::string>& arguments,

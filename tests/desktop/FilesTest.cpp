@@ -110,7 +110,7 @@ TEST_F(FilesTest, ASaveToAPlaceThatCannotBeWrittenLeavesTheDrawingUnsavedUnderIt
     EXPECT_TRUE(colorVanishes(kPlain));
     screen().key("ctrl+shift+s");
     answerFileDialog("Save As", nowhere);
-    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("nowhere.svg: "));
+    EXPECT_THAT(messageOf(waitForDialog("Easel")), HasSubstr("nowhere.svg\u201d could not be saved: "));
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Easel"));
     EXPECT_TRUE(hasWindow("drawing.svg*"));

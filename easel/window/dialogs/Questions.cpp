@@ -46,4 +46,25 @@ UnsavedChoice askAboutUnsaved(const QString& drawingName, QWidget* over, DialogS
     return UnsavedChoice::Cancel;
 }
 
+WriteChoice askBeforeWriting(const QString& text, const QString& detail, const QString& write, QWidget* over,
+                             DialogStack& dialogs) {
+    QMessageBox box(over);
+    box.setIcon(QMessageBox::Warning);
+    box.setWindowTitle(QObject::tr("Easel"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setInformativeText(detail);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    const QPushButton* writes =
+        write.isEmpty() ? nullptr : box.addButton(write, QMessageBox::DestructiveRole);
+    QPushButton* saves = box.addButton(QObject::tr("Save &As\u2026"), QMessageBox::AcceptRole);
+    box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(saves);
+    dialogs.run(box);
+    const QAbstractButton* clicked = box.clickedButton();
+    if (clicked && clicked == writes)
+        return WriteChoice::Write;
+    return clicked && clicked == saves ? WriteChoice::SaveAs : WriteChoice::Cancel;
+}
+
 } // namespace easel::window

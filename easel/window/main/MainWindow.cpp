@@ -1,12 +1,14 @@
 // Puts the window together and keeps it in step with its drawing.
 #include "easel/window/main/MainWindow.h"
 
+#include "easel/files/WholeFile.h"
 #include "easel/runtime/Process.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/SelectTool.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/GradientMenu.h"
 #include "easel/window/main/HelpDialogs.h"
+#include "easel/window/main/LoadDrawing.h"
 #include "easel/window/main/NoticeBar.h"
 #include "easel/window/main/SharedParts.h"
 
@@ -41,10 +43,11 @@ QString titleOf(const QString& drawing) {
 
 } // namespace
 
-MainWindow::MainWindow(SharedParts& shared, drawing::Drawing drawing, const QString& file)
-    : shared_(shared), drawingWindow_(std::move(drawing), shared.process), file_(file),
-      notice_(new NoticeBar), closing_(shared.interaction.waiting, [this] { close(); }) {
+MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
+    : shared_(shared), drawingWindow_(std::move(loaded.drawing), shared.process), notice_(new NoticeBar),
+      closing_(shared.interaction.waiting, [this] { close(); }), unsaved_(shared.journals) {
     setAttribute(Qt::WA_DeleteOnClose);
+    setFile(std::move(loaded.file));
     canvas_ = new Canvas(drawingWindow_, shared_.interaction, shared_.canvases);
     auto* middle = new QWidget;
     auto* layout = new QVBoxLayout(middle);
@@ -61,6 +64,11 @@ MainWindow::MainWindow(SharedParts& shared, drawing::Drawing drawing, const QStr
     connect(canvas_, &Canvas::changed, this, &MainWindow::drawingChanged);
     connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
     connect(&shared_.tools, &ToolChoice::activeChanged, this, &MainWindow::toolChanged);
+    connect(&unsaved_, &UnsavedKeeper::failed, this, [this](const QString& reason) {
+        notice_->tell(tr("Until you save, changes are not safe from a crash: %1").arg(reason));
+    });
+    connect(&onDisk_, &FileOnDisk::stateChanged, this, &MainWindow::fileStateChanged);
+    connect(&onDisk_, &FileOnDisk::shared, this, &MainWindow::tellShared);
     notice_->tell(joined(drawingWindow_.drawing().notes()));
     toolChanged();
     drawingChanged();
@@ -83,9 +91,13 @@ bool MainWindow::isPristine() const {
     return file_.isEmpty() && !drawing.dirty() && drawing.undoLevels() == 0 && drawing.redoLevels() == 0;
 }
 
-void MainWindow::setDrawing(drawing::Drawing drawing, const QString& file) {
+void MainWindow::setDrawing(LoadedDrawing loaded) {
+    setFile(std::move(loaded.file));
+    showDrawing(std::move(loaded.drawing));
+}
+
+void MainWindow::showDrawing(drawing::Drawing drawing) {
     drawingWindow_.setDrawing(std::move(drawing));
-    file_ = file;
     notice_->tell(joined(drawingWindow_.drawing().notes()));
     toldCosts_.clear();
     drawingChanged();
@@ -96,6 +108,21 @@ void MainWindow::showAnew() {
     // The canvas has to have its place beside the notice before it fits the drawing in.
     centralWidget()->layout()->activate();
     canvas_->showAnew();
+}
+
+void MainWindow::setFile(files::KnownFile file) {
+    file_ = QFile::decodeName(file.file().c_str());
+    unsaved_.setOrigin(file.file());
+    onDisk_.follow(std::move(file));
+    contentBefore_.reset();
+}
+
+void MainWindow::adopt(recovery::Journal journal) {
+    unsaved_.adopt(std::move(journal));
+    if (const auto content = files::readWholeFile(onDisk_.known().file()))
+        contentBefore_.emplace(content->begin(), content->end());
+    drawingChanged();
+    onDisk_.tellAgain();
 }
 
 MainWindow::Awaiting::Awaiting(MainWindow& window, const QString& file) : window_(window) {
@@ -147,12 +174,14 @@ void MainWindow::drawingChanged() {
     undo_->setEnabled(drawing.undoLevels() > 0);
     redo_->setEnabled(drawing.redoLevels() > 0);
     delete_->setEnabled(drawing.hasSelection());
+    revert_->setEnabled(contentBefore_ || (drawing.source() && drawing.revision() != 0));
     gradientMenu_->followSelection();
     showWhatIsKept();
     setWindowTitle(titleOf(name()));
     setWindowModified(drawing.dirty());
     setWindowFilePath(file_);
     canvas_->marked();
+    unsaved_.follow(drawing);
 }
 
 void MainWindow::toolChanged() {
@@ -257,6 +286,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     event->setAccepted(settleChanges() == Saved::Yes);
+    if (event->isAccepted())
+        unsaved_.giveUp();
 }
 
 } // namespace easel::window

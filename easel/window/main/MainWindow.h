@@ -5,6 +5,8 @@
 #include "easel/drawing/GradientDescription.h"
 #include "easel/runtime/DrawingWindow.h"
 #include "easel/runtime/TemplateSaves.h"
+#include "easel/window/keeping/FileOnDisk.h"
+#include "easel/window/keeping/UnsavedKeeper.h"
 #include "easel/window/waiting/CancelFirst.h"
 
 #include <QMainWindow>
@@ -27,7 +29,9 @@ namespace easel::window {
 class Canvas;
 class GradientMenu;
 class NoticeBar;
+struct LoadedDrawing;
 struct SharedParts;
+enum class WriteChoice;
 
 // How long a message stays in the status bar, in milliseconds.
 inline constexpr int kMessageTime = 4000;
@@ -36,8 +40,8 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
   public:
-    // An empty file name stands for a drawing that was never saved. The parts outlive the window.
-    MainWindow(SharedParts& shared, drawing::Drawing drawing, const QString& file);
+    // No file stands for a drawing that was never saved. The parts outlive the window.
+    MainWindow(SharedParts& shared, LoadedDrawing loaded);
     ~MainWindow() override;
 
     const QString& file() const { return file_; }
@@ -48,7 +52,10 @@ class MainWindow : public QMainWindow {
     // Shows the drawing as when it was opened, beside what the notice bar tells by now.
     void showAnew();
     // Another drawing takes the place of the one shown.
-    void setDrawing(drawing::Drawing drawing, const QString& file);
+    void setDrawing(LoadedDrawing loaded);
+    // The drawing shown comes out of this journal.
+    void adopt(recovery::Journal journal);
+    bool isUnsaved() const { return drawingWindow_.drawing().dirty(); }
 
     // Lives while a drawing for this window is being read: the window has the file's name and shows no page.
     class Awaiting {
@@ -111,6 +118,17 @@ class MainWindow : public QMainWindow {
     QString chosenFile(const QString& title, const QString& name, const QString& filter);
     QString baseName() const;
 
+    // MainWindowDisk.cpp
+    void fileStateChanged(FileOnDisk::State state);
+    void tellShared();
+    void keepMine();
+    void reload();
+    void revertToOpened();
+    bool mayLose(const QString& question, const QString& detail, const QString& yes);
+    WriteChoice mayWrite(const QString& file);
+    files::Result<> write(const std::filesystem::path& file, std::string_view bytes);
+    Saved saveFailed(const QString& file, const QString& reason);
+
     // MainWindowGradients.cpp
     void buildGradientMenu(QMenu& edit);
     void gradientPressed(drawing::Point at);
@@ -143,6 +161,8 @@ class MainWindow : public QMainWindow {
     void showZoom(double zoom);
     void nothingToPaint();
     QString name() const;
+    void setFile(files::KnownFile file);
+    void showDrawing(drawing::Drawing drawing);
 
     SharedParts& shared_;
     runtime::DrawingWindow drawingWindow_;
@@ -150,6 +170,9 @@ class MainWindow : public QMainWindow {
     Canvas* canvas_;
     NoticeBar* notice_;
     CancelFirst closing_;
+    UnsavedKeeper unsaved_;
+    FileOnDisk onDisk_;
+    std::optional<std::string> contentBefore_; // of the file, if the drawing did not come from it
 
     // The gradient that a tool was pressed on, and how many undo levels there were.
     struct Pressed {
@@ -169,6 +192,7 @@ class MainWindow : public QMainWindow {
     QAction* delete_ = nullptr;
     QAction* options_ = nullptr;
     QAction* save_ = nullptr;
+    QAction* revert_ = nullptr;
     QAction* open_ = nullptr;
     QAction* new_ = nullptr;
     QAction* zoomIn_ = nullptr;

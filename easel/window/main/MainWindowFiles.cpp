@@ -1,6 +1,5 @@
 // Opening, saving, exporting and printing.
 #include "easel/export/ExportDrawing.h"
-#include "easel/runtime/Alert.h"
 #include "easel/svg/Document.h"
 #include "easel/window/dialogs/PictureSizeQuestion.h"
 #include "easel/window/dialogs/Questions.h"
@@ -86,13 +85,27 @@ MainWindow::Saved MainWindow::saveAs() {
 }
 
 MainWindow::Saved MainWindow::saveTo(const QString& file) {
-    const auto saved = svg::saveFile(drawingWindow_.drawing(), QFile::encodeName(file).toStdString());
-    if (!saved) {
-        tellProblem(saved.error().message(), shared_.interaction.dialogs);
-        drawingChanged();
+    switch (mayWrite(file)) {
+    case WriteChoice::Write:
+        break;
+    case WriteChoice::SaveAs:
+        return saveAs();
+    case WriteChoice::Cancel:
         return Saved::No;
     }
-    file_ = QFileInfo(file).absoluteFilePath();
+    const std::filesystem::path path = QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString();
+    const auto bytes = svg::bytesFor(drawingWindow_.drawing(), path);
+    const files::Result<> saved = bytes.and_then([&](const std::string& all) { return write(path, all); });
+    if (!saved) {
+        drawingChanged();
+        return saveFailed(file, QString::fromStdString(saved.error().reason));
+    }
+    drawingWindow_.drawing().markSaved();
+    files::KnownFile known(path);
+    known.setContent(*bytes);
+    const std::optional<std::string> before = contentBefore_;
+    setFile(std::move(known));
+    contentBefore_ = before;
     shared_.recentFiles.add(file_);
     drawingChanged();
     statusBar()->showMessage(tr("Saved %1").arg(name()), kMessageTime);

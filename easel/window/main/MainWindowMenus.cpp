@@ -76,6 +76,9 @@ void MainWindow::buildFileMenu() {
     menu->addAction(save_);
     menu->addAction(makeAction(tr("Save &As\u2026"), tr("Save the drawing under another name"),
                                QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &MainWindow::saveAsNow));
+    revert_ = makeAction(tr("Re&vert to Opened\u2026"), tr("Go back to the drawing as it was opened"), {},
+                         &MainWindow::revertToOpened);
+    menu->addAction(revert_);
     QMenu* exports = menu->addMenu(tr("&Export"));
     exports->addAction(makeAction(tr("As &PNG\u2026"), tr("Export a picture"), {}, &MainWindow::exportPng));
     exports->addAction(makeAction(tr("As P&DF\u2026"), tr("Export a page"), {}, &MainWindow::exportPdf));

@@ -5,6 +5,7 @@
 #include "easel/runtime/PluginModule.h"
 #include "easel/runtime/Process.h"
 #include "easel/runtime/TemplateFolder.h"
+#include "easel/window/keeping/OfferRecovery.h"
 #include "easel/window/look/EaselStyle.h"
 #include "easel/window/look/PictureIcon.h"
 #include "easel/window/look/Theme.h"
@@ -66,6 +67,8 @@ void openFirstWindows(Workspace& workspace, const StartUp& startUp, SharedParts&
         workspace.openFile(QFile::decodeName(file.c_str()), first);
     if (first && offerStarterTemplates(first->notice(), shared))
         first->showAnew();
+    offerRecovery(journalsToOffer(), shared.interaction.dialogs,
+                  [&](recovery::Journal& journal) { return workspace.openKept(journal, first); });
     // Once the user looks at the window, what the gradient editor will ask for first is made ready.
     QTimer::singleShot(kAtLeisure, [&shared] { shared.process.storage().files().prepareListing(); });
 }

@@ -3,6 +3,7 @@
 
 #include "easel/drawing/GradientCommands.h"
 #include "easel/window/canvas/OpenCanvases.h"
+#include "easel/window/keeping/JournalWriter.h"
 #include "easel/window/main/RecentFiles.h"
 #include "easel/window/main/ToolChoice.h"
 #include "easel/window/waiting/Interaction.h"
@@ -28,6 +29,7 @@ struct SharedParts {
     Interaction interaction;
     OpenCanvases canvases;
     RecentFiles recentFiles;
+    JournalWriter journals;
     ToolChoice tools{interaction};
     std::optional<drawing::WholeGradient> copiedGradient;
     std::filesystem::path templateFolder; // empty without a plug-in

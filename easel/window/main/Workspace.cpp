@@ -1,12 +1,14 @@
 // Makes windows and answers what they ask of the program.
 #include "easel/window/main/Workspace.h"
 
+#include "easel/recovery/Journal.h"
 #include "easel/window/main/LoadDrawing.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/SharedParts.h"
 #include "easel/window/waiting/TellProblem.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -32,7 +34,7 @@ Workspace::~Workspace() {
 }
 
 MainWindow& Workspace::newDrawing() {
-    return show(drawing::Drawing::create(kNewWidth, kNewHeight), {});
+    return show({drawing::Drawing::create(kNewWidth, kNewHeight), {}});
 }
 
 MainWindow* Workspace::windowShowing(const QString& file) const {
@@ -56,20 +58,41 @@ void Workspace::openFile(const QString& file, QWidget* over) {
     std::optional<MainWindow::Awaiting> awaiting;
     if (place)
         awaiting.emplace(*place, file);
-    auto drawing = loadDrawing(file, shared_.interaction, over);
-    if (!drawing) {
-        if (!drawing.error().isCancellation())
-            tellProblem(drawing.error().message(), shared_.interaction.dialogs);
+    auto loaded = loadDrawing(file, shared_.interaction, over);
+    if (!loaded) {
+        if (!loaded.error().isCancellation())
+            tellProblem(loaded.error().message(), shared_.interaction.dialogs);
         if (!QFileInfo::exists(file))
             shared_.recentFiles.remove(file);
         return;
     }
     const QString path = QFileInfo(file).absoluteFilePath();
     if (place)
-        place->setDrawing(std::move(*drawing), path);
+        place->setDrawing(*std::move(loaded));
     else
-        show(std::move(*drawing), path);
+        show(*std::move(loaded));
     shared_.recentFiles.add(path);
+}
+
+bool Workspace::openKept(recovery::Journal& journal, QWidget* over) {
+    auto loaded = loadKept(journal, shared_.interaction, over);
+    if (!loaded) {
+        if (!loaded.error().isCancellation())
+            tellProblem(loaded.error().message(), shared_.interaction.dialogs);
+        return false;
+    }
+    const QString file = QFile::decodeName(journal.origin().c_str());
+    MainWindow* place = file.isEmpty() ? nullptr : windowShowing(file);
+    if (!place)
+        place = qobject_cast<MainWindow*>(over);
+    if (place && (place->isUnsaved() || (place->file() != file && !place->isPristine())))
+        place = nullptr;
+    if (place)
+        place->setDrawing(*std::move(loaded));
+    else
+        place = &show(*std::move(loaded));
+    place->adopt(std::move(journal));
+    return true;
 }
 
 void Workspace::openFiles(const QStringList& files, QWidget* over) {
@@ -79,9 +102,9 @@ void Workspace::openFiles(const QStringList& files, QWidget* over) {
         openFile(file, from);
 }
 
-MainWindow& Workspace::show(drawing::Drawing drawing, const QString& file) {
+MainWindow& Workspace::show(LoadedDrawing loaded) {
     const MainWindow* last = windows_.empty() ? nullptr : windows_.back().data();
-    auto* window = new MainWindow(shared_, std::move(drawing), file);
+    auto* window = new MainWindow(shared_, std::move(loaded));
     windows_.emplace_back(window);
     connect(window, &MainWindow::newDrawingWanted, this, [this] { newDrawing(); });
     connect(window, &MainWindow::filesWanted, this,

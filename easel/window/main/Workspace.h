@@ -12,9 +12,14 @@
 
 class QWidget;
 
+namespace easel::recovery {
+class Journal;
+}
+
 namespace easel::window {
 
 class MainWindow;
+struct LoadedDrawing;
 struct SharedParts;
 
 class Workspace : public QObject {
@@ -32,11 +37,14 @@ class Workspace : public QObject {
     void openFile(const QString& file, QWidget* over);
     // Opens one after the other, whichever of them can be opened.
     void openFiles(const QStringList& files, QWidget* over);
+    // Opens what a journal keeps, in the window that shows its file if nothing is unsaved there. False, and
+    // the journal is left, if it cannot be opened; the user is told why.
+    bool openKept(recovery::Journal& journal, QWidget* over);
     // Closes all windows, asking about unsaved changes. What the plug-in waits for is cancelled first.
     void quit();
 
   private:
-    MainWindow& show(drawing::Drawing drawing, const QString& file);
+    MainWindow& show(LoadedDrawing loaded);
     MainWindow* windowShowing(const QString& file) const;
     void windowClosed(const MainWindow& window);
 

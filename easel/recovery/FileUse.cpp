@@ -1,0 +1,93 @@
+// Names the marks after the files and tells by their locks whose are still in use.
+#include "easel/recovery/FileUse.h"
+
+#include "easel/files/StateFolder.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <random>
+#include <string_view>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace easel::recovery {
+namespace {
+
+using files::FileDescriptor;
+
+constexpr std::size_t kDigits = 16;
+
+// The same in every program, as the hash of the standard library need not be (FNV-1a, 64 bits).
+std::uint64_t numberOf(std::string_view text) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char c : text)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3;
+    return hash;
+}
+
+std::string hex(std::uint64_t number) {
+    std::array<char, kDigits + 1> text{};
+    std::snprintf(text.data(), text.size(), "%016llx", static_cast<unsigned long long>(number));
+    return text.data();
+}
+
+fs::path nameFor(const fs::path& file) {
+    std::error_code error;
+    const fs::path real = fs::weakly_canonical(file, error);
+    std::random_device random;
+    const std::uint64_t own = std::uint64_t{random()} << 32 | random();
+    return hex(numberOf((error ? file : real).native())) + '-' + hex(own);
+}
+
+} // namespace
+
+files::Result<FileUse> FileUse::begin(const fs::path& folder, const fs::path& file) {
+    std::error_code ignored;
+    fs::create_directories(folder, ignored);
+    // Somebody who looks between making and locking the mark takes it for a leftover and removes it.
+    constexpr int kTries = 5;
+    files::Error error;
+    for (int i = 0; i < kTries; ++i) {
+        const fs::path mark = folder / nameFor(file);
+        FileDescriptor open(::open(mark.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        struct stat status {};
+        if (open && ::flock(open.number(), LOCK_EX | LOCK_NB) == 0 && ::fstat(open.number(), &status) == 0 &&
+            status.st_nlink > 0)
+            return FileUse(mark, std::move(open));
+        error = files::lastSystemError(mark);
+    }
+    return tl::unexpected(std::move(error));
+}
+
+FileUse::~FileUse() {
+    if (locked_)
+        ::unlink(mark_.c_str());
+}
+
+bool FileUse::isShared() const {
+    const std::string own = mark_.filename().string();
+    const std::string begin = own.substr(0, kDigits + 1);
+    bool shared = false;
+    std::error_code error;
+    for (fs::directory_iterator at(mark_.parent_path(), error), end; !error && at != end; at.increment(error)) {
+        const std::string name = at->path().filename().string();
+        if (!name.starts_with(begin) || name == own)
+            continue;
+        const FileDescriptor open(::open(at->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        if (open && ::flock(open.number(), LOCK_SH | LOCK_NB) == 0)
+            ::unlink(at->path().c_str());
+        else if (open)
+            shared = true;
+    }
+    return shared;
+}
+
+fs::path useFolder() {
+    return files::stateFolder() / "open";
+}
+
+} // namespace easel::recovery
