@@ -177,12 +177,23 @@ TEST_F(EditorTest, AKeyPressedInMidDragIsHeardAfterIt) {
 TEST_F(EditorTest, TheToolsOptionsOpenByKeyAndByDoubleClick) {
     startWithDrawing();
     screen().key("ctrl+g");
-    waitForDialog("Gradient");
-    closeEditorWith("Escape");
+    waitForDialog("Current Gradient");
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Current Gradient"));
     const Window window = drawingWindow();
     // The second tool of the palette at the left edge.
     screen().doubleClick({window.content.left + 40, window.content.top + 115});
-    waitForDialog("Gradient");
+    waitForDialog("Current Gradient");
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Current Gradient"));
+}
+
+TEST_F(EditorTest, ItNamesTheShapeThatItEditsAndLeavesItInSight) {
+    startWithDrawing();
+    const Window editor = openEditor(160, 290);
+    EXPECT_EQ(editor.title.substr(0, 24), "Gradient of \u201cgrad\u201d");
+    EXPECT_FALSE(editor.content.contains(onScreen(62, 222)));
+    EXPECT_FALSE(editor.content.contains(onScreen(258, 358)));
     closeEditorWith("Escape");
 }
 

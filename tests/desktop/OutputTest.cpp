@@ -96,6 +96,12 @@ TEST_F(OutputTest, AnEndingThatIsNoneIsFollowedByTheFormatsOwnAndReplacingIsAske
     exportAs("p", "PNG", in("version1.2"));
     waitForDialog("Easel");
     screen().key("Return");
+    EXPECT_TRUE(vanishes("Easel"));
+    EXPECT_EQ(contents(in("version1.2.png")), "before") << "Return is the harmless answer";
+    exportAs("p", "PNG", in("version1.2"));
+    waitForDialog("Easel");
+    screen().key("Tab");
+    screen().key("space");
     answerSize();
     EXPECT_TRUE(eventually([&] { return contents(in("version1.2.png")).starts_with("\x89PNG"); }));
     EXPECT_FALSE(fs::exists(in("version1.2")));

@@ -157,13 +157,22 @@ void Canvas::resizeEvent(QResizeEvent*) {
 void Canvas::showAnew() {
     zoomAboutMiddle(1);
     updateScrollBars();
-    if (page().width() + 2 * kMargin > width() || page().height() + 2 * kMargin > height())
+    const QSizeF room = QSizeF(size()) - QSizeF(2 * kMargin, 2 * kMargin);
+    const QSizeF shown = page().size();
+    const bool isTooLarge = shown.width() > room.width() || shown.height() > room.height();
+    const bool isSmall = 2 * shown.width() < room.width() && 2 * shown.height() < room.height();
+    if (isTooLarge || isSmall)
         fit();
     showMiddle();
 }
 
 void Canvas::scrollContentsBy(int, int) {
     updateView();
+}
+
+QRect Canvas::onScreen(const drawing::Box& box) const {
+    const QRect area = inViewport(box).toAlignedRect() & viewport()->rect();
+    return {viewport()->mapToGlobal(area.topLeft()), area.size()};
 }
 
 drawing::Point Canvas::toLocal(QPointF position) const {

@@ -39,8 +39,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void zoomAbout(QPointF place, double zoom);
     void zoomAboutMiddle(double zoom);
     void fit();
-    // A drawing opens at its own size, or whole if that is too large for the window. To be called when the
-    // window has been given another drawing.
+    // A drawing opens at its own size, or fitted to the window if it is too large for that or smaller than
+    // half of it. To be called when the window has been given another drawing.
     void showAnew();
 
     // What of the drawing is marked for painting is repainted when there is time, and so is what is marked
@@ -65,6 +65,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void flash();
 
     // --- PointerSurface, for positions in the viewport
+    // What the box covers of the screen.
+    QRect onScreen(const drawing::Box& box) const;
     drawing::Point toLocal(QPointF position) const override;
     double pixelsPerUnit() const override { return zoom_; }
     void scrollTowards(QPointF position) override;

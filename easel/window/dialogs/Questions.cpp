@@ -22,7 +22,8 @@ runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dia
     QPushButton* yes =
         alert.isNotice ? nullptr : box.addButton(caption(alert.yesButton), QMessageBox::AcceptRole);
     QPushButton* no = box.addButton(caption(alert.noButton), QMessageBox::RejectRole);
-    box.setDefaultButton(yes ? yes : no);
+    // What is asked about cannot always be undone.
+    box.setDefaultButton(no);
     box.setEscapeButton(no);
     dialogs.run(box);
     return yes && box.clickedButton() == yes ? runtime::Answer::Yes : runtime::Answer::No;

@@ -10,7 +10,7 @@ namespace easel::window {
 
 class DialogStack;
 
-// Return is yes, Escape is no, and so are the end of all waiting and the one button of a notice. The box
+// Return and Escape are no, and so are the end of all waiting and the one button of a notice. The box
 // belongs to `over`.
 runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs);
 

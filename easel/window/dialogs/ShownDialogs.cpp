@@ -4,7 +4,41 @@
 #include "easel/window/dialogs/DialogWindow.h"
 #include "easel/window/waiting/Interaction.h"
 
+#include <QScreen>
+
+#include <algorithm>
+#include <optional>
+
 namespace easel::window {
+
+namespace {
+
+constexpr int kGap = 16;
+constexpr int kTitleBar = 32; // about as high as a window manager makes it
+
+// Where a window of this size has its corner to leave the area in sight; nothing if there is no such place.
+std::optional<QPoint> besides(const QRect& area, const QSize& size, const QRect& screen) {
+    const int top = std::clamp(area.center().y() - size.height() / 2, screen.top() + kTitleBar,
+                               std::max(screen.top() + kTitleBar, screen.bottom() - size.height()));
+    if (area.right() + kGap + size.width() <= screen.right())
+        return QPoint(area.right() + kGap, top);
+    if (area.left() - kGap - size.width() >= screen.left())
+        return QPoint(area.left() - kGap - size.width(), top);
+    return std::nullopt;
+}
+
+void putBeside(QWidget& window, const DialogSubject& subject) {
+    if (window.windowTitle().isEmpty())
+        return;
+    window.setWindowTitle(subject.title.arg(window.windowTitle()));
+    const auto place = subject.area.isEmpty()
+                           ? std::nullopt
+                           : besides(subject.area, window.sizeHint(), window.screen()->availableGeometry());
+    if (place)
+        window.move(*place - QPoint(0, kTitleBar));
+}
+
+} // namespace
 
 // A key that is pressed while the plug-in follows the mouse is one for the dialog, once the mouse is up.
 struct ShownDialogs::Shown {
@@ -21,8 +55,11 @@ ShownDialogs::ShownDialogs(Interaction& interaction) : interaction_(interaction)
 ShownDialogs::~ShownDialogs() = default;
 
 void ShownDialogs::show(runtime::Dialog& dialog) {
+    const bool isFirst = shown_.empty();
     auto& shown = shown_[&dialog];
     shown = std::make_unique<Shown>(dialog, interaction_);
+    if (isFirst && interaction_.dialogs.subject())
+        putBeside(shown->window, *interaction_.dialogs.subject());
     interaction_.dialogs.push(shown->window);
 }
 

@@ -18,10 +18,12 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace easel::window {
@@ -29,6 +31,8 @@ namespace {
 
 constexpr double kZoomStep = 1.25;
 constexpr QSize kWindowSize{1120, 760};
+constexpr QSize kFrame{16, 48}; // about what a window manager puts around a window
+constexpr int kMostDecimals = 3;
 
 QString joined(const std::vector<std::string>& notes) {
     QStringList lines;
@@ -39,6 +43,16 @@ QString joined(const std::vector<std::string>& notes) {
 
 QString titleOf(const QString& drawing) {
     return QObject::tr("%1[*] \u2014 Easel").arg(drawing);
+}
+
+// With the digits that a pixel of the screen makes a difference in.
+QString coordinatesText(QPointF at, double zoom) {
+    const int decimals = std::clamp(static_cast<int>(std::ceil(std::log10(zoom))), 0, kMostDecimals);
+    const double unit = std::pow(10, decimals);
+    const auto number = [&](double value) {
+        return QString::number(std::floor(value * unit) / unit, 'f', decimals);
+    };
+    return QStringLiteral("%1, %2").arg(number(at.x()), number(at.y()));
 }
 
 } // namespace
@@ -56,7 +70,7 @@ MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
     layout->addWidget(notice_);
     layout->addWidget(canvas_, 1);
     setCentralWidget(middle);
-    resize(kWindowSize);
+    resize(kWindowSize.boundedTo(screen()->availableSize() - kFrame));
     setAcceptDrops(true);
 
     buildActions();
@@ -140,13 +154,12 @@ void MainWindow::buildStatusBar() {
     message_ = new QLabel;
     pointer_ = new QLabel;
     // Of a fixed size, as the status bar is laid out anew for any other label that changes.
-    pointer_->setFixedSize(pointer_->fontMetrics().boundingRect(QStringLiteral("-00000, -00000")).size() +
-                           QSize(4, 4));
+    const QString longest = QStringLiteral("-00000.00, -00000.00");
+    pointer_->setFixedSize(pointer_->fontMetrics().boundingRect(longest).size() + QSize(4, 4));
     pointer_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     pointer_->setToolTip(tr("Pointer, from the drawing's top-left corner"));
-    connect(canvas_, &Canvas::pointerAt, this, [this](QPointF at) {
-        pointer_->setText(QStringLiteral("%1, %2").arg(std::floor(at.x())).arg(std::floor(at.y())));
-    });
+    connect(canvas_, &Canvas::pointerAt, this,
+            [this](QPointF at) { pointer_->setText(coordinatesText(at, canvas_->zoom())); });
     connect(canvas_, &Canvas::pointerLeft, pointer_, &QLabel::clear);
 
     zoomButton_ = new QToolButton;
@@ -227,7 +240,9 @@ void MainWindow::selectAllObjects() {
 void MainWindow::openOptions() {
     for (const PaletteTool& tool : shared_.tools.tools())
         if (tool.plugin && (&tool == &shared_.tools.active() || !shared_.tools.active().plugin)) {
+            shared_.interaction.dialogs.setSubject(DialogSubject{tr("Current %1"), {}});
             tool.plugin->openOptions();
+            shared_.interaction.dialogs.setSubject({});
             return;
         }
 }

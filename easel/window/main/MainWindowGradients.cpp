@@ -112,6 +112,10 @@ void MainWindow::gradientPressed(drawing::Point at) {
     if (!hit)
         return;
     const drawing::Object& object = *drawing.object(*hit);
+    const QString id = QString::fromStdString(object.id.text());
+    shared_.interaction.dialogs.setSubject(DialogSubject{
+        id.isEmpty() ? tr("%1 of the Shape") : tr("%1 of \u201c%2\u201d").arg(QStringLiteral("%1"), id),
+        canvas_->onScreen(object.bounds)});
     pressed_->gradient = wholeGradientOf(object);
     cost_ = shapeGradientOf(object).loss;
     if (!pressed_->gradient)
@@ -123,6 +127,7 @@ void MainWindow::gradientPressed(drawing::Point at) {
 }
 
 void MainWindow::gradientReleased() {
+    shared_.interaction.dialogs.setSubject({});
     const std::optional<Pressed> before = std::exchange(pressed_, std::nullopt);
     const Loss cost = std::exchange(cost_, Loss::None);
     if (before && before->gradient && before->templates.any())

@@ -5,13 +5,22 @@
 #include "easel/window/waiting/Waiting.h"
 
 #include <QPointer>
+#include <QRect>
+#include <QString>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 class QDialog;
 
 namespace easel::window {
+
+// What the dialogs of a call are about.
+struct DialogSubject {
+    QString title; // for a dialog's own title in the place of %1
+    QRect area;    // on the screen, to be left in sight; empty for what is not to be seen
+};
 
 class DialogStack {
   public:
@@ -20,6 +29,9 @@ class DialogStack {
 
     // The window over which dialogs open when no other dialog is open.
     void setFrontWindow(QWidget* window) { frontWindow_ = window; }
+    // None for dialogs about nothing in particular.
+    void setSubject(std::optional<DialogSubject> subject) { subject_ = std::move(subject); }
+    const std::optional<DialogSubject>& subject() const { return subject_; }
     // What a new dialog belongs to: the front dialog, else the front window.
     QWidget* parentForNext() const;
 
@@ -39,6 +51,7 @@ class DialogStack {
     InputGate& gate_;
     std::vector<QPointer<QWidget>> open_; // the front one last
     QPointer<QWidget> frontWindow_;
+    std::optional<DialogSubject> subject_;
 };
 
 } // namespace easel::window
