@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -137,6 +138,28 @@ void MainWindow::adopt(recovery::Journal journal) {
         contentBefore_.emplace(content->begin(), content->end());
     drawingChanged();
     onDisk_.tellAgain();
+}
+
+double MainWindow::zoom() const {
+    return canvas_->zoom();
+}
+
+void MainWindow::restore(const QByteArray& geometry, double zoom) {
+    restoreGeometry(geometry);
+    // After the canvas has fitted the drawing in, which it does when it first has a size.
+    QTimer::singleShot(0, canvas_, [this, zoom] { canvas_->zoomAboutMiddle(zoom); });
+}
+
+bool MainWindow::mayEnd() {
+    const bool settled = settleChanges() == Saved::Yes;
+    if (settled)
+        unsaved_.giveUp();
+    return settled;
+}
+
+void MainWindow::keepUnsaved() {
+    if (isUnsaved())
+        unsaved_.keepNow(drawingWindow_.drawing());
 }
 
 MainWindow::Awaiting::Awaiting(MainWindow& window, const QString& file) : window_(window) {
@@ -301,8 +324,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     event->setAccepted(settleChanges() == Saved::Yes);
-    if (event->isAccepted())
-        unsaved_.giveUp();
+    if (!event->isAccepted())
+        return;
+    Q_EMIT closing();
+    unsaved_.giveUp();
 }
 
 } // namespace easel::window

@@ -55,6 +55,13 @@ class MainWindow : public QMainWindow {
     void setDrawing(LoadedDrawing loaded);
     // The drawing shown comes out of this journal.
     void adopt(recovery::Journal journal);
+    double zoom() const;
+    // Puts the window where it was, with that zoom.
+    void restore(const QByteArray& geometry, double zoom);
+    // Keeps what is unsaved in its journal, and returns when that is done.
+    void keepUnsaved();
+    // Asks what is to become of unsaved changes; false if the user would rather go on.
+    bool mayEnd();
     bool isUnsaved() const { return drawingWindow_.drawing().dirty(); }
 
     // Lives while a drawing for this window is being read: the window has the file's name and shows no page.
@@ -73,6 +80,8 @@ class MainWindow : public QMainWindow {
     void newDrawingWanted();
     void filesWanted(const QStringList& files);
     void quitWanted();
+    // The user has closed the window, which is still there.
+    void closing();
     // The window goes away.
     void closed();
 
@@ -113,6 +122,7 @@ class MainWindow : public QMainWindow {
     QString fileForExport(const QString& suffix);
     bool mayReplace(const QString& file);
     void print();
+    void reopenChosen(bool wanted);
     Saved settleChanges();
     // `name` is offered; empty if the user cancels.
     QString chosenFile(const QString& title, const QString& name, const QString& filter);

@@ -87,6 +87,13 @@ void MainWindow::buildFileMenu() {
     menu->addSeparator();
     menu->addAction(
         makeAction(tr("&Print\u2026"), tr("Print the drawing"), QKeySequence::Print, &MainWindow::print));
+    auto* reopen = new QAction(tr("Reopen &Drawings at Start"), this);
+    reopen->setCheckable(true);
+    reopen->setStatusTip(tr("Open the drawings of the last time again, in windows as they were"));
+    connect(menu, &QMenu::aboutToShow, reopen,
+            [this, reopen] { reopen->setChecked(shared_.session.isWanted()); });
+    connect(reopen, &QAction::triggered, this, &MainWindow::reopenChosen);
+    menu->addAction(reopen);
     menu->addSeparator();
     auto* close = new QAction(tr("&Close"), this);
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
@@ -94,6 +101,10 @@ void MainWindow::buildFileMenu() {
     menu->addAction(close);
     menu->addAction(makeAction(tr("&Quit"), tr("Close all drawings"), QKeySequence(Qt::CTRL | Qt::Key_Q),
                                &MainWindow::quitWanted));
+}
+
+void MainWindow::reopenChosen(bool wanted) {
+    shared_.session.setWanted(wanted);
 }
 
 void MainWindow::fillRecentMenu() {

@@ -21,6 +21,7 @@
 
 #include <QFile>
 #include <QPointer>
+#include <QSessionManager>
 #include <QSettings>
 #include <QTimer>
 
@@ -65,12 +66,33 @@ void openFirstWindows(Workspace& workspace, const StartUp& startUp, SharedParts&
     const QPointer<MainWindow> first = &workspace.newDrawing();
     for (const std::filesystem::path& file : startUp.files)
         workspace.openFile(QFile::decodeName(file.c_str()), first);
+    if (startUp.files.empty())
+        workspace.reopenLast(first);
     if (first && offerStarterTemplates(first->notice(), shared))
         first->showAnew();
     offerRecovery(journalsToOffer(), shared.interaction.dialogs,
                   [&](recovery::Journal& journal) { return workspace.openKept(journal, first); });
     // Once the user looks at the window, what the gradient editor will ask for first is made ready.
     QTimer::singleShot(kAtLeisure, [&shared] { shared.process.storage().files().prepareListing(); });
+}
+
+// The desktop ends the session: first what is unsaved is made safe, whether or not there is time for
+// questions.
+void hearSessionEnd(const Application& application, Workspace& workspace) {
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &workspace,
+                     [&workspace](QSessionManager& manager) {
+                         workspace.keepAll();
+                         if (!manager.allowsInteraction())
+                             return;
+                         if (!workspace.mayEnd())
+                             manager.cancel();
+                         manager.release();
+                     });
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &workspace,
+                     [&workspace](QSessionManager& manager) {
+                         workspace.keepAll();
+                         manager.setRestartHint(QSessionManager::RestartIfRunning);
+                     });
 }
 
 } // namespace
@@ -101,6 +123,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     Workspace workspace(shared);
     PluginSession plugin(startUp.plugin, process, shared.tools, shared.interaction.waiting);
     shared.templateFolder = folderOfTemplates(startUp);
+    hearSessionEnd(application, workspace);
     const TerminationSignals signals([&workspace] { workspace.quit(); });
     QTimer::singleShot(0, &workspace, [&] {
         openFirstWindows(workspace, startUp, shared);

@@ -5,6 +5,7 @@
 #include "easel/window/canvas/OpenCanvases.h"
 #include "easel/window/keeping/JournalWriter.h"
 #include "easel/window/main/RecentFiles.h"
+#include "easel/window/main/SessionMemory.h"
 #include "easel/window/main/ToolChoice.h"
 #include "easel/window/waiting/Interaction.h"
 
@@ -29,6 +30,7 @@ struct SharedParts {
     Interaction interaction;
     OpenCanvases canvases;
     RecentFiles recentFiles;
+    SessionMemory session;
     JournalWriter journals;
     ToolChoice tools{interaction};
     std::optional<drawing::WholeGradient> copiedGradient;

@@ -110,6 +110,7 @@ MainWindow& Workspace::show(LoadedDrawing loaded) {
     connect(window, &MainWindow::filesWanted, this,
             [this, window](const QStringList& files) { openFiles(files, window); });
     connect(window, &MainWindow::quitWanted, this, &Workspace::quit);
+    connect(window, &MainWindow::closing, this, &Workspace::windowClosing);
     connect(window, &MainWindow::closed, this, [this, window] { windowClosed(*window); });
     if (last)
         window->move(last->pos() + kCascade);
@@ -117,6 +118,50 @@ MainWindow& Workspace::show(LoadedDrawing loaded) {
     window->activateWindow();
     shared_.interaction.dialogs.setFrontWindow(window);
     return *window;
+}
+
+// The session ends with the last window, or when the user quits.
+void Workspace::windowClosing() {
+    if (windows_.size() == 1 && !isQuitting_)
+        rememberSession();
+}
+
+void Workspace::rememberSession() {
+    SessionMemory::Session session;
+    session.tool = shared_.tools.activeIndex();
+    for (const QPointer<MainWindow>& window : windows_)
+        if (window && !window->file().isEmpty())
+            session.drawings.append({window->file(), window->saveGeometry(), window->zoom()});
+    shared_.session.keep(session);
+}
+
+void Workspace::reopenLast(QWidget* over) {
+    const auto session = shared_.session.last();
+    if (!session)
+        return;
+    const QPointer<QWidget> from = over;
+    for (const SessionMemory::OpenDrawing& drawing : session->drawings) {
+        if (!QFileInfo::exists(drawing.file))
+            continue;
+        openFile(drawing.file, from);
+        if (MainWindow* window = windowShowing(drawing.file))
+            window->restore(drawing.geometry, drawing.zoom);
+    }
+    shared_.tools.activate(session->tool);
+}
+
+void Workspace::keepAll() {
+    for (const QPointer<MainWindow>& window : windows_)
+        if (window)
+            window->keepUnsaved();
+    rememberSession();
+}
+
+bool Workspace::mayEnd() {
+    for (const QPointer<MainWindow>& window : std::vector(windows_))
+        if (window && !window->mayEnd())
+            return false;
+    return true;
 }
 
 void Workspace::windowClosed(const MainWindow& window) {
@@ -128,9 +173,12 @@ void Workspace::windowClosed(const MainWindow& window) {
 void Workspace::quit() {
     if (quitting_.hasToWait())
         return;
+    rememberSession();
+    isQuitting_ = true;
     for (const QPointer<MainWindow>& window : std::vector(windows_))
         if (window && !window->close())
-            return;
+            break;
+    isQuitting_ = false;
 }
 
 } // namespace easel::window

@@ -40,17 +40,26 @@ class Workspace : public QObject {
     // Opens what a journal keeps, in the window that shows its file if nothing is unsaved there. False, and
     // the journal is left, if it cannot be opened; the user is told why.
     bool openKept(recovery::Journal& journal, QWidget* over);
+    // Opens what was open at the end of the last run, if the user wants that.
+    void reopenLast(QWidget* over);
+    // Has what is unsaved in journals and remembers what is open, and returns when that is done.
+    void keepAll();
+    // Asks about unsaved changes in all windows; false if the user would rather go on.
+    bool mayEnd();
     // Closes all windows, asking about unsaved changes. What the plug-in waits for is cancelled first.
     void quit();
 
   private:
     MainWindow& show(LoadedDrawing loaded);
     MainWindow* windowShowing(const QString& file) const;
+    void windowClosing();
     void windowClosed(const MainWindow& window);
+    void rememberSession();
 
     SharedParts& shared_;
     std::vector<QPointer<MainWindow>> windows_;
     CancelFirst quitting_;
+    bool isQuitting_ = false;
 };
 
 } // namespace easel::window
