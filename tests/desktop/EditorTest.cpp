@@ -191,7 +191,7 @@ TEST_F(EditorTest, TheToolsOptionsOpenByKeyAndByDoubleClick) {
 TEST_F(EditorTest, ItNamesTheShapeThatItEditsAndLeavesItInSight) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);
-    EXPECT_EQ(editor.title.substr(0, 24), "Gradient of \u201cgrad\u201d");
+    EXPECT_TRUE(editor.title.starts_with("Gradient of \u201cgrad\u201d")) << editor.title;
     EXPECT_FALSE(editor.content.contains(onScreen(62, 222)));
     EXPECT_FALSE(editor.content.contains(onScreen(258, 358)));
     closeEditorWith("Escape");
