@@ -18,8 +18,7 @@ TEST_F(SessionTest, NothingComesBackUnlessTheUserWantsThat) {
 }
 
 TEST_F(SessionTest, FilesZoomToolAndPlaceComeBackAsTheyWere) {
-    std::filesystem::create_directories(configuration() / "kestrad");
-    std::ofstream(configuration() / "kestrad/easel.conf") << "[session]\nreopen=true\n";
+    std::ofstream(configuration() / "kestrad/easel.conf", std::ios::app) << "[session]\nreopen=true\n";
     startWithDrawing();
     const int before = waitForColor(kPlain).width();
     screen().key("v");
