@@ -21,8 +21,7 @@ bool fill(const FileDescriptor& open, std::string_view content) {
             return false;
         at += static_cast<std::size_t>(done);
     }
-    return ::ftruncate(open.number(), static_cast<off_t>(content.size())) == 0 &&
-           ::fsync(open.number()) == 0;
+    return ::ftruncate(open.number(), static_cast<off_t>(content.size())) == 0 && ::fsync(open.number()) == 0;
 }
 
 } // namespace

@@ -11,8 +11,8 @@ namespace easel::files {
 bool isForbiddenFolder(const Error& error);
 
 // Gives a file that is there that content, without making another one. Cut off in the middle it leaves
-// neither the old content nor the new one, so the caller keeps the new one somewhere until this is over. After
-// an error the old content is put back, as far as that goes.
+// neither the old content nor the new one, so the caller keeps the new one somewhere until this is over.
+// After an error the old content is put back, as far as that goes.
 [[nodiscard]] Result<> overwriteFile(const std::filesystem::path& file, std::string_view content);
 
 } // namespace easel::files

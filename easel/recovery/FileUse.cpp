@@ -73,7 +73,8 @@ bool FileUse::isShared() const {
     const std::string begin = own.substr(0, kDigits + 1);
     bool shared = false;
     std::error_code error;
-    for (fs::directory_iterator at(mark_.parent_path(), error), end; !error && at != end; at.increment(error)) {
+    for (fs::directory_iterator at(mark_.parent_path(), error), end; !error && at != end;
+         at.increment(error)) {
         const std::string name = at->path().filename().string();
         if (!name.starts_with(begin) || name == own)
             continue;

@@ -14,7 +14,8 @@ namespace easel::recovery {
 class FileUse {
   public:
     // `file` is absolute and exists, or not yet. Links to one file are one file.
-    static files::Result<FileUse> begin(const std::filesystem::path& folder, const std::filesystem::path& file);
+    static files::Result<FileUse> begin(const std::filesystem::path& folder,
+                                        const std::filesystem::path& file);
 
     FileUse(FileUse&& other) noexcept = default;
     FileUse& operator=(FileUse&&) = delete;

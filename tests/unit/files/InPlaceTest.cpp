@@ -1,5 +1,5 @@
-#include "easel/files/AtomicFile.h"
 #include "easel/files/InPlace.h"
+#include "easel/files/AtomicFile.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
-#include "easel/files/AtomicFile.h"
 #include "easel/files/KnownFile.h"
+#include "easel/files/AtomicFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
