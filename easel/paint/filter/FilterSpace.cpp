@@ -6,6 +6,8 @@
 
 namespace easel::paint {
 
+using drawing::Point;
+
 namespace {
 
 int wholePixel(double value) {
@@ -15,8 +17,8 @@ int wholePixel(double value) {
 
 } // namespace
 
-PixelPoint FilterSpace::wholeSteps(drawing::Point distance) const {
-    const drawing::Point pixels = toPixels.direction(distance);
+PixelPoint FilterSpace::wholeSteps(Point distance) const {
+    const Point pixels = toPixels.direction(distance);
     const auto whole = [](double length) {
         return static_cast<int>(std::lround(std::clamp(length, 1.0, 1000.0)));
     };

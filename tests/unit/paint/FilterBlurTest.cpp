@@ -73,7 +73,7 @@ TEST(Blurs, AreTheSumsThatTheStandardDefines) {
         const Surface result = blurred(picture, x, y);
         const Kernel across = x > 0 ? kernelOf(x) : box(1, 0);
         const Kernel down = y > 0 ? kernelOf(y) : box(1, 0);
-        for (const auto [px, py] : {std::pair{0, 0}, {1, 7}, {18, 14}, {36, 28}, {30, 2}, {5, 20}})
+        for (const auto& [px, py] : {std::pair{0, 0}, {1, 7}, {18, 14}, {36, 28}, {30, 2}, {5, 20}})
             for (const unsigned shift : {0u, 8u, 16u, 24u})
                 EXPECT_NEAR(levelAt(result, px, py, shift), summed(picture, across, down, px, py, shift),
                             kRounding)
