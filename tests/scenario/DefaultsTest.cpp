@@ -2,6 +2,7 @@
 #include "easel/classic/DefaultsStore.h"
 #include "tests/scenario/Templates.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace tests;

@@ -1,5 +1,6 @@
 // Opening, saving, exporting and printing.
 #include "easel/export/ExportDrawing.h"
+#include "easel/runtime/Alert.h"
 #include "easel/svg/Document.h"
 #include "easel/window/dialogs/PictureSizeQuestion.h"
 #include "easel/window/dialogs/Questions.h"
