@@ -76,10 +76,10 @@ void addCurve(std::list<CGradientColor>& stops, double from, double to, const Co
 }
 
 double easedBy(double part, double middle) {
-    constexpr double kAtTheEdge = 1e-10;
-    if (middle < kAtTheEdge)
+    constexpr double kNoMiddle = 1e-10;
+    if (middle < kNoMiddle)
         return 1;
-    if (middle > 1 - kAtTheEdge)
+    if (middle > 1 - kNoMiddle)
         return 0;
     return std::pow(part, std::log(0.5) / std::log(middle));
 }
