@@ -19,8 +19,7 @@ files::Result<> writeManual(const CommandText& program, const std::filesystem::p
     pages.push_back(program);
     for (const CommandText& command : pages) {
         const auto file = folder / (command.pathWith("-") + ".1");
-        if (const auto written = files::replaceFile(file, manualPage(program, command, EASEL_VERSION));
-            !written)
+        if (auto written = files::replaceFile(file, manualPage(program, command, EASEL_VERSION)); !written)
             return written;
     }
     return {};

@@ -142,7 +142,7 @@ class SvgWriter {
         body_ += "<use" + attribute("href", '#' + name) + place + "/>\n</g>\n";
     }
     std::string outlineClip(const Object& object) {
-        const std::string name = newName("clip");
+        std::string name = newName("clip");
         definitions_ += "<clipPath" + attribute("id", name) + "><path" +
                         attribute("d", pathText(object.outline)) + "/></clipPath>\n";
         return name;

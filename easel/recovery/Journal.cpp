@@ -126,6 +126,7 @@ std::vector<Journal> Journal::abandonedIn(const fs::path& folder) {
         order.emplace_back(timeOf(found[i].drawing()), i);
     std::sort(order.rbegin(), order.rend());
     std::vector<Journal> sorted;
+    sorted.reserve(order.size());
     for (const auto& [time, index] : order)
         sorted.push_back(std::move(found[index]));
     return sorted;
@@ -138,7 +139,7 @@ Result<> Journal::keep(std::string_view bytes) const {
         return tl::unexpected(written.error().of(drawing_));
     if (::fchmod(written->descriptor().number(), kFileMode) != 0)
         return tl::unexpected(files::lastSystemError(drawing_));
-    if (const auto moved = written->moveTo(drawing_); !moved)
+    if (auto moved = written->moveTo(drawing_); !moved)
         return moved;
     return files::flushFolder(drawing_.parent_path());
 }

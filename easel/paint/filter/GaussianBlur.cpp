@@ -75,7 +75,7 @@ struct BoxBlur {
     };
 
     explicit BoxBlur(double deviation) {
-        size = static_cast<int>(deviation * 3 * std::sqrt(2 * std::numbers::pi) / 4 + 0.5);
+        size = static_cast<int>(std::floor(deviation * 3 * std::sqrt(2 * std::numbers::pi) / 4 + 0.5));
         // Boxes of even size lie half a pixel to either side, and a third one, larger by a pixel, between
         // them.
         if (size % 2 == 1) {

@@ -32,7 +32,9 @@ inline float unit(float value) {
     return value > 0 ? std::min(value, 1.0F) : 0;
 }
 
+// Of 0 to 1, for which cutting off costs less than rounding.
 inline std::uint32_t levelOf(float value) {
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings)
     return static_cast<std::uint32_t>(value * 255 + 0.5F);
 }
 

@@ -24,7 +24,7 @@ Point pointOf(const CubicSegment& curve, int i) {
 }
 
 bool passes(const CubicSegment& curve, int line, double top, double bottom) {
-    const auto [low, high] = std::minmax(pointOf(curve, line).y, pointOf(curve, line + 1).y);
+    const auto [low, high] = std::minmax({pointOf(curve, line).y, pointOf(curve, line + 1).y});
     return high > top && low < bottom;
 }
 
