@@ -139,9 +139,9 @@ std::optional<FilterEffect> convolveEffect(const FilterAttributes& a) {
     effect.columns = static_cast<int>(order.x);
     effect.rows = static_cast<int>(order.y);
     effect.kernel = a.numbers("kernelMatrix");
-    const double targetX = a.number("targetX", effect.columns / 2);
-    const double targetY = a.number("targetY", effect.rows / 2);
-    if (effect.kernel.size() != static_cast<std::size_t>(effect.columns * effect.rows) || targetX < 0 ||
+    const double targetX = a.number("targetX", std::floor(order.x / 2));
+    const double targetY = a.number("targetY", std::floor(order.y / 2));
+    if (static_cast<double>(effect.kernel.size()) != order.x * order.y || targetX < 0 ||
         targetX >= effect.columns || targetY < 0 || targetY >= effect.rows)
         return identityMatrix();
     effect.targetX = static_cast<int>(targetX);

@@ -128,7 +128,7 @@ void TextContentReader::setUp(Level& level, pugi::xml_node element, const Stated
     align(level, stated, outer);
     addDecorations(level, stated);
 
-    level.style_ = content_.text.styles.size();
+    level.styleNumber = content_.text.styles.size();
     content_.text.styles.push_back({level.font,
                                     std::max(level.style.fontSize, 0.0),
                                     level.raised + level.aligned,
@@ -296,7 +296,7 @@ void TextContentReader::addCharacter(char32_t c, const Level& level) {
     const TextStyle& style = textStyleOf(level.style);
     type::Character character;
     character.character = c;
-    character.style = level.style_;
+    character.style = level.styleNumber;
     character.anchor = style.anchor;
     lists_.place(character);
     // The controls in front belong to the chunk that the character begins.

@@ -45,7 +45,7 @@ class TextContentReader {
         bool preserve = false; // blanks, as xml:space says
         double raised = 0;     // by baseline shifts
         double aligned = 0;    // by baselines
-        std::size_t style_ = 0;
+        std::size_t styleNumber = 0;
         std::vector<type::Decoration> decorations;
     };
 

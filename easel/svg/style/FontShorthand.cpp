@@ -48,9 +48,8 @@ FontStatements parseFont(std::string_view shorthand) {
             font.*statement = word;
     const std::size_t slash = word.find('/');
     // The height of a line may stand apart from its slash.
-    if (slash != std::string_view::npos && slash + 1 == word.size())
-        takeWord(rest);
-    else if (rest.starts_with('/') && takeWord(rest).size() == 1)
+    const bool endsInSlash = slash != std::string_view::npos && slash + 1 == word.size();
+    if (endsInSlash || (rest.starts_with('/') && takeWord(rest).size() == 1))
         takeWord(rest);
     if (!word.empty() && !rest.empty()) {
         font.size = word.substr(0, slash);

@@ -14,8 +14,8 @@ template <class Value> struct Word {
     Value value;
 };
 
-template <class Value, std::size_t Count>
-std::optional<Value> valueOf(std::string_view text, const Word<Value> (&words)[Count]) {
+template <class Value, std::size_t count>
+std::optional<Value> valueOf(std::string_view text, const Word<Value> (&words)[count]) {
     for (const Word<Value>& each : words)
         if (equalIgnoringCase(text, each.word))
             return each.value;

@@ -222,7 +222,7 @@ void PangoTypesetter::addClusters(PangoItem& item, const Line& line, const std::
         for (; next < count && glyphs->log_clusters[next] == begin; ++next)
             advance += glyphs->glyphs[next].geometry.width;
         Cluster cluster;
-        cluster.begin = static_cast<std::size_t>(item.offset + begin);
+        cluster.begin = static_cast<std::size_t>(item.offset) + static_cast<std::size_t>(begin);
         cluster.end = static_cast<std::size_t>(item.offset) +
                       static_cast<std::size_t>(*std::upper_bound(begins.begin(), begins.end(), begin));
         cluster.advance = advance / kUnitsPerEm;

@@ -104,7 +104,7 @@ WriteChoice MainWindow::mayWrite(const QString& file) {
 // A folder that takes no new files leaves nothing but writing into the old one, and the journal holds the
 // whole drawing until that is done.
 files::Result<> MainWindow::write(const std::filesystem::path& file, std::string_view bytes) {
-    const files::Result<> replaced = files::replaceFile(file, bytes);
+    files::Result<> replaced = files::replaceFile(file, bytes);
     if (replaced || !files::isForbiddenFolder(replaced.error()) || files::isWriteProtected(file) ||
         !unsaved_.keepNow(drawingWindow_.drawing()))
         return replaced;
