@@ -75,13 +75,13 @@ std::int16_t ScriptedUser::nextHit(runtime::Dialog& dialog) {
     for (;;) {
         if (const std::optional<int> hit = dialog.takeHit())
             return static_cast<std::int16_t>(*hit);
-        if (hands_.isTyping()) {
-            hands_.strikeKey(dialog);
+        if (input_.isTyping()) {
+            input_.strikeKey(dialog);
             continue;
         }
         const auto played = waitFor<bool>(session_, session_.steps(), kDialogOpen,
                                           [&](const Step& step) -> std::optional<bool> {
-                                              if (!hands_.play(dialog, step))
+                                              if (!input_.play(dialog, step))
                                                   throw outOfPlace(step, kDialogOpen);
                                               return true;
                                           });

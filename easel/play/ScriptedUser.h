@@ -1,7 +1,7 @@
 // The user that a scenario plays.
 #pragma once
 
-#include "easel/play/DialogHands.h"
+#include "easel/play/DialogInput.h"
 #include "easel/play/OpenQuestions.h"
 #include "easel/play/Step.h"
 #include "easel/runtime/User.h"
@@ -59,7 +59,7 @@ class ScriptedUser : public runtime::User {
     bool shiftDown_ = false;
     long beeps_ = 0;
     OpenQuestions questions_;
-    DialogHands hands_{*this};
+    DialogInput input_{*this};
 };
 
 } // namespace easel::play

@@ -156,10 +156,10 @@ void MainWindow::exportAs(const QString& suffix) {
     }
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     files::Result<> exported;
-    workBeside(shared_.interaction, tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
-               [&](const exports::Progress& progress) {
-                   exported = exports::exportDrawing(drawingWindow_.drawing(), path, size, progress);
-               });
+    runInBackground(shared_.interaction, tr("Exporting %1 \u2026").arg(QFileInfo(file).fileName()), this,
+                    [&](const exports::Progress& progress) {
+                        exported = exports::exportDrawing(drawingWindow_.drawing(), path, size, progress);
+                    });
     if (!exported && !exported.error().isCancellation())
         tellProblem(exported.error().message(), shared_.interaction.dialogs);
     else if (exported)

@@ -89,14 +89,14 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Interac
     files::Result<> written;
     QImage image;
     try {
-        workBeside(interaction, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
-                   [&](const exports::Progress& progress) {
-                       if (asPdf)
-                           written = files::replaceFile(file, encodePdf(drawing, page, progress));
-                       else
-                           image = pictureOf(drawing, page.pointsAUnit * kPrintResolution / kPointsPerInch,
-                                             progress);
-                   });
+        runInBackground(interaction, QObject::tr("Printing %1 \u2026").arg(printer.docName()), over,
+                        [&](const exports::Progress& progress) {
+                            if (asPdf)
+                                written = files::replaceFile(file, encodePdf(drawing, page, progress));
+                            else
+                                image = pictureOf(
+                                    drawing, page.pointsAUnit * kPrintResolution / kPointsPerInch, progress);
+                        });
         if (!written)
             return notPrinted(interaction, QString::fromStdString(written.error().message()));
         if (!asPdf && !paintPage(drawing, page, image, printer))

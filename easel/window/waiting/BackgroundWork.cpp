@@ -46,8 +46,8 @@ void showProgress(QProgressDialog& dialog, double done) {
         dialog.setValue(static_cast<int>(done * (kSteps - 1)));
 }
 
-void workBeside(Interaction& interaction, const QString& text, QWidget* over,
-                const std::function<void(const exports::Progress& progress)>& work) {
+void runInBackground(Interaction& interaction, const QString& text, QWidget* over,
+                     const std::function<void(const exports::Progress& progress)>& work) {
     const Waiting::Call call(interaction.waiting);
     const std::unique_ptr<QProgressDialog> dialog = makeProgressDialog(text, over);
     const InputGate::Scope scope(interaction.gate, dialog.get());

@@ -23,7 +23,7 @@ void showProgress(QProgressDialog& dialog, double done);
 // Runs the work on a thread of its own and returns when it is done, or throws what it threw. Meanwhile the
 // user hears of its progress and can cancel it, and can do nothing else; so the work may read what only the
 // user changes.
-void workBeside(Interaction& interaction, const QString& text, QWidget* over,
-                const std::function<void(const exports::Progress& progress)>& work);
+void runInBackground(Interaction& interaction, const QString& text, QWidget* over,
+                     const std::function<void(const exports::Progress& progress)>& work);
 
 } // namespace easel::window

@@ -1,4 +1,4 @@
-// What the hands of the user that a scenario plays do in a dialog: pressing, typing, choosing.
+// The input of a scenario to a dialog: pressing, typing, choosing.
 #pragma once
 
 #include "easel/play/Arguments.h"
@@ -14,9 +14,9 @@ namespace easel::play {
 
 class ScriptedUser;
 
-class DialogHands {
+class DialogInput {
   public:
-    explicit DialogHands(ScriptedUser& user) : user_(user) {}
+    explicit DialogInput(ScriptedUser& user) : user_(user) {}
 
     // Plays a step of the scenario in the dialog, which may hit an item or begin to type. False for a command
     // that is not one for dialogs. Throws PlayError.
@@ -28,7 +28,7 @@ class DialogHands {
     void strikeKey(runtime::Dialog& dialog);
 
   private:
-    using Play = void (DialogHands::*)(runtime::Dialog&, Arguments&);
+    using Play = void (DialogInput::*)(runtime::Dialog&, Arguments&);
     static Play playOf(const std::string& command);
 
     void hit(runtime::Dialog& dialog, Arguments& arguments);

@@ -1,5 +1,5 @@
 // Plays the steps of a scenario that act on a dialog.
-#include "easel/play/DialogHands.h"
+#include "easel/play/DialogInput.h"
 
 #include "easel/classic/MacRoman.h"
 #include "easel/play/PlayError.h"
@@ -69,17 +69,17 @@ drawing::Point pointInDialog(const runtime::Dialog& dialog, Arguments& arguments
     return {pixel(point.x, item ? item->bounds.left : 0), pixel(point.y, item ? item->bounds.top : 0)};
 }
 
-DialogHands::Play DialogHands::playOf(const std::string& command) {
+DialogInput::Play DialogInput::playOf(const std::string& command) {
     static const std::map<std::string, Play> all{
-        {"hit", &DialogHands::hit},         {"press", &DialogHands::press}, {"move", &DialogHands::move},
-        {"release", &DialogHands::release}, {"focus", &DialogHands::focus}, {"type", &DialogHands::type},
-        {"erase", &DialogHands::erase},     {"set", &DialogHands::set},     {"choose", &DialogHands::choose},
+        {"hit", &DialogInput::hit},         {"press", &DialogInput::press}, {"move", &DialogInput::move},
+        {"release", &DialogInput::release}, {"focus", &DialogInput::focus}, {"type", &DialogInput::type},
+        {"erase", &DialogInput::erase},     {"set", &DialogInput::set},     {"choose", &DialogInput::choose},
     };
     const auto found = all.find(command);
     return found == all.end() ? nullptr : found->second;
 }
 
-bool DialogHands::play(runtime::Dialog& dialog, const Step& step) {
+bool DialogInput::play(runtime::Dialog& dialog, const Step& step) {
     const Play known = playOf(step.words[0]);
     if (!known)
         return false;
@@ -89,18 +89,18 @@ bool DialogHands::play(runtime::Dialog& dialog, const Step& step) {
 }
 
 // The release is a step of its own that follows.
-void DialogHands::hit(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::hit(runtime::Dialog& dialog, Arguments& arguments) {
     const paint::PixelRect bounds = itemIn(dialog, arguments).bounds;
     arguments.done();
     pressAt(dialog,
             {std::floor((bounds.left + bounds.right) / 2.0), std::floor((bounds.top + bounds.bottom) / 2.0)});
 }
 
-void DialogHands::press(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::press(runtime::Dialog& dialog, Arguments& arguments) {
     pressAt(dialog, pointInDialog(dialog, arguments));
 }
 
-void DialogHands::pressAt(runtime::Dialog& dialog, drawing::Point where) {
+void DialogInput::pressAt(runtime::Dialog& dialog, drawing::Point where) {
     user_.press(where);
     const runtime::DialogItem* item = dialog.itemAt(pixelAt(where));
     if (!item)
@@ -116,11 +116,11 @@ void DialogHands::pressAt(runtime::Dialog& dialog, drawing::Point where) {
     dialog.hit(item->number);
 }
 
-void DialogHands::move(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::move(runtime::Dialog& dialog, Arguments& arguments) {
     user_.moveTo(pointInDialog(dialog, arguments));
 }
 
-void DialogHands::release(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::release(runtime::Dialog& dialog, Arguments& arguments) {
     arguments.done();
     user_.release();
     const runtime::DialogItem* pressed = dialog.item(std::exchange(pressedControl_, 0));
@@ -128,13 +128,13 @@ void DialogHands::release(runtime::Dialog& dialog, Arguments& arguments) {
         dialog.hit(pressed->number);
 }
 
-void DialogHands::focus(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::focus(runtime::Dialog& dialog, Arguments& arguments) {
     const int item = itemIn(dialog, arguments).number;
     arguments.done();
     dialog.setFocus(item);
 }
 
-void DialogHands::type(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::type(runtime::Dialog& dialog, Arguments& arguments) {
     const std::string text = arguments.text("the text");
     arguments.done();
     checkFocus(dialog);
@@ -142,20 +142,20 @@ void DialogHands::type(runtime::Dialog& dialog, Arguments& arguments) {
         keys_.push_back(key);
 }
 
-void DialogHands::strikeKey(runtime::Dialog& dialog) {
+void DialogInput::strikeKey(runtime::Dialog& dialog) {
     const char32_t key = keys_.front();
     keys_.pop_front();
     if (dialog.typeCharacter(key) == runtime::EditOutcome::Refused)
         user_.beep();
 }
 
-void DialogHands::erase(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::erase(runtime::Dialog& dialog, Arguments& arguments) {
     arguments.done();
     checkFocus(dialog);
     dialog.eraseBackward();
 }
 
-void DialogHands::set(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::set(runtime::Dialog& dialog, Arguments& arguments) {
     const int item = itemOfKind(dialog, arguments, runtime::ItemKind::EditText, "edit field").number;
     const std::string text = arguments.text("the text");
     arguments.done();
@@ -163,7 +163,7 @@ void DialogHands::set(runtime::Dialog& dialog, Arguments& arguments) {
         user_.beep();
 }
 
-void DialogHands::choose(runtime::Dialog& dialog, Arguments& arguments) {
+void DialogInput::choose(runtime::Dialog& dialog, Arguments& arguments) {
     const int item = itemOfKind(dialog, arguments, runtime::ItemKind::Popup, "popup menu").number;
     const auto entry = static_cast<int>(arguments.integer("the entry", 1, kLastNumber));
     arguments.done();
