@@ -200,7 +200,8 @@ TEST_F(GradientMenuTest, AGlowThatIsDraggedStaysAGlow) {
     screen().drag({onScreen(420, 200), onScreen(470, 260)});
     EXPECT_TRUE(eventually([&] { return difference(pixelAt(420, 200), 0xfff3c4) < 0x20; }))
         << "its bright middle is where the mouse was pressed";
-    EXPECT_EQ(pixelAt(680, 234), outside) << "beyond its circle nothing changes";
+    // But for the last bit, in which a repaint of a part may differ.
+    EXPECT_LE(difference(pixelAt(680, 234), outside), 1) << "beyond its circle nothing changes";
     EXPECT_LT(difference(pixelAt(670, 240), outside), 0x28) << "its edge lets the sky through";
     EXPECT_THAT(gradientOf(saved(), "glow"), HasSubstr("stop-opacity=\"0.95\""));
     // Its middle, 56 to the left of the circle's and 152 above, goes to 152 to the left and 56 below, behind
