@@ -1,13 +1,13 @@
 // Files that are no drawings, or mean harm: each gets an error that names it and says why.
 #include "easel/svg/text/Fault.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/unit/svg/ReadHelp.h"
 
 #include <gmock/gmock.h>
 
 #include <ctime>
 #include <filesystem>
-#include <fstream>
 
 namespace {
 
@@ -39,10 +39,10 @@ std::string repeated(const std::string& text, std::size_t times) {
 }
 
 TEST(BadInput, MissingFilesAndFoldersAreNamed) {
-    const auto folder = std::filesystem::temp_directory_path();
+    const tests::TemporaryFolder folder;
     for (const auto& [path, code] :
          {std::pair(folder / "no-such-file.svg", std::errc::no_such_file_or_directory),
-          {folder, std::errc::is_a_directory}}) {
+          {folder.path(), std::errc::is_a_directory}}) {
         const Error error = tests::errorOf(easel::svg::readFile(path));
         EXPECT_EQ(error.code, code);
         EXPECT_NE(error.message().find(path.string()), std::string::npos);
@@ -68,11 +68,11 @@ TEST(BadInput, WhatIsNotXmlOrNotSvgIsRefused) {
 }
 
 TEST(BadInput, AFileAboveTheLimitIsRefusedWithoutBeingRead) {
-    const auto path = std::filesystem::temp_directory_path() / "easel-too-large.svg";
-    std::ofstream(path) << "<svg/>";
+    const tests::TemporaryFolder folder;
+    const auto path = folder / "too-large.svg";
+    tests::writeContent(path, "<svg/>");
     std::filesystem::resize_file(path, std::uintmax_t{20} << 30);
     EXPECT_EQ(tests::errorOf(easel::svg::readFile(path)).code, std::errc::file_too_large);
-    std::filesystem::remove(path);
 }
 
 TEST(BadInput, AMillionNestedElementsAreRead) {

@@ -4,10 +4,9 @@
 #include "easel/files/Gzip.h"
 #include "easel/svg/text/Fault.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace {
 
@@ -17,6 +16,7 @@ using easel::files::isGzip;
 using easel::files::packedGzip;
 using easel::svg::Fault;
 using easel::svg::toBytes;
+using tests::contentOf;
 
 const std::string kText = svgFile("<!-- kept --><rect id='r' width='50' height='50'/>");
 
@@ -33,21 +33,12 @@ Error errorIn(const std::string& bytes, const easel::svg::ReadOptions& options =
     return tests::errorOf(easel::svg::readBytes(bytes, "bad.svgz", options));
 }
 
-std::string contentOf(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 class CompressedFile : public testing::Test {
   protected:
-    void SetUp() override {
-        std::filesystem::create_directories(folder_);
-        std::ofstream(folder_ / "a.svgz", std::ios::binary) << packedByOthers();
-    }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
+    void SetUp() override { tests::writeContent(folder_ / "a.svgz", packedByOthers()); }
     Drawing opened(const char* name) const { return easel::svg::readFile(folder_ / name).value(); }
 
-    const std::filesystem::path folder_ = std::filesystem::temp_directory_path() / "easel-compressed-test";
+    const tests::TemporaryFolder folder_;
 };
 
 TEST(Compressed, AnUnchangedDrawingGivesTheVerySameBytes) {

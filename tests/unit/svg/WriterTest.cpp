@@ -1,12 +1,10 @@
 // Saving: what changes in the file, and that nothing else does.
 #include "tests/support/ErrorOf.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/unit/svg/ReadHelp.h"
 
 #include "easel/svg/text/RecordText.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 
 namespace {
@@ -264,18 +262,15 @@ TEST(SvgWriter, AddedObjectsGoBeforeTheRootsEndInItsUnits) {
 }
 
 TEST(SvgWriter, SavingMarksTheDrawingSavedAndAFailureLeavesItDirty) {
-    const auto folder = std::filesystem::temp_directory_path() / "easel-writer-test";
-    std::filesystem::create_directories(folder);
+    const tests::TemporaryFolder folder;
     Drawing drawing = readOk(kUntidy);
     drawing.erase(0);
-    const auto error = tests::errorOf(easel::svg::saveFile(drawing, folder / "no" / "such.svg"));
+    const auto error = tests::errorOf(easel::svg::saveFile(drawing, folder / "no/such.svg"));
     EXPECT_NE(error.message().find("such.svg"), std::string::npos);
     EXPECT_TRUE(drawing.dirty());
     EXPECT_TRUE(easel::svg::saveFile(drawing, folder / "a.svg"));
     EXPECT_FALSE(drawing.dirty());
-    std::ifstream in(folder / "a.svg", std::ios::binary);
-    EXPECT_EQ((std::string{std::istreambuf_iterator<char>(in), {}}), toBytes(drawing));
-    std::filesystem::remove_all(folder);
+    EXPECT_EQ(tests::contentOf(folder / "a.svg"), toBytes(drawing));
 }
 
 } // namespace
