@@ -25,3 +25,13 @@ function(easel_room name)
     endif()
   endif()
 endfunction()
+
+# easel_library(<name> <objects>...): a library of the program's own, of compiled rooms, that is loaded when it is wanted. It
+# has to be of the program's version, so the name of its file carries all of it.
+function(easel_library name)
+  add_library(${name} SHARED)
+  target_link_libraries(${name} PRIVATE kestradhost ${ARGN})
+  set_target_properties(${name} PROPERTIES SOVERSION ${PROJECT_VERSION}
+                                           INSTALL_RPATH "$ORIGIN/${LIBRARIES_FROM_EASEL_LIBRARIES}")
+  install(TARGETS ${name} LIBRARY DESTINATION "${EASEL_LIBRARY_FOLDER}" COMPONENT program NAMELINK_SKIP)
+endfunction()

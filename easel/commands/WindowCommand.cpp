@@ -1,12 +1,11 @@
 // Finds the window's library beside the program and hands over to it.
 #include "easel/commands/WindowCommand.h"
 
-#include "easel/files/ProgramFolders.h"
+#include "easel/files/OwnLibrary.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cstdlib>
-#include <dlfcn.h>
 #include <iostream>
 #include <string>
 
@@ -41,18 +40,12 @@ int runWindow(const window::StartUp& startUp, int argc, char** argv) {
                      "The commands play, render and templates work without one; see easel --help.\n";
         return 2;
     }
-    const std::filesystem::path file = files::ownLibrary(EASEL_WINDOW_LIBRARY);
-    void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!library) {
-        std::cerr << "easel: this build has no window: " << dlerror() << "\n";
+    const auto run = files::loadedFrom(EASEL_WINDOW_LIBRARY, window::kRunWindowSymbol);
+    if (!run) {
+        std::cerr << "easel: there is no window: " << run.error().reason << "\n";
         return 2;
     }
-    void* symbol = dlsym(library, window::kRunWindowSymbol);
-    if (!symbol) {
-        std::cerr << "easel: the window's library is damaged: " << dlerror() << "\n";
-        return 2;
-    }
-    return reinterpret_cast<window::RunWindowFunction>(symbol)(startUp, argc, argv);
+    return reinterpret_cast<window::RunWindowFunction>(*run)(startUp, argc, argv);
 }
 
 } // namespace easel::commands

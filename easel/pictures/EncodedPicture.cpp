@@ -30,7 +30,7 @@ class EncodedPicture : public drawing::Picture {
             return nullptr;
         auto pixels = decoded_.lock();
         if (!pixels)
-            pixels = loadPixels(bytes_, format_, size_);
+            pixels = pixelLoader()->pixels(bytes_, format_, size_);
         damaged_ = !pixels;
         decoded_ = pixels;
         if (pixels)
@@ -51,9 +51,10 @@ class EncodedPicture : public drawing::Picture {
 
 Opened openPicture(std::string bytes) {
     const Format* const format = formatOf(bytes);
-    if (!format)
+    PixelLoader* const loader = format ? pixelLoader() : nullptr;
+    if (!loader)
         return Refusal::UnknownFormat;
-    const auto size = sizeOf(bytes, *format);
+    const auto size = loader->size(bytes, *format);
     if (!size || size->width < 1 || size->height < 1)
         return Refusal::Damaged;
     if (std::int64_t{size->width} * size->height > kMostPixels)

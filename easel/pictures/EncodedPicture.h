@@ -11,7 +11,7 @@ namespace easel::pictures {
 
 // Why a picture cannot be shown.
 enum class Refusal : std::uint8_t {
-    UnknownFormat,
+    UnknownFormat, // or one that this installation cannot decode
     Damaged,
     TooLarge, // more pixels than kMostPixels
 };
