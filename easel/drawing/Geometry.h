@@ -124,6 +124,11 @@ inline Affine operator*(const Affine& outer, const Affine& inner) {
             outer.a * inner.e + outer.c * inner.f + outer.e, outer.b * inner.e + outer.d * inner.f + outer.f};
 }
 
+// Maps the unit square onto the box: its lengths become shares of the box's sides.
+inline Affine boxUnits(const Box& box) {
+    return {box.width(), 0, 0, box.height(), box.left, box.top};
+}
+
 // The box around what the map makes of a box; empty for an empty one.
 inline Box boxUnder(const Box& box, const Affine& map) {
     Box mapped;

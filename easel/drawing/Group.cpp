@@ -28,6 +28,13 @@ bool isLayer(const Group& group) {
            group.isolated || group.filter;
 }
 
+bool blends(const GroupPtr& group) {
+    const Group* each = group.get();
+    while (each && each->blend == BlendMode::Normal)
+        each = each->parent.get();
+    return each != nullptr;
+}
+
 bool blendsWithDrawing(const Group& group) {
     bool blends = false;
     for (const Group* each = &group; each; each = each->parent.get())

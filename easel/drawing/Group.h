@@ -45,6 +45,9 @@ using GroupPtr = std::shared_ptr<const Group>;
 // Whether its objects need a layer of their own. Else they might as well lie in the parent.
 bool isLayer(const Group& group);
 
+// Whether the group, or one around it, has a blend mode of its own. No group has none.
+bool blends(const GroupPtr& group);
+
 // Whether the group, or one around it, blends with what lies outside of all groups.
 bool blendsWithDrawing(const Group& group);
 

@@ -1,5 +1,7 @@
 // Masks for Cairo, which knows those of alpha only: outlines where alpha can tell what the mask shows, and
 // else a picture.
+#include "easel/export/CairoImage.h"
+#include "easel/export/CairoMatrix.h"
 #include "easel/export/CairoPainter.h"
 #include "easel/export/MaskAlpha.h"
 #include "easel/paint/Layer.h"
@@ -20,10 +22,6 @@ namespace {
 // No picture of a mask has more pixels across or down.
 constexpr double kLargestSide = 4096;
 
-Affine mapOf(const cairo_matrix_t& matrix) {
-    return {matrix.xx, matrix.yx, matrix.xy, matrix.yy, matrix.x0, matrix.y0};
-}
-
 // What the mask may show of what is not clipped, in the drawing.
 drawing::Box placeOf(const drawing::Mask& mask, cairo_t* cairo) {
     drawing::Box objects;
@@ -33,22 +31,6 @@ drawing::Box placeOf(const drawing::Mask& mask, cairo_t* cairo) {
     cairo_clip_extents(cairo, &shown.left, &shown.top, &shown.right, &shown.bottom);
     return {std::max(objects.left, shown.left), std::max(objects.top, shown.top),
             std::min(objects.right, shown.right), std::min(objects.bottom, shown.bottom)};
-}
-
-// A surface with its pixels in it.
-cairo_surface_t* surfaceOf(const paint::Layer& layer) {
-    const paint::PixelRect& place = layer.place();
-    cairo_surface_t* const surface =
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, place.width(), place.height());
-    cairo_surface_flush(surface);
-    unsigned char* const pixels = cairo_image_surface_get_data(surface);
-    if (!pixels)
-        return surface;
-    paint::SurfaceView view(reinterpret_cast<std::uint32_t*>(pixels), place.width(), place.height(),
-                            cairo_image_surface_get_stride(surface));
-    layer.layOn(view, 1);
-    cairo_surface_mark_dirty(surface);
-    return surface;
 }
 
 } // namespace
@@ -68,9 +50,7 @@ CairoPainter::Pattern CairoPainter::maskPicture(const drawing::Mask& mask) {
     const drawing::Box box = placeOf(mask, cairo_);
     if (box.empty())
         return {cairo_pattern_create_rgba(0, 0, 0, 0), &cairo_pattern_destroy};
-    cairo_matrix_t toTarget;
-    cairo_get_matrix(cairo_, &toTarget);
-    const double asked = mapOf(toTarget).largestScale() * detail_;
+    const double asked = mapToTarget(cairo_).largestScale() * detail_;
     const double scale = std::min(asked, kLargestSide / std::max({box.width(), box.height(), 1.0}));
     const Affine toPicture = Affine::scaling(scale, scale) * Affine::translation(-box.left, -box.top);
     const paint::PixelRect place{.right = static_cast<int>(std::ceil(box.width() * scale)) + 1,
@@ -82,10 +62,9 @@ CairoPainter::Pattern CairoPainter::maskPicture(const drawing::Mask& mask) {
         std::fill_n(white.view().row(y), place.right, 0xFFFFFFFF);
     white.maskWith(shown, mask.measure);
 
-    cairo_surface_t* const surface = surfaceOf(white);
-    Pattern pattern(cairo_pattern_create_for_surface(surface), &cairo_pattern_destroy);
-    cairo_surface_destroy(surface);
-    const cairo_matrix_t matrix{toPicture.a, toPicture.b, toPicture.c, toPicture.d, toPicture.e, toPicture.f};
+    const CairoImage image = imageOf(white.pixels());
+    Pattern pattern(cairo_pattern_create_for_surface(image.get()), &cairo_pattern_destroy);
+    const cairo_matrix_t matrix = matrixOf(toPicture);
     cairo_pattern_set_matrix(pattern.get(), &matrix);
     return pattern;
 }

@@ -1,6 +1,7 @@
 // Drawings as calls of Cairo.
 #include "easel/export/CairoPainter.h"
 
+#include "easel/export/CairoMatrix.h"
 #include "easel/export/GradientRange.h"
 #include "easel/export/MaskAlpha.h"
 #include "easel/paint/GroupRuns.h"
@@ -20,10 +21,6 @@ namespace {
 
 // Cairo computes in fixed point and wraps around beyond some eight million units.
 constexpr double kFarthest = 4e6;
-
-cairo_matrix_t matrixOf(const drawing::Affine& map) {
-    return {map.a, map.b, map.c, map.d, map.e, map.f};
-}
 
 double level(std::uint16_t channel) {
     return channel / 65535.0;
@@ -55,10 +52,7 @@ void paintPattern(cairo_t* cairo, cairo_pattern_t* pattern, double opacity = 1) 
 }
 
 bool isBlended(const drawing::ObjectPtr& object) {
-    const drawing::Group* group = object->group.get();
-    while (group && group->blend == drawing::BlendMode::Normal)
-        group = group->parent.get();
-    return group != nullptr;
+    return blends(object->group);
 }
 
 cairo_operator_t operatorOf(drawing::BlendMode mode) {

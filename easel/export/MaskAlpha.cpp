@@ -1,5 +1,6 @@
 #include "easel/export/MaskAlpha.h"
 
+#include "easel/drawing/Luminance.h"
 #include "easel/drawing/Object.h"
 #include "easel/paint/ObjectPaintSource.h"
 
@@ -48,19 +49,12 @@ std::optional<LightRange> rangeOf(const paint::HeldPaintSource& held) {
     return std::nullopt;
 }
 
-bool blends(const drawing::Group* group) {
-    for (; group; group = group->parent.get())
-        if (group->blend != drawing::BlendMode::Normal)
-            return true;
-    return false;
-}
-
 // Goes through what is painted, back to front.
 class Luminance {
   public:
     // Whether alpha tells what it adds.
     bool takes(const Object& object) {
-        if (object.markers || blends(object.group.get()))
+        if (object.markers || blends(object.group))
             return false;
         const bool strokes = drawing::strokes(drawing::styleOf(object));
         const bool fills = object.fillPattern != drawing::FillPattern::None;
@@ -90,7 +84,7 @@ constexpr std::size_t kMostObjects = 1000;
 } // namespace
 
 double luminanceOf(const drawing::Rgb16& color) {
-    return (0.2125 * color.red + 0.7154 * color.green + 0.0721 * color.blue) / 65535;
+    return drawing::luminanceOf(color.red, color.green, color.blue) / 65535;
 }
 
 bool alphaTellsLuminance(const drawing::Mask& mask) {

@@ -1,6 +1,8 @@
 // Composing layers. Weights are whole 65536ths, and each channel is rounded once.
 #include "easel/paint/Layer.h"
 
+#include "easel/paint/filter/Shade.h"
+
 #include <array>
 #include <cmath>
 
@@ -9,21 +11,6 @@ namespace easel::paint {
 namespace {
 
 constexpr std::uint32_t kFull = 65536;
-
-std::uint32_t alphaOf(std::uint32_t pixel) {
-    return pixel >> 24;
-}
-
-// Two of a pixel's channels times alpha / 255, rounded. Both are computed at once, sixteen bits each.
-std::uint32_t twoMultiplied(std::uint32_t channels, std::uint32_t alpha) {
-    constexpr std::uint32_t kLowBytes = 0x00FF00FF;
-    const std::uint32_t product = (channels & kLowBytes) * alpha + 0x00800080;
-    return (product + (product >> 8 & kLowBytes)) >> 8 & kLowBytes;
-}
-
-std::uint32_t multiplied(std::uint32_t pixel, std::uint32_t alpha) {
-    return twoMultiplied(pixel >> 8, alpha) << 8 | twoMultiplied(pixel, alpha);
-}
 
 // Two channels, 32 bits apart.
 std::uint64_t twoApart(std::uint32_t channels) {
@@ -87,21 +74,16 @@ void Layer::maskWith(const Layer& mask) {
         std::uint32_t* const row = pixels_.row(y);
         const std::uint32_t* const alpha = mask.pixels_.row(y);
         for (int x = 0; x < pixels_.width(); ++x)
-            row[x] = multiplied(row[x], alphaOf(alpha[x]));
+            row[x] = shareOf(row[x], alphaLevel(alpha[x]));
     }
 }
 
 void Layer::layOn(const SurfaceView& surface, double opacity) const {
     const auto weight = static_cast<std::uint32_t>(std::lrint(std::clamp(opacity, 0.0, 1.0) * kFull));
     const std::array<std::uint32_t, 256> kept = keptUnder(weight);
-    const PixelRect box = place_.intersection(surface.clip());
-    for (int y = box.top; y < box.bottom; ++y) {
-        std::uint32_t* const below = surface.row(y);
-        const std::uint32_t* const above = pixels_.row(y - place_.top);
-        for (int x = box.left; x < box.right; ++x)
-            if (const std::uint32_t pixel = above[x - place_.left])
-                below[x] = composed(below[x], pixel, weight, kept[alphaOf(pixel)]);
-    }
+    compose(surface, [&](std::uint32_t below, std::uint32_t pixel) {
+        return composed(below, pixel, weight, kept[alphaLevel(pixel)]);
+    });
 }
 
 } // namespace easel::paint

@@ -20,6 +20,7 @@ class Layer {
 
     // The layer's pixels, and the map to them in place of one to the surface below.
     SurfaceView view() { return pixels_.view(); }
+    const Surface& pixels() const { return pixels_; }
     drawing::Affine mapped(const drawing::Affine& toSurface) const;
     const PixelRect& place() const { return place_; }
 
@@ -33,6 +34,18 @@ class Layer {
     void blendWith(const SurfaceView& surface, double opacity, drawing::BlendMode mode) const;
 
   private:
+    // Puts pixel(the one below, the layer's) in the place of the one below wherever the layer has something.
+    template <class Pixel> void compose(const SurfaceView& surface, Pixel pixel) const {
+        const PixelRect box = place_.intersection(surface.clip());
+        for (int y = box.top; y < box.bottom; ++y) {
+            std::uint32_t* const below = surface.row(y);
+            const std::uint32_t* const above = pixels_.row(y - place_.top);
+            for (int x = box.left; x < box.right; ++x)
+                if (const std::uint32_t own = above[x - place_.left])
+                    below[x] = pixel(below[x], own);
+        }
+    }
+
     PixelRect place_;
     Surface pixels_;
 };

@@ -1,5 +1,7 @@
 // Layers under masks. How much of a pixel shows is kept in 65536ths of an 8-bit level, so that each channel
 // is rounded once.
+#include "easel/drawing/Luminance.h"
+#include "easel/drawing/SrgbCurve.h"
 #include "easel/paint/Layer.h"
 
 #include <array>
@@ -15,10 +17,9 @@ constexpr std::uint32_t kLevel = 65536; // one level of 255
 constexpr std::uint64_t kWhole = std::uint64_t{255} * kLevel;
 
 // The shares of red, green and blue in luminance; together one level.
-constexpr std::uint32_t kRed = 13926;
-constexpr std::uint32_t kGreen = 46884;
-constexpr std::uint32_t kBlue = 4726;
-static_assert(kRed + kGreen + kBlue == kLevel);
+constexpr auto kRed = static_cast<std::uint32_t>(drawing::kRedLuminance * kLevel);
+constexpr auto kGreen = static_cast<std::uint32_t>(drawing::kGreenLuminance * kLevel);
+constexpr std::uint32_t kBlue = kLevel - kRed - kGreen;
 
 std::uint32_t channelOf(std::uint32_t pixel, int shift) {
     return pixel >> shift & 0xFF;
@@ -28,16 +29,12 @@ std::uint64_t luminanceOf(std::uint32_t pixel) {
     return channelOf(pixel, 16) * kRed + channelOf(pixel, 8) * kGreen + channelOf(pixel, 0) * kBlue;
 }
 
-double lightOf(double level) {
-    return level <= 0.04045 ? level / 12.92 : std::pow((level + 0.055) / 1.055, 2.4);
-}
-
 // Light by the 8-bit level of a channel.
 const std::array<double, 256>& lights() {
     static const std::array<double, 256> kLights = [] {
         std::array<double, 256> lights{};
         for (std::size_t level = 0; level < lights.size(); ++level)
-            lights[level] = lightOf(static_cast<double>(level) / 255);
+            lights[level] = drawing::linearLightOf(static_cast<double>(level) / 255);
         return lights;
     }();
     return kLights;
@@ -50,7 +47,8 @@ std::uint64_t linearLuminanceOf(std::uint32_t pixel) {
         return 0;
     const auto light = [&](int shift) {
         const std::uint32_t level = channelOf(pixel, shift);
-        return alpha == 255 ? lights()[level] : lightOf(std::min(1.0, static_cast<double>(level) / alpha));
+        return alpha == 255 ? lights()[level]
+                            : drawing::linearLightOf(std::min(1.0, static_cast<double>(level) / alpha));
     };
     const double sum = light(16) * kRed + light(8) * kGreen + light(0) * kBlue;
     return static_cast<std::uint64_t>(std::llround(sum * alpha));

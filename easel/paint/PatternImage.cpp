@@ -39,17 +39,9 @@ std::optional<int> cellAt(double place, double begin, double size) {
     return std::abs(number) < 1e9 ? std::optional(static_cast<int>(number)) : std::nullopt;
 }
 
-Box mapped(const Affine& map, const Box& box) {
-    Box result;
-    for (const double x : {box.left, box.right})
-        for (const double y : {box.top, box.bottom})
-            result.add(map(Point{x, y}));
-    return result;
-}
-
 // The cells under a box of the drawing. Nothing if they are too far away for numbers.
 std::optional<CellRange> cellsUnder(const Pattern& pattern, const Box& place) {
-    const Box box = mapped(pattern.toDrawing.inverse(), place);
+    const Box box = boxUnder(place, pattern.toDrawing.inverse());
     // What ends where a cell does is not to count as lying in the next one.
     const Box& cell = pattern.cell;
     const double nearX = cell.width() * 1e-9;
@@ -173,8 +165,9 @@ void PatternImage::repeatCell(const Pattern& pattern, int width, int height, Pat
 
 void PatternImage::paintCells(const Pattern& pattern, const PixelRect& area, const Affine& toSurface) {
     const Affine toDrawing = toSurface.inverse() * Affine::translation(area.left, area.top);
-    const auto range = cellsUnder(pattern, mapped(toDrawing, {0, 0, static_cast<double>(area.width()),
-                                                              static_cast<double>(area.height())}));
+    const auto range = cellsUnder(
+        pattern,
+        boxUnder({0, 0, static_cast<double>(area.width()), static_cast<double>(area.height())}, toDrawing));
     if (!range || range->right - range->left > kMostCells || range->bottom - range->top > kMostCells)
         return;
     const CellRange reach = neighborsOf(pattern);

@@ -13,12 +13,9 @@ using drawing::Box;
 
 // The box of drawing coordinates that the pixels show, a little more to be safe from rounding.
 Box drawnArea(const PixelRect& pixels, const Affine& toSurface) {
-    const Affine toDrawing = toSurface.inverse();
-    Box area;
-    for (const int x : {pixels.left - 1, pixels.right + 1})
-        for (const int y : {pixels.top - 1, pixels.bottom + 1})
-            area.add(toDrawing({static_cast<double>(x), static_cast<double>(y)}));
-    return area;
+    const Box shown{static_cast<double>(pixels.left), static_cast<double>(pixels.top),
+                    static_cast<double>(pixels.right), static_cast<double>(pixels.bottom)};
+    return boxUnder(shown.grownBy(1), toSurface.inverse());
 }
 
 // Calls paint(the surface narrowed to a band) for each band.

@@ -1,7 +1,7 @@
 // feDiffuseLighting and feSpecularLighting (SVG 1.1, 15.14 and 15.22) with the lights of 15.8.
 #include "easel/paint/filter/Lighting.h"
 
-#include "easel/paint/filter/LinearLight.h"
+#include "easel/drawing/SrgbCurve.h"
 #include "easel/paint/filter/PixelLoops.h"
 #include "easel/paint/filter/Shade.h"
 
@@ -146,7 +146,7 @@ std::uint32_t litPixel(LightingEffect::Kind kind, float strength, const Shade& c
 Shade lightColor(const drawing::Rgb16& color, bool linearLight) {
     const auto channel = [linearLight](std::uint16_t value) {
         const double srgb = value / 65535.0;
-        return static_cast<float>(linearLight ? linearLightOf(srgb) : srgb);
+        return static_cast<float>(linearLight ? drawing::linearLightOf(srgb) : srgb);
     };
     return {channel(color.red), channel(color.green), channel(color.blue), 1};
 }

@@ -1,7 +1,7 @@
-// Colors between sRGB and linear light: the transfer function of sRGB, IEC 61966-2-1, on colors that are not
-// multiplied by alpha.
+// Colors between sRGB and linear light. The curve is that of colors that are not multiplied by alpha.
 #include "easel/paint/filter/LinearLight.h"
 
+#include "easel/drawing/SrgbCurve.h"
 #include "easel/paint/filter/PixelLoops.h"
 #include "easel/paint/filter/Shade.h"
 
@@ -36,21 +36,13 @@ Surface changedBy(const LevelTable& table, const Surface& picture) {
 
 } // namespace
 
-double linearLightOf(double srgb) {
-    return srgb <= 0.04045 ? srgb / 12.92 : std::pow((srgb + 0.055) / 1.055, 2.4);
-}
-
-double srgbOf(double linear) {
-    return linear <= 0.0031308 ? linear * 12.92 : 1.055 * std::pow(linear, 1 / 2.4) - 0.055;
-}
-
 Surface inLinearLight(const Surface& picture) {
-    static const std::unique_ptr<const LevelTable> kTable = levelTable(linearLightOf);
+    static const std::unique_ptr<const LevelTable> kTable = levelTable(drawing::linearLightOf);
     return changedBy(*kTable, picture);
 }
 
 Surface inSrgb(const Surface& picture) {
-    static const std::unique_ptr<const LevelTable> kTable = levelTable(srgbOf);
+    static const std::unique_ptr<const LevelTable> kTable = levelTable(drawing::srgbOf);
     return changedBy(*kTable, picture);
 }
 

@@ -9,8 +9,4 @@ namespace easel::paint {
 Surface inLinearLight(const Surface& picture);
 Surface inSrgb(const Surface& picture);
 
-// 0 to 1.
-double linearLightOf(double srgb);
-double srgbOf(double linear);
-
 } // namespace easel::paint

@@ -82,7 +82,7 @@ ClipReader::ClipPtr ClipReader::read(pugi::xml_node element, const Box& box, con
     inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, Box());
     boxAsked_ = boxAsked_ || fractions;
     if (fractions)
-        inside.toDrawing = inside.toDrawing * Affine{box.width(), 0, 0, box.height(), box.left, box.top};
+        inside.toDrawing = inside.toDrawing * boxUnits(box);
     if (element == lastElement_ && inside.toDrawing == lastPlace_)
         return last_;
 

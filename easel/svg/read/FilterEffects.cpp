@@ -1,6 +1,7 @@
 // What the steps of a filter do: SVG 1.1, 15.9 to 15.25, and Filter Effects 1 where it says more.
 #include "easel/svg/read/FilterEffects.h"
 
+#include "easel/drawing/Luminance.h"
 #include "easel/svg/style/ComputedStyle.h"
 #include "easel/svg/text/Scanner.h"
 
@@ -71,9 +72,11 @@ ColorMatrixEffect colorMatrixEffect(const FilterAttributes& a) {
     if (type == "hueRotate")
         return hueRotation(values.empty() ? 0 : values.front());
     ColorMatrixEffect effect = identityMatrix();
-    if (type == "luminanceToAlpha")
-        effect.matrix = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.2125, 0.7154, 0.0721, 0, 0};
-    else if (values.size() == effect.matrix.size())
+    if (type == "luminanceToAlpha") {
+        effect.matrix = {};
+        std::copy_n(std::array{kRedLuminance, kGreenLuminance, kBlueLuminance}.begin(), 3,
+                    effect.matrix.end() - 5);
+    } else if (values.size() == effect.matrix.size())
         std::copy(values.begin(), values.end(), effect.matrix.begin());
     return effect;
 }

@@ -69,8 +69,7 @@ PlacedPaint placedGradient(const GradientElement& gradient, const PaintPlace& pl
         // A box without area gives the gradient no space to be in.
         if (!(place.box.width() > 0 && place.box.height() > 0))
             return NoPaint();
-        result.toDrawing = place.toDrawing *
-                           Affine{place.box.width(), 0, 0, place.box.height(), place.box.left, place.box.top};
+        result.toDrawing = place.toDrawing * boxUnits(place.box);
     }
     result.toDrawing = result.toDrawing * gradient.transform;
     if (!result.toDrawing.invertible())

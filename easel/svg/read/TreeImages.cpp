@@ -27,13 +27,6 @@ Box viewportOf(const StatedStyle& stated, const LengthContext& lengths, double w
     return {x, y, x + right, y + down};
 }
 
-Box mapped(const Affine& map, const Box& box) {
-    Box result;
-    result.add(map({box.left, box.top}));
-    result.add(map({box.right, box.bottom}));
-    return result;
-}
-
 } // namespace
 
 void TreeReader::readImage(pugi::xml_node element, const Place& place) {
@@ -66,7 +59,7 @@ std::optional<TreeReader::PictureFrame> TreeReader::framePicture(pugi::xml_node 
     }
     frame.fit =
         fitViewBox({0, 0, width, height}, element.attribute("preserveAspectRatio").value(), frame.viewport);
-    const Box whole = mapped(frame.fit, {0, 0, width, height});
+    const Box whole = boxUnder({0, 0, width, height}, frame.fit);
     frame.shown = showsOverflow(stated) ? whole : whole.intersection(frame.viewport);
     return frame;
 }

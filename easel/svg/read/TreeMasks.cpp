@@ -25,10 +25,6 @@ bool holdsSharesOfBox(pugi::xml_node mask) {
     return std::string_view(mask.attribute("maskContentUnits").value()) == "objectBoundingBox";
 }
 
-Affine fromShares(const Box& box) {
-    return {box.width(), 0, 0, box.height(), box.left, box.top};
-}
-
 // In shares of the box or in lengths, as the element says. What is no length, and a side below 0, is as if it
 // were not stated.
 Box regionOf(pugi::xml_node mask, const LengthContext& lengths) {
@@ -125,10 +121,10 @@ MaskPtr TreeReader::readMask(pugi::xml_node element, const Box& box, const Place
     effects.clip = clips_.clipFor(stated, box, inside);
     effects.mask = maskFor(stated, box, inside);
     addGroup(inside, std::move(effects));
-    const Affine toUser = isPlacedInBox(element) ? fromShares(box) : Affine();
+    const Affine toUser = isPlacedInBox(element) ? boxUnits(box) : Affine();
     narrow(inside, rectangleClip(region, place.toDrawing * toUser));
     if (holdsSharesOfBox(element))
-        inside.toDrawing = inside.toDrawing * fromShares(box);
+        inside.toDrawing = inside.toDrawing * boxUnits(box);
     readApart(element, std::move(inside), mask->objects);
     return mask;
 }

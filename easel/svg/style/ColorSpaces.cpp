@@ -1,5 +1,6 @@
 #include "easel/svg/style/ColorSpaces.h"
 
+#include "easel/drawing/SrgbCurve.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
@@ -23,15 +24,7 @@ Triple mapEach(const Triple& v, double (*curve)(double)) {
     return {curve(v[0]), curve(v[1]), curve(v[2])};
 }
 
-// The curves of the spaces; negative values mirror the positive ones.
-double srgbEncode(double linear) {
-    const double a = std::abs(linear);
-    return std::copysign(a <= 0.0031308 ? 12.92 * a : 1.055 * std::pow(a, 1 / 2.4) - 0.055, linear);
-}
-double srgbDecode(double encoded) {
-    const double a = std::abs(encoded);
-    return std::copysign(a <= 0.04045 ? a / 12.92 : std::pow((a + 0.055) / 1.055, 2.4), encoded);
-}
+// The curves of the other spaces; negative values mirror the positive ones.
 double a98Decode(double encoded) {
     return std::copysign(std::pow(std::abs(encoded), 563.0 / 256), encoded);
 }
@@ -68,7 +61,7 @@ constexpr Matrix kXyz50To65{{{0.9554734527042182, -0.023098536874261423, 0.06325
                              {0.012314001688319899, -0.020507696433477912, 1.3303659366080753}}};
 
 Triple xyzToRgb(const Triple& xyz) {
-    return mapEach(kXyzToLinearSrgb * xyz, srgbEncode);
+    return mapEach(kXyzToLinearSrgb * xyz, drawing::srgbOf);
 }
 
 } // namespace
@@ -116,11 +109,11 @@ Triple oklabToRgb(const Triple& oklab) {
                                      {-1.2684379732850315, 2.6097573492876882, -0.341319376002657},
                                      {-0.0041960761386756, -0.7034186179359362, 1.7076146940746117}}};
     const Triple cones = mapEach(kToCones * oklab, [](double v) { return v * v * v; });
-    return mapEach(kConesToLinear * cones, srgbEncode);
+    return mapEach(kConesToLinear * cones, drawing::srgbOf);
 }
 
 Triple rgbToLinear(const Triple& rgb) {
-    return mapEach(rgb, srgbDecode);
+    return mapEach(rgb, drawing::linearLightOf);
 }
 
 Triple rgbToOklab(const Triple& rgb) {
@@ -152,9 +145,9 @@ Triple spaceToRgb(std::string_view name, const Triple& values) {
     if (is("srgb"))
         return values;
     if (is("srgb-linear"))
-        return mapEach(values, srgbEncode);
+        return mapEach(values, drawing::srgbOf);
     if (is("display-p3"))
-        return xyzToRgb(kP3ToXyz * mapEach(values, srgbDecode));
+        return xyzToRgb(kP3ToXyz * mapEach(values, drawing::linearLightOf));
     if (is("a98-rgb"))
         return xyzToRgb(kA98ToXyz * mapEach(values, a98Decode));
     if (is("rec2020"))

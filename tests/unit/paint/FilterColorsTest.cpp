@@ -1,6 +1,7 @@
 // Effects on the color of each pixel, against their formulas in doubles.
 #include "tests/unit/paint/FilterPixels.h"
 
+#include "easel/drawing/SrgbCurve.h"
 #include "easel/paint/filter/ColorMatrix.h"
 #include "easel/paint/filter/ComponentTransfer.h"
 #include "easel/paint/filter/Composite.h"
@@ -17,6 +18,8 @@ namespace {
 
 using namespace easel;
 using namespace easel::paint;
+using drawing::linearLightOf;
+using drawing::srgbOf;
 
 constexpr std::array kShifts = {16u, 8u, 0u, 24u}; // red, green, blue, alpha
 
