@@ -1,8 +1,8 @@
 // What filters show, as pictures.
 #include "easel/drawing/Filter.h"
 #include "easel/drawing/Luminance.h"
+#include "easel/export/CairoGeometry.h"
 #include "easel/export/CairoImage.h"
-#include "easel/export/CairoMatrix.h"
 #include "easel/export/CairoPainter.h"
 #include "easel/paint/Layer.h"
 #include "easel/paint/ObjectPainter.h"
@@ -44,11 +44,10 @@ void CairoPainter::paintFiltered(const drawing::Group& group, std::span<const dr
         painted_.next();
     const Affine toTarget = mapToTarget(cairo_);
     const double scale = detail_ * std::hypot(toTarget.a, toTarget.b);
-    drawing::Box seen;
-    cairo_clip_extents(cairo_, &seen.left, &seen.top, &seen.right, &seen.bottom);
     const Affine toPixels = Affine::scaling(scale, scale);
     const auto picture = paint::ObjectPainter::filteredPicture(
-        group, objects, toPixels, paint::pixelsUnder(seen, toPixels, paint::kAllPixels), filterPictures_);
+        group, objects, toPixels, paint::pixelsUnder(shownBox(cairo_), toPixels, paint::kAllPixels),
+        filterPictures_);
     if (!picture.pixels || cairo_status(cairo_) != CAIRO_STATUS_SUCCESS)
         return;
     const CairoImage image =

@@ -1,7 +1,7 @@
 // Masks for Cairo, which knows those of alpha only: outlines where alpha can tell what the mask shows, and
 // else a picture.
+#include "easel/export/CairoGeometry.h"
 #include "easel/export/CairoImage.h"
-#include "easel/export/CairoMatrix.h"
 #include "easel/export/CairoPainter.h"
 #include "easel/export/MaskAlpha.h"
 #include "easel/paint/Layer.h"
@@ -27,10 +27,7 @@ drawing::Box placeOf(const drawing::Mask& mask, cairo_t* cairo) {
     drawing::Box objects;
     for (const drawing::ObjectPtr& object : mask.objects)
         objects.add(object->paintBounds());
-    drawing::Box shown;
-    cairo_clip_extents(cairo, &shown.left, &shown.top, &shown.right, &shown.bottom);
-    return {std::max(objects.left, shown.left), std::max(objects.top, shown.top),
-            std::min(objects.right, shown.right), std::min(objects.bottom, shown.bottom)};
+    return objects.intersection(shownBox(cairo));
 }
 
 } // namespace

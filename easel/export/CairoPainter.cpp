@@ -1,8 +1,9 @@
 // Drawings as calls of Cairo.
 #include "easel/export/CairoPainter.h"
 
-#include "easel/export/CairoMatrix.h"
+#include "easel/export/CairoGeometry.h"
 #include "easel/export/GradientRange.h"
+#include "easel/export/GradientRepeats.h"
 #include "easel/export/MaskAlpha.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/ObjectPaintSource.h"
@@ -336,7 +337,9 @@ void CairoPainter::strokeOutline(const Object& object, const drawing::Affine& un
 
 void CairoPainter::setSource(const paint::PaintSource& source, double opacity) {
     if (const auto* gradient = std::get_if<const drawing::Gradient*>(&source)) {
-        const std::optional<drawing::RampStop> only = onlyColor(**gradient);
+        std::optional<drawing::RampStop> only = onlyColor(**gradient);
+        if (!only)
+            only = meanOfRepeats(**gradient, shownBox(cairo_));
         if (!only)
             return setGradient(withinUnitRange(**gradient), opacity);
         return setSource(drawing::ColorPaint{only->color, only->opacity}, opacity);

@@ -1,7 +1,7 @@
 // Patterns for Cairo: the cell as a recording that repeats, so that it keeps its outlines.
 #include "easel/drawing/Object.h"
 #include "easel/drawing/Pattern.h"
-#include "easel/export/CairoMatrix.h"
+#include "easel/export/CairoGeometry.h"
 #include "easel/export/CairoPainter.h"
 
 #include <cairo.h>

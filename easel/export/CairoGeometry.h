@@ -1,4 +1,4 @@
-// Maps, as Cairo has them.
+// Maps and boxes between Cairo and ours.
 #pragma once
 
 #include "easel/drawing/Geometry.h"
@@ -16,6 +16,13 @@ inline drawing::Affine mapToTarget(cairo_t* cairo) {
     cairo_matrix_t matrix;
     cairo_get_matrix(cairo, &matrix);
     return {matrix.xx, matrix.yx, matrix.xy, matrix.yy, matrix.x0, matrix.y0};
+}
+
+// What is not clipped, in the coordinates of what is painted now.
+inline drawing::Box shownBox(cairo_t* cairo) {
+    drawing::Box shown;
+    cairo_clip_extents(cairo, &shown.left, &shown.top, &shown.right, &shown.bottom);
+    return shown;
 }
 
 } // namespace easel::exports
