@@ -2,8 +2,8 @@
 #include "easel/classic/HostFiles.h"
 
 #include "easel/classic/PairCommit.h"
+#include "easel/files/UserFolders.h"
 
-#include <cstdlib>
 #include <unistd.h>
 #include <utility>
 
@@ -26,12 +26,7 @@ AppleDouble newHeader(const FinderInfo& info) {
 } // namespace
 
 StoragePlaces StoragePlaces::ofUser() {
-    // The base directory specification wants relative paths in the variable ignored.
-    const char* const configuration = std::getenv("XDG_CONFIG_HOME");
-    const char* const home = std::getenv("HOME");
-    const auto base = configuration && *configuration == '/' ? fs::path(configuration)
-                                                             : fs::path(home ? home : "/") / ".config";
-    return {base / "kestrad", files::Trash::desktopHome()};
+    return {files::configurationFolder() / "kestrad", files::Trash::desktopHome()};
 }
 
 StoragePlaces StoragePlaces::within(const fs::path& folder) {

@@ -1,11 +1,11 @@
 // The desktop's trash: choosing it by device, naming what goes in, and noting where it came from.
 #include "easel/files/Trash.h"
 
+#include "easel/files/UserFolders.h"
 #include "easel/files/WholeFile.h"
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <ctime>
 #include <sys/stat.h>
 
@@ -147,12 +147,7 @@ void TrashPlace::keep() {
 }
 
 fs::path Trash::desktopHome() {
-    // The specification wants relative paths in the variable ignored.
-    const char* const data = std::getenv("XDG_DATA_HOME");
-    if (data && *data == '/')
-        return fs::path(data) / "Trash";
-    const char* const home = std::getenv("HOME");
-    return fs::path(home ? home : "/") / ".local" / "share" / "Trash";
+    return dataFolder() / "Trash";
 }
 
 Result<TrashPlace> Trash::reserve(std::span<const fs::path> originals, Flushing flushing) const {

@@ -1,7 +1,8 @@
 // Names the marks after the files and tells by their locks whose are still in use.
 #include "easel/recovery/FileUse.h"
 
-#include "easel/files/StateFolder.h"
+#include "easel/files/FolderReader.h"
+#include "easel/files/UserFolders.h"
 
 #include <array>
 #include <cerrno>
@@ -72,15 +73,15 @@ bool FileUse::isShared() const {
     const std::string own = mark_.filename().string();
     const std::string begin = own.substr(0, kDigits + 1);
     bool shared = false;
-    std::error_code error;
-    for (fs::directory_iterator at(mark_.parent_path(), error), end; !error && at != end;
-         at.increment(error)) {
-        const std::string name = at->path().filename().string();
+    files::FolderReader marks(mark_.parent_path());
+    while (marks.next()) {
+        const std::string_view name = marks.name();
         if (!name.starts_with(begin) || name == own)
             continue;
-        const FileDescriptor open(::open(at->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        const fs::path other = mark_.parent_path() / name;
+        const FileDescriptor open(::open(other.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
         if (open && ::flock(open.number(), LOCK_SH | LOCK_NB) == 0)
-            ::unlink(at->path().c_str());
+            ::unlink(other.c_str());
         else if (open)
             shared = true;
     }

@@ -2,7 +2,8 @@
 #include "easel/recovery/Journal.h"
 
 #include "easel/files/AtomicFile.h"
-#include "easel/files/StateFolder.h"
+#include "easel/files/FolderReader.h"
+#include "easel/files/UserFolders.h"
 #include "easel/files/WholeFile.h"
 
 #include <algorithm>
@@ -103,9 +104,9 @@ Result<Journal> Journal::begin(const fs::path& folder, const fs::path& origin) {
 std::vector<Journal> Journal::abandonedIn(const fs::path& folder) {
     files::removeLeftovers(folder);
     std::vector<Journal> found;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        const fs::path& lock = at->path();
+    files::FolderReader entries(folder);
+    while (entries.next()) {
+        const fs::path lock = folder / entries.name();
         if (lock.extension() != kLockSuffix)
             continue;
         FileDescriptor open(::open(lock.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
@@ -114,9 +115,9 @@ std::vector<Journal> Journal::abandonedIn(const fs::path& folder) {
         const auto origin = files::readWholeFile(lock);
         const fs::path base = fs::path(lock).replace_extension();
         Journal journal(withSuffix(base, kDrawingSuffix), lock,
-                        origin ? fs::path(std::string(origin->begin(), origin->end())) : fs::path(),
-                        std::move(open));
-        if (fs::exists(journal.drawing_, error))
+                        origin ? fs::path(files::charactersOf(*origin)) : fs::path(), std::move(open));
+        std::error_code unknown;
+        if (fs::exists(journal.drawing_, unknown))
             found.push_back(std::move(journal));
         else
             journal.remove();

@@ -1,6 +1,8 @@
 // Whether templates were saved since some moment.
 #include "easel/runtime/TemplateSaves.h"
 
+#include "easel/files/FolderReader.h"
+
 #include <system_error>
 #include <utility>
 
@@ -25,9 +27,9 @@ bool TemplateSaves::any() const {
     // Files are written elsewhere and renamed, which changes the folder, as deleting one does.
     if (lastChange(folder_) == changed_)
         return false;
-    std::error_code failed;
-    for (fs::directory_iterator file(folder_, failed), end; !failed && file != end; file.increment(failed))
-        if (lastChange(file->path()) > changed_)
+    files::FolderReader files(folder_);
+    while (files.next())
+        if (lastChange(folder_ / files.name()) > changed_)
             return true;
     return false;
 }
