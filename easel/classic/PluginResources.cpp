@@ -253,7 +253,7 @@ files::Result<PluginResources> PluginResources::read(const std::filesystem::path
     const auto bytes = files::readWholeFile(file, kLargestResourceFile);
     if (!bytes)
         return tl::unexpected(bytes.error());
-    return parse({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, file);
+    return parse(files::charactersOf(*bytes), file);
 }
 
 files::Result<PluginResources> PluginResources::parse(std::string_view xml,

@@ -99,7 +99,7 @@ Result<ImportedGradient> importFile(const fs::path& file) {
         return tl::unexpected(read.error());
     if (format == Format::MacBinary)
         return importMacBinary(*read, file);
-    const std::string_view text(reinterpret_cast<const char*>(read->data()), read->size());
+    const std::string_view text = files::charactersOf(*read);
     return format == Format::Ggr ? readGgr(text, file) : readCss(text, file);
 }
 

@@ -40,7 +40,7 @@ Result<> overwriteFile(const std::filesystem::path& file, std::string_view conte
         return {};
     auto error = lastSystemError(file);
     if (old)
-        fill(open, {reinterpret_cast<const char*>(old->data()), old->size()});
+        fill(open, charactersOf(*old));
     return tl::unexpected(std::move(error));
 }
 

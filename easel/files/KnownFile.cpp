@@ -42,7 +42,7 @@ KnownFile::Fate KnownFile::lookInto() {
     const auto content = readWholeFile(file_);
     if (!content)
         return Fate::Changed;
-    if (!isContent({reinterpret_cast<const char*>(content->data()), content->size()}))
+    if (!isContent(charactersOf(*content)))
         return Fate::Changed;
     look_ = now;
     return Fate::Same;

@@ -30,13 +30,10 @@ Box viewportOf(const StatedStyle& stated, const LengthContext& lengths, double w
 } // namespace
 
 void TreeReader::readImage(pugi::xml_node element, const Place& place) {
-    const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
-    if (equalIgnoringCase(stated[Property::Display], "none"))
+    auto start = styled(element, place);
+    if (!start || isOutOfSight(*start))
         return;
-    Place inside = place;
-    inside.style = place.style.inherited(stated, inside.lengths);
-    if (!inside.style.visible && waiting_ == 0)
-        return;
+    auto& [stated, inside] = *start;
     noteEffects(stated);
     const PictureContent content = pictures_.content(hrefOf(element));
     if (const auto* const pixels = std::get_if<std::shared_ptr<const drawing::Picture>>(&content))

@@ -174,14 +174,23 @@ void TreeReader::readSwitch(pugi::xml_node element, Inside inside) {
     }
 }
 
+std::optional<TreeReader::Styled> TreeReader::styled(pugi::xml_node element, const Place& place) const {
+    Styled start{scene_.cascade.of(element, place.style.custom), place};
+    if (equalIgnoringCase(start.stated[Property::Display], "none"))
+        return std::nullopt;
+    start.inside.style = place.style.inherited(start.stated, start.inside.lengths);
+    return start;
+}
+
+bool TreeReader::isOutOfSight(const Styled& start) const {
+    return !start.inside.style.visible && waiting_ == 0;
+}
+
 void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name, const Place& place) {
-    const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
-    if (equalIgnoringCase(stated[Property::Display], "none"))
+    auto start = styled(element, place);
+    if (!start || isOutOfSight(*start))
         return;
-    Place inside = place;
-    inside.style = place.style.inherited(stated, inside.lengths);
-    if (!inside.style.visible && waiting_ == 0)
-        return;
+    auto& [stated, inside] = *start;
     const auto shape = readShape(element, name, stated, inside.lengths);
     if (!shape)
         return;

@@ -94,6 +94,15 @@ class TreeReader {
     void finish(const Work& work);
     void readElement(pugi::xml_node element, const Place& place);
     void readContainer(pugi::xml_node element, std::string_view name, const Place& place);
+    // What is said of an element, and its place with the style that is in force there. Nothing if it is not
+    // displayed.
+    struct Styled {
+        StatedStyle stated;
+        Place inside;
+    };
+    std::optional<Styled> styled(pugi::xml_node element, const Place& place) const;
+    // Hidden elements still count where somebody waits for the box of what they are in.
+    bool isOutOfSight(const Styled& start) const;
     void readShapeElement(pugi::xml_node element, std::string_view name, const Place& place);
     void readImage(pugi::xml_node element, const Place& place);
     // Where a picture of that size lies, if it shows. Brings `inside` from the units around the element's

@@ -23,11 +23,10 @@ Place unpainted(Place place) {
 } // namespace
 
 void TreeReader::readTextElement(pugi::xml_node element, const Place& place) {
-    const StatedStyle stated = scene_.cascade.of(element, place.style.custom);
-    if (equalIgnoringCase(stated[Property::Display], "none"))
+    auto start = styled(element, place);
+    if (!start)
         return;
-    Place inside = place;
-    inside.style = place.style.inherited(stated, inside.lengths);
+    auto& [stated, inside] = *start;
     auto text = readText(element, stated, scene_, inside);
     if (!text)
         return;

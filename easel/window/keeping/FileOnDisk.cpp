@@ -52,7 +52,7 @@ void FileOnDisk::follow(files::KnownFile known) {
 void FileOnDisk::accept() {
     files::KnownFile now(known_.file());
     if (const auto content = files::readWholeFile(now.file()))
-        now.setContent({reinterpret_cast<const char*>(content->data()), content->size()});
+        now.setContent(files::charactersOf(*content));
     follow(std::move(now));
     // A file that is gone stays so until it is written again.
     lookInto();

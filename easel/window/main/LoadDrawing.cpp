@@ -49,7 +49,7 @@ files::KnownFile knownBefore(const std::filesystem::path& file, const std::files
     if (error || written > std::filesystem::last_write_time(other, error))
         return known;
     if (const auto content = files::readWholeFile(file))
-        known.setContent({reinterpret_cast<const char*>(content->data()), content->size()});
+        known.setContent(files::charactersOf(*content));
     return known;
 }
 

@@ -136,11 +136,7 @@ QString MainWindow::fileForExport(const QString& suffix) {
 }
 
 bool MainWindow::mayReplace(const QString& file) {
-    runtime::Alert alert;
-    alert.text = tr("%1 is there already. Replace it?").arg(file).toStdString();
-    alert.yesButton = tr("Replace").toStdString();
-    alert.noButton = tr("Cancel").toStdString();
-    return ask(alert, this, shared_.interaction.dialogs) == runtime::Answer::Yes;
+    return mayLose(tr("%1 is there already. Replace it?").arg(file), {}, tr("Replace"));
 }
 
 void MainWindow::exportAs(const QString& suffix) {
