@@ -42,7 +42,8 @@ void addRenderCommand(CLI::App& app, int& exitCode) {
         ->add_option(
             "PICTURE", request->picture,
             "The picture; its ending, .png, .pdf or .svg, chooses the format. A PNG has a transparent "
-            "background; PDF and SVG keep outlines and gradients as such. A file of that name is replaced")
+            "background; PDF and SVG keep outlines, text and gradients as such. A file of that name is "
+            "replaced")
         ->required()
         ->type_name("");
     CLI::Option* const width =

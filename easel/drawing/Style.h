@@ -1,11 +1,17 @@
-// How an object is painted apart from its fill: stroke, opacity and order. One style serves many objects.
+// How an object is painted apart from its fill: stroke, opacity and order, and by which letters. One style
+// serves many objects.
 #pragma once
 
 #include "easel/drawing/Paint.h"
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <vector>
+
+namespace easel::type {
+struct SetText;
+}
 
 namespace easel::drawing {
 
@@ -33,6 +39,9 @@ struct Style {
     double fillOpacity = 1; // multiplies every kind of fill
     double opacity = 1;     // of fill and stroke painted together
     PaintStep first = PaintStep::Fill;
+    // The letters that the outline is made of, in the units that `unitsOf` takes to the drawing; null: not of
+    // any.
+    std::shared_ptr<const type::SetText> text;
 
     friend bool operator==(const Style&, const Style&) = default;
 };

@@ -263,16 +263,41 @@ void CairoPainter::paintObject(const Object& object) {
 
 void CairoPainter::paintFill(const Object& object, double opacity) {
     const paint::HeldPaintSource source = paint::HeldPaintSource::ofFill(object);
-    if (!source.visible())
-        return;
     opacity *= drawing::validOpacity(drawing::styleOf(object).fillOpacity);
-    if (source.picture())
+    if (source.visible() && source.picture())
         return paintPicture(object, *source.picture(), opacity);
-    withSource(source, opacity, [&] {
-        addPath(object.outline);
-        cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
-        cairo_fill(cairo_);
-    });
+    const type::SetText* const text = textOf(object);
+    const bool asLetters = text && source.visible() && paintLetters(object, *text, source, opacity);
+    if (source.visible() && !asLetters)
+        withSource(source, opacity, [&] {
+            addPath(object.outline);
+            cairo_set_fill_rule(cairo_, ruleOf(object.fillRule));
+            cairo_fill(cairo_);
+        });
+    const bool strokesAlone = !source.visible() && drawing::strokes(drawing::styleOf(object));
+    if (text && !asLetters && (source.visible() || strokesAlone))
+        letters_.showNothing(*text, drawing::unitsOf(object));
+}
+
+// Letters may lie over each other, and make one layer if they are faint.
+bool CairoPainter::paintLetters(const Object& object, const type::SetText& text,
+                                const paint::HeldPaintSource& source, double opacity) {
+    bool shown = false;
+    const auto show = [&] { shown = letters_.show(text, drawing::unitsOf(object)); };
+    const paint::PaintSource own = source.source();
+    const auto* const color = source.pattern() ? nullptr : std::get_if<drawing::ColorPaint>(&own);
+    const auto opaque = [&] {
+        if (!color)
+            return withSource(source, 1, show);
+        setSource(drawing::ColorPaint{color->color, 1}, 1);
+        show();
+    };
+    opacity *= color ? drawing::validOpacity(color->opacity) : 1;
+    if (opacity >= 1)
+        opaque();
+    else
+        apart(opaque, [&](cairo_pattern_t* layer) { paintPattern(cairo_, layer, opacity); });
+    return shown;
 }
 
 template <class Use>

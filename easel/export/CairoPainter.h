@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
+#include "easel/export/CairoLetters.h"
 #include "easel/export/CairoPicture.h"
 #include "easel/export/Progress.h"
 #include "easel/paint/FilterPictures.h"
@@ -20,7 +21,8 @@ class CairoPainter {
   public:
     // User space of the context is that of the drawing. The context must outlive the painter. What can be
     // said by a picture only gets `detail` pixels for each of the target's own, across and down.
-    explicit CairoPainter(cairo_t* cairo, double detail = 1) : cairo_(cairo), detail_(detail) {}
+    explicit CairoPainter(cairo_t* cairo, double detail = 1)
+        : cairo_(cairo), detail_(detail), letters_(cairo) {}
 
     // Throws Cancelled.
     void paint(const drawing::Drawing& drawing, const Progress& progress = {});
@@ -35,6 +37,13 @@ class CairoPainter {
     template <class Content, class Use> void apart(Content paint, Use use);
     void paintObject(const drawing::Object& object);
     void paintFill(const drawing::Object& object, double opacity);
+    // False, having shown nothing, if only the outline can say it.
+    bool paintLetters(const drawing::Object& object, const type::SetText& text,
+                      const paint::HeldPaintSource& source, double opacity);
+    // What is to be written as text; null: nothing. What masks show is no text.
+    const type::SetText* textOf(const drawing::Object& object) const {
+        return luminanceAsAlpha_ || !letters_.possible() ? nullptr : drawing::styleOf(object).text.get();
+    }
     void paintStroke(const drawing::Object& object, double opacity);
     // With the source that the context has. `units` shape the pen.
     void strokeOutline(const drawing::Object& object, const drawing::Affine& units);
@@ -65,6 +74,7 @@ class CairoPainter {
     bool blends_ = false;           // anywhere in the drawing
     bool luminanceAsAlpha_ = false; // colors are painted with their luminance in the place of their opacity
     CairoPictures pictures_;
+    CairoLetters letters_;
     PieceCount painted_;
     paint::FilterPictures filterPictures_;
 };

@@ -1,4 +1,4 @@
-// Drawings as PDF files: outlines stay outlines and gradients stay gradients.
+// Drawings as PDF files: outlines stay outlines, text stays text and gradients stay gradients.
 #pragma once
 
 #include "easel/drawing/Drawing.h"

@@ -4,6 +4,7 @@
 
 #include "easel/export/GradientRange.h"
 #include "easel/export/PictureElement.h"
+#include "easel/export/TextElement.h"
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
 #include "easel/paint/ObjectPaintSource.h"
@@ -101,6 +102,8 @@ class SvgWriter {
         if (const auto* const picture = std::get_if<drawing::PicturePtr>(&object.fill);
             picture && object.kind == drawing::Kind::Picture)
             return writePicture(object, **picture);
+        if (object.kind == drawing::Kind::Text && writeText(object))
+            return;
         const Affine units = drawing::penUnitsOf(object);
         const bool stroked = drawing::strokes(style) && units.invertible();
         // Where it shows, the pen keeps the shape that the object's own units give it.
@@ -122,6 +125,47 @@ class SvgWriter {
             writeWithin(nullptr, *object.markers);
             body_ += "</g>\n";
         }
+    }
+    // A faint fill alone is a faint text: pieces of it may lie over each other.
+    static Object faintAsWhole(Object object) {
+        drawing::Style style = drawing::styleOf(object);
+        if (drawing::strokes(style))
+            return object;
+        style.opacity = drawing::validOpacity(style.opacity) * drawing::validOpacity(style.fillOpacity);
+        style.fillOpacity = 1;
+        if (auto* const color = std::get_if<drawing::ColorPaint>(&object.fill)) {
+            style.opacity *= drawing::validOpacity(color->opacity);
+            color->opacity = 1;
+        }
+        object.style = std::make_shared<const drawing::Style>(std::move(style));
+        return object;
+    }
+    // False, with nothing written, if only its outline can say it. Of what is made of parts, only these show.
+    bool writeText(const Object& shape) {
+        const Object object = shape.markers ? shape : faintAsWhole(shape);
+        const drawing::Style& style = drawing::styleOf(object);
+        const bool isWhole =
+            object.markers && object.fillPattern == drawing::FillPattern::None && !drawing::strokes(style);
+        std::vector<TextElement> elements;
+        if (!isWhole && !(style.text && textElements(object, elements)))
+            return false;
+        const std::string own = attribute("id", object.id.text()) +
+                                attributeUnless(1, "opacity", drawing::validOpacity(style.opacity));
+        const bool alone = elements.size() == 1 && !object.markers;
+        if (!alone)
+            body_ += "<g" + own + ">\n";
+        for (const TextElement& element : elements) {
+            const Affine toOwn = element.toDrawing.inverse();
+            body_ += "<text" + (alone ? own : "") + element.attributes + fillText(object, toOwn);
+            if (drawing::strokes(style))
+                body_ += strokeText(object, toOwn);
+            body_ += svg::paintOrderText(style.first) + ">" + element.content + "</text>\n";
+        }
+        if (object.markers)
+            writeWithin(nullptr, *object.markers);
+        if (!alone)
+            body_ += "</g>\n";
+        return true;
     }
     // What is cut off by its outline is hidden by a clip path of the same outline.
     void writePicture(const Object& object, const drawing::PlacedPicture& placed) {

@@ -116,7 +116,11 @@ Chunk setChunk(const Text& text, std::size_t begin, std::size_t end, const std::
         const Character& character = text.characters[set.first];
         const RunStyle& style = text.styles[character.style];
         set.outline = std::move(cluster.outline);
+        set.face = std::move(cluster.face);
+        set.glyphs = std::move(cluster.glyphs);
+        set.text = own.line.text.substr(cluster.begin, cluster.end - cluster.begin);
         set.upright = cluster.upright;
+        set.rightToLeft = cluster.rightToLeft;
         set.along = chunk.length;
         set.width = cluster.advance * style.size;
         set.advance = set.width + spacingAfter(style, character.character);

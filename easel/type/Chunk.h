@@ -5,6 +5,7 @@
 #include "easel/type/Typesetter.h"
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace easel::type {
@@ -13,6 +14,9 @@ namespace easel::type {
 // the line's baseline it stands.
 struct SetCluster {
     drawing::Path outline; // in ems
+    FacePtr face;
+    std::vector<Glyph> glyphs;
+    std::string text;      // its characters, UTF-8
     std::size_t first = 0; // character
     double along = 0;
     double advance = 0; // with the spacing behind it
@@ -20,6 +24,7 @@ struct SetCluster {
     double across = 0;
     double stretch = 1; // of the letters along the line
     bool upright = false;
+    bool rightToLeft = false;
 };
 
 struct Chunk {

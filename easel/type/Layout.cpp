@@ -3,6 +3,7 @@
 #include "easel/type/Append.h"
 #include "easel/type/Chunk.h"
 #include "easel/type/PathMeasure.h"
+#include "easel/type/SetText.h"
 
 #include <algorithm>
 #include <utility>
@@ -53,6 +54,8 @@ class Layout {
     void paint(Run clusters);
     void paintRun(const Run& run);
     void paintLetters(const Run& run, std::size_t paint);
+    SetRun runOf(const PlacedCluster& cluster, const Affine& toText) const;
+    double advanceInEms(const PlacedCluster& cluster) const;
     void paintDecoration(const Run& run, const Decoration& decoration);
     void addCell(const PlacedCluster& cluster);
 
@@ -196,9 +199,27 @@ void Layout::paintRun(const Run& run) {
 void Layout::paintLetters(const Run& run, std::size_t paint) {
     auto& outlines = placed_.outlines;
     if (outlines.empty() || outlines.back().paint != paint || !outlines.back().letters)
-        outlines.push_back({paint, {}, true});
-    for (const PlacedCluster& cluster : run)
-        append(outlines.back().outline, cluster.set->outline, fromEms(cluster));
+        outlines.push_back({paint, {}, true, {}});
+    for (const PlacedCluster& cluster : run) {
+        const Affine toText = fromEms(cluster);
+        append(outlines.back().outline, cluster.set->outline, toText);
+        outlines.back().text.add(runOf(cluster, toText), cluster.set->text, cluster.set->glyphs,
+                                 {toText.e, toText.f}, advanceInEms(cluster));
+    }
+}
+
+SetRun Layout::runOf(const PlacedCluster& cluster, const Affine& toText) const {
+    return {cluster.set->face,
+            styleOf(*cluster.set).font,
+            {toText.a, toText.b, toText.c, toText.d, 0, 0},
+            cluster.set->rightToLeft,
+            0};
+}
+
+// Without spacing, and before it is stretched.
+double Layout::advanceInEms(const PlacedCluster& cluster) const {
+    const double whole = styleOf(*cluster.set).size * cluster.set->stretch;
+    return whole > 0 ? cluster.set->width / whole : 0;
 }
 
 void Layout::paintDecoration(const Run& run, const Decoration& decoration) {
@@ -233,7 +254,7 @@ void Layout::paintDecoration(const Run& run, const Decoration& decoration) {
         append(path, drawing::rectanglePath({left, down - half, right, down + half}), run[begin].fromLine);
         begin = end;
     }
-    placed_.outlines.push_back({decoration.paint, std::move(path), false});
+    placed_.outlines.push_back({decoration.paint, std::move(path), false, {}});
 }
 
 void Layout::addCell(const PlacedCluster& cluster) {

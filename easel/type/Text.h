@@ -4,6 +4,7 @@
 
 #include "easel/drawing/Path.h"
 #include "easel/type/Font.h"
+#include "easel/type/SetText.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -81,6 +82,7 @@ struct PaintedOutline {
     std::size_t paint = 0;
     drawing::Path outline;
     bool letters = true; // else a line along them
+    SetText text;        // the letters
 };
 
 struct PlacedText {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "easel/drawing/Path.h"
+#include "easel/type/Face.h"
 #include "easel/type/Font.h"
 
 #include <cstddef>
@@ -36,6 +37,8 @@ struct Cluster {
     double advance = 0;
     bool rightToLeft = false;
     bool upright = false;
+    FacePtr face; // null: outlines that no face stands for
+    std::vector<Glyph> glyphs;
 };
 
 class Typesetter {

@@ -20,6 +20,12 @@ Place unpainted(Place place) {
     return place;
 }
 
+std::shared_ptr<const drawing::Style> withText(const Object& object, const type::SetText& text) {
+    drawing::Style style = styleOf(object);
+    style.text = std::make_shared<const type::SetText>(text);
+    return std::make_shared<const drawing::Style>(std::move(style));
+}
+
 } // namespace
 
 void TreeReader::readTextElement(pugi::xml_node element, const Place& place) {
@@ -47,8 +53,12 @@ std::optional<Object> TreeReader::textObject(pugi::xml_node element, const TextS
         Place own = place;
         own.style = paint.style;
         own.lengths = paint.lengths;
-        return reader_.read(element, {Kind::Text, outline.outline, {}, text.cells},
-                            partOpacity * paint.opacity, own);
+        own.style.fillRule = drawing::FillRule::NonZero; // fonts mean their letters so
+        auto object = reader_.read(element, {Kind::Text, outline.outline, {}, text.cells},
+                                   partOpacity * paint.opacity, own);
+        if (object && outline.letters)
+            object->style = withText(*object, outline.text);
+        return object;
     };
     if (text.outlines.size() == 1)
         return part(text.outlines.front(), opacity);

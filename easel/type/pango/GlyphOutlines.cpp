@@ -64,11 +64,46 @@ Affine slantOf(PangoFont* font) {
     return {matrix->xx, matrix->yx, matrix->xy, matrix->yy, 0, 0};
 }
 
-bool lacksBold(PangoFont* font) {
-    FcBool embolden = FcFalse;
+bool says(PangoFont* font, const char* property) {
+    FcBool value = FcFalse;
     FcPattern* const pattern = patternOf(font);
-    return pattern && FcPatternGetBool(pattern, FC_EMBOLDEN, 0, &embolden) == FcResultMatch &&
-           embolden != FcFalse;
+    return pattern && FcPatternGetBool(pattern, property, 0, &value) == FcResultMatch && value != FcFalse;
+}
+
+std::string textIn(PangoFont* font, const char* property) {
+    FcChar8* value = nullptr;
+    FcPattern* const pattern = patternOf(font);
+    if (!pattern || FcPatternGetString(pattern, property, 0, &value) != FcResultMatch)
+        return {};
+    return reinterpret_cast<const char*>(value);
+}
+
+bool isInstance(PangoFont* font) {
+    unsigned int axes = 0;
+    hb_font_get_var_coords_normalized(pango_font_get_hb_font(font), &axes);
+    return axes > 0;
+}
+
+// Small capitals come as the font in a smaller size.
+double sizeOf(PangoFont* font) {
+    PangoFontDescription* const description = pango_font_describe_with_absolute_size(font);
+    const int size = pango_font_description_get_size(description);
+    pango_font_description_free(description);
+    return size;
+}
+
+FacePtr faceOf(PangoFont* font, const Affine& slant, double unitsPerEm) {
+    Face face;
+    FcPattern* const pattern = patternOf(font);
+    face.family = textIn(font, FC_FAMILY);
+    face.file = textIn(font, FC_FILE);
+    if (pattern)
+        FcPatternGetInteger(pattern, FC_INDEX, 0, &face.index);
+    const double scale = sizeOf(font) / unitsPerEm;
+    face.shape = Affine::scaling(scale, -scale) * slant * Affine::scaling(1, -1);
+    face.asInFile =
+        says(font, FC_SCALABLE) && !says(font, FC_COLOR) && !says(font, FC_EMBOLDEN) && !isInstance(font);
+    return std::make_shared<const Face>(std::move(face));
 }
 
 } // namespace
@@ -85,8 +120,10 @@ GlyphOutlines::KnownFont& GlyphOutlines::known(PangoFont* font) {
     KnownFont& known = fonts_[font];
     if (!known.font) {
         known.font.reset(PANGO_FONT(g_object_ref(font)));
-        known.toEms = Affine::scaling(1 / unitsPerEm_, -1 / unitsPerEm_) * slantOf(font);
-        known.embolden = lacksBold(font);
+        const Affine slant = slantOf(font);
+        known.toEms = Affine::scaling(1 / unitsPerEm_, -1 / unitsPerEm_) * slant;
+        known.embolden = says(font, FC_EMBOLDEN);
+        known.face = faceOf(font, slant, unitsPerEm_);
     }
     return known;
 }

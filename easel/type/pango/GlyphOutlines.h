@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Path.h"
+#include "easel/type/Face.h"
 
 #include <hb.h>
 #include <pango/pango.h>
@@ -24,12 +25,15 @@ class GlyphOutlines {
 
     // In ems, down is positive. Copies share their memory.
     drawing::Path of(PangoFont* font, std::uint32_t glyph);
+    // What the outlines are those of.
+    FacePtr face(PangoFont* font) { return known(font).face; }
 
   private:
     struct KnownFont {
         Held<PangoFont> font; // keeps the address from being another font's
         drawing::Affine toEms;
         bool embolden = false;
+        FacePtr face;
         std::unordered_map<std::uint32_t, drawing::Path> outlines;
     };
 

@@ -228,33 +228,35 @@ void PangoTypesetter::addClusters(PangoItem& item, const Line& line, const std::
         cluster.advance = advance / kUnitsPerEm;
         cluster.rightToLeft = item.analysis.level % 2 != 0;
         cluster.upright = upright;
-        cluster.outline = outlineOf(glyphs->glyphs + i, glyphs->glyphs + next, item.analysis.font, upright);
+        cluster.face = outlines_.face(item.analysis.font);
+        draw(cluster, glyphs->glyphs + i, glyphs->glyphs + next, item.analysis.font);
         clusters.push_back(std::move(cluster));
         i = next;
     }
 }
 
-Path PangoTypesetter::outlineOf(const PangoGlyphInfo* begin, const PangoGlyphInfo* end, PangoFont* font,
-                                bool upright) {
-    Path path;
+void PangoTypesetter::draw(Cluster& cluster, const PangoGlyphInfo* begin, const PangoGlyphInfo* end,
+                           PangoFont* font) {
+    Path& path = cluster.outline;
     double pen = 0;
     for (const PangoGlyphInfo* glyph = begin; glyph != end; ++glyph) {
         const PangoGlyphGeometry& geometry = glyph->geometry;
         Point at{(pen + geometry.x_offset) / kUnitsPerEm, geometry.y_offset / kUnitsPerEm};
-        if (upright)
+        if (cluster.upright)
             at = {-at.y, at.x};
         pen += geometry.width;
         if (glyph->glyph == PANGO_GLYPH_EMPTY)
             continue;
         // A letter that no font has is shown as the font's sign for that.
         const bool missing = (glyph->glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
-        const Path outline = outlines_.of(font, missing ? 0 : glyph->glyph);
+        const std::uint32_t number = missing ? 0 : glyph->glyph;
+        cluster.glyphs.push_back({number, static_cast<float>(at.x), static_cast<float>(at.y)});
+        const Path outline = outlines_.of(font, number);
         if (path.empty() && at == Point{})
             path = outline;
         else
             append(path, outline, Affine::translation(at.x, at.y));
     }
-    return path;
 }
 
 FontMetrics PangoTypesetter::metrics(const Font& font) {

@@ -23,8 +23,8 @@ class PangoTypesetter : public Typesetter {
     // `letters`: where in the line letters begin.
     void addClusters(PangoItem& item, const Line& line, const std::vector<int>& letters,
                      std::vector<Cluster>& clusters);
-    drawing::Path outlineOf(const PangoGlyphInfo* begin, const PangoGlyphInfo* end, PangoFont* font,
-                            bool upright);
+    // Gives the cluster its glyphs and their outline.
+    void draw(Cluster& cluster, const PangoGlyphInfo* begin, const PangoGlyphInfo* end, PangoFont* font);
 
     std::mutex mutex_; // Pango's objects may be used by any thread, but by one at a time
     Held<PangoFontMap> fonts_;

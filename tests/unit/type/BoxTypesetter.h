@@ -23,6 +23,8 @@ class BoxTypesetter : public easel::type::Typesetter {
             cluster.end = at += length;
             cluster.outline = easel::drawing::rectanglePath({0, -1, kWidth, 0});
             cluster.advance = kWidth;
+            cluster.face = face;
+            cluster.glyphs = {{static_cast<unsigned char>(line.text[cluster.begin]), 0, 0}};
             clusters.push_back(cluster);
         }
         if (line.rightToLeft)
@@ -40,6 +42,9 @@ class BoxTypesetter : public easel::type::Typesetter {
     }
 
     std::vector<easel::type::Line> lines; // that were shaped
+    // Its glyphs have the numbers of the characters' first bytes.
+    easel::type::FacePtr face = std::make_shared<const easel::type::Face>(
+        easel::type::Face{"Boxes", "/boxes.ttf", 0, {}, true});
 };
 
 // Letters of 20 units, so that each is 10 wide, in one style.
