@@ -52,6 +52,8 @@ class Typesetter {
     virtual std::vector<Cluster> shape(const Line& line) = 0;
     // Of the first of the font's families that is there.
     virtual FontMetrics metrics(const Font& font) = 0;
+    // Whether there is a family of that name, or the name stands for one that is.
+    virtual bool has(const std::string& family) = 0;
 };
 
 // The one of the program; null if its library cannot be loaded.

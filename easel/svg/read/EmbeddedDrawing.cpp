@@ -1,4 +1,5 @@
 #include "easel/svg/read/EmbeddedDrawing.h"
+#include "easel/svg/read/FontReader.h"
 
 #include "easel/svg/read/TreeReader.h"
 #include "easel/svg/text/Encoding.h"
@@ -30,7 +31,8 @@ std::optional<std::vector<drawing::ObjectPtr>> readTree(const ShapePicture& pict
     Surroundings around = outer.around;
     around.file = picture.file;
     around.open.push_back(&picture);
-    const Scene scene{tree, cascade, servers, outer.budget, outer.notes, around};
+    TextFonts fonts(tree, outer.budget);
+    const Scene scene{tree, cascade, servers, outer.budget, outer.notes, around, fonts};
     TreeReader reader(scene, source, {});
     if (!reader.readPlaced(place))
         return std::nullopt;

@@ -2,6 +2,7 @@
 #include "easel/files/Gzip.h"
 #include "easel/files/WholeFile.h"
 #include "easel/svg/Document.h"
+#include "easel/svg/read/FontReader.h"
 #include "easel/svg/read/TreeReader.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/text/Tags.h"
@@ -78,7 +79,8 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
     if (cascade.sheetsImport())
         notes.add(Unsupported::ExternalSheet);
     const Surroundings around{source->file, {}};
-    const Scene scene{tree, cascade, servers, budget, notes, around};
+    TextFonts fonts(tree, budget);
+    const Scene scene{tree, cascade, servers, budget, notes, around, fonts};
     TreeReader reader(scene, *source, options.progress);
     reader.readRoot();
     source->objects.shrink_to_fit();

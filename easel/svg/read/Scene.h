@@ -16,6 +16,7 @@
 namespace easel::svg {
 
 struct ShapePicture;
+class TextFonts;
 
 // Where what is read comes from.
 struct Surroundings {
@@ -31,6 +32,7 @@ struct Scene {
     Budget& budget;
     Notes& notes;
     const Surroundings& around;
+    TextFonts& fonts;
 };
 
 // Where in the drawing an element is read.

@@ -1,5 +1,6 @@
 #include "easel/svg/read/TextReader.h"
 
+#include "easel/svg/read/FontReader.h"
 #include "easel/type/Append.h"
 #include "easel/type/Layout.h"
 
@@ -16,7 +17,7 @@ drawing::Path TextShape::wholeOutline() const {
 
 std::optional<TextShape> readText(pugi::xml_node element, const StatedStyle& stated, const Scene& scene,
                                   const Place& place) {
-    type::Typesetter* const typesetter = type::typesetter();
+    type::Typesetter* const typesetter = scene.fonts.typesetter();
     if (!typesetter) {
         scene.notes.add(Unsupported::Text);
         return std::nullopt;

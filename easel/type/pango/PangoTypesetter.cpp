@@ -285,6 +285,15 @@ FontMetrics PangoTypesetter::metrics(const Font& font) {
     return metrics;
 }
 
+bool PangoTypesetter::has(const std::string& family) {
+    static constexpr std::string_view kGeneric[] = {"serif",   "sans-serif", "monospace",
+                                                    "cursive", "fantasy",    "system-ui"};
+    if (std::find(std::begin(kGeneric), std::end(kGeneric), family) != std::end(kGeneric))
+        return true;
+    const std::lock_guard lock(mutex_);
+    return pango_font_map_get_family(fonts_.get(), family.c_str()) != nullptr;
+}
+
 } // namespace easel::type
 
 extern "C" [[gnu::visibility("default")]] easel::type::Typesetter* easelTypesetter() {

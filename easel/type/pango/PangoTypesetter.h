@@ -17,6 +17,7 @@ class PangoTypesetter : public Typesetter {
 
     std::vector<Cluster> shape(const Line& line) override;
     FontMetrics metrics(const Font& font) override;
+    bool has(const std::string& family) override;
 
   private:
     std::vector<Cluster> shapeNew(const Line& line);

@@ -41,10 +41,12 @@ class BoxTypesetter : public easel::type::Typesetter {
         return metrics;
     }
 
+    bool has(const std::string& family) override { return family == face->family; }
+
     std::vector<easel::type::Line> lines; // that were shaped
     // Its glyphs have the numbers of the characters' first bytes.
-    easel::type::FacePtr face = std::make_shared<const easel::type::Face>(
-        easel::type::Face{"Boxes", "/boxes.ttf", 0, {}, true});
+    easel::type::FacePtr face =
+        std::make_shared<const easel::type::Face>(easel::type::Face{"Boxes", "/boxes.ttf", 0, {}, true});
 };
 
 // Letters of 20 units, so that each is 10 wide, in one style.

@@ -1,0 +1,63 @@
+// A font that a drawing brings along: outlines with the characters they stand for.
+#pragma once
+
+#include "easel/drawing/Path.h"
+#include "easel/type/Face.h"
+#include "easel/type/Font.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace easel::type {
+
+// Measures are in ems.
+struct DrawnGlyph {
+    std::u32string characters; // none: the glyph stands for what the font lacks
+    drawing::Path outline;     // the pen stands at the origin, down is positive
+    double advance = 0;
+};
+
+class DrawnFont {
+  public:
+    Font font; // the one family it is for, and how its letters look
+    bool anyWeight = false;
+    FontMetrics metrics;
+
+    // Glyphs are numbered in the order they come in; the first that fits is taken.
+    std::size_t add(DrawnGlyph glyph);
+    const DrawnGlyph& glyph(std::size_t number) const { return glyphs_[number]; }
+    std::size_t size() const { return glyphs_.size(); }
+    // The glyph that stands for what the characters begin with; null: none does.
+    const DrawnGlyph* match(std::u32string_view characters) const;
+    const DrawnGlyph* missing() const;
+
+    // Moves any of the one glyphs and any of the others that follow them nearer to each other.
+    void addKerning(const std::vector<std::size_t>& left, std::vector<std::size_t> right, double nearer);
+    double kerning(const DrawnGlyph& left, const DrawnGlyph& right) const;
+
+    // What stands for its outlines elsewhere: no file.
+    const FacePtr& face() const { return face_; }
+    void sealFace();
+
+  private:
+    struct Kerning {
+        std::vector<std::size_t> right; // in order
+        double nearer = 0;
+    };
+
+    std::size_t numberOf(const DrawnGlyph& glyph) const {
+        return static_cast<std::size_t>(&glyph - glyphs_.data());
+    }
+
+    std::vector<DrawnGlyph> glyphs_;
+    std::unordered_map<char32_t, std::vector<std::size_t>> byFirst_;
+    std::vector<Kerning> kernings_;
+    std::unordered_map<std::size_t, std::vector<std::size_t>> kerningsOf_; // a glyph on the left
+    std::size_t missing_ = SIZE_MAX;
+    FacePtr face_;
+};
+
+} // namespace easel::type

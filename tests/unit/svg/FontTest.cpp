@@ -1,0 +1,88 @@
+// Fonts that a file brings along for its own text. Their letters are boxes, so that where they go can be told
+// by hand: at 20 units an em, a box of 500 font units is 10 wide.
+#include "tests/unit/svg/ReadHelp.h"
+
+#include <gtest/gtest.h>
+
+using easel::drawing::Box;
+using easel::drawing::Drawing;
+
+namespace {
+
+// A font with the letters A (a box of half an em) and B (one of a whole em).
+std::string fontWith(const std::string& more, const std::string& face = "units-per-em='1000'") {
+    return "<font horiz-adv-x='600'><font-face font-family='Own' " + face +
+           "/><glyph unicode='A' glyph-name='a' d='M0 0H500V500H0Z'/>"
+           "<glyph unicode='B' glyph-name='b' horiz-adv-x='1200' d='M0 0H1000V500H0Z'/>" +
+           more + "</font>";
+}
+
+Box boundsOf(const std::string& font, const std::string& text, const std::string& family = "Own") {
+    const Drawing drawing =
+        readOk(svgFile("<defs>" + font + "</defs><text x='100' y='50' font-size='20' font-family='" + family +
+                       "'>" + text + "</text>"));
+    EXPECT_EQ(drawing.size(), 1U);
+    return drawing.size() == 0 ? Box() : drawing.object(0)->bounds;
+}
+
+void expectBox(const Box& box, double left, double top, double right, double bottom) {
+    EXPECT_NEAR(box.left, left, 1e-9);
+    EXPECT_NEAR(box.top, top, 1e-9);
+    EXPECT_NEAR(box.right, right, 1e-9);
+    EXPECT_NEAR(box.bottom, bottom, 1e-9);
+}
+
+TEST(SvgFont, LettersStandOnTheLineAndAreAsWideAsTheySay) {
+    expectBox(boundsOf(fontWith(""), "A"), 100, 40, 110, 50);
+    // 600 of 1000 units at 20 units an em.
+    expectBox(boundsOf(fontWith(""), "AA"), 100, 40, 122, 50);
+    expectBox(boundsOf(fontWith(""), "BA"), 100, 40, 134, 50);
+}
+
+TEST(SvgFont, UnitsOfTheEmAreThoseOfTheFace) {
+    expectBox(boundsOf(fontWith("", "units-per-em='2000'"), "AA"), 100, 45, 111, 50);
+    // A thousand unless stated.
+    expectBox(boundsOf(fontWith("", ""), "A"), 100, 40, 110, 50);
+}
+
+TEST(SvgFont, PairsAreKernedByCharactersRangesAndNames) {
+    for (const std::string pair :
+         {"u1='A' u2='B'", "u1='x,A' u2='U+42'", "u1='U+40-41' u2='U+4?'", "g1='a' g2='z,b'"})
+        expectBox(boundsOf(fontWith("<hkern " + pair + " k='200'/>"), "AB"), 100, 40, 128, 50);
+    expectBox(boundsOf(fontWith("<hkern u1='B' u2='A' k='200'/>"), "AB"), 100, 40, 132, 50);
+}
+
+TEST(SvgFont, WhatItLacksIsItsSignForThat) {
+    expectBox(boundsOf(fontWith("<missing-glyph d='M0 0H100V1000H0Z'/>"), "?A"), 100, 30, 122, 50);
+}
+
+TEST(SvgFont, ItIsUsedWhereItsFamilyIsTheFirstThatIsThere) {
+    const Box other = boundsOf("", "A", "DejaVu Sans");
+    expectBox(boundsOf(fontWith(""), "A", "DejaVu Sans, Own"), other.left, other.top, other.right,
+              other.bottom);
+    expectBox(boundsOf(fontWith(""), "A", "No Such Family, \"Own\""), 100, 40, 110, 50);
+}
+
+TEST(SvgFont, FontsOfOneFamilyAreToldApartByWeightAndStyle) {
+    const std::string fonts = fontWith("") +
+                              "<font horiz-adv-x='900'><font-face font-family='Own' font-weight='bold'/>"
+                              "<glyph unicode='A' d='M0 0H900V500H0Z'/></font>";
+    const auto widthOf = [&](const std::string& weight) {
+        return boundsOf(fonts, "<tspan font-weight='" + weight + "'>A</tspan>").width();
+    };
+    EXPECT_NEAR(widthOf("400"), 10, 1e-9);
+    EXPECT_NEAR(widthOf("700"), 18, 1e-9);
+}
+
+TEST(SvgFont, AFontThatKernsMorePairsThanThereIsRoomForEndsTheReading) {
+    std::string many;
+    for (int i = 0; i < 4000; ++i)
+        many += "<glyph unicode='&#" + std::to_string(0x4000 + i) + ";'/>";
+    for (int i = 0; i < 4000; ++i)
+        many += "<hkern u1='U+4000-6000' u2='U+4000-6000' k='1'/>";
+    const auto read =
+        easel::svg::readBytes(svgFile(fontWith(many) + "<text font-family='Own'>A</text>"), "many.svg");
+    EXPECT_FALSE(read);
+}
+
+} // namespace
