@@ -79,6 +79,28 @@ std::string taken(CFStringRef string) {
     return text;
 }
 
+// What the process knows of a list, also where a script that fails ends it.
+class OpenList {
+  public:
+    explicit OpenList(DeletionList& list) { process().setDeletionList(&list); }
+    OpenList(const OpenList&) = delete;
+    OpenList& operator=(const OpenList&) = delete;
+    ~OpenList() { process().setDeletionList(nullptr); }
+};
+
+// The names of what is selected in the list that is open, or else of the file that was just found.
+std::vector<std::string> namesAskedAbout() {
+    std::vector<std::string> names;
+    const auto found = process().storage().takeFound();
+    if (DeletionList* const list = process().deletionList()) {
+        for (const int row : list->selection())
+            names.push_back(list->text(row));
+    } else if (found) {
+        names.push_back(*found);
+    }
+    return names;
+}
+
 } // namespace
 
 const ModalFilterUPP StdDlogFilterUPP = passEvent;
@@ -227,6 +249,8 @@ short GetControlData(ControlRef control, short part, OSType tag, long size, void
 bool Confirm(short id) {
     journal("Confirm", id);
     auto alert = easel::runtime::alertDescription(process().plugin().resources(), id);
+    if (alert)
+        alert->about = namesAskedAbout();
     // A plug-in asks the same of a name that no file can have as of one that a file has.
     if (const auto refusal = process().storage().takeRefusal(); alert && refusal)
         alert = easel::runtime::notice(id, refusal->message() + ". Nothing was saved.");
@@ -265,6 +289,7 @@ bool CCarbonDialogBase::Run() {
     const auto textsOf = [this](const std::vector<int>& rows) { return state_->textsNow(rows); };
     DeletionList list(state_->title, state_->count(), textsOf, state_->mode, carryOut);
     state_->list = &list;
+    const OpenList open(list);
     process().user().runDeletion(list);
     return state_->confirmed;
 }

@@ -10,6 +10,16 @@ using classic::fromMacRoman;
 using runtime::journal;
 using runtime::process;
 
+namespace {
+
+// What is done with a file is about that file, and no question after it.
+classic::FileSpec toUse(const FSSpec& spec) {
+    process().storage().takeFound();
+    return runtime::fileSpecFrom(spec);
+}
+
+} // namespace
+
 FSSpec FindSecondaryPreferencesFolder(const CStr255& name, bool create) {
     journal("FindSecondaryPreferencesFolder", fromMacRoman(name.Text()), create);
     const auto found = process().storage().files().findSecondaryFolder(
@@ -38,18 +48,18 @@ OSErr FSMakeFSSpec(short vRefNum, long dirID, const CStr255& name, FSSpec* out) 
 
 OSErr FSpDelete(const FSSpec* spec) {
     journal("FSpDelete");
-    return static_cast<OSErr>(process().storage().files().remove(runtime::fileSpecFrom(*spec)));
+    return static_cast<OSErr>(process().storage().files().remove(toUse(*spec)));
 }
 
 void FSpCreateResFile(const FSSpec* spec, OSType creator, OSType fileType, short scriptCode) {
     journal("FSpCreateResFile", creator, fileType, scriptCode);
-    process().storage().files().create(runtime::fileSpecFrom(*spec), {fileType, creator});
+    process().storage().files().create(toUse(*spec), {fileType, creator});
 }
 
 short FSpOpenResFile(const FSSpec* spec, signed char permission) {
     journal("FSpOpenResFile", permission);
     const auto access = permission == kReadPermission ? classic::Access::Read : classic::Access::Write;
-    return process().storage().resourceFiles().open(runtime::fileSpecFrom(*spec), access);
+    return process().storage().resourceFiles().open(toUse(*spec), access);
 }
 
 short CurResFile() {

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace easel::runtime {
 
@@ -16,6 +17,8 @@ struct Alert {
     std::string noButton;
     // Where no answer makes a difference: the text is something to know, with the one button for no.
     bool isNotice = false;
+    // The names of what the question is about, where its words leave that open; may be empty.
+    std::vector<std::string> about = {};
 };
 
 inline Alert notice(int id, std::string text) {
@@ -25,7 +28,8 @@ inline Alert notice(int id, std::string text) {
             .detail = {},
             .yesButton = {},
             .noButton = "OK",
-            .isNotice = true};
+            .isNotice = true,
+            .about = {}};
 }
 
 } // namespace easel::runtime

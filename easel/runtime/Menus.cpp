@@ -2,6 +2,7 @@
 #include "easel/runtime/Menus.h"
 
 #include "easel/classic/MacRoman.h"
+#include "easel/classic/TemplateInfo.h"
 
 #include <utility>
 
@@ -17,6 +18,11 @@ std::string Menu::text(int number) const {
 
 bool Menu::selectable(int number) const {
     return has(number) && entry(number).enabled && !entry(number).separator;
+}
+
+bool Menu::isHeading(int number) const {
+    return has(number - 1) && entry(number - 1).separator && has(number + 1) &&
+           entry(number + 1).text.ends_with(classic::kTemplateEnding);
 }
 
 void Menu::append(MenuEntry entry) {

@@ -26,6 +26,8 @@ class Menu {
     // Its text in UTF-8.
     std::string text(int number) const;
     bool selectable(int number) const;
+    // Whether it is what a list of templates is headed with: it stands between a line and a template's name.
+    bool isHeading(int number) const;
 
     void append(MenuEntry entry);
     // These do nothing for a number that the menu lacks.

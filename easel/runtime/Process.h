@@ -18,6 +18,7 @@
 
 namespace easel::runtime {
 
+class DeletionList;
 class DrawingWindow;
 class User;
 
@@ -43,6 +44,10 @@ class Process {
     SelDescrimT& pickFilter() { return pickFilter_; }
     SnapSwitches& snap() { return snap_; }
 
+    // The list of things to delete that is open, or null; not owned.
+    DeletionList* deletionList() const { return deletionList_; }
+    void setDeletionList(DeletionList* list) { deletionList_ = list; }
+
     Journal& journal() { return journal_; }
     MemoryBlocks& blocks() { return blocks_; }
     Ports& ports() { return ports_; }
@@ -58,6 +63,7 @@ class Process {
 
     User* user_ = nullptr;
     DrawingWindow* activeWindow_ = nullptr;
+    DeletionList* deletionList_ = nullptr;
     SelDescrimT pickFilter_;
     SnapSwitches snap_;
     Journal journal_;

@@ -18,6 +18,7 @@ classic::FileResult Storage::resolve(std::int16_t volume, std::int64_t folder, s
     using enum classic::FileResult;
     const auto result = files_.resolve(volume, folder, name, out);
     refusal_.reset();
+    found_ = result == Done ? std::optional(classic::fromMacRoman(out.name)) : std::nullopt;
     if (result != Done && result != NoSuchFile)
         refusal_ = refusalOf(result, name);
     return result;
@@ -27,6 +28,10 @@ std::optional<files::Error> Storage::takeRefusal() {
     if (refusal_ && unusable_)
         keptAll_ = false;
     return std::exchange(refusal_, std::nullopt);
+}
+
+std::optional<std::string> Storage::takeFound() {
+    return std::exchange(found_, std::nullopt);
 }
 
 files::Error Storage::refusalOf(classic::FileResult result, std::string_view name) const {

@@ -28,6 +28,9 @@ class Storage {
     // Why the name that was resolved last can be that of no file: a question that is asked right after it is
     // about something that does not exist and cannot be made. Nothing if it can be one, and once taken.
     std::optional<files::Error> takeRefusal();
+    // The name (UTF-8) of the file that was found when a name was resolved last: a question that is asked
+    // right after it is about that file. Nothing if there was no such file, and once taken.
+    std::optional<std::string> takeFound();
     Enumeration& enumeration() { return enumeration_; }
     ResourceFiles& resourceFiles() { return resourceFiles_; }
     const classic::DefaultsStore& defaults() const { return defaults_; }
@@ -48,6 +51,7 @@ class Storage {
     bool keptAll_ = true;
     std::optional<files::Error> unusable_; // why there is no folder to keep anything in
     std::optional<files::Error> refusal_;
+    std::optional<std::string> found_;
     classic::HostFiles files_;
     Enumeration enumeration_;
     ResourceFiles resourceFiles_;

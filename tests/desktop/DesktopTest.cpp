@@ -11,6 +11,9 @@ namespace desktop {
 
 namespace fs = std::filesystem;
 
+// How much longer everything may take than it does on a quiet machine.
+constexpr int kPatience = 3;
+
 std::unique_ptr<Screen> DesktopTest::screen_;
 
 void DesktopTest::SetUpTestSuite() {
@@ -105,14 +108,14 @@ void DesktopTest::startWithDrawing(const std::map<std::string, std::string>& env
 int DesktopTest::quit() {
     getsKeyboard();
     screen().key("ctrl+q");
-    const int code = program_->wait(10s).value_or(-1);
+    const int code = program_->wait(kPatience * 10s).value_or(-1);
     // The server takes a program's windows off the screen a little after its end.
     EXPECT_TRUE(colorVanishes(kPlain));
     return code;
 }
 
 bool DesktopTest::eventually(const std::function<bool()>& condition, std::chrono::milliseconds atMost) {
-    const auto end = std::chrono::steady_clock::now() + atMost;
+    const auto end = std::chrono::steady_clock::now() + kPatience * atMost;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)
             return false;
@@ -190,7 +193,17 @@ Window DesktopTest::openEditor(double h, double v) {
     screen().keyDown("Control_L");
     screen().click(onScreen(h, v));
     screen().keyUp("Control_L");
-    return waitForDialog("Gradient");
+    const Window editor = waitForDialog("Gradient");
+    // A mouse that comes before it listens is not heard. It does by the time the preview's black frame shows.
+    EXPECT_TRUE(eventually([&] {
+        const Area& preview = EditorItems::preview;
+        const Picture shown = screen().picture();
+        for (int y = preview.top - 4; y < preview.top + 4; ++y)
+            if (shown.at(in(editor, {preview.left + 40, y})) == 0)
+                return true;
+        return false;
+    }));
+    return editor;
 }
 
 void DesktopTest::openTemplates(const Window& editor) {
@@ -259,7 +272,9 @@ std::string DesktopTest::saved() {
     const std::string before = contents(drawing());
     getsKeyboard("drawing.svg");
     screen().key("ctrl+s");
-    eventually([&] { return contents(drawing()) != before; }, 3s);
+    eventually([&] { return contents(drawing()) != before; }, 1s);
+    // What has to be written is marked in the title.
+    eventually([&] { return contents(drawing()) != before || !hasWindow("drawing.svg*"); });
     return contents(drawing());
 }
 

@@ -29,8 +29,8 @@ struct EditorItems {
     static constexpr Spot templates{120, 32};
     static constexpr Spot linear{280, 32};
     static constexpr Spot radial{370, 32};
-    static constexpr Spot ok{380, 400};
-    static constexpr Spot cancel{284, 400};
+    static constexpr Spot ok{284, 400};
+    static constexpr Spot cancel{380, 400};
 };
 
 class DesktopTest : public testing::Test {

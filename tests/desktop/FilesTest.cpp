@@ -23,6 +23,26 @@ TEST_F(FilesTest, ADrawingIsOpenedThroughTheFileMenu) {
     EXPECT_EQ(quit(), 0) << "all windows close";
 }
 
+TEST_F(FilesTest, OneFileDialogIsOpenAtATime) {
+    const std::filesystem::path other = folder() / "other.svg";
+    std::filesystem::copy_file(drawing(), other);
+    start({drawing().string(), other.string()});
+    const Window behind = waitForWindow("drawing.svg");
+    waitForWindow("other.svg");
+    EXPECT_TRUE(getsKeyboard("other.svg"));
+    screen().key("ctrl+o");
+    const Window dialog = waitForDialog("Open");
+    // The keyboard goes to a window that is clicked, but for the dialog, which takes it back.
+    screen().click({behind.content.left + 4, behind.content.bottom - 60});
+    screen().key("ctrl+o");
+    screen().key("ctrl+shift+s");
+    EXPECT_TRUE(getsKeyboard("Open"));
+    screen().close(dialog);
+    EXPECT_TRUE(vanishes("Open"));
+    EXPECT_FALSE(hasWindow("Save As"));
+    EXPECT_EQ(quit(), 0);
+}
+
 TEST_F(FilesTest, AFileThatIsNoDrawingIsNamedWithTheReasonAndNothingElseChanges) {
     const std::filesystem::path bad = folder() / "bad.svg";
     std::ofstream(bad) << "this is no drawing";

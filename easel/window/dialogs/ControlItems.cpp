@@ -1,6 +1,8 @@
 // The native controls that need no drawing of ours.
 #include "easel/window/dialogs/ControlItems.h"
 
+#include "easel/window/dialogs/EntryDelegate.h"
+
 #include <QKeyEvent>
 #include <QListView>
 #include <QWheelEvent>
@@ -26,6 +28,8 @@ Qt::Alignment alignmentOf(const runtime::DialogItem& item) {
 }
 
 constexpr int kEntriesInSight = 24;
+// Of a list whose entries are names of files, in characters.
+constexpr int kListWidth = 32;
 
 } // namespace
 
@@ -75,6 +79,7 @@ void RadioItem::modelChanged(runtime::ItemChange) {
 
 void MenuModel::reload() {
     beginResetModel();
+    pictures_.clear();
     shownCount_ = menu_.count();
     endResetModel();
 }
@@ -92,23 +97,42 @@ QVariant MenuModel::data(const QModelIndex& index, int role) const {
     // The word by which combo boxes know a separator.
     if (role == Qt::AccessibleDescriptionRole && menu_.entry(number).separator)
         return QStringLiteral("separator");
+    if (role == Qt::DecorationRole && !menu_.entry(number).separator)
+        return pictureOf(number);
+    if (role == Qt::FontRole && menu_.isHeading(number)) {
+        QFont font = shown_->font();
+        font.setBold(true);
+        return font;
+    }
     return {};
 }
 
 Qt::ItemFlags MenuModel::flags(const QModelIndex& index) const {
-    if (!menu_.selectable(index.row() + 1))
+    if (!menu_.selectable(index.row() + 1) || menu_.isHeading(index.row() + 1))
         return Qt::NoItemFlags;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
 }
 
-PopupItem::PopupItem(runtime::Dialog& dialog, int item, QWidget* parent)
+QIcon MenuModel::pictureOf(int number) const {
+    if (!picture_)
+        return {};
+    const std::string text = menu_.text(number);
+    const QString key = QString::fromStdString(text);
+    const auto known = pictures_.constFind(key);
+    return known != pictures_.cend() ? *known
+                                     : *pictures_.insert(key, picture_(text, shown_->devicePixelRatioF()));
+}
+
+PopupItem::PopupItem(runtime::Dialog& dialog, int item, EntryPicture picture, QWidget* parent)
     : QComboBox(parent), dialog_(dialog), item_(item),
-      entries_(new MenuModel(*dialog.item(item)->menu, this)) {
+      entries_(new MenuModel(*dialog.item(item)->menu, std::move(picture), this)) {
     setFocusPolicy(Qt::TabFocus);
     auto* list = new QListView(this);
     list->setUniformItemSizes(false);
     list->setLayoutMode(QListView::Batched);
     setView(list);
+    list->setItemDelegate(new EntryDelegate(list));
+    list->setMinimumWidth(kListWidth * fontMetrics().averageCharWidth());
     setModel(entries_);
     setMaxVisibleItems(kEntriesInSight);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -5,9 +5,13 @@
 
 #include <QAbstractListModel>
 #include <QComboBox>
+#include <QHash>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <functional>
 
 namespace easel::window {
 
@@ -58,19 +62,29 @@ class RadioItem : public QRadioButton, public ItemWidget {
     int item_;
 };
 
-// A menu as a list model: texts as they stand, separators as separators.
+// The picture beside an entry, from its text in UTF-8, at so many pixels a unit; null for none.
+using EntryPicture = std::function<QIcon(const std::string& entry, double deviceScale)>;
+
+// A menu as a list model: texts as they stand, separators as separators, and the heading of templates as
+// what cannot be chosen.
 class MenuModel : public QAbstractListModel {
     Q_OBJECT
 
   public:
-    MenuModel(const runtime::Menu& menu, QObject* parent) : QAbstractListModel(parent), menu_(menu) {}
+    MenuModel(const runtime::Menu& menu, EntryPicture picture, QWidget* parent)
+        : QAbstractListModel(parent), menu_(menu), picture_(std::move(picture)), shown_(parent) {}
     void reload();
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
   private:
+    QIcon pictureOf(int number) const;
+
     const runtime::Menu& menu_;
+    EntryPicture picture_;
+    const QWidget* shown_;
+    mutable QHash<QString, QIcon> pictures_; // of what was in sight
     int shownCount_ = menu_.count();
 };
 
@@ -80,7 +94,7 @@ class PopupItem : public QComboBox, public ItemWidget {
     Q_OBJECT
 
   public:
-    PopupItem(runtime::Dialog& dialog, int item, QWidget* parent);
+    PopupItem(runtime::Dialog& dialog, int item, EntryPicture picture, QWidget* parent);
     QWidget* widget() override { return this; }
     void modelChanged(runtime::ItemChange change) override;
 

@@ -1,12 +1,12 @@
 // Builds the controls of a dialog and keeps them in step with its model.
 #include "easel/window/dialogs/DialogWindow.h"
 
-#include "easel/window/dialogs/ControlItems.h"
 #include "easel/window/dialogs/DialogContent.h"
 #include "easel/window/dialogs/EditItem.h"
 #include "easel/window/dialogs/UserItem.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -37,7 +37,8 @@ runtime::DialogTheme themeOf(const QPalette& palette) {
             rgb(erased)};
 }
 
-ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item, DialogContent& content) {
+ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item,
+                           const EntryPicture& picture, DialogContent& content) {
     switch (item.kind) {
     case runtime::ItemKind::Button:
         return new ButtonItem(dialog, item.number, &content);
@@ -48,7 +49,7 @@ ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& i
     case runtime::ItemKind::UserDrawn:
         return new UserItem(dialog, item.number, content);
     case runtime::ItemKind::Popup:
-        return new PopupItem(dialog, item.number, &content);
+        return new PopupItem(dialog, item.number, picture, &content);
     case runtime::ItemKind::Radio:
         return new RadioItem(dialog, item.number, &content);
     }
@@ -57,7 +58,8 @@ ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& i
 
 } // namespace
 
-DialogWindow::DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, QWidget* parent)
+DialogWindow::DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, const EntryPicture& picture,
+                           QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), dialog_(dialog),
       content_(new DialogContent(dialog, pointer, this)) {
     setWindowTitle(QString::fromStdString(dialog.title()));
@@ -66,7 +68,8 @@ DialogWindow::DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, QWi
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(content_);
     for (const runtime::DialogItem& item : dialog.items())
-        addItem(item);
+        addItem(item, picture);
+    putButtonsInOrder();
     dialog_.setObserver(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
     matchScreen();
@@ -79,8 +82,8 @@ DialogWindow::~DialogWindow() {
     dialog_.setObserver(nullptr);
 }
 
-void DialogWindow::addItem(const runtime::DialogItem& item) {
-    ItemWidget* made = makeItemWidget(dialog_, item, *content_);
+void DialogWindow::addItem(const runtime::DialogItem& item, const EntryPicture& picture) {
+    ItemWidget* made = makeItemWidget(dialog_, item, picture, *content_);
     items_[item.number] = made;
     QWidget* widget = made->widget();
     widget->setGeometry(item.bounds.left, item.bounds.top, item.bounds.width(), item.bounds.height());
@@ -91,6 +94,29 @@ void DialogWindow::addItem(const runtime::DialogItem& item) {
         widget->setFocusPolicy(Qt::NoFocus);
         widget->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
+}
+
+// Where the desktop puts the button that accepts before the one that cancels, so does this dialog, whatever
+// its author did; the two then take each other's place.
+void DialogWindow::putButtonsInOrder() {
+    const auto accept = items_.find(kDefaultItem);
+    const auto cancel = items_.find(kCancelItem);
+    if (accept == items_.end() || cancel == items_.end())
+        return;
+    QWidget* const first = accept->second->widget();
+    QWidget* const second = cancel->second->widget();
+    if (!qobject_cast<QPushButton*>(first) || !qobject_cast<QPushButton*>(second) ||
+        first->y() != second->y())
+        return;
+    const int layout = style()->styleHint(QStyle::SH_DialogButtonLayout, nullptr, this);
+    const bool wanted = layout == QDialogButtonBox::WinLayout || layout == QDialogButtonBox::KdeLayout;
+    if ((first->x() < second->x()) == wanted)
+        return;
+    const QRect all = first->geometry() | second->geometry();
+    QWidget* const left = wanted ? first : second;
+    QWidget* const right = wanted ? second : first;
+    left->move(all.left(), left->y());
+    right->move(all.right() + 1 - right->width(), right->y());
 }
 
 void DialogWindow::itemChanged(int item, runtime::ItemChange change) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/runtime/Dialog.h"
+#include "easel/window/dialogs/ControlItems.h"
 
 #include <QDialog>
 
@@ -20,7 +21,8 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
 
   public:
     // The model and the tracker outlive the window.
-    DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, QWidget* parent);
+    DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, const EntryPicture& picture,
+                 QWidget* parent);
     ~DialogWindow() override;
 
     void reject() override;
@@ -41,7 +43,8 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
     void shownChanged() override {}
     void pixelsDrawn(const paint::PixelRect& area) override;
 
-    void addItem(const runtime::DialogItem& item);
+    void addItem(const runtime::DialogItem& item, const EntryPicture& picture);
+    void putButtonsInOrder();
     void followFocus(const QWidget* now);
     // Makes the image anew for the screen as it is now, as soon as the program is not drawing in it.
     void matchScreen();

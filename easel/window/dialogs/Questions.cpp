@@ -8,14 +8,33 @@
 #include <QPushButton>
 
 namespace easel::window {
+namespace {
+
+constexpr std::size_t kMostNamed = 8;
+
+// The question, and a line for each thing that it is about.
+QString questionOf(const runtime::Alert& alert) {
+    QStringList lines{QString::fromStdString(alert.text)};
+    if (!alert.about.empty())
+        lines << QString();
+    const std::size_t named = alert.about.size() > kMostNamed + 1 ? kMostNamed : alert.about.size();
+    for (std::size_t i = 0; i < named; ++i)
+        lines << QObject::tr("\u201c%1\u201d").arg(QString::fromStdString(alert.about[i]));
+    if (named < alert.about.size())
+        lines << QObject::tr("and %n more", nullptr, static_cast<int>(alert.about.size() - named));
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
 
 runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs) {
     QMessageBox box(over);
     box.setIcon(alert.isNotice ? QMessageBox::Warning : QMessageBox::Question);
     box.setWindowTitle(alert.title.empty() ? QObject::tr("Easel") : QString::fromStdString(alert.title));
     box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdString(alert.text));
+    box.setText(questionOf(alert));
     box.setInformativeText(QString::fromStdString(alert.detail));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     const auto caption = [](const std::string& text) {
         return QString::fromStdString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
     };

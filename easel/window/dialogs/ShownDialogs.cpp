@@ -1,8 +1,10 @@
 // Opens and closes a window for each dialog.
 #include "easel/window/dialogs/ShownDialogs.h"
 
+#include "easel/runtime/TextQuestion.h"
 #include "easel/window/dialogs/DialogWindow.h"
 #include "easel/window/waiting/Interaction.h"
+#include "easel/window/waiting/TellProblem.h"
 
 #include <QScreen>
 
@@ -42,22 +44,23 @@ void putBeside(QWidget& window, const DialogSubject& subject) {
 
 // A key that is pressed while the plug-in follows the mouse is one for the dialog, once the mouse is up.
 struct ShownDialogs::Shown {
-    Shown(runtime::Dialog& dialog, Interaction& interaction)
-        : window(dialog, interaction.pointer, interaction.dialogs.parentForNext()),
+    Shown(runtime::Dialog& dialog, Interaction& interaction, const EntryPicture& picture)
+        : window(dialog, interaction.pointer, picture, interaction.dialogs.parentForNext()),
           keys(interaction.gate, &window, InputGate::Hears::Keys) {}
 
     DialogWindow window;
     InputGate::Scope keys;
 };
 
-ShownDialogs::ShownDialogs(Interaction& interaction) : interaction_(interaction) {}
+ShownDialogs::ShownDialogs(Interaction& interaction, EntryPicture picture)
+    : interaction_(interaction), picture_(std::move(picture)) {}
 
 ShownDialogs::~ShownDialogs() = default;
 
 void ShownDialogs::show(runtime::Dialog& dialog) {
     const bool isFirst = shown_.empty();
     auto& shown = shown_[&dialog];
-    shown = std::make_unique<Shown>(dialog, interaction_);
+    shown = std::make_unique<Shown>(dialog, interaction_, picture_);
     if (isFirst && interaction_.dialogs.subject())
         putBeside(shown->window, *interaction_.dialogs.subject());
     interaction_.dialogs.push(shown->window);
@@ -76,7 +79,17 @@ std::int16_t ShownDialogs::nextHit(runtime::Dialog& dialog) {
     const auto found = shown_.find(&dialog);
     if (found == shown_.end())
         return 0;
-    DialogWindow& window = found->second->window;
+    for (;;) {
+        const std::int16_t hit = nextHit(dialog, *found->second);
+        const runtime::DialogItem* empty = hit == kDefaultItem ? emptyAnswer(dialog) : nullptr;
+        if (!empty)
+            return hit;
+        askForText(dialog, *empty);
+    }
+}
+
+std::int16_t ShownDialogs::nextHit(runtime::Dialog& dialog, Shown& shown) {
+    DialogWindow& window = shown.window;
     const InputGate::Scope scope(interaction_.gate, &window);
     window.programIs(DialogWindow::Program::Waiting);
     interaction_.waiting.sleepUntil([&dialog] { return dialog.hasHit(); });
@@ -84,6 +97,16 @@ std::int16_t ShownDialogs::nextHit(runtime::Dialog& dialog) {
     if (interaction_.waiting.cancelled())
         return 0;
     return static_cast<std::int16_t>(dialog.takeHit().value_or(0));
+}
+
+// The program that runs the dialog would take an empty text for a Cancel, and say nothing.
+void ShownDialogs::askForText(runtime::Dialog& dialog, const runtime::DialogItem& field) {
+    const QString name = QString::fromStdString(field.accessibleName);
+    const QString text = name.isEmpty() ? QObject::tr("The field is empty.")
+                                        : QObject::tr("\u201c%1\u201d is empty.").arg(name);
+    tellProblem(QObject::tr("%1 Type something, or choose Cancel.").arg(text).toStdString(),
+                interaction_.dialogs);
+    dialog.setFocus(field.number);
 }
 
 } // namespace easel::window

@@ -1,13 +1,16 @@
 // The plug-in's dialogs that are on the screen, and waiting for what the user does in them.
 #pragma once
 
+#include "easel/window/dialogs/ControlItems.h"
+
 #include <cstdint>
 #include <map>
 #include <memory>
 
 namespace easel::runtime {
 class Dialog;
-}
+struct DialogItem;
+} // namespace easel::runtime
 
 namespace easel::window {
 
@@ -15,8 +18,8 @@ struct Interaction;
 
 class ShownDialogs {
   public:
-    // Outlives this.
-    explicit ShownDialogs(Interaction& interaction);
+    // The interaction outlives this.
+    ShownDialogs(Interaction& interaction, EntryPicture picture);
     ~ShownDialogs();
     ShownDialogs(const ShownDialogs&) = delete;
     ShownDialogs& operator=(const ShownDialogs&) = delete;
@@ -31,7 +34,11 @@ class ShownDialogs {
   private:
     struct Shown;
 
+    std::int16_t nextHit(runtime::Dialog& dialog, Shown& shown);
+    void askForText(runtime::Dialog& dialog, const runtime::DialogItem& field);
+
     Interaction& interaction_;
+    EntryPicture picture_;
     std::map<const runtime::Dialog*, std::unique_ptr<Shown>> shown_;
 };
 

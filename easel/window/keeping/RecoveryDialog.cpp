@@ -5,6 +5,7 @@
 #include "easel/window/keeping/Thumbnail.h"
 
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
@@ -61,29 +62,29 @@ RecoveryDialog::RecoveryDialog(const std::vector<recovery::Journal>& journals, Q
     layout->setSpacing(12);
     layout->addWidget(text);
     layout->addWidget(list_, 1);
-    auto* row = new QHBoxLayout;
-    layout->addLayout(row);
-    addButtons(*row);
+    auto* buttons = new QDialogButtonBox;
+    layout->addWidget(buttons);
+    addButtons(*buttons);
     resize(520, 400);
     list_->setFocus();
     // Pictures of large drawings take their time; the rest of the dialog is there before.
     QTimer::singleShot(0, this, &RecoveryDialog::drawNextPicture);
 }
 
-void RecoveryDialog::addButtons(QBoxLayout& layout) {
-    const auto add = [&](const QString& text, Choice choice) {
-        auto* button = new QPushButton(text);
+void RecoveryDialog::addButtons(QDialogButtonBox& buttons) {
+    const auto add = [&](const QString& text, QDialogButtonBox::ButtonRole role, Choice choice) {
+        QPushButton* button = buttons.addButton(text, role);
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, choice] { close(choice); });
-        layout.addWidget(button);
         return button;
     };
-    auto* throwAway = add(tr("&Throw Away"), Choice::ThrowAway);
+    // The role of a button that desktops put away from the others.
+    auto* throwAway = add(tr("&Throw Away"), QDialogButtonBox::ResetRole, Choice::ThrowAway);
     throwAway->setToolTip(tr("Move to the trash"));
-    layout.addStretch(1);
-    add(tr("&Later"), Choice::Later)->setToolTip(tr("Ask again at the next start"));
-    auto* saveAs = add(tr("Save &As\u2026"), Choice::SaveAs);
-    auto* open = add(tr("&Open"), Choice::Open);
+    add(tr("&Later"), QDialogButtonBox::RejectRole, Choice::Later)
+        ->setToolTip(tr("Ask again at the next start"));
+    auto* saveAs = add(tr("Save &As\u2026"), QDialogButtonBox::ActionRole, Choice::SaveAs);
+    auto* open = add(tr("&Open"), QDialogButtonBox::AcceptRole, Choice::Open);
     open->setDefault(true);
     connect(list_, &QListWidget::itemSelectionChanged, this, [this, throwAway, saveAs, open] {
         const auto count = list_->selectedItems().size();

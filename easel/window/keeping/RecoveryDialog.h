@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-class QBoxLayout;
+class QDialogButtonBox;
 class QListWidget;
 
 namespace easel::window {
@@ -28,7 +28,7 @@ class RecoveryDialog : public QDialog {
     std::vector<std::size_t> chosen() const;
 
   private:
-    void addButtons(QBoxLayout& layout);
+    void addButtons(QDialogButtonBox& buttons);
     void close(Choice choice);
     void drawNextPicture();
 

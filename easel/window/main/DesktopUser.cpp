@@ -12,10 +12,12 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace easel::window {
 
-DesktopUser::DesktopUser(Interaction& interaction, const OpenCanvases& canvases)
-    : interaction_(interaction), canvases_(canvases), shownDialogs_(interaction) {}
+DesktopUser::DesktopUser(Interaction& interaction, const OpenCanvases& canvases, EntryPicture picture)
+    : interaction_(interaction), canvases_(canvases), shownDialogs_(interaction, std::move(picture)) {}
 
 runtime::MouseState DesktopUser::mouse() {
     return interaction_.pointer.mouse();

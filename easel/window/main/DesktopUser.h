@@ -12,8 +12,8 @@ struct Interaction;
 // Passes every question on to what can answer it.
 class DesktopUser : public runtime::User {
   public:
-    // Both outlive the user.
-    DesktopUser(Interaction& interaction, const OpenCanvases& canvases);
+    // Interaction and canvases outlive the user. The picture is that of an entry in a dialog's popup.
+    DesktopUser(Interaction& interaction, const OpenCanvases& canvases, EntryPicture picture);
 
     runtime::MouseState mouse() override;
     runtime::MouseState waitWhileDown() override;

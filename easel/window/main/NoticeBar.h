@@ -4,6 +4,7 @@
 #include <QFrame>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -24,12 +25,26 @@ class NoticeBar : public QFrame {
 
     explicit NoticeBar(QWidget* parent = nullptr);
 
-    // Plain text; an empty one hides the bar. Each action has a button, which puts the notice away.
+    // Plain text; an empty one puts the notice away. Each action has a button, which puts the notice away.
     void tell(const QString& text, const std::vector<Action>& actions = {});
-    // The same for a question, which only its answers put away.
+    // The same for a question, which only its answers put away. What is told meanwhile waits for them, the
+    // last of it, and a question waits until a notice is put away.
     void ask(const QString& question, const std::vector<Action>& answers);
 
   private:
+    struct Notice {
+        QString text;
+        std::vector<Action> actions;
+        bool isQuestion = false;
+    };
+
+    void show(Notice notice);
+    void showButtons();
+    void putAway();
+    void act(const std::function<void()>& action);
+
+    std::optional<Notice> shown_;
+    std::optional<Notice> waiting_; // a notice behind a question, or a question behind a notice
     QLabel* label_;
     QHBoxLayout* buttons_;
     QPushButton* done_;

@@ -15,6 +15,7 @@
 #include "easel/window/main/PluginSession.h"
 #include "easel/window/main/SharedParts.h"
 #include "easel/window/main/StarterOffer.h"
+#include "easel/window/main/TemplateIcon.h"
 #include "easel/window/main/Workspace.h"
 #include "easel/window/waiting/TellProblem.h"
 #include "easel/window/waiting/TerminationSignals.h"
@@ -118,7 +119,9 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
 
     easel::runtime::Process process(placesFor(startUp));
     SharedParts shared(startUp.version, process);
-    DesktopUser user(shared.interaction, shared.canvases);
+    DesktopUser user(shared.interaction, shared.canvases, [&shared](const std::string& entry, double scale) {
+        return templateIcon(shared.templateFolder, entry, scale);
+    });
     const easel::runtime::UserScope inFront(process, user);
     Workspace workspace(shared);
     PluginSession plugin(startUp.plugin, process, shared.tools, shared.interaction.waiting);

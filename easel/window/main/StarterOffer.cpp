@@ -28,8 +28,7 @@ void addThem(NoticeBar& notice, SharedParts& shared) {
 } // namespace
 
 bool offerStarterTemplates(NoticeBar& notice, SharedParts& shared) {
-    const bool isTelling = !notice.isHidden();
-    if (isTelling || shared.templateFolder.empty() || QSettings().value(kAnsweredKey).toBool() ||
+    if (shared.templateFolder.empty() || QSettings().value(kAnsweredKey).toBool() ||
         !exchange::TemplateShelf(shared.templateFolder, {}).names().empty())
         return false;
     const auto answered = [] { QSettings().setValue(kAnsweredKey, true); };
