@@ -14,9 +14,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <array>
+#include <initializer_list>
 #include <set>
-#include <utility>
 
 namespace easel::window {
 namespace {
@@ -62,21 +61,49 @@ void addOthers(QTreeWidget& list, const QMainWindow& window, Listed& listed) {
         }
 }
 
+struct Gesture {
+    QString what;
+    QString how;
+};
+
+void addGestures(QTreeWidget& list, const QString& title, std::initializer_list<Gesture> gestures) {
+    QTreeWidgetItem* group = addGroup(list, title);
+    for (const Gesture& gesture : gestures)
+        new QTreeWidgetItem(group, {gesture.what, gesture.how});
+}
+
 void addMouse(QTreeWidget& list) {
-    const std::array lines{
-        std::pair{QObject::tr("Give a shape the current gradient"), QObject::tr("Click")},
-        std::pair{QObject::tr("Turn a linear gradient"), QObject::tr("Drag (Shift: in steps of 15\u00b0)")},
-        std::pair{QObject::tr("Move the center of a radial gradient"), QObject::tr("Press")},
-        std::pair{QObject::tr("Edit the gradient of a shape"), QObject::tr("Alt-click or Ctrl-click")},
-        std::pair{QObject::tr("Copy the gradient of a shape"), QObject::tr("Alt-Shift-click")},
-        std::pair{QObject::tr("Edit the current gradient"), QObject::tr("Double-click the tool")},
-        std::pair{QObject::tr("Zoom about the pointer"), QObject::tr("Ctrl and wheel")},
-        std::pair{QObject::tr("Move the view"), QObject::tr("Wheel, middle button, or Space and drag")},
-        std::pair{QObject::tr("Break off a drag"), QObject::tr("Escape")},
-    };
-    QTreeWidgetItem* group = addGroup(list, QObject::tr("Mouse"));
-    for (const auto& [what, how] : lines)
-        new QTreeWidgetItem(group, {what, how});
+    addGestures(list, QObject::tr("Gradient Tool"),
+                {{QObject::tr("Give a shape the current gradient"), QObject::tr("Click")},
+                 {QObject::tr("Turn a linear gradient"), QObject::tr("Drag (Shift: in steps of 15\u00b0)")},
+                 {QObject::tr("Move the center of a radial gradient"), QObject::tr("Press")},
+                 {QObject::tr("Edit the gradient of a shape"), QObject::tr("Alt-click or Ctrl-click")},
+                 {QObject::tr("Edit the current gradient"), QObject::tr("Double-click the tool")},
+                 {QObject::tr("Break off a drag"), QObject::tr("Escape")}});
+    addGestures(list, QObject::tr("Select Tool"),
+                {{QObject::tr("Select a shape"), QObject::tr("Click")},
+                 {QObject::tr("Select one more, or one less"), QObject::tr("Shift-click")},
+                 {QObject::tr("Select several"), QObject::tr("Drag (Shift: in addition)")}});
+    addGestures(list, QObject::tr("Any Tool"),
+                {{QObject::tr("Copy the gradient of a shape"), QObject::tr("Alt-Shift-click")},
+                 {QObject::tr("Zoom about the pointer"), QObject::tr("Ctrl and wheel")},
+                 {QObject::tr("Move the view"), QObject::tr("Wheel, middle button, or Space and drag")},
+                 {QObject::tr("Open drawings"), QObject::tr("Drop files on a window")}});
+}
+
+void addEditor(QTreeWidget& list) {
+    addGestures(
+        list, QObject::tr("Gradient Editor"),
+        {{QObject::tr("Choose a color stop"), QObject::tr("Click its marker")},
+         {QObject::tr("Add a color stop"), QObject::tr("Click the ramp elsewhere")},
+         {QObject::tr("Move a color stop"), QObject::tr("Drag its marker, or type its position")},
+         {QObject::tr("Remove a color stop"), QObject::tr("Pull its marker down, or clear its position")},
+         {QObject::tr("Change the color of a stop"), QObject::tr("Click the color below the ramp")},
+         {QObject::tr("Set the direction"), QObject::tr("Drag in the preview (Shift: in steps of 15\u00b0)")},
+         {QObject::tr("Set the center"), QObject::tr("Press in the preview")},
+         {QObject::tr("Find a template"), QObject::tr("Open the popup and type its name")},
+         {QObject::tr("Take back what is being dragged"), QObject::tr("Escape")},
+         {QObject::tr("Accept, or leave all as it was"), QObject::tr("Return, Escape")}});
 }
 
 } // namespace
@@ -91,6 +118,7 @@ void showShortcuts(const QMainWindow& window, DialogStack& dialogs) {
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setAccessibleName(QObject::tr("Shortcuts"));
     addMouse(*list);
+    addEditor(*list);
     Listed listed;
     for (const QAction* action : window.menuBar()->actions())
         addMenu(*list, *action->menu(), listed);

@@ -2,6 +2,7 @@
 #include "easel/window/main/MainWindow.h"
 
 #include "easel/files/WholeFile.h"
+#include "easel/runtime/Coordinates.h"
 #include "easel/runtime/Process.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/SelectTool.h"
@@ -33,7 +34,6 @@ namespace {
 constexpr double kZoomStep = 1.25;
 constexpr QSize kWindowSize{1120, 760};
 constexpr QSize kFrame{16, 48}; // about what a window manager puts around a window
-constexpr int kMostDecimals = 3;
 
 QString joined(const std::vector<std::string>& notes) {
     QStringList lines;
@@ -46,17 +46,16 @@ QString titleOf(const QString& drawing) {
     return QObject::tr("%1[*] \u2014 Easel").arg(drawing);
 }
 
-// With the digits that a pixel of the screen makes a difference in.
-QString coordinatesText(QPointF at, double zoom) {
-    const int decimals = std::clamp(static_cast<int>(std::ceil(std::log10(zoom))), 0, kMostDecimals);
+} // namespace
+
+QString coordinatesText(drawing::Point at, double zoom) {
+    const int decimals = runtime::decimalsAt(zoom);
     const double unit = std::pow(10, decimals);
     const auto number = [&](double value) {
         return QString::number(std::floor(value * unit) / unit, 'f', decimals);
     };
-    return QStringLiteral("%1, %2").arg(number(at.x()), number(at.y()));
+    return QStringLiteral("%1, %2").arg(number(at.x), number(at.y));
 }
-
-} // namespace
 
 MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
     : shared_(shared), drawingWindow_(std::move(loaded.drawing), shared.process), notice_(new NoticeBar),
@@ -181,8 +180,9 @@ void MainWindow::buildStatusBar() {
     pointer_->setFixedSize(pointer_->fontMetrics().boundingRect(longest).size() + QSize(4, 4));
     pointer_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     pointer_->setToolTip(tr("Pointer, from the drawing's top-left corner"));
-    connect(canvas_, &Canvas::pointerAt, this,
-            [this](QPointF at) { pointer_->setText(coordinatesText(at, canvas_->zoom())); });
+    connect(canvas_, &Canvas::pointerAt, this, [this](QPointF at) {
+        pointer_->setText(coordinatesText({at.x(), at.y()}, canvas_->zoom()));
+    });
     connect(canvas_, &Canvas::pointerLeft, pointer_, &QLabel::clear);
 
     zoomButton_ = new QToolButton;

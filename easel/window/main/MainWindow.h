@@ -36,6 +36,9 @@ enum class WriteChoice;
 // How long a message stays in the status bar, in milliseconds.
 inline constexpr int kMessageTime = 4000;
 
+// Of a point of the drawing, with the digits that a pixel of the screen makes a difference in at that zoom.
+QString coordinatesText(drawing::Point at, double zoom);
+
 class MainWindow : public QMainWindow {
     Q_OBJECT
 

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QStatusBar>
 
-#include <cmath>
 #include <utility>
 
 namespace easel::window {
@@ -146,8 +145,7 @@ void MainWindow::gradientReleased() {
         return;
     Kept kept;
     kept.add(*now);
-    const QString where =
-        tr("The center is at %1, %2 now").arg(std::lround(centre->x)).arg(std::lround(centre->y));
+    const QString where = tr("The center is at %1 now").arg(coordinatesText(*centre, canvas_->zoom()));
     const QString rest = textOf(kept);
     statusBar()->showMessage(rest.isEmpty() ? where : QStringLiteral("%1 \u2014 %2").arg(where, rest),
                              kMessageTime);
