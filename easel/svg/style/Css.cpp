@@ -53,21 +53,19 @@ std::size_t lengthUntil(std::string_view text, std::string_view ends) {
     return text.size();
 }
 
-// Takes a block, whose '{' is first, with everything inside it.
+// Takes a block, whose '{' is first, with everything inside it. One that is still open ends with the text.
 std::string_view takeBlock(std::string_view& text) {
-    int depth = 0;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        at += lengthUntil(text.substr(at), "{}");
-        if (at == text.size())
-            break;
-        depth += text[at] == '{' ? 1 : -1;
-        ++at;
-        if (depth == 0)
-            break;
+    int depth = 1;
+    std::size_t end = 1;
+    while (depth > 0) {
+        end += lengthUntil(text.substr(end), "{}");
+        if (end == text.size())
+            return std::exchange(text, {}).substr(1);
+        depth += text[end] == '{' ? 1 : -1;
+        ++end;
     }
-    const std::string_view block = text.substr(1, at < 2 ? 0 : at - 2);
-    text.remove_prefix(at);
+    const std::string_view block = text.substr(1, end - 2);
+    text.remove_prefix(end);
     return block;
 }
 
