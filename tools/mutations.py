@@ -65,7 +65,9 @@ def number_mutations(tokens):
             if "." in digits:
                 new = repr(float(digits) + step)
             else:
-                new = str(int(digits, 0) + step)
+                # A leading zero makes it octal, as in the permissions of files.
+                octal = re.fullmatch(r"0[0-7]+", digits)
+                new = f"0{int(digits, 8) + step:o}" if octal else str(int(digits, 0) + step)
             yield Mutation(token.start, token.end, new + suffix, "constant")
 
 
@@ -130,7 +132,7 @@ def statements_in(tokens, begin, end):
                 break
             stop += 1
         part = tokens[index:stop + 1]
-        usable = simple and part and part[-1].text == ";" and part[0].text not in NO_STATEMENT
+        usable = simple and len(part) > 1 and part[-1].text == ";" and part[0].text not in NO_STATEMENT
         found.append(Statement(part, part[0].start, part[-1].end) if usable else None)
         index = stop + 1
     return found

@@ -1,0 +1,42 @@
+# What tools/mutate builds beside the project's own targets; it runs after the project's own lists. For each room in
+# MUTATED there is a program of its unit tests that brings the room along and takes the rest from the library as it lies in
+# the folder. So one file is compiled after a fault, or after one in a header no more than the room and its tests.
+
+# The room's files are compiled alone and without much optimisation; in groups if MUTATED_TOGETHER is set.
+function(compile_for_faults target)
+  target_compile_options(${target} PRIVATE -O1)
+  if(MUTATED_TOGETHER)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD_BATCH_SIZE 0)
+  else()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
+  endif()
+endfunction()
+
+function(program_for_faults room objects)
+  add_executable(mutated_${room})
+  foreach(property IN ITEMS SOURCES COMPILE_DEFINITIONS INCLUDE_DIRECTORIES LINK_LIBRARIES)
+    get_target_property(value unit_${room} ${property})
+    if(value)
+      list(REMOVE_ITEM value kestradhost)
+      set_target_properties(mutated_${room} PROPERTIES ${property} "${value}")
+    endif()
+  endforeach()
+  target_link_libraries(mutated_${room} PRIVATE ${objects} "-L${CMAKE_BINARY_DIR}/bin" -lkestradhost)
+  set_target_properties(mutated_${room} PROPERTIES BUILD_RPATH "${CMAKE_BINARY_DIR}/bin" ENABLE_EXPORTS ON)
+  tests_together(mutated_${room})
+endfunction()
+
+function(prepare_for_faults)
+  get_property(targets DIRECTORY "${CMAKE_SOURCE_DIR}/easel" PROPERTY BUILDSYSTEM_TARGETS)
+  foreach(room IN LISTS MUTATED)
+    set(objects ${targets})
+    list(FILTER objects INCLUDE REGEX "^easel\\.${room}(\\..*)?\\.objects$")
+    foreach(target IN LISTS objects)
+      compile_for_faults(${target})
+    endforeach()
+    if(objects AND TARGET unit_${room})
+      program_for_faults(${room} "${objects}")
+    endif()
+  endforeach()
+endfunction()
+cmake_language(DEFER CALL prepare_for_faults)
