@@ -2,8 +2,8 @@
 #include "Gradient/model/PolygonFill.h"
 #include "easel/runtime/HostGraphics.h"
 #include "host/Drawing.h"
+#include "tests/support/FailingMemory.h"
 #include "tests/unit/gradient/DrawnGradient.h"
-#include "tests/unit/gradient/FailingMemory.h"
 #include "tests/unit/gradient/Polygons.h"
 #include "tests/unit/gradient/Records.h"
 

@@ -106,6 +106,23 @@ TEST(GradientRecord, EqualRecordsHaveEqualKeysWhereverTheyWereMade) {
     EXPECT_EQ(keyOf(first), keyOf(second));
 }
 
+TEST(GradientRecord, TakesOverEveryFieldAndStopOfAnother) {
+    CGradientData source;
+    source.SetType(kRadialGradient);
+    source.SetAngle(12);
+    source.SetStart({0.1, 0.2});
+    source.SetEnd({0.3, 0.4});
+    source.SetStartRadius(5);
+    source.SetEndRadius(6);
+    source.ColorList().emplace_back(RGBColor{1, 2, 3}, 0.75);
+    CGradientData target;
+    target = source;
+    EXPECT_EQ(keyOf(target), keyOf(source));
+    EXPECT_EQ(target.Type(), kRadialGradient);
+    EXPECT_EQ(target.End(), TPoint<double>(0.3, 0.4));
+    EXPECT_EQ(target.ColorList().size(), 3u);
+}
+
 TEST(GradientKinds, AreTheClosedOnes) {
     int capable = 0;
     for (long kind = -3; kind < 70000; ++kind)

@@ -1,5 +1,5 @@
 // Memory that runs out when a test says so, and that can be counted.
-#include "tests/unit/gradient/FailingMemory.h"
+#include "tests/support/FailingMemory.h"
 
 #include <cstdlib>
 #include <new>
