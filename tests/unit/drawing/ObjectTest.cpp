@@ -1,0 +1,146 @@
+// Objects: their kinds, what tells two of them apart, and what belongs to a stroke.
+#include "easel/drawing/Object.h"
+
+#include "easel/drawing/Group.h"
+#include "easel/drawing/ShapeGradient.h"
+#include "easel/drawing/StrokeGradient.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <numbers>
+#include <vector>
+
+namespace {
+
+using namespace easel::drawing;
+
+ObjectGradient gradientAt(float degrees) {
+    CGradientData record;
+    record.SetAngle(degrees);
+    return ObjectGradient(std::make_unique<CGradient>(record).release());
+}
+
+Object square() {
+    Object object;
+    object.kind = Kind::Rect;
+    object.outline = rectanglePath({0, 0, 10, 10});
+    object.fillPattern = FillPattern::SolidBlack;
+    object.gradient = gradientAt(20);
+    object.remainder = std::make_shared<const Remainder>(Remainder{{{0, 0.5}}, std::nullopt});
+    return object;
+}
+
+Style penOf(double width) {
+    Style style;
+    style.stroke.paint = ColorPaint();
+    style.stroke.width = width;
+    return style;
+}
+
+TEST(Object, KindsHaveNamesThatLeadBackToThem) {
+    EXPECT_EQ(kindName(Kind::Rect), "rect");
+    EXPECT_EQ(kindName(Kind::Polyline), "polyline");
+    EXPECT_EQ(kindName(Kind::Text), "text");
+    for (const Kind kind : kAllKinds)
+        EXPECT_EQ(kindFromName(kindName(kind)), kind);
+    EXPECT_EQ(kindFromName("blob"), std::nullopt);
+}
+
+TEST(Object, SaysTheSameAsACopyWithEqualGradientAndRemainder) {
+    const Object object = square();
+    Object copy = object;
+    EXPECT_TRUE(saysTheSame(object, copy));
+    copy.gradient = gradientAt(20);
+    copy.remainder = std::make_shared<const Remainder>(*object.remainder);
+    EXPECT_TRUE(saysTheSame(object, copy)) << "though they are other objects in memory";
+}
+
+TEST(Object, SaysAnotherThingWhateverIsDifferent) {
+    const std::vector<std::function<void(Object&)>> changes = {
+        [](Object& object) { object.kind = Kind::Ellipse; },
+        [](Object& object) { object.fillRule = FillRule::EvenOdd; },
+        [](Object& object) { object.fillPattern = FillPattern::Other; },
+        [](Object& object) { object.fillOrigin = PaintOrigin::Edited; },
+        [](Object& object) { object.strokeOrigin = PaintOrigin::Edited; },
+        [](Object& object) { object.source.tagEnd = 5; },
+        [](Object& object) { object.id = std::string("other"); },
+        [](Object& object) { object.units = std::make_shared<const Affine>(); },
+        [](Object& object) { object.style = std::make_shared<const Style>(); },
+        [](Object& object) { object.fill = ColorPaint(); },
+        [](Object& object) { object.gradient = gradientAt(21); },
+        [](Object& object) { object.gradient = {}; },
+        [](Object& object) { object.remainder = nullptr; },
+        [](Object& object) {
+            object.remainder = std::make_shared<const Remainder>(Remainder{{{0, 0.75}}, std::nullopt});
+        },
+        [](Object& object) { object.group = std::make_shared<const Group>(); },
+        [](Object& object) {
+            object.outline = rectanglePath({0, 0, 10, 11});
+        },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        Object other = square();
+        changes[i](other);
+        EXPECT_FALSE(saysTheSame(square(), other)) << "change " << i;
+        EXPECT_FALSE(saysTheSame(other, square())) << "change " << i;
+    }
+}
+
+TEST(Object, HasAPlainFillOfItsFileUntilTheUserGivesItAnother) {
+    Object object = square();
+    object.fill = ColorPaint{{65535, 0, 0}, 0.5};
+    EXPECT_EQ(plainFillOf(object), object.fill) << "solid black is the host's word for any color of the file";
+    object.setFillPattern(FillPattern::None);
+    EXPECT_EQ(plainFillOf(object), Paint(NoPaint()));
+    object.setFillPattern(FillPattern::SolidBlack);
+    EXPECT_EQ(plainFillOf(object), Paint(ColorPaint()));
+    object.setFillPattern(FillPattern::Other);
+    EXPECT_EQ(plainFillOf(object), object.fill);
+}
+
+TEST(Group, BlendModesHaveNamesThatLeadBackToThem) {
+    for (std::size_t i = 0; i < kBlendModeCount; ++i) {
+        const auto mode = static_cast<BlendMode>(i);
+        EXPECT_EQ(blendModeFromName(blendModeName(mode)), mode);
+    }
+    EXPECT_EQ(blendModeFromName("luminosity"), BlendMode::Luminosity);
+    EXPECT_EQ(blendModeFromName("dissolve"), std::nullopt);
+}
+
+TEST(Stroke, MarksOnlyWithPaintWidthAndOpacity) {
+    EXPECT_TRUE(strokes(penOf(2)));
+    EXPECT_FALSE(strokes(penOf(0)));
+    Style clear = penOf(2);
+    clear.stroke.opacity = 0;
+    EXPECT_FALSE(strokes(clear));
+    Style bare = penOf(2);
+    bare.stroke.paint = NoPaint();
+    EXPECT_FALSE(strokes(bare));
+    EXPECT_EQ(strokeReach(bare), 0);
+}
+
+TEST(Stroke, ReachesHalfItsWidthFartherAtTipsAndSquareEnds) {
+    Style pen = penOf(6);
+    pen.stroke.miterLimit = 5;
+    EXPECT_EQ(strokeReach(pen), 15);
+    pen.stroke.join = LineJoin::Round;
+    EXPECT_EQ(strokeReach(pen), 3);
+    pen.stroke.cap = LineCap::Square;
+    EXPECT_DOUBLE_EQ(strokeReach(pen), 3 * std::numbers::sqrt2);
+}
+
+TEST(Stroke, FrameHoldsTheFourCornersOfThePenAtBothEndsOfALine) {
+    Object line = square();
+    line.kind = Kind::Line;
+    line.outline = polylinePath({{10, 20}, {90, 20}});
+    line.style = std::make_shared<const Style>(penOf(8));
+    const auto points = strokeFrame(line).points();
+    const std::vector<Point> frame(points.begin(), points.end());
+    for (const Point corner : {Point{6, 16}, Point{6, 24}, Point{94, 16}, Point{94, 24}})
+        EXPECT_NE(std::find(frame.begin(), frame.end(), corner), frame.end()) << corner.x << ", " << corner.y;
+}
+
+} // namespace
