@@ -47,7 +47,7 @@ Drawings are written as PNG, PDF and SVG pictures too, in the window and on
 the command line."
   "${library} ${version}" "kestrad-gradient ${version}")
 # The window has no text without a font, and not every desktop has an X server.
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-wayland")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-translations-l10n, qt6-wayland")
 
 debian_package(
   library ${library} libs "host of drawing tools that are plug-ins"

@@ -2,6 +2,7 @@
 #include "easel/classic/PluginResources.h"
 
 #include "easel/classic/MacRoman.h"
+#include "easel/classic/PluginTexts.h"
 #include "easel/files/WholeFile.h"
 #include "easel/text/Ascii.h"
 
@@ -9,7 +10,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
-#include <optional>
+#include <memory>
 #include <pugixml.hpp>
 
 namespace easel::classic {
@@ -133,6 +134,7 @@ ItemResource itemFrom(const pugi::xml_node& node) {
     item.role = isYes(node, "default")  ? ButtonResourceRole::Default
                 : isYes(node, "cancel") ? ButtonResourceRole::Cancel
                                         : ButtonResourceRole::Plain;
+    item.isNumber = isYes(node, "number");
     if (item.kind == ItemResourceKind::Popup)
         item.menu = numberOf(node, "menu");
     return item;
@@ -208,8 +210,6 @@ class PluginResourceReader {
         : out_(out), folder_(std::move(folder)) {}
 
     void read(const pugi::xml_node& root) {
-        if (std::string_view(root.name()) != "resources")
-            throw Flaw{"it has no <resources>"};
         for (const auto& node : root.children())
             if (node.type() == pugi::node_element)
                 readResource(node);
@@ -248,26 +248,68 @@ class PluginResourceReader {
     std::filesystem::path folder_;
 };
 
-files::Result<PluginResources> PluginResources::read(const std::filesystem::path& folder) {
+namespace {
+
+using Document = std::unique_ptr<pugi::xml_document>;
+
+files::Result<Document> documentFrom(const ResourceText& text) {
+    auto document = std::make_unique<pugi::xml_document>();
+    const auto parsed = document->load_buffer(text.xml.data(), text.xml.size());
+    if (!parsed)
+        return tl::unexpected(
+            files::Error{text.file, std::string("it is no well-formed XML: ") + parsed.description(), {}});
+    if (std::string_view(document->document_element().name()) != "resources")
+        return tl::unexpected(files::Error{text.file, "it has no <resources>", {}});
+    return document;
+}
+
+// NAME.de.xml beside NAME.xml, in the first of the languages that has one; empty if none has.
+std::filesystem::path fileInLanguage(const std::filesystem::path& folder,
+                                     const std::vector<std::string>& languages) {
+    for (const std::string& language : languages) {
+        std::error_code error;
+        auto file = folder / (folder.filename().string() + '.' + language + ".xml");
+        if (std::filesystem::exists(file, error))
+            return file;
+    }
+    return {};
+}
+
+} // namespace
+
+files::Result<PluginResources> PluginResources::read(const std::filesystem::path& folder,
+                                                     const std::vector<std::string>& languages) {
     const auto file = folder / (folder.filename().string() + ".xml");
     const auto bytes = files::readWholeFile(file, kLargestResourceFile);
     if (!bytes)
         return tl::unexpected(bytes.error());
-    return parse(files::charactersOf(*bytes), file);
+    const ResourceText own{files::charactersOf(*bytes), file};
+    const std::filesystem::path textsFile = fileInLanguage(folder, languages);
+    if (textsFile.empty())
+        return parse(own);
+    const auto texts = files::readWholeFile(textsFile, kLargestResourceFile);
+    if (!texts)
+        return tl::unexpected(texts.error());
+    return parse(own, ResourceText{files::charactersOf(*texts), textsFile});
 }
 
-files::Result<PluginResources> PluginResources::parse(std::string_view xml,
-                                                      const std::filesystem::path& file) {
-    pugi::xml_document document;
-    const auto parsed = document.load_buffer(xml.data(), xml.size());
-    if (!parsed)
-        return tl::unexpected(
-            files::Error{file, std::string("it is no well-formed XML: ") + parsed.description(), {}});
+files::Result<PluginResources> PluginResources::parse(const ResourceText& text,
+                                                      const std::optional<ResourceText>& inLanguage) {
+    const auto document = documentFrom(text);
+    if (!document)
+        return tl::unexpected(document.error());
+    if (inLanguage) {
+        const auto texts = documentFrom(*inLanguage);
+        if (!texts)
+            return tl::unexpected(texts.error());
+        if (const auto flaw = putTexts((*texts)->document_element(), (*document)->document_element()))
+            return tl::unexpected(files::Error{inLanguage->file, *flaw, {}});
+    }
     PluginResources resources;
     try {
-        PluginResourceReader(resources, file.parent_path()).read(document.document_element());
+        PluginResourceReader(resources, text.file.parent_path()).read((*document)->document_element());
     } catch (const Flaw& flaw) {
-        return tl::unexpected(files::Error{file, flaw.reason, {}});
+        return tl::unexpected(files::Error{inLanguage ? inLanguage->file : text.file, flaw.reason, {}});
     }
     return resources;
 }

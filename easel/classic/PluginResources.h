@@ -6,7 +6,9 @@
 
 #include "easel/files/Result.h"
 
+#include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,7 +30,8 @@ struct ItemResource {
     std::string label;
     ButtonResourceRole role = ButtonResourceRole::Plain;
     AlignmentResource alignment = AlignmentResource::Left;
-    int menu = 0; // of a popup
+    bool isNumber = false; // of a text field: what is typed there is a number
+    int menu = 0;          // of a popup
 };
 
 struct DialogResource {
@@ -66,12 +69,22 @@ struct IconResource {
     std::filesystem::path file;
 };
 
+// What a file of resources holds; pictures are looked for beside it.
+struct ResourceText {
+    std::string_view xml;
+    std::filesystem::path file;
+};
+
 class PluginResources {
   public:
-    // Reads NAME.xml in a folder called NAME, where the pictures are too.
-    static files::Result<PluginResources> read(const std::filesystem::path& folder);
-    // The same from text; the error names `file`, and pictures are looked for beside it.
-    static files::Result<PluginResources> parse(std::string_view xml, const std::filesystem::path& file);
+    // Reads NAME.xml in a folder called NAME, where the pictures are too, with the texts of NAME.LANGUAGE.xml
+    // for the first of the languages ("de-AT", "de") that has such a file.
+    static files::Result<PluginResources> read(const std::filesystem::path& folder,
+                                               const std::vector<std::string>& languages = {});
+    // The same from texts. An error names the file at fault: that of the language if there is one, unless the
+    // resources are no XML.
+    static files::Result<PluginResources> parse(const ResourceText& text,
+                                                const std::optional<ResourceText>& inLanguage = {});
 
     // These give null, or an empty text, for what is not there. Strings count from 1.
     std::string string(int listId, int index) const;

@@ -50,6 +50,7 @@ struct DialogItem {
     TextAlignment alignment = TextAlignment::Left; // of a static text
 
     TextSelection selection;        // of an edit field
+    bool isNumber = false;          // of an edit field: its text is a number with a point, if any
     int value = 0;                  // of a popup (entry shown) or a radio button (1 when set)
     std::shared_ptr<Menu> menu;     // of a popup; never null there
     std::uint64_t menuReported = 0; // the revision of the menu that the observer was last told of

@@ -80,6 +80,7 @@ DialogItem itemOf(const classic::PluginResources& resources, const ItemResource&
     item.enabled = !item.divider;
     item.role = roleOf(resource.role);
     item.alignment = alignmentOf(resource.alignment);
+    item.isNumber = resource.isNumber;
     if (item.kind == ItemKind::Popup) {
         item.menu = menuOf(resources, resource.menu);
         item.value = item.menu->count() > 0 ? 1 : 0;

@@ -43,11 +43,13 @@ void PluginModule::Unload::operator()(void* library) const {
     dlclose(library);
 }
 
-PluginModule::PluginModule(fs::path file, Library library, Entry entry, Process& process)
+PluginModule::PluginModule(fs::path file, Library library, Entry entry, Process& process,
+                           const std::vector<std::string>& languages)
     : process_(process), file_(std::move(file)), library_(std::move(library)), entry_(entry),
-      resources_(process.plugin().open(resourceFolder())) {}
+      resources_(process.plugin().open(resourceFolder(), languages)) {}
 
-files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& given, Process& process) {
+files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& given, Process& process,
+                                                                const std::vector<std::string>& languages) {
     const fs::path file = fs::absolute(given);
     if (const auto checked = checkRegularFile(file); !checked)
         return tl::unexpected(checked.error());
@@ -59,7 +61,7 @@ files::Result<std::unique_ptr<PluginModule>> PluginModule::load(const fs::path& 
     if (!entry)
         return tl::unexpected(files::Error{file, "not a plug-in: it has no MainEntry", {}});
     return std::unique_ptr<PluginModule>(
-        new PluginModule(file, std::move(library), reinterpret_cast<Entry>(entry), process));
+        new PluginModule(file, std::move(library), reinterpret_cast<Entry>(entry), process, languages));
 }
 
 PluginModule::~PluginModule() {

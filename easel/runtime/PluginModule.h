@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 struct XTNLParmBlk;
 
@@ -18,10 +20,11 @@ constexpr std::int16_t kShutDownMessage = 2;
 
 class PluginModule {
   public:
-    // Loads the module, finds its entry and opens its resources. An error if the file is missing, no module,
-    // or lacks the entry. The process outlives the module.
-    static files::Result<std::unique_ptr<PluginModule>> load(const std::filesystem::path& file,
-                                                             Process& process);
+    // Loads the module, finds its entry and opens its resources, with texts in the first of these languages
+    // ("de-AT", "de") that the plug-in has, or as it has them without one. An error if the file is missing,
+    // no module, or lacks the entry. The process outlives the module.
+    static files::Result<std::unique_ptr<PluginModule>>
+    load(const std::filesystem::path& file, Process& process, const std::vector<std::string>& languages = {});
     // Takes the plug-in's tools out of the palette, closes its resources and unloads the module.
     ~PluginModule();
     PluginModule(const PluginModule&) = delete;
@@ -49,7 +52,8 @@ class PluginModule {
     };
     using Library = std::unique_ptr<void, Unload>;
 
-    PluginModule(std::filesystem::path file, Library library, Entry entry, Process& process);
+    PluginModule(std::filesystem::path file, Library library, Entry entry, Process& process,
+                 const std::vector<std::string>& languages);
 
     Process& process_;
     std::filesystem::path file_;

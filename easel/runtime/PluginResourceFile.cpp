@@ -3,10 +3,11 @@
 
 namespace easel::runtime {
 
-files::Result<> PluginResourceFile::open(const std::filesystem::path& folder) {
+files::Result<> PluginResourceFile::open(const std::filesystem::path& folder,
+                                         const std::vector<std::string>& languages) {
     close();
-    return classic::PluginResources::read(folder).map(
-        [this](classic::PluginResources&& resources) { resources_ = std::move(resources); });
+    return classic::PluginResources::read(folder, languages)
+        .map([this](classic::PluginResources&& resources) { resources_ = std::move(resources); });
 }
 
 } // namespace easel::runtime

@@ -4,6 +4,8 @@
 #include "easel/classic/PluginResources.h"
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace easel::runtime {
 
@@ -12,9 +14,10 @@ class PluginResourceFile {
     // Without a plug-in there are none, and every look-up finds nothing.
     const classic::PluginResources& resources() const { return resources_; }
 
-    // Reads the resources in a module's resource folder. After an error (which names the file) there are
-    // none.
-    [[nodiscard]] files::Result<> open(const std::filesystem::path& folder);
+    // Reads the resources in a module's resource folder, with texts in the first of the languages that there
+    // is a file for. After an error (which names the file) there are none.
+    [[nodiscard]] files::Result<> open(const std::filesystem::path& folder,
+                                       const std::vector<std::string>& languages = {});
     void close() { resources_ = {}; }
 
   private:

@@ -1,4 +1,5 @@
-// A plug-in's resource file: any text is refused with a reason, or gives resources that can be looked up.
+// A plug-in's resource file, and behind a 0 the texts of a language for it: any text is refused with a
+// reason, or gives resources that can be looked up.
 #include "easel/classic/PluginResources.h"
 
 #include <cstddef>
@@ -8,7 +9,12 @@ using namespace easel::classic;
 using namespace easel::files;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto read = PluginResources::parse({reinterpret_cast<const char*>(data), size}, "f/f.xml");
+    const std::string_view all(reinterpret_cast<const char*>(data), size);
+    const std::size_t end = all.find('\0');
+    std::optional<ResourceText> inLanguage;
+    if (end != std::string_view::npos)
+        inLanguage = ResourceText{all.substr(end + 1), "f/f.de.xml"};
+    const auto read = PluginResources::parse({all.substr(0, end), "f/f.xml"}, inLanguage);
     if (!read) {
         if (read.error().reason.empty())
             std::abort();

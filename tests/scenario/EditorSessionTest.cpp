@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace {
 
 using nlohmann::json;
@@ -21,6 +23,16 @@ TEST(EditorSession, CancelLeavesTheObjectExactlyAsItWas) {
                                        kManyEdits + "hit 2\nprint object r\nprint window\n");
     EXPECT_EQ(played.answers[1], played.answers[0]) << "the very same gradient";
     EXPECT_EQ(played["window"]["undoLevels"], 0);
+}
+
+TEST(EditorSession, AScenarioMeetsTheSameTextsWhateverTheUsersLanguageIs) {
+    setenv("LANGUAGE", "de", 1);
+    setenv("LC_ALL", "de_DE.UTF-8", 1);
+    const Played played = playWithTool(openEditorOn(kThreeStops) + "print dialog\nhit 2\n");
+    unsetenv("LANGUAGE");
+    unsetenv("LC_ALL");
+    EXPECT_EQ(played["dialog"]["items"][1]["text"], "Cancel");
+    EXPECT_EQ(played["dialog"]["items"][4]["text"], "0.00");
 }
 
 TEST(EditorSession, NothingIsChangedBeforeOk) {

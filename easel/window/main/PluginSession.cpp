@@ -16,17 +16,18 @@ QIcon iconOf(const HostTool& tool, const classic::PluginResources& resources) {
 
 } // namespace
 
-PluginSession::PluginSession(const std::filesystem::path& module, runtime::Process& process,
-                             ToolChoice& tools, Waiting& waiting)
+PluginSession::PluginSession(const std::filesystem::path& module, const std::vector<std::string>& languages,
+                             runtime::Process& process, ToolChoice& tools, Waiting& waiting)
     : process_(process), tools_(tools), waiting_(waiting) {
-    const auto loaded = load(module.empty() ? runtime::PluginModule::defaultFile() : module);
+    const auto loaded = load(module.empty() ? runtime::PluginModule::defaultFile() : module, languages);
     if (!loaded)
         problem_ = QObject::tr("%1\n\nEasel runs without this tool.")
                        .arg(QString::fromStdString(loaded.error().message()));
 }
 
-files::Result<> PluginSession::load(const std::filesystem::path& module) {
-    auto loaded = runtime::PluginModule::load(module, process_);
+files::Result<> PluginSession::load(const std::filesystem::path& module,
+                                    const std::vector<std::string>& languages) {
+    auto loaded = runtime::PluginModule::load(module, process_, languages);
     if (!loaded)
         return tl::unexpected(loaded.error());
     module_ = std::move(*loaded);

@@ -7,6 +7,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace easel::window {
 
@@ -18,9 +20,10 @@ class Waiting;
 // problem to tell.
 class PluginSession {
   public:
-    // An empty path stands for the usual place. The others outlive the session.
-    PluginSession(const std::filesystem::path& module, runtime::Process& process, ToolChoice& tools,
-                  Waiting& waiting);
+    // An empty path stands for the usual place. The languages are those of the user, as the module takes
+    // them. The others outlive the session.
+    PluginSession(const std::filesystem::path& module, const std::vector<std::string>& languages,
+                  runtime::Process& process, ToolChoice& tools, Waiting& waiting);
     ~PluginSession();
     PluginSession(const PluginSession&) = delete;
     PluginSession& operator=(const PluginSession&) = delete;
@@ -29,7 +32,7 @@ class PluginSession {
     const QString& problem() const { return problem_; }
 
   private:
-    files::Result<> load(const std::filesystem::path& module);
+    files::Result<> load(const std::filesystem::path& module, const std::vector<std::string>& languages);
 
     runtime::Process& process_;
     ToolChoice& tools_;

@@ -11,6 +11,7 @@
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/Application.h"
 #include "easel/window/main/DesktopUser.h"
+#include "easel/window/main/Languages.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/PluginSession.h"
 #include "easel/window/main/SharedParts.h"
@@ -26,6 +27,7 @@
 #include <QSettings>
 #include <QTimer>
 
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 
@@ -104,6 +106,11 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     qInstallMessageHandler(reportMessages);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const Application application(argc, argv);
+    // Qt has made the desktop's language that of the C library; the numbers of files have points all the
+    // same.
+    std::setlocale(LC_NUMERIC, "C");
+    const std::vector<std::string> languages = languagesBeforeEnglish();
+    const Languages texts(languages);
     QCoreApplication::setOrganizationName(QStringLiteral("kestrad"));
     QCoreApplication::setApplicationName(QStringLiteral("easel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Easel"));
@@ -124,7 +131,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     });
     const easel::runtime::UserScope inFront(process, user);
     Workspace workspace(shared);
-    PluginSession plugin(startUp.plugin, process, shared.tools, shared.interaction.waiting);
+    PluginSession plugin(startUp.plugin, languages, process, shared.tools, shared.interaction.waiting);
     shared.templateFolder = folderOfTemplates(startUp);
     hearSessionEnd(application, workspace);
     const TerminationSignals signals([&workspace] { workspace.quit(); });

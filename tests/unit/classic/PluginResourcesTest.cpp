@@ -11,7 +11,7 @@ using namespace easel::files;
 namespace {
 
 Result<PluginResources> parse(const std::string& inner) {
-    return PluginResources::parse("<resources>" + inner + "</resources>", "/plug/In/In.xml");
+    return PluginResources::parse({"<resources>" + inner + "</resources>", "/plug/In/In.xml"});
 }
 
 PluginResources parsed(const std::string& inner) {
@@ -109,7 +109,7 @@ TEST(PluginResources, WhatIsWrongIsNamedWithTheFileAndTheElement) {
 
 TEST(PluginResources, AFileThatIsNoResourceFileIsRefused) {
     const auto reasonFor = [](std::string_view xml) {
-        return tests::errorOf(PluginResources::parse(xml, "f.xml")).reason;
+        return tests::errorOf(PluginResources::parse({xml, "f.xml"})).reason;
     };
     EXPECT_NE(reasonFor("").find("XML"), std::string::npos);
     EXPECT_NE(reasonFor("<resources>").find("XML"), std::string::npos);

@@ -1,0 +1,917 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Direction in degrees, counter-clockwise; 0 is to the right:</source>
+        <translation>Direction en degrés, dans le sens antihoraire ; 0 est à droite :</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Share of the present opacity:</source>
+        <translation>&amp;Part de l’opacité présente :</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source> pixels per inch</source>
+        <translation> pixels par pouce</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur :</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Hauteur :</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution :</translation>
+    </message>
+    <message>
+        <source>Picture Size</source>
+        <translation>Taille de l’image</translation>
+    </message>
+    <message>
+        <source>Easel</source>
+        <translation>Easel</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Enregistrer les modifications de « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Without saving, the changes since the last save are lost.</source>
+        <translation>Sans enregistrement, les modifications faites depuis le dernier seront perdues.</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>SVG drawings (*.svg *.svgz);;All files (*)</source>
+        <translation>Dessins SVG (*.svg *.svgz);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Kept %1</source>
+        <translation>Conservé : %1</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> ou </translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Give a shape the current gradient</source>
+        <translation>Donner à une forme le dégradé courant</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Cliquer</translation>
+    </message>
+    <message>
+        <source>Turn a linear gradient</source>
+        <translation>Tourner un dégradé linéaire</translation>
+    </message>
+    <message>
+        <source>Drag (Shift: in steps of 15°)</source>
+        <translation>Tirer (Maj : par pas de 15°)</translation>
+    </message>
+    <message>
+        <source>Move the center of a radial gradient</source>
+        <translation>Déplacer le centre d’un dégradé radial</translation>
+    </message>
+    <message>
+        <source>Press</source>
+        <translation>Appuyer</translation>
+    </message>
+    <message>
+        <source>Edit the gradient of a shape</source>
+        <translation>Modifier le dégradé d’une forme</translation>
+    </message>
+    <message>
+        <source>Alt-click or Ctrl-click</source>
+        <translation>Alt-clic ou Ctrl-clic</translation>
+    </message>
+    <message>
+        <source>Copy the gradient of a shape</source>
+        <translation>Copier le dégradé d’une forme</translation>
+    </message>
+    <message>
+        <source>Alt-Shift-click</source>
+        <translation>Alt-Maj-clic</translation>
+    </message>
+    <message>
+        <source>Edit the current gradient</source>
+        <translation>Modifier le dégradé courant</translation>
+    </message>
+    <message>
+        <source>Double-click the tool</source>
+        <translation>Double-cliquer sur l’outil</translation>
+    </message>
+    <message>
+        <source>Zoom about the pointer</source>
+        <translation>Agrandir autour du pointeur</translation>
+    </message>
+    <message>
+        <source>Ctrl and wheel</source>
+        <translation>Ctrl et molette</translation>
+    </message>
+    <message>
+        <source>Move the view</source>
+        <translation>Déplacer la vue</translation>
+    </message>
+    <message>
+        <source>Wheel, middle button, or Space and drag</source>
+        <translation>Molette, bouton du milieu, ou Espace et tirer</translation>
+    </message>
+    <message>
+        <source>Break off a drag</source>
+        <translation>Interrompre un tracé</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Mouse</source>
+        <translation>Souris</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>About Easel</source>
+        <translation>À propos d’Easel</translation>
+    </message>
+    <message>
+        <source>Easel %1</source>
+        <translation>Easel %1</translation>
+    </message>
+    <message>
+        <source>Draws with gradients on SVG files.
+
+The gradient tool is a plug-in; Easel is the host that it runs in.</source>
+        <translation>Dessine avec des dégradés dans des fichiers SVG.
+
+L’outil de dégradé est un module ; Easel est le programme qui l’accueille.</translation>
+    </message>
+    <message>
+        <source>Opening %1 …</source>
+        <translation>Ouverture de %1…</translation>
+    </message>
+    <message>
+        <source>%1[*] — Easel</source>
+        <translation>%1[*] — Easel</translation>
+    </message>
+    <message>
+        <source>Opacity and ellipse stay as they are</source>
+        <translation>L’opacité et l’ellipse restent telles quelles</translation>
+    </message>
+    <message>
+        <source>Opacity stays as it is</source>
+        <translation>L’opacité reste telle quelle</translation>
+    </message>
+    <message>
+        <source>The ellipse stays as it is</source>
+        <translation>L’ellipse reste telle quelle</translation>
+    </message>
+    <message>
+        <source>The focus of this gradient was not inside its circle. With this change it has moved there, so that the gradient looks a little different.</source>
+        <translation>Le foyer de ce dégradé n’était pas dans son cercle. Cette modification l’y a déplacé, si bien que le dégradé a un aspect un peu différent.</translation>
+    </message>
+    <message>
+        <source>This gradient repeated more often than can be edited. With this change its colors run only once.</source>
+        <translation>Ce dégradé se répétait plus souvent qu’on ne peut modifier. Après cette modification, ses couleurs ne défilent qu’une fois.</translation>
+    </message>
+    <message>
+        <source>This gradient had no extent, so that only its last color showed. With this change that color is all that is left of it.</source>
+        <translation>Ce dégradé n’avait aucune étendue, si bien que seule sa dernière couleur se voyait. Après cette modification, il n’en reste que cette couleur.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Easel runs without this tool.</source>
+        <translation>%1
+
+Easel fonctionne sans cet outil.</translation>
+    </message>
+    <message>
+        <source>Printing %1 …</source>
+        <translation>Impression de %1…</translation>
+    </message>
+    <message>
+        <source>The printer cannot be started.</source>
+        <translation>L’imprimante ne peut pas être démarrée.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to print this drawing.</source>
+        <translation>La mémoire ne suffit pas pour imprimer ce dessin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n templates were added. The gradient editor lists them in its popup, and Edit &gt; Gradient &gt; Apply Template gives them to shapes.</source>
+        <translation>
+            <numerusform>%n modèle a été ajouté. L’éditeur de dégradé le présente dans son menu, et Édition &gt; Dégradé &gt; Appliquer un modèle le donne aux formes.</numerusform>
+            <numerusform>%n modèles ont été ajoutés. L’éditeur de dégradé les présente dans son menu, et Édition &gt; Dégradé &gt; Appliquer un modèle les donne aux formes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You have no gradient templates yet. Would you like a dozen to begin with, such as a sky, gold and wood?</source>
+        <translation>Il n’y a pas encore de modèles de dégradé. En voulez-vous une douzaine pour commencer, tels que ciel, or et bois ?</translation>
+    </message>
+    <message>
+        <source>&amp;Add Starter Templates</source>
+        <translation>&amp;Ajouter des modèles</translation>
+    </message>
+    <message>
+        <source>No &amp;Thanks</source>
+        <translation>&amp;Non merci</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>Two coordinates, and what stands between them where a comma is the decimal sign</extracomment>
+        <translation>%1 ; %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::Canvas</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Dessin</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::ColorPicker</name>
+    <message>
+        <source>Exact values:</source>
+        <translation>Valeurs exactes :</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>%1, 16 bits</source>
+        <translation>%1, 16 bits</translation>
+    </message>
+    <message>
+        <source>%1 from 0 to 65535</source>
+        <translation>%1 de 0 à 65535</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::DeletionWindow</name>
+    <message>
+        <source>Choose several with Shift or Ctrl. What is deleted goes to the trash.</source>
+        <translation>Maj ou Ctrl permet d’en choisir plusieurs. Ce qui est supprimé va à la corbeille.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::EditItem</name>
+    <message>
+        <source>“%1” cannot be used here: names are kept in the Mac Roman alphabet.</source>
+        <translation>« %1 » n’est pas possible ici : les noms sont conservés dans l’alphabet Mac Roman.</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::GradientMenu</name>
+    <message>
+        <source>Gradien&amp;t</source>
+        <translation>&amp;Dégradé</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Gradient</source>
+        <translation>&amp;Copier le dégradé</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Gradient</source>
+        <translation>C&amp;oller le dégradé</translation>
+    </message>
+    <message>
+        <source>Pick &amp;Up Gradient</source>
+        <translation>&amp;Prélever un dégradé</translation>
+    </message>
+    <message>
+        <source>&amp;Reverse</source>
+        <translation>&amp;Inverser</translation>
+    </message>
+    <message>
+        <source>Rotate by &amp;90°</source>
+        <translation>Tourner de &amp;90°</translation>
+    </message>
+    <message>
+        <source>&amp;Angle…</source>
+        <translation>&amp;Angle…</translation>
+    </message>
+    <message>
+        <source>Space Stops &amp;Evenly</source>
+        <translation>&amp;Répartir les points de couleur</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity…</source>
+        <translation>Op&amp;acité…</translation>
+    </message>
+    <message>
+        <source>Ma&amp;ke Opaque</source>
+        <translation>Rendre opa&amp;que</translation>
+    </message>
+    <message>
+        <source>&amp;Make Circular</source>
+        <translation>&amp;Rendre circulaire</translation>
+    </message>
+    <message>
+        <source>Apply Current &amp;Gradient</source>
+        <translation>Appliquer le dégradé coura&amp;nt</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Gradient</source>
+        <translation>S&amp;upprimer le dégradé</translation>
+    </message>
+    <message>
+        <source>P&amp;lain Color…</source>
+        <translation>Couleur &amp;unie…</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Template</source>
+        <translation>Appliquer un &amp;modèle</translation>
+    </message>
+    <message>
+        <source>&amp;Stroke Instead of Fill</source>
+        <translation>Contour au lieu du &amp;fond</translation>
+    </message>
+    <message>
+        <source>Plain color</source>
+        <translation>Couleur unie</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::MainWindow</name>
+    <message>
+        <source>Until you save, changes are not safe from a crash: %1</source>
+        <translation>Jusqu’à l’enregistrement, les modifications ne sont pas à l’abri d’un plantage : %1</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>Pointer, from the drawing&apos;s top-left corner</source>
+        <translation>Pointeur, depuis le coin supérieur gauche du dessin</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Click or drag on a shape; hold Alt or Ctrl and click to edit its colors</source>
+        <translation>Cliquer ou tirer sur une forme ; avec Alt ou Ctrl, cliquer pour modifier ses couleurs</translation>
+    </message>
+    <message>
+        <source>Click to select, Shift-click to add, drag to select several</source>
+        <translation>Cliquer pour sélectionner, avec Maj pour ajouter, tirer pour en sélectionner plusieurs</translation>
+    </message>
+    <message>
+        <source>There is no shape here that can carry a gradient</source>
+        <translation>Il n’y a ici aucune forme qui puisse porter un dégradé</translation>
+    </message>
+    <message>
+        <source>Current %1</source>
+        <translation>%1 courant</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Keep Mine</source>
+        <translation>Garder la mienne</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program.</source>
+        <translation>« %1 » a été modifié par un autre programme.</translation>
+    </message>
+    <message>
+        <source>“%1” was deleted or renamed by another program.</source>
+        <translation>« %1 » a été supprimé ou renommé par un autre programme.</translation>
+    </message>
+    <message>
+        <source>“%1” is write-protected.</source>
+        <translation>« %1 » est protégé en écriture.</translation>
+    </message>
+    <message>
+        <source>“%1” is open in another window of Easel, too. What is saved there is not seen here before the file is read again.</source>
+        <translation>« %1 » est ouvert aussi dans une autre fenêtre d’Easel. Ce qui y est enregistré ne se voit ici qu’après une nouvelle lecture du fichier.</translation>
+    </message>
+    <message>
+        <source>Read “%1” again?</source>
+        <translation>Relire « %1 » ?</translation>
+    </message>
+    <message>
+        <source>The changes that are not saved are lost.</source>
+        <translation>Les modifications non enregistrées seront perdues.</translation>
+    </message>
+    <message>
+        <source>Go back to “%1” as it was opened?</source>
+        <translation>Revenir à « %1 » tel qu’il a été ouvert ?</translation>
+    </message>
+    <message>
+        <source>All changes since then are lost, and cannot be undone. The file stays as it is until you save.</source>
+        <translation>Toutes les modifications faites depuis seront perdues, sans retour possible. Le fichier reste tel quel jusqu’à l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Revenir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>If it is saved now, what the other program wrote is lost.</source>
+        <translation>Enregistrer maintenant fait perdre ce que l’autre programme a écrit.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>É&amp;craser</translation>
+    </message>
+    <message>
+        <source>It can still be replaced by a new file of the same name.</source>
+        <translation>Il peut quand même être remplacé par un nouveau fichier du même nom.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2.</source>
+        <translation>« %1 » n’a pas pu être enregistré : %2.</translation>
+    </message>
+    <message>
+        <source>The drawing stays as it is, with its changes unsaved.</source>
+        <translation>Le dessin reste tel quel, ses modifications ne sont pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+    <message>
+        <source> exported</source>
+        <translation> exporté</translation>
+    </message>
+    <message>
+        <source>Export as %1</source>
+        <translation>Exporter en %1</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>Fichiers %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>%1: this is the drawing itself. Export it under another name, or save it.</source>
+        <translation>%1 : c’est le dessin lui-même. L’exporter sous un autre nom, ou l’enregistrer.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1 existe déjà. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Exporting %1 …</source>
+        <translation>Exportation de %1…</translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exporté</translation>
+    </message>
+    <message>
+        <source>Printed %1</source>
+        <translation>%1 imprimé</translation>
+    </message>
+    <message>
+        <source>Click on a shape to copy its gradient; Escape lets it be</source>
+        <translation>Cliquer sur une forme pour copier son dégradé ; Échap y renonce</translation>
+    </message>
+    <message>
+        <source>The gradient commands work on strokes</source>
+        <translation>Les commandes de dégradé portent sur les contours</translation>
+    </message>
+    <message>
+        <source>The gradient commands work on fills</source>
+        <translation>Les commandes de dégradé portent sur les fonds</translation>
+    </message>
+    <message>
+        <source>%1 of the Shape</source>
+        <translation>%1 de la forme</translation>
+    </message>
+    <message>
+        <source>%1 of “%2”</source>
+        <translation>%1 de « %2 »</translation>
+    </message>
+    <message>
+        <source>The center is at %1, %2 now</source>
+        <translation>Le centre est maintenant à %1 ; %2</translation>
+    </message>
+    <message>
+        <source>The gradient is copied</source>
+        <translation>Le dégradé est copié</translation>
+    </message>
+    <message>
+        <source>There is no gradient here to copy</source>
+        <translation>Il n’y a ici aucun dégradé à copier</translation>
+    </message>
+    <message>
+        <source>A template has opaque colors and circles: the opacity and the ellipse of this gradient stay behind, with the shape.</source>
+        <translation>Un modèle a des couleurs opaques et des cercles : l’opacité et l’ellipse de ce dégradé restent avec la forme.</translation>
+    </message>
+    <message>
+        <source>A template has opaque colors: the opacity of this gradient stays behind, with the shape.</source>
+        <translation>Un modèle a des couleurs opaques : l’opacité de ce dégradé reste avec la forme.</translation>
+    </message>
+    <message>
+        <source>A template has circles: the ellipse of this gradient stays behind, with the shape.</source>
+        <translation>Un modèle a des cercles : l’ellipse de ce dégradé reste avec la forme.</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nouveau</translation>
+    </message>
+    <message>
+        <source>New drawing</source>
+        <translation>Nouveau dessin</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Open a drawing</source>
+        <translation>Ouvrir un dessin</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save the drawing</source>
+        <translation>Enregistrer le dessin</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un ré&amp;cent</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Save the drawing under another name</source>
+        <translation>Enregistrer le dessin sous un autre nom</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to Opened…</source>
+        <translation>Re&amp;venir à l’ouverture…</translation>
+    </message>
+    <message>
+        <source>Go back to the drawing as it was opened</source>
+        <translation>Revenir au dessin tel qu’il a été ouvert</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>E&amp;xporter</translation>
+    </message>
+    <message>
+        <source>As &amp;PNG…</source>
+        <translation>En &amp;PNG…</translation>
+    </message>
+    <message>
+        <source>Export a picture</source>
+        <translation>Exporter une image</translation>
+    </message>
+    <message>
+        <source>As P&amp;DF…</source>
+        <translation>En P&amp;DF…</translation>
+    </message>
+    <message>
+        <source>Export a page</source>
+        <translation>Exporter une page</translation>
+    </message>
+    <message>
+        <source>As &amp;SVG…</source>
+        <translation>En &amp;SVG…</translation>
+    </message>
+    <message>
+        <source>Export a copy of the drawing</source>
+        <translation>Exporter une copie du dessin</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message>
+        <source>Print the drawing</source>
+        <translation>Imprimer le dessin</translation>
+    </message>
+    <message>
+        <source>Reopen &amp;Drawings at Start</source>
+        <translation>&amp;Rouvrir les dessins au démarrage</translation>
+    </message>
+    <message>
+        <source>Open the drawings of the last time again, in windows as they were</source>
+        <translation>Rouvrir les dessins de la dernière fois, dans des fenêtres comme avant</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Fer&amp;mer</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Close all drawings</source>
+        <translation>Fermer tous les dessins</translation>
+    </message>
+    <message>
+        <source>No recent drawings</source>
+        <translation>Aucun dessin récent</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Undo the last change</source>
+        <translation>Annuler la dernière modification</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>Rétablir ce qui a été annulé</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete what is selected</source>
+        <translation>Supprimer la sélection</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select every object</source>
+        <translation>Sélectionner tous les objets</translation>
+    </message>
+    <message>
+        <source>&amp;Gradient Options…</source>
+        <translation>&amp;Options du dégradé…</translation>
+    </message>
+    <message>
+        <source>Edit the current gradient</source>
+        <translation>Modifier le dégradé courant</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>&amp;Agrandir</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>&amp;Réduire</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>One drawing unit per pixel</source>
+        <translation>Une unité du dessin par pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;juster</translation>
+    </message>
+    <message>
+        <source>Show the whole drawing</source>
+        <translation>Montrer tout le dessin</translation>
+    </message>
+    <message>
+        <source>Snap to &amp;Grid</source>
+        <translation>Aligner sur la &amp;grille</translation>
+    </message>
+    <message>
+        <source>Snap to the grid</source>
+        <translation>Aligner sur la grille</translation>
+    </message>
+    <message>
+        <source>Snap to &amp;Objects</source>
+        <translation>Aligner sur les &amp;objets</translation>
+    </message>
+    <message>
+        <source>Snap to corners and ends</source>
+        <translation>Aligner sur les coins et les extrémités</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>Ap&amp;parence</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts</source>
+        <translation>&amp;Raccourcis</translation>
+    </message>
+    <message>
+        <source>What keys and mouse do</source>
+        <translation>Ce que font les touches et la souris</translation>
+    </message>
+    <message>
+        <source>&amp;About Easel</source>
+        <translation>À &amp;propos d’Easel</translation>
+    </message>
+    <message>
+        <source>About this program</source>
+        <translation>À propos de ce programme</translation>
+    </message>
+    <message>
+        <source>Main Tool Bar</source>
+        <translation>Barre d’outils principale</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>%1 (%2); double-click for its options</source>
+        <translation>%1 (%2) ; double-cliquer pour ses options</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::NoticeBar</name>
+    <message>
+        <source>Got it</source>
+        <translation>Compris</translation>
+    </message>
+    <message>
+        <source>Put this notice away</source>
+        <translation>Fermer cet avis</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::RecoveryDialog</name>
+    <message>
+        <source>Unsaved Drawings</source>
+        <translation>Dessins non enregistrés</translation>
+    </message>
+    <message>
+        <source>Easel ended before these drawings were saved. What is opened keeps the name of its file, which stays as it is until you save.</source>
+        <translation>Easel s’est arrêté avant que ces dessins soient enregistrés. Ce qui est ouvert garde le nom de son fichier, qui reste tel quel jusqu’à l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>&amp;Throw Away</source>
+        <translation>&amp;Jeter</translation>
+    </message>
+    <message>
+        <source>Move to the trash</source>
+        <translation>Mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>Plus &amp;tard</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <translation>Redemander au prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::TemplateMenu</name>
+    <message>
+        <source>No templates</source>
+        <translation>Aucun modèle</translation>
+    </message>
+</context>
+<context>
+    <name>easel::window::ToolChoice</name>
+    <message>
+        <source>Select</source>
+        <translation>Sélection</translation>
+    </message>
+</context>
+</TS>
