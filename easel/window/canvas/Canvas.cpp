@@ -44,6 +44,8 @@ Canvas::Canvas(runtime::DrawingWindow& window, Interaction& interaction, OpenCan
       entry_(canvases, window, *this) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
+    // A drawing has its left where it is; scroll bars that count from the right would turn it round.
+    setLayoutDirection(Qt::LeftToRight);
     setAccessibleName(tr("Drawing"));
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);

@@ -49,6 +49,8 @@ DialogContent::DialogContent(runtime::Dialog& dialog, PointerTracker& pointer, Q
     : QWidget(parent), dialog_(dialog), pointer_(pointer) {
     setFixedSize(dialog.width(), dialog.height());
     setAttribute(Qt::WA_OpaquePaintEvent);
+    // Items have fixed places, so what is in them is not to change sides.
+    setLayoutDirection(Qt::LeftToRight);
 }
 
 DialogContent::~DialogContent() {

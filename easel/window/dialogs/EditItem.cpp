@@ -1,6 +1,8 @@
 // Keeps the line editor and the model's text and selection in step.
 #include "easel/window/dialogs/EditItem.h"
 
+#include "easel/window/dialogs/LocalNumbers.h"
+
 #include <QApplication>
 #include <QScopedValueRollback>
 #include <QToolTip>
@@ -32,7 +34,7 @@ EditItem::EditItem(runtime::Dialog& dialog, int item, QWidget* parent)
 void EditItem::modelChanged(runtime::ItemChange) {
     const QScopedValueRollback following(following_, true);
     const runtime::DialogItem& item = *dialog_.item(item_);
-    const QString text = QString::fromStdString(item.shownText());
+    const QString text = shownText();
     if (text != this->text())
         setText(text);
     setEnabled(item.enabled);
@@ -42,9 +44,16 @@ void EditItem::modelChanged(runtime::ItemChange) {
         setSelection(item.selection.from, item.selection.to - item.selection.from);
 }
 
+QString EditItem::shownText() const {
+    const runtime::DialogItem& item = *dialog_.item(item_);
+    const QString text = QString::fromStdString(item.shownText());
+    return item.isNumber ? inUsersDigits(text) : text;
+}
+
 void EditItem::edited(const QString& text) {
     const int caret = cursorPosition();
-    if (dialog_.enterText(item_, text.toStdString()) == runtime::EditOutcome::Refused) {
+    const QString plain = dialog_.item(item_)->isNumber ? inPlainDigits(text) : text;
+    if (dialog_.enterText(item_, plain.toStdString()) == runtime::EditOutcome::Refused) {
         refuse(text);
         return;
     }
@@ -52,8 +61,7 @@ void EditItem::edited(const QString& text) {
 }
 
 void EditItem::refuse(const QString& attempted) {
-    const QString kept = QString::fromStdString(dialog_.item(item_)->shownText());
-    const QString character = firstNewCharacter(kept, attempted);
+    const QString character = firstNewCharacter(shownText(), attempted);
     modelChanged(runtime::ItemChange::Text);
     QApplication::beep();
     const QString reason =

@@ -21,6 +21,8 @@ class EditItem : public QLineEdit, public ItemWidget {
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
+    // The model's text, with a number in the user's way of writing.
+    QString shownText() const;
     void edited(const QString& text);
     void refuse(const QString& attempted);
     void selectionMoved();

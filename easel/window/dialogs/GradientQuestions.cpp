@@ -1,11 +1,11 @@
 // The dialogs of the gradient menu.
 #include "easel/window/dialogs/GradientQuestions.h"
 
+#include "easel/window/dialogs/NumberField.h"
 #include "easel/window/waiting/DialogStack.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QSlider>
 #include <QSpinBox>
@@ -28,14 +28,21 @@ QDialogButtonBox* okAndCancel(QDialog& dialog) {
 } // namespace
 
 std::optional<double> askForAngle(double start, DialogStack& dialogs) {
-    QInputDialog dialog(dialogs.parentForNext());
+    QDialog dialog(dialogs.parentForNext());
     dialog.setWindowTitle(QObject::tr("Angle"));
-    dialog.setLabelText(QObject::tr("Direction in degrees, counter-clockwise; 0 is to the right:"));
-    dialog.setInputMode(QInputDialog::DoubleInput);
-    dialog.setDoubleDecimals(2);
-    dialog.setDoubleRange(-kTurn, kTurn);
-    dialog.setDoubleValue(start);
-    return dialogs.run(dialog) ? std::optional(dialog.doubleValue()) : std::nullopt;
+    auto* field = new NumberField;
+    field->setDecimals(2);
+    field->setRange(-kTurn, kTurn);
+    field->setValue(start);
+    auto* label = new QLabel(QObject::tr("Direction in degrees, counter-clockwise; 0 is to the right:"));
+    label->setBuddy(field);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(label);
+    layout->addWidget(field);
+    layout->addWidget(okAndCancel(dialog));
+    field->setFocus();
+    field->selectAll();
+    return dialogs.run(dialog) ? std::optional(field->value()) : std::nullopt;
 }
 
 bool askForOpacity(const std::function<void(double factor)>& show, DialogStack& dialogs) {

@@ -1,11 +1,11 @@
 // Width, height and resolution are one number, shown in three fields.
 #include "easel/window/dialogs/PictureSizeQuestion.h"
 
+#include "easel/window/dialogs/NumberField.h"
 #include "easel/window/waiting/DialogStack.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QSettings>
 #include <QSignalBlocker>
@@ -25,7 +25,7 @@ constexpr double kMostPerInch = 100'000;
 class SizeFields {
   public:
     SizeFields(QSizeF drawing, QFormLayout& form)
-        : drawing_(drawing), width_(new QSpinBox), height_(new QSpinBox), resolution_(new QDoubleSpinBox) {
+        : drawing_(drawing), width_(new QSpinBox), height_(new QSpinBox), resolution_(new NumberField) {
         for (QSpinBox* side : {width_, height_}) {
             side->setRange(1, kMostPixels);
             side->setSuffix(QObject::tr(" pixels"));
@@ -88,7 +88,7 @@ class SizeFields {
     QSizeF drawing_;
     QSpinBox* width_;
     QSpinBox* height_;
-    QDoubleSpinBox* resolution_;
+    NumberField* resolution_;
     double scale_ = 1;
     bool isResolution_ = true;
 };

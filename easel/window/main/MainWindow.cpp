@@ -18,6 +18,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QMenu>
 #include <QScreen>
 #include <QStatusBar>
@@ -46,15 +47,20 @@ QString titleOf(const QString& drawing) {
     return QObject::tr("%1[*] \u2014 Easel").arg(drawing);
 }
 
+QString percentText(int percent) {
+    return QObject::tr("%1 %").arg(QLocale().toString(percent));
+}
+
 } // namespace
 
 QString coordinatesText(drawing::Point at, double zoom) {
     const int decimals = runtime::decimalsAt(zoom);
     const double unit = std::pow(10, decimals);
     const auto number = [&](double value) {
-        return QString::number(std::floor(value * unit) / unit, 'f', decimals);
+        return QLocale().toString(std::floor(value * unit) / unit, 'f', decimals);
     };
-    return QStringLiteral("%1, %2").arg(number(at.x), number(at.y));
+    //: Two coordinates, and what stands between them where a comma is the decimal sign
+    return QObject::tr("%1, %2").arg(number(at.x), number(at.y));
 }
 
 MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
@@ -192,7 +198,7 @@ void MainWindow::buildStatusBar() {
     zoomButton_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 %")) + 24);
     auto* levels = new QMenu(zoomButton_);
     for (const int percent : {25, 50, 75, 100, 150, 200, 400, 800})
-        levels->addAction(tr("%1 %").arg(percent), this,
+        levels->addAction(percentText(percent), this,
                           [this, percent] { canvas_->zoomAboutMiddle(percent / 100.0); });
     levels->addSeparator();
     levels->addAction(zoomFit_);
@@ -237,7 +243,7 @@ void MainWindow::nothingToPaint() {
 }
 
 void MainWindow::showZoom(double zoom) {
-    zoomButton_->setText(tr("%1 %").arg(std::lround(zoom * 100)));
+    zoomButton_->setText(percentText(static_cast<int>(std::lround(zoom * 100))));
 }
 
 void MainWindow::undo() {
