@@ -269,6 +269,189 @@ Easel läuft ohne dieses Werkzeug.</translation>
     </message>
 </context>
 <context>
+    <name>core</name>
+    <message>
+        <source>Some of the text is kept in the file but not shown.</source>
+        <translation>Ein Teil des Textes bleibt in der Datei, wird aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Videos and canvases are kept in the file but not shown.</source>
+        <translation>Videos und Zeichenflächen bleiben in der Datei, werden aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Pictures that are neither PNG, JPEG, GIF, WebP nor SVG are kept in the file but not shown.</source>
+        <translation>Bilder, die weder PNG, JPEG, GIF, WebP noch SVG sind, bleiben in der Datei, werden aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Pictures that are damaged are kept in the file but not shown.</source>
+        <translation>Beschädigte Bilder bleiben in der Datei, werden aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Pictures of more than 25 million pixels are kept in the file but not shown.</source>
+        <translation>Bilder mit mehr als 25 Millionen Bildpunkten bleiben in der Datei, werden aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Pictures are read from the folder of the drawing and those below it, and from nowhere else.</source>
+        <translation>Bilder werden aus dem Ordner der Zeichnung und denen darunter gelesen und von nirgendwo sonst.</translation>
+    </message>
+    <message>
+        <source>Pictures in files that cannot be read are not shown.</source>
+        <translation>Bilder in Dateien, die nicht gelesen werden können, werden nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Content in other languages than SVG is kept in the file but not shown.</source>
+        <translation>Inhalt in anderen Sprachen als SVG bleibt in der Datei, wird aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Scripts are kept in the file but not run.</source>
+        <translation>Skripte bleiben in der Datei, werden aber nicht ausgeführt.</translation>
+    </message>
+    <message>
+        <source>Animations are kept in the file but not played.</source>
+        <translation>Animationen bleiben in der Datei, werden aber nicht abgespielt.</translation>
+    </message>
+    <message>
+        <source>Filters of other kinds than those of SVG and CSS are kept in the file but not applied.</source>
+        <translation>Filter anderer Art als die von SVG und CSS bleiben in der Datei, werden aber nicht angewandt.</translation>
+    </message>
+    <message>
+        <source>Masks other than mask elements are kept in the file but not applied.</source>
+        <translation>Andere Masken als Maskenelemente bleiben in der Datei, werden aber nicht angewandt.</translation>
+    </message>
+    <message>
+        <source>Vector effects other than strokes of fixed width are kept in the file but not applied.</source>
+        <translation>Andere Vektoreffekte als Konturen fester Breite bleiben in der Datei, werden aber nicht angewandt.</translation>
+    </message>
+    <message>
+        <source>Clip paths other than outlines are kept in the file but not applied.</source>
+        <translation>Andere Ausschnitte als Umrisse bleiben in der Datei, werden aber nicht angewandt.</translation>
+    </message>
+    <message>
+        <source>Style sheets outside the file are not read.</source>
+        <translation>Stilvorlagen außerhalb der Datei werden nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>Content outside the file is not read.</source>
+        <translation>Inhalt außerhalb der Datei wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>References that lead back to themselves are kept in the file but not followed.</source>
+        <translation>Verweise, die auf sich selbst zurückführen, bleiben in der Datei, werden aber nicht verfolgt.</translation>
+    </message>
+    <message>
+        <source>Shapes with numbers out of range are kept in the file but not shown.</source>
+        <translation>Formen mit Zahlen außerhalb des Bereichs bleiben in der Datei, werden aber nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Groups and useInstances nested very deep are kept in the file but not shown as such.</source>
+        <translation>Sehr tief geschachtelte Gruppen und Wiederholungen bleiben in der Datei, werden aber nicht als solche gezeigt.</translation>
+    </message>
+    <message>
+        <source>Gradients between colors in linear light are drawn between those of sRGB.</source>
+        <translation>Verläufe zwischen Farben in linearem Licht werden zwischen denen von sRGB gezeichnet.</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the file is larger than memory</source>
+        <translation>die Datei ist größer als der Speicher</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the file is too large when it is unpacked</source>
+        <translation>die Datei ist entpackt zu groß</translation>
+    </message>
+    <message>
+        <source>it is compressed, and what it holds is damaged or cut off</source>
+        <translation>sie ist komprimiert, und ihr Inhalt ist beschädigt oder abgeschnitten</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>der Speicher reicht dafür nicht</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to write it</source>
+        <translation>der Speicher reicht nicht, um sie zu schreiben</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>der Speicher reicht nicht für das Bild</translation>
+    </message>
+    <message>
+        <source>it is not XML: it has no element</source>
+        <translation>das ist kein XML: sie hat kein Element</translation>
+    </message>
+    <message>
+        <source>it is not complete: it ends inside an element</source>
+        <translation>sie ist nicht vollständig: sie endet mitten in einem Element</translation>
+    </message>
+    <message>
+        <source>it is not XML: it holds characters that no text has</source>
+        <translation>das ist kein XML: sie enthält Zeichen, die kein Text hat</translation>
+    </message>
+    <message>
+        <source>it is XML, but not an SVG drawing</source>
+        <translation>das ist XML, aber keine SVG-Zeichnung</translation>
+    </message>
+    <message>
+        <source>it is not XML: an entity is defined by way of itself</source>
+        <translation>das ist kein XML: eine Entität ist durch sich selbst definiert</translation>
+    </message>
+    <message>
+        <source>its entities expand without measure</source>
+        <translation>ihre Entitäten wachsen ins Maßlose</translation>
+    </message>
+    <message>
+        <source>it repeats its shapes so often that they do not fit into memory</source>
+        <translation>sie wiederholt ihre Formen so oft, dass der Speicher nicht reicht</translation>
+    </message>
+    <message>
+        <source>it states more custom properties than fit into memory</source>
+        <translation>sie nennt mehr eigene Eigenschaften, als in den Speicher passen</translation>
+    </message>
+    <message>
+        <source>the name of a picture must end in .png, .pdf or .svg</source>
+        <translation>der Name eines Bildes muss auf .png, .pdf oder .svg enden</translation>
+    </message>
+    <message>
+        <source>no name for a temporary file could be found</source>
+        <translation>für eine vorläufige Datei war kein Name zu finden</translation>
+    </message>
+    <message>
+        <source>the trash holds too many files of that name</source>
+        <translation>der Papierkorb enthält zu viele Dateien dieses Namens</translation>
+    </message>
+    <message>
+        <source>not a plug-in: it has no MainEntry</source>
+        <translation>kein Zusatzmodul: es hat kein MainEntry</translation>
+    </message>
+    <message>
+        <source>it has no &lt;resources&gt;</source>
+        <translation>sie hat kein &lt;resources&gt;</translation>
+    </message>
+</context>
+<context>
     <name>easel::window::Canvas</name>
     <message>
         <source>Drawing</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Direction in degrees, counter-clockwise; 0 is to the right:</source>
-        <translation>Direction en degrés, dans le sens antihoraire ; 0 est à droite :</translation>
+        <translation>Direction en degrés, dans le sens antihoraire&#xa0;; 0 est à droite&#xa0;:</translation>
     </message>
     <message>
         <source>Opacity</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>&amp;Share of the present opacity:</source>
-        <translation>&amp;Part de l’opacité présente :</translation>
+        <translation>&amp;Part de l’opacité présente&#xa0;:</translation>
     </message>
     <message>
         <source> pixels</source>
@@ -33,15 +33,15 @@
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Resolution:</source>
-        <translation>&amp;Résolution :</translation>
+        <translation>&amp;Résolution&#xa0;:</translation>
     </message>
     <message>
         <source>Picture Size</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Save the changes to “%1”?</source>
-        <translation>Enregistrer les modifications de « %1 » ?</translation>
+        <translation>Enregistrer les modifications de «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Without saving, the changes since the last save are lost.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Kept %1</source>
-        <translation>Conservé : %1</translation>
+        <translation>Conservé&#xa0;: %1</translation>
     </message>
     <message>
         <source> or </source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Drag (Shift: in steps of 15°)</source>
-        <translation>Tirer (Maj : par pas de 15°)</translation>
+        <translation>Tirer (Maj&#xa0;: par pas de 15°)</translation>
     </message>
     <message>
         <source>Move the center of a radial gradient</source>
@@ -181,7 +181,7 @@
 The gradient tool is a plug-in; Easel is the host that it runs in.</source>
         <translation>Dessine avec des dégradés dans des fichiers SVG.
 
-L’outil de dégradé est un module ; Easel est le programme qui l’accueille.</translation>
+L’outil de dégradé est un module&#xa0;; Easel est le programme qui l’accueille.</translation>
     </message>
     <message>
         <source>Opening %1 …</source>
@@ -244,7 +244,7 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>You have no gradient templates yet. Would you like a dozen to begin with, such as a sky, gold and wood?</source>
-        <translation>Il n’y a pas encore de modèles de dégradé. En voulez-vous une douzaine pour commencer, tels que ciel, or et bois ?</translation>
+        <translation>Il n’y a pas encore de modèles de dégradé. En voulez-vous une douzaine pour commencer, tels que ciel, or et bois&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Add Starter Templates</source>
@@ -261,11 +261,194 @@ Easel fonctionne sans cet outil.</translation>
     <message>
         <source>%1, %2</source>
         <extracomment>Two coordinates, and what stands between them where a comma is the decimal sign</extracomment>
-        <translation>%1 ; %2</translation>
+        <translation>%1&#xa0;; %2</translation>
     </message>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>core</name>
+    <message>
+        <source>Some of the text is kept in the file but not shown.</source>
+        <translation>Une partie du texte est gardée dans le fichier mais pas montrée.</translation>
+    </message>
+    <message>
+        <source>Videos and canvases are kept in the file but not shown.</source>
+        <translation>Les vidéos et les canevas sont gardés dans le fichier mais pas montrés.</translation>
+    </message>
+    <message>
+        <source>Pictures that are neither PNG, JPEG, GIF, WebP nor SVG are kept in the file but not shown.</source>
+        <translation>Les images qui ne sont ni PNG, ni JPEG, ni GIF, ni WebP, ni SVG sont gardées dans le fichier mais pas montrées.</translation>
+    </message>
+    <message>
+        <source>Pictures that are damaged are kept in the file but not shown.</source>
+        <translation>Les images endommagées sont gardées dans le fichier mais pas montrées.</translation>
+    </message>
+    <message>
+        <source>Pictures of more than 25 million pixels are kept in the file but not shown.</source>
+        <translation>Les images de plus de 25 millions de pixels sont gardées dans le fichier mais pas montrées.</translation>
+    </message>
+    <message>
+        <source>Pictures are read from the folder of the drawing and those below it, and from nowhere else.</source>
+        <translation>Les images sont lues dans le dossier du dessin et ceux qu’il contient, et nulle part ailleurs.</translation>
+    </message>
+    <message>
+        <source>Pictures in files that cannot be read are not shown.</source>
+        <translation>Les images dans des fichiers illisibles ne sont pas montrées.</translation>
+    </message>
+    <message>
+        <source>Content in other languages than SVG is kept in the file but not shown.</source>
+        <translation>Le contenu dans d’autres langages que SVG est gardé dans le fichier mais pas montré.</translation>
+    </message>
+    <message>
+        <source>Scripts are kept in the file but not run.</source>
+        <translation>Les scripts sont gardés dans le fichier mais pas exécutés.</translation>
+    </message>
+    <message>
+        <source>Animations are kept in the file but not played.</source>
+        <translation>Les animations sont gardées dans le fichier mais pas jouées.</translation>
+    </message>
+    <message>
+        <source>Filters of other kinds than those of SVG and CSS are kept in the file but not applied.</source>
+        <translation>Les filtres d’autres sortes que ceux de SVG et CSS sont gardés dans le fichier mais pas appliqués.</translation>
+    </message>
+    <message>
+        <source>Masks other than mask elements are kept in the file but not applied.</source>
+        <translation>Les masques autres que les éléments de masque sont gardés dans le fichier mais pas appliqués.</translation>
+    </message>
+    <message>
+        <source>Vector effects other than strokes of fixed width are kept in the file but not applied.</source>
+        <translation>Les effets vectoriels autres que les contours de largeur fixe sont gardés dans le fichier mais pas appliqués.</translation>
+    </message>
+    <message>
+        <source>Clip paths other than outlines are kept in the file but not applied.</source>
+        <translation>Les découpes autres que des tracés sont gardées dans le fichier mais pas appliquées.</translation>
+    </message>
+    <message>
+        <source>Style sheets outside the file are not read.</source>
+        <translation>Les feuilles de style hors du fichier ne sont pas lues.</translation>
+    </message>
+    <message>
+        <source>Content outside the file is not read.</source>
+        <translation>Le contenu hors du fichier n’est pas lu.</translation>
+    </message>
+    <message>
+        <source>References that lead back to themselves are kept in the file but not followed.</source>
+        <translation>Les références qui ramènent à elles-mêmes sont gardées dans le fichier mais pas suivies.</translation>
+    </message>
+    <message>
+        <source>Shapes with numbers out of range are kept in the file but not shown.</source>
+        <translation>Les formes aux nombres hors limites sont gardées dans le fichier mais pas montrées.</translation>
+    </message>
+    <message>
+        <source>Groups and useInstances nested very deep are kept in the file but not shown as such.</source>
+        <translation>Les groupes et les répétitions imbriqués très profondément sont gardés dans le fichier mais pas montrés comme tels.</translation>
+    </message>
+    <message>
+        <source>Gradients between colors in linear light are drawn between those of sRGB.</source>
+        <translation>Les dégradés entre couleurs en lumière linéaire sont dessinés entre celles de sRGB.</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>le fichier est trop grand</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>the file is larger than memory</source>
+        <translation>le fichier est plus grand que la mémoire</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>the file is too large when it is unpacked</source>
+        <translation>le fichier est trop grand une fois décompressé</translation>
+    </message>
+    <message>
+        <source>it is compressed, and what it holds is damaged or cut off</source>
+        <translation>il est compressé, et son contenu est endommagé ou coupé</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>la mémoire n’y suffit pas</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to write it</source>
+        <translation>la mémoire ne suffit pas pour l’écrire</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>la mémoire ne suffit pas pour l’image</translation>
+    </message>
+    <message>
+        <source>it is not XML: it has no element</source>
+        <translation>ce n’est pas du XML&#xa0;: il n’a aucun élément</translation>
+    </message>
+    <message>
+        <source>it is not complete: it ends inside an element</source>
+        <translation>il n’est pas complet&#xa0;: il finit au milieu d’un élément</translation>
+    </message>
+    <message>
+        <source>it is not XML: it holds characters that no text has</source>
+        <translation>ce n’est pas du XML&#xa0;: il contient des caractères qu’aucun texte n’a</translation>
+    </message>
+    <message>
+        <source>it is XML, but not an SVG drawing</source>
+        <translation>c’est du XML, mais pas un dessin SVG</translation>
+    </message>
+    <message>
+        <source>it is not XML: an entity is defined by way of itself</source>
+        <translation>ce n’est pas du XML&#xa0;: une entité est définie par elle-même</translation>
+    </message>
+    <message>
+        <source>its entities expand without measure</source>
+        <translation>ses entités s’étendent sans mesure</translation>
+    </message>
+    <message>
+        <source>it repeats its shapes so often that they do not fit into memory</source>
+        <translation>il répète ses formes si souvent que la mémoire n’y suffit pas</translation>
+    </message>
+    <message>
+        <source>it states more custom properties than fit into memory</source>
+        <translation>il énonce plus de propriétés personnalisées que la mémoire n’en contient</translation>
+    </message>
+    <message>
+        <source>the name of a picture must end in .png, .pdf or .svg</source>
+        <translation>le nom d’une image doit finir par .png, .pdf ou .svg</translation>
+    </message>
+    <message>
+        <source>no name for a temporary file could be found</source>
+        <translation>aucun nom n’a été trouvé pour un fichier temporaire</translation>
+    </message>
+    <message>
+        <source>the trash holds too many files of that name</source>
+        <translation>la corbeille contient trop de fichiers de ce nom</translation>
+    </message>
+    <message>
+        <source>not a plug-in: it has no MainEntry</source>
+        <translation>ce n’est pas un module&#xa0;: il n’a pas de MainEntry</translation>
+    </message>
+    <message>
+        <source>it has no &lt;resources&gt;</source>
+        <translation>il n’a pas de &lt;resources&gt;</translation>
     </message>
 </context>
 <context>
@@ -279,7 +462,7 @@ Easel fonctionne sans cet outil.</translation>
     <name>easel::window::ColorPicker</name>
     <message>
         <source>Exact values:</source>
-        <translation>Valeurs exactes :</translation>
+        <translation>Valeurs exactes&#xa0;:</translation>
     </message>
     <message>
         <source>Red</source>
@@ -317,7 +500,7 @@ Easel fonctionne sans cet outil.</translation>
     <name>easel::window::EditItem</name>
     <message>
         <source>“%1” cannot be used here: names are kept in the Mac Roman alphabet.</source>
-        <translation>« %1 » n’est pas possible ici : les noms sont conservés dans l’alphabet Mac Roman.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas possible ici&#xa0;: les noms sont conservés dans l’alphabet Mac Roman.</translation>
     </message>
 </context>
 <context>
@@ -395,7 +578,7 @@ Easel fonctionne sans cet outil.</translation>
     <name>easel::window::MainWindow</name>
     <message>
         <source>Until you save, changes are not safe from a crash: %1</source>
-        <translation>Jusqu’à l’enregistrement, les modifications ne sont pas à l’abri d’un plantage : %1</translation>
+        <translation>Jusqu’à l’enregistrement, les modifications ne sont pas à l’abri d’un plantage&#xa0;: %1</translation>
     </message>
     <message>
         <source>Untitled</source>
@@ -411,7 +594,7 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>Click or drag on a shape; hold Alt or Ctrl and click to edit its colors</source>
-        <translation>Cliquer ou tirer sur une forme ; avec Alt ou Ctrl, cliquer pour modifier ses couleurs</translation>
+        <translation>Cliquer ou tirer sur une forme&#xa0;; avec Alt ou Ctrl, cliquer pour modifier ses couleurs</translation>
     </message>
     <message>
         <source>Click to select, Shift-click to add, drag to select several</source>
@@ -439,23 +622,23 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>“%1” was changed by another program.</source>
-        <translation>« %1 » a été modifié par un autre programme.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été modifié par un autre programme.</translation>
     </message>
     <message>
         <source>“%1” was deleted or renamed by another program.</source>
-        <translation>« %1 » a été supprimé ou renommé par un autre programme.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été supprimé ou renommé par un autre programme.</translation>
     </message>
     <message>
         <source>“%1” is write-protected.</source>
-        <translation>« %1 » est protégé en écriture.</translation>
+        <translation>«&#xa0;%1&#xa0;» est protégé en écriture.</translation>
     </message>
     <message>
         <source>“%1” is open in another window of Easel, too. What is saved there is not seen here before the file is read again.</source>
-        <translation>« %1 » est ouvert aussi dans une autre fenêtre d’Easel. Ce qui y est enregistré ne se voit ici qu’après une nouvelle lecture du fichier.</translation>
+        <translation>«&#xa0;%1&#xa0;» est ouvert aussi dans une autre fenêtre d’Easel. Ce qui y est enregistré ne se voit ici qu’après une nouvelle lecture du fichier.</translation>
     </message>
     <message>
         <source>Read “%1” again?</source>
-        <translation>Relire « %1 » ?</translation>
+        <translation>Relire «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>The changes that are not saved are lost.</source>
@@ -463,7 +646,7 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>Go back to “%1” as it was opened?</source>
-        <translation>Revenir à « %1 » tel qu’il a été ouvert ?</translation>
+        <translation>Revenir à «&#xa0;%1&#xa0;» tel qu’il a été ouvert&#xa0;?</translation>
     </message>
     <message>
         <source>All changes since then are lost, and cannot be undone. The file stays as it is until you save.</source>
@@ -495,7 +678,7 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>“%1” could not be saved: %2.</source>
-        <translation>« %1 » n’a pas pu être enregistré : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être enregistré&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The drawing stays as it is, with its changes unsaved.</source>
@@ -527,11 +710,11 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>%1: this is the drawing itself. Export it under another name, or save it.</source>
-        <translation>%1 : c’est le dessin lui-même. L’exporter sous un autre nom, ou l’enregistrer.</translation>
+        <translation>%1&#xa0;: c’est le dessin lui-même. L’exporter sous un autre nom, ou l’enregistrer.</translation>
     </message>
     <message>
         <source>%1 is there already. Replace it?</source>
-        <translation>%1 existe déjà. Le remplacer ?</translation>
+        <translation>%1 existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -551,7 +734,7 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>Click on a shape to copy its gradient; Escape lets it be</source>
-        <translation>Cliquer sur une forme pour copier son dégradé ; Échap y renonce</translation>
+        <translation>Cliquer sur une forme pour copier son dégradé&#xa0;; Échap y renonce</translation>
     </message>
     <message>
         <source>The gradient commands work on strokes</source>
@@ -567,11 +750,11 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
-        <translation>%1 de « %2 »</translation>
+        <translation>%1 de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>The center is at %1, %2 now</source>
-        <translation>Le centre est maintenant à %1 ; %2</translation>
+        <translation>Le centre est maintenant à %1&#xa0;; %2</translation>
     </message>
     <message>
         <source>The gradient is copied</source>
@@ -583,15 +766,15 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>A template has opaque colors and circles: the opacity and the ellipse of this gradient stay behind, with the shape.</source>
-        <translation>Un modèle a des couleurs opaques et des cercles : l’opacité et l’ellipse de ce dégradé restent avec la forme.</translation>
+        <translation>Un modèle a des couleurs opaques et des cercles&#xa0;: l’opacité et l’ellipse de ce dégradé restent avec la forme.</translation>
     </message>
     <message>
         <source>A template has opaque colors: the opacity of this gradient stays behind, with the shape.</source>
-        <translation>Un modèle a des couleurs opaques : l’opacité de ce dégradé reste avec la forme.</translation>
+        <translation>Un modèle a des couleurs opaques&#xa0;: l’opacité de ce dégradé reste avec la forme.</translation>
     </message>
     <message>
         <source>A template has circles: the ellipse of this gradient stays behind, with the shape.</source>
-        <translation>Un modèle a des cercles : l’ellipse de ce dégradé reste avec la forme.</translation>
+        <translation>Un modèle a des cercles&#xa0;: l’ellipse de ce dégradé reste avec la forme.</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -847,7 +1030,7 @@ Easel fonctionne sans cet outil.</translation>
     </message>
     <message>
         <source>%1 (%2); double-click for its options</source>
-        <translation>%1 (%2) ; double-cliquer pour ses options</translation>
+        <translation>%1 (%2)&#xa0;; double-cliquer pour ses options</translation>
     </message>
     <message>
         <source>%1 (%2)</source>

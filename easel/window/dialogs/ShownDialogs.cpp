@@ -104,8 +104,7 @@ void ShownDialogs::askForText(runtime::Dialog& dialog, const runtime::DialogItem
     const QString name = QString::fromStdString(field.accessibleName);
     const QString text = name.isEmpty() ? QObject::tr("The field is empty.")
                                         : QObject::tr("\u201c%1\u201d is empty.").arg(name);
-    tellProblem(QObject::tr("%1 Type something, or choose Cancel.").arg(text).toStdString(),
-                interaction_.dialogs);
+    tellProblem(QObject::tr("%1 Type something, or choose Cancel.").arg(text), interaction_.dialogs);
     dialog.setFocus(field.number);
 }
 

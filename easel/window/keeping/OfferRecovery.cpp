@@ -48,7 +48,7 @@ bool carryOut(RecoveryDialog::Choice choice, Journal& journal, DialogStack& dial
     else if (choice == RecoveryDialog::Choice::ThrowAway)
         settled = files::Trash(files::Trash::desktopHome()).move(journal.drawing()).map([] { return true; });
     if (!settled)
-        tellProblem(settled.error().message(), dialogs);
+        tellProblem(settled.error(), dialogs);
     if (!settled || !*settled)
         return false;
     journal.remove();

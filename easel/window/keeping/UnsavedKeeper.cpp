@@ -2,6 +2,7 @@
 #include "easel/window/keeping/UnsavedKeeper.h"
 
 #include "easel/drawing/Drawing.h"
+#include "easel/window/waiting/CoreTexts.h"
 
 #include <chrono>
 #include <utility>
@@ -66,7 +67,7 @@ void UnsavedKeeper::landed(const files::Result<>& kept) {
     if (!kept) {
         keptRevision_ = UINT64_MAX;
         if (!std::exchange(toldFailure_, true))
-            Q_EMIT failed(QString::fromStdString(kept.error().message()));
+            Q_EMIT failed(inUsersLanguage(kept.error()));
         // Tried again with the next change, not before: the reason may last.
         return;
     }

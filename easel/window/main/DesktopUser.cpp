@@ -73,7 +73,7 @@ void DesktopUser::beep() {
 }
 
 void DesktopUser::tell(const std::string& message) {
-    tellProblem(message, interaction_.dialogs);
+    tellProblem(QString::fromStdString(message), interaction_.dialogs);
 }
 
 void DesktopUser::dialogShown(runtime::Dialog& dialog) {

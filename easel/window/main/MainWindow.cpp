@@ -12,6 +12,7 @@
 #include "easel/window/main/LoadDrawing.h"
 #include "easel/window/main/NoticeBar.h"
 #include "easel/window/main/SharedParts.h"
+#include "easel/window/waiting/CoreTexts.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -39,7 +40,7 @@ constexpr QSize kFrame{16, 48}; // about what a window manager puts around a win
 QString joined(const std::vector<std::string>& notes) {
     QStringList lines;
     for (const std::string& note : notes)
-        lines << QString::fromStdString(note);
+        lines << inUsersLanguage(note);
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -59,7 +59,7 @@ void MainWindow::reload() {
     if (loaded)
         setDrawing(*std::move(loaded));
     else if (!loaded.error().isCancellation())
-        tellProblem(loaded.error().message(), shared_.interaction.dialogs);
+        tellProblem(loaded.error(), shared_.interaction.dialogs);
 }
 
 void MainWindow::revertToOpened() {
@@ -71,7 +71,7 @@ void MainWindow::revertToOpened() {
     const std::string bytes = contentBefore_ ? *contentBefore_ : svg::openedBytes(drawingWindow_.drawing());
     auto drawing = svg::readBytesOf(onDisk_.known().file(), bytes);
     if (!drawing)
-        return tellProblem(drawing.error().message(), shared_.interaction.dialogs);
+        return tellProblem(drawing.error(), shared_.interaction.dialogs);
     if (!onDisk_.known().isContent(bytes))
         drawing->markUnsaved();
     contentBefore_.reset();

@@ -8,6 +8,7 @@
 #include "easel/window/main/PrintDrawing.h"
 #include "easel/window/main/SharedParts.h"
 #include "easel/window/waiting/BackgroundWork.h"
+#include "easel/window/waiting/CoreTexts.h"
 #include "easel/window/waiting/TellProblem.h"
 
 #include <QDragEnterEvent>
@@ -99,7 +100,7 @@ MainWindow::Saved MainWindow::saveTo(const QString& file) {
     const files::Result<> saved = bytes.and_then([&](const std::string& all) { return write(path, all); });
     if (!saved) {
         drawingChanged();
-        return saveFailed(file, QString::fromStdString(saved.error().reason));
+        return saveFailed(file, inUsersLanguage(saved.error().reason));
     }
     drawingWindow_.drawing().markSaved();
     files::KnownFile known(path);
@@ -129,7 +130,7 @@ QString MainWindow::fileForExport(const QString& suffix) {
     if (!file_.isEmpty() && QFileInfo(file) == QFileInfo(file_)) {
         const QString problem =
             tr("%1: this is the drawing itself. Export it under another name, or save it.").arg(file);
-        tellProblem(problem.toStdString(), shared_.interaction.dialogs);
+        tellProblem(problem, shared_.interaction.dialogs);
         return {};
     }
     return file;
@@ -157,7 +158,7 @@ void MainWindow::exportAs(const QString& suffix) {
                         exported = exports::exportDrawing(drawingWindow_.drawing(), path, size, progress);
                     });
     if (!exported && !exported.error().isCancellation())
-        tellProblem(exported.error().message(), shared_.interaction.dialogs);
+        tellProblem(exported.error(), shared_.interaction.dialogs);
     else if (exported)
         statusBar()->showMessage(tr("Exported %1").arg(QFileInfo(file).fileName()), kMessageTime);
 }

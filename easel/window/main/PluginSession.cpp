@@ -4,6 +4,7 @@
 #include "easel/runtime/Process.h"
 #include "easel/window/look/PictureIcon.h"
 #include "easel/window/main/ToolChoice.h"
+#include "easel/window/waiting/CoreTexts.h"
 #include "easel/window/waiting/Waiting.h"
 
 namespace easel::window {
@@ -21,8 +22,7 @@ PluginSession::PluginSession(const std::filesystem::path& module, const std::vec
     : process_(process), tools_(tools), waiting_(waiting) {
     const auto loaded = load(module.empty() ? runtime::PluginModule::defaultFile() : module, languages);
     if (!loaded)
-        problem_ = QObject::tr("%1\n\nEasel runs without this tool.")
-                       .arg(QString::fromStdString(loaded.error().message()));
+        problem_ = QObject::tr("%1\n\nEasel runs without this tool.").arg(inUsersLanguage(loaded.error()));
 }
 
 files::Result<> PluginSession::load(const std::filesystem::path& module,

@@ -6,6 +6,7 @@
 #include "easel/files/AtomicFile.h"
 #include "easel/paint/RenderDrawing.h"
 #include "easel/window/waiting/BackgroundWork.h"
+#include "easel/window/waiting/CoreTexts.h"
 #include "easel/window/waiting/Interaction.h"
 #include "easel/window/waiting/TellProblem.h"
 
@@ -53,7 +54,7 @@ QImage pictureOf(const drawing::Drawing& drawing, double scale, const exports::P
 }
 
 Printed notPrinted(Interaction& interaction, const QString& problem) {
-    tellProblem(problem.toStdString(), interaction.dialogs);
+    tellProblem(problem, interaction.dialogs);
     return Printed::No;
 }
 
@@ -98,7 +99,7 @@ Printed printDrawing(const drawing::Drawing& drawing, QPrinter& printer, Interac
                                     drawing, page.pointsAUnit * kPrintResolution / kPointsPerInch, progress);
                         });
         if (!written)
-            return notPrinted(interaction, QString::fromStdString(written.error().message()));
+            return notPrinted(interaction, inUsersLanguage(written.error()));
         if (!asPdf && !paintPage(drawing, page, image, printer))
             return notPrinted(interaction, QObject::tr("The printer cannot be started."));
     } catch (const exports::Cancelled&) {

@@ -138,7 +138,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     QTimer::singleShot(0, &workspace, [&] {
         openFirstWindows(workspace, startUp, shared);
         if (!plugin.problem().isEmpty())
-            tellProblem(plugin.problem().toStdString(), shared.interaction.dialogs);
+            tellProblem(plugin.problem(), shared.interaction.dialogs);
     });
     return QApplication::exec();
 }

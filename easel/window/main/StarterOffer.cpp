@@ -17,7 +17,7 @@ void addThem(NoticeBar& notice, SharedParts& shared) {
     const exchange::TemplateShelf shelf(shared.templateFolder, {});
     const auto added = exchange::addStarterTemplates(shelf, exchange::starterTemplates());
     if (!added) {
-        tellProblem(added.error().message(), shared.interaction.dialogs);
+        tellProblem(added.error(), shared.interaction.dialogs);
         return;
     }
     notice.tell(QObject::tr("%n templates were added. The gradient editor lists them in its popup, and "

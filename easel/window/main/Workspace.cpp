@@ -61,7 +61,7 @@ void Workspace::openFile(const QString& file, QWidget* over) {
     auto loaded = loadDrawing(file, shared_.interaction, over);
     if (!loaded) {
         if (!loaded.error().isCancellation())
-            tellProblem(loaded.error().message(), shared_.interaction.dialogs);
+            tellProblem(loaded.error(), shared_.interaction.dialogs);
         if (!QFileInfo::exists(file))
             shared_.recentFiles.remove(file);
         return;
@@ -78,7 +78,7 @@ bool Workspace::openKept(recovery::Journal& journal, QWidget* over) {
     auto loaded = loadKept(journal, shared_.interaction, over);
     if (!loaded) {
         if (!loaded.error().isCancellation())
-            tellProblem(loaded.error().message(), shared_.interaction.dialogs);
+            tellProblem(loaded.error(), shared_.interaction.dialogs);
         return false;
     }
     const QString file = QFile::decodeName(journal.origin().c_str());
