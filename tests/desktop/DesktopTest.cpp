@@ -22,6 +22,11 @@ void DesktopTest::SetUpTestSuite() {
         screen_ = std::make_unique<Screen>(TEST_OUTPUT_DIR);
 }
 
+void DesktopTest::startScreen(const std::string& size) {
+    fs::create_directories(TEST_OUTPUT_DIR);
+    screen_ = std::make_unique<Screen>(TEST_OUTPUT_DIR, size);
+}
+
 void DesktopTest::SetUp() {
     std::string pattern = (fs::temp_directory_path() / "easel-desktop-XXXXXX").string();
     ASSERT_NE(mkdtemp(pattern.data()), nullptr);

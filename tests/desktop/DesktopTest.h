@@ -41,6 +41,9 @@ class DesktopTest : public testing::Test {
     void TearDown() override;
 
     static Screen& screen() { return *screen_; }
+    // For tests that want a screen of another size. Whoever starts one ends it.
+    static void startScreen(const std::string& size);
+    static void endScreen() { screen_.reset(); }
     const std::filesystem::path& folder() const { return folder_; }
     std::filesystem::path configuration() const { return folder_ / "config"; }
     std::filesystem::path drawing() const { return folder_ / "drawing.svg"; }

@@ -26,12 +26,13 @@ void pause(std::chrono::milliseconds time) {
 }
 
 // The server chooses a free number itself and writes it to a pipe when it is ready.
-std::string startServer(std::unique_ptr<Process>& server, const std::string& output) {
+std::string startServer(std::unique_ptr<Process>& server, const std::string& output,
+                        const std::string& size) {
     std::array<int, 2> ends{};
     if (pipe(ends.data()) != 0)
         throw std::runtime_error("no pipe");
     server = std::make_unique<Process>(std::vector<std::string>{"Xvfb", "-displayfd", std::to_string(ends[1]),
-                                                                "-screen", "0", "1400x1000x24", "-nolisten",
+                                                                "-screen", "0", size + "x24", "-nolisten",
                                                                 "tcp", "-noreset"},
                                        std::map<std::string, std::string>{}, output);
     close(ends[1]);
@@ -52,7 +53,8 @@ int ignoreError(Display*, XErrorEvent*) {
 
 } // namespace
 
-Screen::Screen(const std::string& outputFolder) : name_(startServer(server_, outputFolder + "/xvfb.log")) {
+Screen::Screen(const std::string& outputFolder, const std::string& size)
+    : name_(startServer(server_, outputFolder + "/xvfb.log", size)) {
     XSetErrorHandler(ignoreError);
     display_ = XOpenDisplay(name_.c_str());
     if (!display_)

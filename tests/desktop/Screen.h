@@ -62,8 +62,8 @@ enum class Button : unsigned { Left = 1, Middle = 2, WheelUp = 4, WheelDown = 5 
 
 class Screen {
   public:
-    // Starts the server and a window manager.
-    explicit Screen(const std::string& outputFolder);
+    // Starts the server and a window manager. The size is in pixels, as in "800x600".
+    explicit Screen(const std::string& outputFolder, const std::string& size = "1400x1000");
     ~Screen();
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;

@@ -14,6 +14,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <initializer_list>
 #include <set>
 
@@ -23,6 +24,9 @@ namespace {
 QString withoutMnemonic(QString text) {
     return text.remove(QLatin1Char('&'));
 }
+
+constexpr QSize kShortcutsSize{560, 620};
+constexpr int kBesidesTexts = 96; // indentation, scroll bar and margins
 
 using Listed = std::set<const QAction*>;
 
@@ -125,14 +129,15 @@ void showShortcuts(const QMainWindow& window, DialogStack& dialogs) {
     addOthers(*list, window, listed);
     list->expandAll();
     list->setItemsExpandable(false);
-    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    for (const int column : {0, 1})
+        list->resizeColumnToContents(column);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     auto* layout = new QVBoxLayout(&dialog);
     layout->addWidget(list);
     layout->addWidget(buttons);
-    dialog.resize(560, 620);
+    const int texts = list->columnWidth(0) + list->columnWidth(1);
+    dialog.resize(std::max(kShortcutsSize.width(), texts + kBesidesTexts), kShortcutsSize.height());
     dialogs.run(dialog);
 }
 

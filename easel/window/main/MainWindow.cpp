@@ -7,6 +7,7 @@
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/SelectTool.h"
 #include "easel/window/look/Theme.h"
+#include "easel/window/main/ElidedLabel.h"
 #include "easel/window/main/GradientMenu.h"
 #include "easel/window/main/HelpDialogs.h"
 #include "easel/window/main/LoadDrawing.h"
@@ -180,7 +181,7 @@ MainWindow::Awaiting::~Awaiting() {
 }
 
 void MainWindow::buildStatusBar() {
-    message_ = new QLabel;
+    message_ = new ElidedLabel;
     pointer_ = new QLabel;
     // Of a fixed size, as the status bar is laid out anew for any other label that changes.
     const QString longest = QStringLiteral("-00000.00, -00000.00");

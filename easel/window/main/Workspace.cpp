@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QScreen>
 
 #include <algorithm>
 #include <optional>
@@ -22,6 +23,13 @@ constexpr double kNewWidth = 800;
 constexpr double kNewHeight = 600;
 // A new window stands a little to the right of and below the one before.
 constexpr QPoint kCascade{28, 28};
+
+// Where the next window begins; at the screen's corner if it would reach beyond the screen elsewhere.
+QPoint cascaded(const QWidget& last, const QSize& size) {
+    const QRect room = last.screen()->availableGeometry();
+    const QRect next(last.pos() + kCascade, size + last.frameGeometry().size() - last.size());
+    return room.contains(next) ? next.topLeft() : room.topLeft();
+}
 
 } // namespace
 
@@ -113,7 +121,7 @@ MainWindow& Workspace::show(LoadedDrawing loaded) {
     connect(window, &MainWindow::closing, this, &Workspace::windowClosing);
     connect(window, &MainWindow::closed, this, [this, window] { windowClosed(*window); });
     if (last)
-        window->move(last->pos() + kCascade);
+        window->move(cascaded(*last, window->size()));
     window->show();
     window->activateWindow();
     shared_.interaction.dialogs.setFrontWindow(window);

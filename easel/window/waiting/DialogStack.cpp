@@ -1,6 +1,8 @@
 // Shows dialogs and waits for their end.
 #include "easel/window/waiting/DialogStack.h"
 
+#include "easel/window/waiting/FitToScreen.h"
+
 #include <QDialog>
 
 namespace easel::window {
@@ -28,6 +30,7 @@ bool DialogStack::run(QDialog& dialog) {
 
 void DialogStack::push(QDialog& dialog) {
     open_.emplace_back(&dialog);
+    fitToScreen(dialog);
     dialog.show();
     dialog.activateWindow();
 }
