@@ -1036,6 +1036,10 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>High &amp;Contrast</source>
+        <translation>Hoher &amp;Kontrast</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::NoticeBar</name>

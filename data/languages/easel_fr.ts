@@ -1036,6 +1036,10 @@ Easel fonctionne sans cet outil.</translation>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>High &amp;Contrast</source>
+        <translation>Contraste &amp;élevé</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::NoticeBar</name>

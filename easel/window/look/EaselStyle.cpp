@@ -8,6 +8,8 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include <array>
+
 namespace easel::window {
 namespace {
 
@@ -28,6 +30,63 @@ void drawToolButtonPanel(const QStyleOption& option, QPainter& painter) {
     painter.setPen(focused ? QPen(accent, 1.5) : QPen(Qt::NoPen));
     painter.setBrush(fill);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), kCorner, kCorner);
+    painter.restore();
+}
+
+// Fusion draws what frames a control darker than the ground, which hides it on a dark one.
+bool needsOutlines(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+// As strong as the palette wants to be.
+QColor outlineColor(const QStyleOption& option) {
+    const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+    if (enabled && (option.state & QStyle::State_HasFocus) != 0)
+        return option.palette.color(QPalette::Highlight);
+    const bool highContrast = option.palette.color(QPalette::Window).lightness() == 0;
+    QColor color = option.palette.color(QPalette::WindowText);
+    color.setAlphaF(highContrast ? 1.0F : (enabled ? 0.45F : 0.2F));
+    return color;
+}
+
+void drawOutline(const QStyleOption& option, QPainter& painter) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(outlineColor(option), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.restore();
+}
+
+void drawTick(const QRectF& box, QPainter& painter) {
+    const auto at = [&box](double x, double y) {
+        return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+    };
+    const std::array points{at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.28)};
+    painter.setPen(QPen(painter.brush().color(), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+}
+
+enum class Indicator { Radio, Check };
+
+void drawIndicator(const QStyleOption& option, QPainter& painter, Indicator kind) {
+    const bool on = (option.state & QStyle::State_On) != 0;
+    const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+    const QRectF frame = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(outlineColor(option), 1.5));
+    painter.setBrush(option.palette.brush(QPalette::Base));
+    if (kind == Indicator::Radio)
+        painter.drawEllipse(frame);
+    else
+        painter.drawRoundedRect(frame, 2, 2);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::Text));
+    if (on && kind == Indicator::Radio)
+        painter.drawEllipse(frame.center(), frame.width() * 0.26, frame.height() * 0.26);
+    else if (on)
+        drawTick(frame, painter);
     painter.restore();
 }
 
@@ -56,14 +115,29 @@ void drawHairline(const QStyleOption& option, QPainter& painter, Qt::Edge edge) 
 bool EaselStyle::desktopHasStyle() {
     // A desktop's theme plug-in names its style before any window shows; "fusion" means that none did.
     const EaselStyle probe;
-    return probe.baseStyle() && probe.baseStyle()->name() != QLatin1String("fusion");
+    return !probe.hasFusion();
 }
 
 void EaselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
+    const bool outlined = hasFusion() && needsOutlines(option->palette);
     switch (element) {
     case PE_PanelButtonTool:
         drawToolButtonPanel(*option, *painter);
+        return;
+    case PE_IndicatorRadioButton:
+    case PE_IndicatorCheckBox:
+        if (outlined)
+            drawIndicator(*option, *painter,
+                          element == PE_IndicatorRadioButton ? Indicator::Radio : Indicator::Check);
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    case PE_PanelButtonCommand:
+    case PE_FrameLineEdit:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (outlined)
+            drawOutline(*option, *painter);
         return;
     case PE_PanelStatusBar:
         drawHairline(*option, *painter, Qt::TopEdge);
@@ -84,6 +158,17 @@ void EaselStyle::drawMenuArrow(const QStyleOption& option, QPainter& painter, co
     if (qobject_cast<const QToolButton*>(widget))
         placed.rect.moveCenter({option.rect.center().x() - 3, widget->rect().center().y() + 1});
     QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, &placed, &painter, widget);
+}
+
+void EaselStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if ((control == CC_ComboBox || control == CC_SpinBox) && hasFusion() && needsOutlines(option->palette))
+        drawOutline(*option, *painter);
+}
+
+bool EaselStyle::hasFusion() const {
+    return baseStyle()->name() == QLatin1String("fusion");
 }
 
 void EaselStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -5,7 +5,7 @@
 
 namespace easel::window {
 
-// Flat tool buttons, quiet bars, keyboard focus that shows.
+// Flat tool buttons, quiet bars, keyboard focus that shows, and controls that can be seen on a dark ground.
 class EaselStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -17,11 +17,14 @@ class EaselStyle : public QProxyStyle {
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
 
   private:
+    bool hasFusion() const;
     void drawMenuArrow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
 };
 

@@ -10,10 +10,19 @@
 #include <QStandardPaths>
 #include <QStyle>
 
+#include <array>
+#include <functional>
+#include <utility>
+
 namespace easel::window {
 namespace {
 
 const char* const kAppearanceKey = "appearance";
+// As the desktop has it is what nothing stored means.
+constexpr std::array<std::pair<Appearance, const char*>, 3> kNames{
+    {{Appearance::Light, "light"}, {Appearance::Dark, "dark"}, {Appearance::HighContrast, "high-contrast"}}};
+
+constexpr int kPale = 160; // of 255; from there on black is read more easily than white
 
 struct Shades {
     const char* window;
@@ -36,6 +45,10 @@ constexpr Shades kLight{"#f5f5f7", "#ffffff", "#1d1f24", "#9a9ca5", "#fdfdfe", "
 constexpr Shades kDark{"#27292d", "#1c1e21", "#e8e9ec", "#7d8088", "#383b41", "#484c53", "#3d4046",
                        "#1a1c1f", "#17181b", "#0c0d0e", "#4f8bff", "#8ab4ff", "#35383d"};
 
+// White and yellow on black, with nothing between that would have to be told apart.
+constexpr Shades kHighContrast{"#000000", "#000000", "#ffffff", "#b8b8b8", "#000000", "#ffffff", "#262626",
+                               "#b8b8b8", "#000000", "#000000", "#ffe000", "#ffe000", "#000000"};
+
 QPalette paletteOf(const Shades& shades) {
     QPalette palette;
     const auto set = [&palette](QPalette::ColorRole role, const char* color) {
@@ -56,7 +69,8 @@ QPalette paletteOf(const Shades& shades) {
     set(QPalette::Dark, shades.dark);
     set(QPalette::Shadow, shades.shadow);
     set(QPalette::Highlight, shades.accent);
-    set(QPalette::HighlightedText, "#ffffff");
+    const bool isPale = qGray(QColor(shades.accent).rgb()) > kPale;
+    set(QPalette::HighlightedText, isPale ? "#000000" : "#ffffff");
     set(QPalette::Link, shades.link);
     set(QPalette::LinkVisited, shades.link);
     set(QPalette::ToolTipBase, shades.toolTip);
@@ -72,18 +86,23 @@ bool isDarkPalette(const QPalette& palette) {
 }
 
 // GNOME says what it prefers only when asked; the answer may come late, so the start does not wait for it.
-void askDesktop() {
+void askDesktop(
+    const QStringList& setting, const QByteArray& answer, const Shades& shades,
+    const std::function<void()>& otherwise = [] {}) {
     const QString program = QStandardPaths::findExecutable("gsettings");
     if (program.isEmpty())
         return;
     auto* process = new QProcess(qApp);
-    QObject::connect(process, &QProcess::finished, qApp, [process] {
-        if (process->readAllStandardOutput().contains("prefer-dark") &&
-            storedAppearance() == Appearance::AsDesktop)
-            QApplication::setPalette(paletteOf(kDark));
+    QObject::connect(process, &QProcess::finished, qApp, [process, answer, shades, otherwise] {
         process->deleteLater();
+        if (storedAppearance() != Appearance::AsDesktop)
+            return;
+        if (process->readAllStandardOutput().contains(answer))
+            QApplication::setPalette(paletteOf(shades));
+        else
+            otherwise();
     });
-    process->start(program, {"get", "org.gnome.desktop.interface", "color-scheme"});
+    process->start(program, QStringList{"get"} + setting);
 }
 
 } // namespace
@@ -95,26 +114,33 @@ void applyAppearance(Appearance appearance) {
         QApplication::setPalette(desktopPalette);
         return;
     }
+    if (appearance == Appearance::HighContrast) {
+        QApplication::setPalette(paletteOf(kHighContrast));
+        return;
+    }
     const bool dark = appearance == Appearance::Dark ||
                       (appearance == Appearance::AsDesktop && isDarkPalette(desktopPalette));
     QApplication::setPalette(paletteOf(dark ? kDark : kLight));
     if (appearance == Appearance::AsDesktop && !dark)
-        askDesktop();
+        askDesktop({"org.gnome.desktop.a11y.interface", "high-contrast"}, "true", kHighContrast, [] {
+            askDesktop({"org.gnome.desktop.interface", "color-scheme"}, "prefer-dark", kDark);
+        });
 }
 
 Appearance storedAppearance() {
     const QString stored = QSettings().value(kAppearanceKey).toString();
-    if (stored == "light")
-        return Appearance::Light;
-    return stored == "dark" ? Appearance::Dark : Appearance::AsDesktop;
+    for (const auto& [appearance, name] : kNames)
+        if (stored == QLatin1String(name))
+            return appearance;
+    return Appearance::AsDesktop;
 }
 
 void storeAppearance(Appearance appearance) {
     QSettings settings;
-    if (appearance == Appearance::AsDesktop)
-        settings.remove(kAppearanceKey);
-    else
-        settings.setValue(kAppearanceKey, appearance == Appearance::Light ? "light" : "dark");
+    settings.remove(kAppearanceKey);
+    for (const auto& [named, name] : kNames)
+        if (named == appearance)
+            settings.setValue(kAppearanceKey, QLatin1String(name));
 }
 
 bool isDark() {

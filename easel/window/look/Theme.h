@@ -5,7 +5,7 @@
 
 namespace easel::window {
 
-enum class Appearance { AsDesktop, Light, Dark };
+enum class Appearance { AsDesktop, Light, Dark, HighContrast };
 
 // Gives the whole application the look asked for; every open window follows at once.
 void applyAppearance(Appearance appearance);

@@ -187,6 +187,7 @@ void MainWindow::buildViewMenu() {
     addLook(tr("As the &Desktop"), Appearance::AsDesktop);
     addLook(tr("&Light"), Appearance::Light);
     addLook(tr("&Dark"), Appearance::Dark);
+    addLook(tr("High &Contrast"), Appearance::HighContrast);
     connect(group, &QActionGroup::triggered, this, &MainWindow::chooseAppearance);
 }
 
