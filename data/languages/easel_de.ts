@@ -160,10 +160,6 @@
         <translation>Escape</translation>
     </message>
     <message>
-        <source>Mouse</source>
-        <translation>Maus</translation>
-    </message>
-    <message>
         <source>Shortcuts</source>
         <translation>Tastenkürzel</translation>
     </message>
@@ -266,6 +262,149 @@ Easel läuft ohne dieses Werkzeug.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The field is empty.</source>
+        <translation>Das Feld ist leer.</translation>
+    </message>
+    <message>
+        <source>“%1” is empty.</source>
+        <translation>„%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 Type something, or choose Cancel.</source>
+        <translation>%1 Etwas eintippen oder Abbrechen wählen.</translation>
+    </message>
+    <message>
+        <source>Gradient Tool</source>
+        <translation>Verlaufswerkzeug</translation>
+    </message>
+    <message>
+        <source>Select Tool</source>
+        <translation>Auswahlwerkzeug</translation>
+    </message>
+    <message>
+        <source>Select a shape</source>
+        <translation>Eine Form auswählen</translation>
+    </message>
+    <message>
+        <source>Select one more, or one less</source>
+        <translation>Eine mehr oder eine weniger auswählen</translation>
+    </message>
+    <message>
+        <source>Shift-click</source>
+        <translation>Umschalt-Klick</translation>
+    </message>
+    <message>
+        <source>Select several</source>
+        <translation>Mehrere auswählen</translation>
+    </message>
+    <message>
+        <source>Drag (Shift: in addition)</source>
+        <translation>Ziehen (Umschalt: zusätzlich)</translation>
+    </message>
+    <message>
+        <source>Any Tool</source>
+        <translation>Jedes Werkzeug</translation>
+    </message>
+    <message>
+        <source>Open drawings</source>
+        <translation>Zeichnungen öffnen</translation>
+    </message>
+    <message>
+        <source>Drop files on a window</source>
+        <translation>Dateien auf ein Fenster fallen lassen</translation>
+    </message>
+    <message>
+        <source>Gradient Editor</source>
+        <translation>Verlaufseditor</translation>
+    </message>
+    <message>
+        <source>Choose a color stop</source>
+        <translation>Einen Farbstopp wählen</translation>
+    </message>
+    <message>
+        <source>Click its marker</source>
+        <translation>Auf seine Marke klicken</translation>
+    </message>
+    <message>
+        <source>Add a color stop</source>
+        <translation>Einen Farbstopp hinzufügen</translation>
+    </message>
+    <message>
+        <source>Click the ramp elsewhere</source>
+        <translation>Anderswo auf die Leiste klicken</translation>
+    </message>
+    <message>
+        <source>Move a color stop</source>
+        <translation>Einen Farbstopp verschieben</translation>
+    </message>
+    <message>
+        <source>Drag its marker, or type its position</source>
+        <translation>Seine Marke ziehen oder seine Position eintippen</translation>
+    </message>
+    <message>
+        <source>Remove a color stop</source>
+        <translation>Einen Farbstopp entfernen</translation>
+    </message>
+    <message>
+        <source>Pull its marker down, or clear its position</source>
+        <translation>Seine Marke nach unten ziehen oder seine Position leeren</translation>
+    </message>
+    <message>
+        <source>Change the color of a stop</source>
+        <translation>Die Farbe eines Stopps ändern</translation>
+    </message>
+    <message>
+        <source>Click the color below the ramp</source>
+        <translation>Auf die Farbe unter der Leiste klicken</translation>
+    </message>
+    <message>
+        <source>Set the direction</source>
+        <translation>Die Richtung setzen</translation>
+    </message>
+    <message>
+        <source>Drag in the preview (Shift: in steps of 15°)</source>
+        <translation>In der Vorschau ziehen (Umschalt: in Schritten von 15°)</translation>
+    </message>
+    <message>
+        <source>Set the center</source>
+        <translation>Den Mittelpunkt setzen</translation>
+    </message>
+    <message>
+        <source>Press in the preview</source>
+        <translation>In der Vorschau drücken</translation>
+    </message>
+    <message>
+        <source>Find a template</source>
+        <translation>Eine Vorlage finden</translation>
+    </message>
+    <message>
+        <source>Open the popup and type its name</source>
+        <translation>Das Aufklappmenü öffnen und ihren Namen tippen</translation>
+    </message>
+    <message>
+        <source>Take back what is being dragged</source>
+        <translation>Zurücknehmen, was gerade gezogen wird</translation>
+    </message>
+    <message>
+        <source>Accept, or leave all as it was</source>
+        <translation>Übernehmen oder alles lassen, wie es war</translation>
+    </message>
+    <message>
+        <source>Return, Escape</source>
+        <translation>Eingabe, Escape</translation>
     </message>
 </context>
 <context>
@@ -753,10 +892,6 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <translation>%1 von „%2“</translation>
     </message>
     <message>
-        <source>The center is at %1, %2 now</source>
-        <translation>Der Mittelpunkt liegt jetzt bei %1; %2</translation>
-    </message>
-    <message>
         <source>The gradient is copied</source>
         <translation>Der Verlauf ist kopiert</translation>
     </message>
@@ -1040,16 +1175,20 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>High &amp;Contrast</source>
         <translation>Hoher &amp;Kontrast</translation>
     </message>
+    <message>
+        <source>The center is at %1 now</source>
+        <translation>Der Mittelpunkt liegt jetzt bei %1</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::NoticeBar</name>
     <message>
-        <source>Got it</source>
-        <translation>Verstanden</translation>
-    </message>
-    <message>
         <source>Put this notice away</source>
         <translation>Diesen Hinweis schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Got it</source>
+        <translation>Vers&amp;tanden</translation>
     </message>
 </context>
 <context>

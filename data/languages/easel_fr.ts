@@ -160,10 +160,6 @@
         <translation>Échap</translation>
     </message>
     <message>
-        <source>Mouse</source>
-        <translation>Souris</translation>
-    </message>
-    <message>
         <source>Shortcuts</source>
         <translation>Raccourcis</translation>
     </message>
@@ -266,6 +262,149 @@ Easel fonctionne sans cet outil.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The field is empty.</source>
+        <translation>Le champ est vide.</translation>
+    </message>
+    <message>
+        <source>“%1” is empty.</source>
+        <translation>«&#xa0;%1&#xa0;» est vide.</translation>
+    </message>
+    <message>
+        <source>%1 Type something, or choose Cancel.</source>
+        <translation>%1 Saisir quelque chose, ou choisir Annuler.</translation>
+    </message>
+    <message>
+        <source>Gradient Tool</source>
+        <translation>Outil de dégradé</translation>
+    </message>
+    <message>
+        <source>Select Tool</source>
+        <translation>Outil de sélection</translation>
+    </message>
+    <message>
+        <source>Select a shape</source>
+        <translation>Sélectionner une forme</translation>
+    </message>
+    <message>
+        <source>Select one more, or one less</source>
+        <translation>En sélectionner une de plus ou de moins</translation>
+    </message>
+    <message>
+        <source>Shift-click</source>
+        <translation>Maj-clic</translation>
+    </message>
+    <message>
+        <source>Select several</source>
+        <translation>En sélectionner plusieurs</translation>
+    </message>
+    <message>
+        <source>Drag (Shift: in addition)</source>
+        <translation>Tirer (Maj&#xa0;: en plus)</translation>
+    </message>
+    <message>
+        <source>Any Tool</source>
+        <translation>Tout outil</translation>
+    </message>
+    <message>
+        <source>Open drawings</source>
+        <translation>Ouvrir des dessins</translation>
+    </message>
+    <message>
+        <source>Drop files on a window</source>
+        <translation>Déposer des fichiers sur une fenêtre</translation>
+    </message>
+    <message>
+        <source>Gradient Editor</source>
+        <translation>Éditeur de dégradé</translation>
+    </message>
+    <message>
+        <source>Choose a color stop</source>
+        <translation>Choisir un point de couleur</translation>
+    </message>
+    <message>
+        <source>Click its marker</source>
+        <translation>Cliquer sur sa marque</translation>
+    </message>
+    <message>
+        <source>Add a color stop</source>
+        <translation>Ajouter un point de couleur</translation>
+    </message>
+    <message>
+        <source>Click the ramp elsewhere</source>
+        <translation>Cliquer ailleurs sur la bande</translation>
+    </message>
+    <message>
+        <source>Move a color stop</source>
+        <translation>Déplacer un point de couleur</translation>
+    </message>
+    <message>
+        <source>Drag its marker, or type its position</source>
+        <translation>Tirer sa marque, ou saisir sa position</translation>
+    </message>
+    <message>
+        <source>Remove a color stop</source>
+        <translation>Enlever un point de couleur</translation>
+    </message>
+    <message>
+        <source>Pull its marker down, or clear its position</source>
+        <translation>Tirer sa marque vers le bas, ou vider sa position</translation>
+    </message>
+    <message>
+        <source>Change the color of a stop</source>
+        <translation>Changer la couleur d’un point</translation>
+    </message>
+    <message>
+        <source>Click the color below the ramp</source>
+        <translation>Cliquer sur la couleur sous la bande</translation>
+    </message>
+    <message>
+        <source>Set the direction</source>
+        <translation>Donner la direction</translation>
+    </message>
+    <message>
+        <source>Drag in the preview (Shift: in steps of 15°)</source>
+        <translation>Tirer dans l’aperçu (Maj&#xa0;: par pas de 15°)</translation>
+    </message>
+    <message>
+        <source>Set the center</source>
+        <translation>Placer le centre</translation>
+    </message>
+    <message>
+        <source>Press in the preview</source>
+        <translation>Appuyer dans l’aperçu</translation>
+    </message>
+    <message>
+        <source>Find a template</source>
+        <translation>Trouver un modèle</translation>
+    </message>
+    <message>
+        <source>Open the popup and type its name</source>
+        <translation>Ouvrir le menu et taper son nom</translation>
+    </message>
+    <message>
+        <source>Take back what is being dragged</source>
+        <translation>Reprendre ce que l’on est en train de tirer</translation>
+    </message>
+    <message>
+        <source>Accept, or leave all as it was</source>
+        <translation>Accepter, ou tout laisser comme avant</translation>
+    </message>
+    <message>
+        <source>Return, Escape</source>
+        <translation>Entrée, Échap</translation>
     </message>
 </context>
 <context>
@@ -753,10 +892,6 @@ Easel fonctionne sans cet outil.</translation>
         <translation>%1 de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>The center is at %1, %2 now</source>
-        <translation>Le centre est maintenant à %1&#xa0;; %2</translation>
-    </message>
-    <message>
         <source>The gradient is copied</source>
         <translation>Le dégradé est copié</translation>
     </message>
@@ -1040,16 +1175,20 @@ Easel fonctionne sans cet outil.</translation>
         <source>High &amp;Contrast</source>
         <translation>Contraste &amp;élevé</translation>
     </message>
+    <message>
+        <source>The center is at %1 now</source>
+        <translation>Le centre est maintenant à %1</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::NoticeBar</name>
     <message>
-        <source>Got it</source>
-        <translation>Compris</translation>
-    </message>
-    <message>
         <source>Put this notice away</source>
         <translation>Fermer cet avis</translation>
+    </message>
+    <message>
+        <source>&amp;Got it</source>
+        <translation>&amp;Compris</translation>
     </message>
 </context>
 <context>
