@@ -91,7 +91,7 @@ TEST(FilePairs, TheEndingTellsTheTypeWhereTheHeaderIsDamaged) {
 
 // The reason why a resource file with this in it is refused.
 std::string refusalOf(const std::string& inner) {
-    return tests::errorOf(PluginResources::parse("<resources>" + inner + "</resources>", "In.xml")).reason;
+    return tests::errorOf(PluginResources::parse({"<resources>" + inner + "</resources>", "In.xml"})).reason;
 }
 
 std::string dialogWith(const std::string& items) {
@@ -121,10 +121,10 @@ TEST(ResourceFlaws, AreFoundInNumbersTextsAndNames) {
 
 TEST(ResourceFlaws, AreNotSeenInComments) {
     const auto resources = PluginResources::parse(
-        "<resources><!-- one --><dialog id='1' width='9' height='9'><!-- two --><user item='1' "
-        "bounds='1 1 2 2' align='left'/></dialog><menu id='2'><!-- three "
-        "--><entry>a</entry></menu></resources>",
-        "In.xml");
+        {"<resources><!-- one --><dialog id='1' width='9' height='9'><!-- two --><user item='1' "
+         "bounds='1 1 2 2' align='left'/></dialog><menu id='2'><!-- three "
+         "--><entry>a</entry></menu></resources>",
+         "In.xml"});
     ASSERT_TRUE(resources);
     EXPECT_EQ(resources->dialog(1)->items.size(), 1U);
     EXPECT_EQ(resources->menu(2)->size(), 1U);
