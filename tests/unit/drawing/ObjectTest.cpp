@@ -137,8 +137,8 @@ TEST(Stroke, FrameHoldsTheFourCornersOfThePenAtBothEndsOfALine) {
     line.kind = Kind::Line;
     line.outline = polylinePath({{10, 20}, {90, 20}});
     line.style = std::make_shared<const Style>(penOf(8));
-    const auto points = strokeFrame(line).points();
-    const std::vector<Point> frame(points.begin(), points.end());
+    const Path outline = strokeFrame(line);
+    const std::vector<Point> frame(outline.points().begin(), outline.points().end());
     for (const Point corner : {Point{6, 16}, Point{6, 24}, Point{94, 16}, Point{94, 24}})
         EXPECT_NE(std::find(frame.begin(), frame.end(), corner), frame.end()) << corner.x << ", " << corner.y;
 }
