@@ -10,6 +10,12 @@ namespace {
 // Distances and slopes of 16 bits, with some room for rounding, share the 2 to the 15 units between them.
 constexpr double kDistanceUnitsPerLevel = 256 * 32768.0 / 32704.0;
 constexpr double kWholeDistance = 32768;
+// The half level that rounding needs, in 256ths.
+constexpr double kHalfLevel = 128;
+// 255 with the half level, the unit that makes up for what products cut off, and one more, so that no
+// rounding lets a color exceed its alpha.
+constexpr std::uint32_t kAlpha = 0xFF82;
+constexpr double kWholePixel = 65536;
 
 // Nine significant bits, so that its products with the numbers of pixels in a row are exact in single
 // precision.
@@ -39,57 +45,69 @@ RadialPiece::RadialPiece(const RadialRows& rows, const ColorSpan& colorSpan, dou
         toUnits_ = step_ / rows.scale();
     }
     if (look_ == Look::Opaque)
-        setColors(colorSpan);
+        setColors(colorSpan, kHalfLevel);
+    else if (look_ == Look::Mixed && flat_)
+        setFlatMix(colorSpan.color, colorSpan.color[3] * opacity);
     else if (look_ == Look::Mixed)
-        setMixColors(colorSpan, opacity);
+        setMix(colorSpan, opacity);
 }
 
-void RadialPiece::setColors(const ColorSpan& colorSpan) {
+void RadialPiece::setColors(const ColorSpan& colorSpan, double rounding) {
     std::array<std::uint32_t, 3> color;
     std::array<std::uint32_t, 3> slope{};
     const Channels middle = colorSpan.at(middle_);
+    const double farthest = colorSpan.reach / 2 * toUnits_ + 1; // units from the middle
     for (std::size_t i = 0; i < color.size(); ++i) {
-        color[i] = half(middle[i] * 256 + 128);
+        color[i] = half(middle[i] * 256 + rounding);
         if (!flat_)
             slope[i] = half(colorSpan.slope[i] * 256 / toUnits_ * kWholeDistance);
+        if (slope[i] == 0)
+            continue;
+        const double change = std::abs(static_cast<std::int16_t>(slope[i])) * farthest / kWholeDistance;
+        color[i] = std::min(color[i], kAlpha - static_cast<std::uint32_t>(change + 0.5));
     }
-    colors_ = {color[2] << 16 | color[0], 0xFF000000 | color[1], slope[2] << 16 | slope[0], slope[1]};
+    mix_.colors = {color[2] << 16 | color[0], kAlpha << 16 | color[1], slope[2] << 16 | slope[0], slope[1]};
 }
 
-void RadialPiece::setMixColors(const ColorSpan& colorSpan, double opacity) {
-    const Channels middle = colorSpan.at(middle_);
-    for (std::size_t i = 0; i < mixColors_.color.size(); ++i) {
-        mixColors_.color[i] = static_cast<float>(mixLevelOf(middle[i]));
-        if (!flat_)
-            mixColors_.slope[i] = static_cast<float>(colorSpan.slope[i] * 256 / toUnits_);
-    }
-    mixColors_.weight = static_cast<float>(middle[3] * opacity);
-    if (!flat_)
-        mixColors_.weightSlope = static_cast<float>(colorSpan.slope[3] * opacity / toUnits_);
+void RadialPiece::setMix(const ColorSpan& colorSpan, double opacity) {
+    constexpr double kCutOff = 1; // what products cut off
+    setColors(colorSpan, kHalfLevel + kCutOff);
+    mix_.share = static_cast<float>(colorSpan.at(middle_)[3] * opacity * kWholePixel);
+    mix_.shareSlope = static_cast<float>(colorSpan.slope[3] * opacity / toUnits_ * kWholePixel);
+}
+
+void RadialPiece::setFlatMix(const Channels& color, double weight) {
+    const auto part = [weight](double level) { return half((level * 256 + kHalfLevel) * weight); };
+    // A unit more, so that no rounding lets a color exceed its alpha.
+    const std::uint32_t alpha = half((255 * 256 + kHalfLevel + 1) * weight);
+    const double rest = std::min(kWholePixel * (1 - weight), kWholePixel - 1);
+    flatMix_ = {part(color[2]) << 16 | part(color[0]), alpha << 16 | part(color[1]),
+                static_cast<std::uint16_t>(half(rest))};
 }
 
 void RadialPiece::paint(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
     if (look_ == Look::Opaque)
         fill(pixels, begin, end, room, row);
     else if (look_ == Look::Mixed)
-        mix(pixels, begin, end, room, row);
+        mix({pixels, end - begin, room}, begin, row);
 }
 
 void RadialPiece::fill(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
+    const RadialColors& colors = mix_.colors;
     if (flat_) {
-        const std::uint32_t blueRed = colors_.blueRed >> 8 & 0xFF00FF;
-        std::fill_n(pixels, end - begin, blueRed | (colors_.greenAlpha & 0xFF00FF00));
+        const std::uint32_t blueRed = colors.blueRed >> 8 & 0xFF00FF;
+        std::fill_n(pixels, end - begin, blueRed | (colors.greenAlpha & 0xFF00FF00));
         return;
     }
     const bool near = unitsAcross(row, begin, end) <= kMostUnitsInSinglePrecision;
-    (near ? fillRadial : fillRadialFar)(pixels, end - begin, room, runFrom(begin, row), colors_);
+    (near ? fillRadial : fillRadialFar)(pixels, end - begin, room, runFrom(begin, row), colors);
 }
 
-void RadialPiece::mix(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const {
+void RadialPiece::mix(const MixRange& range, int begin, const RadialRow& row) const {
     if (flat_)
-        return mixFlat(pixels, end - begin, room, mixColors_);
-    const bool near = unitsAcross(row, begin, end) <= kMostMixedUnitsInSinglePrecision;
-    (near ? mixRadial : mixRadialFar)(pixels, end - begin, room, runFrom(begin, row), mixColors_);
+        return mixFlat(range, flatMix_);
+    const bool near = unitsAcross(row, begin, begin + range.count) <= kMostUnitsInSinglePrecision;
+    (near ? mixRadial : mixRadialFar)(range, runFrom(begin, row), mix_);
 }
 
 RadialRun RadialPiece::runFrom(int begin, const RadialRow& row) const {

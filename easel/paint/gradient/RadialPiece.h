@@ -28,8 +28,6 @@ class RadialPiece {
     // Single precision is good to four parts in 2 to the 24 of the distance, which may be half a unit, and
     // double precision to less than a part in 2 to the 48.
     static constexpr double kMostUnitsInSinglePrecision = 1 << 21;
-    // Both the color and its weight suffer from it there.
-    static constexpr double kMostMixedUnitsInSinglePrecision = 1 << 20;
     static constexpr double kMostUnits = 1LL << 44;
 
     double unitsAcross(const RadialRow& row, int begin, int end) const {
@@ -39,19 +37,19 @@ class RadialPiece {
     RowCircle circle_;
     enum class Look { Hidden, Opaque, Mixed };
     void fill(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const;
-    void mix(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const;
+    void mix(const MixRange& range, int begin, const RadialRow& row) const;
     RadialRun runFrom(int begin, const RadialRow& row) const;
-    void setColors(const ColorSpan& colorSpan);
-    void setMixColors(const ColorSpan& colorSpan, double opacity);
+    void setColors(const ColorSpan& colorSpan, double rounding);
+    void setMix(const ColorSpan& colorSpan, double opacity);
+    void setFlatMix(const Channels& color, double weight);
 
     Look look_;
     bool flat_;
     double step_ = 0;    // units from pixel to pixel far from the circles' centre
     double toUnits_ = 0; // units per unit of the parameter
     double middle_ = 0;  // the parameter where the distance is 0
-    // Of an opaque color span, or of another.
-    RadialColors colors_{};
-    MixColors mixColors_{};
+    MixColors mix_{};    // of an opaque color span the colors alone
+    FlatMix flatMix_{};  // of a mixed color span of one color
 };
 
 } // namespace easel::paint

@@ -1,5 +1,5 @@
-// Inner loops with opacity: colors and weights in single precision, what they add to a pixel and what is kept
-// of it in whole numbers.
+// Inner loops with opacity. Colors are whole numbers as for opaque pixels; the share of the pixel that they
+// take is found in single precision, so that nothing but its own rounding adds to theirs.
 #include "easel/paint/pixels/MixKernels.h"
 
 #include "easel/paint/pixels/PlainMixKernels.h"
@@ -17,14 +17,14 @@ namespace easel::paint::HWY_NAMESPACE {
 
 #if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
 
-void MixRadial(std::uint32_t* pixels, int count, int, const RadialRun& run, const MixColors& colors) {
-    plain::mixRadial<float>(pixels, count, run, colors);
+void MixRadial(const MixRange& range, const RadialRun& run, const MixColors& colors) {
+    plain::mixRadial<float>(range, run, colors);
 }
-void MixRadialFar(std::uint32_t* pixels, int count, int, const RadialRun& run, const MixColors& colors) {
-    plain::mixRadial<double>(pixels, count, run, colors);
+void MixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& colors) {
+    plain::mixRadial<double>(range, run, colors);
 }
-void MixFlat(std::uint32_t* pixels, int count, int, const MixColors& colors) {
-    plain::mixFlat(pixels, count, colors);
+void MixFlat(const MixRange& range, const FlatMix& color) {
+    plain::mixFlat(range, color);
 }
 
 #else
@@ -35,57 +35,73 @@ using Distances = hn::ScalableTag<float>;
 using Pixels = hn::RebindToUnsigned<Distances>;
 using Halves = hn::Repartition<std::uint16_t, Pixels>;
 
-// The whole numbers nearest to two vectors, in the low and in the high halves of the lanes.
-HWY_INLINE hn::Vec<Halves> Paired(hn::Vec<Distances> low, hn::Vec<Distances> high) {
-    const Pixels d;
-    const auto toBits = hn::Set(Distances(), plain::kToBits);
-    const auto raised = hn::ShiftLeft<16>(hn::BitCast(d, hn::Add(high, toBits)));
-    return hn::OddEven(hn::BitCast(Halves(), raised), hn::BitCast(Halves(), hn::Add(low, toBits)));
+// The whole numbers nearest to a vector, in both halves of the lanes.
+HWY_INLINE hn::Vec<Halves> Doubled(hn::Vec<Distances> numbers) {
+    alignas(16) constexpr std::uint8_t kTwice[] = {0, 1, 0, 1, 4, 5, 4, 5, 8, 9, 8, 9, 12, 13, 12, 13};
+    const hn::Repartition<std::uint8_t, Pixels> d8;
+    const auto bits = hn::BitCast(d8, hn::Add(numbers, hn::Set(Distances(), plain::kToBits)));
+    return hn::BitCast(Halves(), hn::TableLookupBytes(bits, hn::LoadDup128(d8, kTwice)));
 }
 
 // The function from distances and the pixels there to the pixels after the colors were laid over them.
-HWY_INLINE auto MixerOf(const MixColors& colors) {
-    const auto all = [](float value) HWY_ATTR { return hn::Set(Distances(), value); };
-    return [all, blue = all(colors.color[0]), green = all(colors.color[1]), red = all(colors.color[2]),
-            blueSlope = all(colors.slope[0]), greenSlope = all(colors.slope[1]),
-            redSlope = all(colors.slope[2]), weightOf0 = all(colors.weight),
-            weightSlope = all(colors.weightSlope)](hn::Vec<Distances> distance, hn::Vec<Pixels> below)
-               HWY_ATTR {
-                   const auto exact = hn::Add(weightOf0, hn::Mul(weightSlope, distance));
-                   const auto weight = hn::Min(hn::Max(exact, all(0)), all(1));
-                   const auto part = [&](auto color, auto slope) HWY_ATTR {
-                       return hn::Mul(hn::Add(color, hn::Mul(slope, distance)), weight);
-                   };
-                   const auto even = Paired(part(blue, blueSlope), part(red, redSlope));
-                   const auto odd = Paired(part(green, greenSlope), hn::Mul(all(plain::kAlphaLevel), weight));
-                   const auto rest = hn::Sub(all(plain::kAllParts), hn::Mul(all(plain::kTakenParts), weight));
-                   return LaidOver(Pixels(), even, odd, below, Paired(rest, rest));
-               };
+HWY_INLINE auto MixerOf(const MixColors& mix) {
+    const hn::RebindToSigned<Halves> d16;
+    const auto pairs = [](std::uint32_t both) HWY_ATTR {
+        return hn::BitCast(hn::RebindToSigned<Halves>(), hn::Set(Pixels(), both));
+    };
+    const Distances d;
+    return [=, blueRed = pairs(mix.colors.blueRed), greenAlpha = pairs(mix.colors.greenAlpha),
+            blueRedSlope = pairs(mix.colors.blueRedSlope), greenSlope = pairs(mix.colors.greenSlope),
+            shareOf0 = hn::Set(d, mix.share), shareSlope = hn::Set(d, mix.shareSlope),
+            least = hn::Set(d, plain::kLeastShare), most = hn::Set(d, plain::kMostShare)](
+               hn::Vec<Distances> distance, hn::Vec<Pixels> below) HWY_ATTR {
+        const auto exact = hn::Add(shareOf0, hn::Mul(shareSlope, distance));
+        const auto share = Doubled(hn::Min(hn::Max(exact, least), most));
+        const auto whole = hn::BitCast(d16, Doubled(distance));
+        const auto part = [&](auto base, auto slope) HWY_ATTR {
+            const auto color = hn::Add(base, hn::MulFixedPoint15(slope, whole));
+            return hn::MulHigh(hn::BitCast(Halves(), color), share);
+        };
+        return LaidOver(Pixels(), part(blueRed, blueRedSlope), part(greenAlpha, greenSlope), below,
+                        hn::Sub(hn::Zero(Halves()), share));
+    };
 }
 
-// `mixed(below)` gives vectors of mixed pixels; the calls come in order.
-template <class Mixed>
-HWY_INLINE void MixAll(std::uint32_t* pixels, int count, int room, const Mixed& mixed) {
+// Less than a vector.
+template <class Mixed> HWY_INLINE void MixFew(const MixRange& range, const Mixed& mixed) {
+    const Pixels d;
+    const auto ours = hn::FirstN(d, static_cast<std::size_t>(range.count));
+    const auto below = LoadPixels(d, range.first, 0, range.room);
+    StorePixels(d, hn::IfThenElse(ours, mixed(below), below), range.first, 0, range.room);
+}
+
+// `startAt(index)` is where a vector that begins with the pixel lies along the run; `mixed(along, below)`
+// gives the mixed pixels there and goes on by a vector. The last vector ends with the last pixel, read before
+// the others are written over: so no pixel of the next piece is touched, whose reading would have to wait for
+// that.
+template <class StartAt, class Mixed>
+HWY_INLINE void MixAll(const MixRange range, const StartAt& startAt, const Mixed& mixed) {
     const Pixels d;
     const int lanes = static_cast<int>(hn::Lanes(d));
-    int at = 0;
-    for (; at + lanes <= count; at += lanes)
-        hn::StoreU(mixed(hn::LoadU(d, pixels + at)), d, pixels + at);
-    if (at == count)
-        return;
-    const auto below = LoadPixels(d, pixels, at, room);
-    const auto ours = hn::FirstN(d, static_cast<std::size_t>(count - at));
-    StorePixels(d, hn::IfThenElse(ours, mixed(below), below), pixels, at, room);
+    auto along = startAt(0);
+    if (range.count < lanes)
+        return MixFew(range, [&](hn::Vec<Pixels> below) HWY_ATTR { return mixed(along, below); });
+    std::uint32_t* const last = range.first + range.count - lanes;
+    auto lastAlong = startAt(range.count - lanes);
+    const auto lastPixels = mixed(lastAlong, hn::LoadU(d, last));
+    for (std::uint32_t* pixels = range.first; pixels < last; pixels += lanes)
+        hn::StoreU(mixed(along, hn::LoadU(d, pixels)), d, pixels);
+    hn::StoreU(lastPixels, d, last);
 }
 
-void MixRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors) {
+void MixRadial(const MixRange& range, const RadialRun& run, const MixColors& colors) {
     const Distances d;
-    const auto step = static_cast<float>(run.step);
-    const auto stride = hn::Set(d, step * static_cast<float>(hn::Lanes(d)));
+    const auto step = hn::Set(d, static_cast<float>(run.step));
+    const auto stride = hn::Mul(step, hn::Set(d, static_cast<float>(hn::Lanes(d))));
     const auto distancesOf = DistancesOf(d, run);
     const auto mixer = MixerOf(colors);
-    auto along = hn::Mul(hn::Set(d, step), hn::Iota(d, 0));
-    MixAll(pixels, count, room, [&](hn::Vec<Pixels> below) HWY_ATTR {
+    const auto startAt = [&](int at) HWY_ATTR { return hn::Mul(step, hn::Iota(d, static_cast<float>(at))); };
+    MixAll(range, startAt, [&](hn::Vec<Distances>& along, hn::Vec<Pixels> below) HWY_ATTR {
         const auto distances = distancesOf(along);
         along = hn::Add(along, stride);
         return mixer(distances, below);
@@ -93,34 +109,40 @@ void MixRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run,
 }
 
 #if HWY_HAVE_FLOAT64
-void MixRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors) {
+void MixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& colors) {
     const hn::Repartition<double, Distances> d;
     const hn::Rebind<float, decltype(d)> dHalf;
-    const auto stride = hn::Set(d, run.step * static_cast<double>(hn::Lanes(d)));
+    const auto step = hn::Set(d, run.step);
+    const auto stride = hn::Mul(step, hn::Set(d, static_cast<double>(hn::Lanes(d))));
     const auto distancesOf = DistancesOf(d, run);
     const auto mixer = MixerOf(colors);
-    auto along = hn::Mul(hn::Set(d, run.step), hn::Iota(d, 0));
-    const auto next = [&]() HWY_ATTR {
+    const auto startAt = [&](int at) HWY_ATTR { return hn::Mul(step, hn::Iota(d, at)); };
+    const auto next = [&](hn::Vec<decltype(d)>& along) HWY_ATTR {
         const auto distances = hn::DemoteTo(dHalf, distancesOf(along));
         along = hn::Add(along, stride);
         return distances;
     };
-    MixAll(pixels, count, room, [&](hn::Vec<Pixels> below) HWY_ATTR {
-        const auto low = next();
-        const auto high = next();
+    MixAll(range, startAt, [&](hn::Vec<decltype(d)>& along, hn::Vec<Pixels> below) HWY_ATTR {
+        const auto low = next(along);
+        const auto high = next(along);
         return mixer(hn::Combine(Distances(), high, low), below);
     });
 }
 #else
-void MixRadialFar(std::uint32_t* pixels, int count, int, const RadialRun& run, const MixColors& colors) {
-    plain::mixRadial<double>(pixels, count, run, colors);
+void MixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& colors) {
+    plain::mixRadial<double>(range, run, colors);
 }
 #endif
 
-void MixFlat(std::uint32_t* pixels, int count, int room, const MixColors& colors) {
-    const auto mixer = MixerOf(colors);
-    MixAll(pixels, count, room,
-           [&](hn::Vec<Pixels> below) HWY_ATTR { return mixer(hn::Zero(Distances()), below); });
+void MixFlat(const MixRange& range, const FlatMix& color) {
+    const Pixels d;
+    const Halves d16;
+    const auto even = hn::BitCast(d16, hn::Set(d, color.blueRed));
+    const auto odd = hn::BitCast(d16, hn::Set(d, color.greenAlpha));
+    const auto rest = hn::Set(d16, color.rest);
+    MixAll(
+        range, [](int at) { return at; },
+        [=](int, hn::Vec<Pixels> below) HWY_ATTR { return LaidOver(Pixels(), even, odd, below, rest); });
 }
 
 #endif
@@ -135,16 +157,16 @@ HWY_EXPORT(MixRadial);
 HWY_EXPORT(MixRadialFar);
 HWY_EXPORT(MixFlat);
 
-void mixRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors) {
-    HWY_DYNAMIC_DISPATCH(MixRadial)(pixels, count, room, run, colors);
+void mixRadial(const MixRange& range, const RadialRun& run, const MixColors& colors) {
+    HWY_DYNAMIC_DISPATCH(MixRadial)(range, run, colors);
 }
 
-void mixRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors) {
-    HWY_DYNAMIC_DISPATCH(MixRadialFar)(pixels, count, room, run, colors);
+void mixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& colors) {
+    HWY_DYNAMIC_DISPATCH(MixRadialFar)(range, run, colors);
 }
 
-void mixFlat(std::uint32_t* pixels, int count, int room, const MixColors& colors) {
-    HWY_DYNAMIC_DISPATCH(MixFlat)(pixels, count, room, colors);
+void mixFlat(const MixRange& range, const FlatMix& color) {
+    HWY_DYNAMIC_DISPATCH(MixFlat)(range, color);
 }
 
 } // namespace easel::paint

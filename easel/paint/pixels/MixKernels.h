@@ -6,26 +6,36 @@
 
 namespace easel::paint {
 
-// The colors along the distance and their weight from 0 to 1: at 0, and by how much they change over a unit.
-// Blue, green and red are in 256ths of a level and have added what rounding needs, see mixLevelOf.
-struct MixColors {
-    std::array<float, 3> color;
-    std::array<float, 3> slope;
-    float weight;
-    float weightSlope;
+// The pixels of a row that a piece is laid over: `count` of them. Those up to `room` pixels from the first
+// (at least `count`) may be read and written as they are.
+struct MixRange {
+    std::uint32_t* first;
+    int count;
+    int room;
 };
 
-// A level with the half level that rounding needs.
-constexpr double mixLevelOf(double level) {
-    return level * 256 + 128;
-}
+// The colors along the distance, as for opaque pixels but with a unit more that makes up for what products
+// cut off, and the share of the pixel that they take: at 0 and its change over a unit, in 65536ths.
+struct MixColors {
+    RadialColors colors;
+    float share;
+    float shareSlope;
+};
 
-// Lays `count` pixels of a run over what is there, in single precision. Up to `room` pixels (at least
-// `count`) may be read and written anew.
-void mixRadial(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors);
+// What one color adds to each pixel, in 256ths of a level and with its part of the half level that rounding
+// needs: blue in the low and red in the high half of one number, green and alpha of the other. `rest` of
+// 65536 parts of the pixel stay.
+struct FlatMix {
+    std::uint32_t blueRed;
+    std::uint32_t greenAlpha;
+    std::uint16_t rest;
+};
+
+// Lays a radial run over what is there, its distances in single precision.
+void mixRadial(const MixRange& range, const RadialRun& run, const MixColors& colors);
 // The same in double precision.
-void mixRadialFar(std::uint32_t* pixels, int count, int room, const RadialRun& run, const MixColors& colors);
-// The color at distance 0 everywhere.
-void mixFlat(std::uint32_t* pixels, int count, int room, const MixColors& colors);
+void mixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& colors);
+// One color everywhere.
+void mixFlat(const MixRange& range, const FlatMix& color);
 
 } // namespace easel::paint
