@@ -183,15 +183,21 @@ TEST_F(TemplatesTest, TheQuestionWhetherToReplaceOneNamesItAndReturnKeepsIt) {
     const std::string before = contents(templates() / "._Candy.GRD");
     startWithDrawing();
     const Window editor = openEditor(160, 290);
-    chooseTemplate(editor, "Sav");
-    waitForDialog("Save Template");
-    screen().type("Candy");
-    screen().key("Return");
-    const Window question = waitForDialog("Replace Template");
-    EXPECT_EQ(messageOf(question), "Replace the template of this name?\n\n\u201cCandy.GRD\u201d");
+    const auto saveAgain = [&] {
+        chooseTemplate(editor, "Sav");
+        waitForDialog("Save Template");
+        screen().type("Candy");
+        screen().key("Return");
+        return waitForDialog("Replace Template");
+    };
+    saveAgain();
     screen().key("Return");
     EXPECT_TRUE(vanishes("Replace Template"));
     EXPECT_TRUE(getsKeyboard("Gradient"));
+    EXPECT_EQ(contents(templates() / "._Candy.GRD"), before);
+    EXPECT_EQ(messageOf(saveAgain()), "Replace the template of this name?\n\n\u201cCandy.GRD\u201d");
+    screen().key("Escape");
+    EXPECT_TRUE(vanishes("Replace Template"));
     EXPECT_EQ(contents(templates() / "._Candy.GRD"), before);
     closeEditorWith("Escape");
 }
