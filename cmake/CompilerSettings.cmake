@@ -15,6 +15,11 @@ endif()
 # Contraction of multiply and add differs between compilers and machines; pixels and geometry must not.
 add_compile_options(-ffp-contract=off)
 
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL "aarch64")
+  # Vectors whose length nobody knows beforehand cannot be kept in the kernels' closures; NEON is always there.
+  add_compile_definitions("HWY_DISABLED_TARGETS=(HWY_SVE|HWY_SVE2|HWY_SVE_256|HWY_SVE2_128)")
+endif()
+
 if(EASEL_SANITIZE)
   # With coverage in everything, since a fuzzing engine learns from nothing else which inputs lead somewhere new.
   add_compile_options(-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=undefined
