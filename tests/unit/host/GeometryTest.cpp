@@ -116,6 +116,11 @@ TEST(HostLine, HasTheDirectionFromStartToEnd) {
     EXPECT_DOUBLE_EQ(TLine<short>({2, 3}, {1, 4}).Angle(), 135);
 }
 
+TEST(HostLine, ToTheLeftHasOneAngleWhateverTheSignOfItsZero) {
+    EXPECT_EQ(Line({0, 0}, {-5, -0.0}).Angle(), 180);
+    EXPECT_EQ(Line({0, -0.0}, {-5, -0.0}).Angle(), 180);
+}
+
 TEST(HostLine, OfNoLengthHasNoAngleWhateverTheSignsOfItsZeroes) {
     EXPECT_EQ(Line({0, 0}, {0, 0}).Angle(), 0);
     EXPECT_EQ(Line({0, 0}, {-0.0, -0.0}).Angle(), 0);
