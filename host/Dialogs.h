@@ -79,7 +79,7 @@ void InvalDLogItem(DialogRef dialog, short item);
 void SetDLOGText(DialogRef dialog, short item, CStr255 const& text);
 void GetDLOGText(DialogRef dialog, short item, CStr255& text);
 /// Gives an edit item the keyboard and selects its characters from `start` up to, not including, `end`; 0 to
-/// 32767 selects all.
+/// 32767 selects all. A host may leave the keyboard in a user item in which keys stand for the mouse.
 void SelectDLOGText(DialogRef dialog, short item, long start, long end);
 
 /// Sets a control item: 0 or 1 for a radio button, the item shown for a popup. A popup takes every number up

@@ -31,6 +31,17 @@ paint::Port& target() {
     return process().ports().target();
 }
 
+// The dialog that is being drawn in, or null.
+easel::runtime::Dialog* targetDialog() {
+    return process().dialogs().owning(target());
+}
+
+// What the item shows in which the polygon begins, or null.
+easel::runtime::ItemContent* contentUnder(const paint::PortPolygon& polygon) {
+    easel::runtime::Dialog* const dialog = targetDialog();
+    return dialog && !polygon.empty() ? dialog->contentAt(polygon.front()) : nullptr;
+}
+
 paint::PortPolygon* polygonOf(OpaquePolyHandle* handle) {
     return reinterpret_cast<paint::PortPolygon*>(handle);
 }
@@ -117,6 +128,8 @@ void PenPat(const Pattern* pattern) {
 void PaintRect(const TRect<short>& rect) {
     journal("QD::PaintRect");
     target().paintRect(fromHost(rect));
+    if (easel::runtime::Dialog* const dialog = targetDialog())
+        dialog->painted(fromHost(rect), target().state().foreground);
 }
 
 void FrameRect(const TRect<short>& rect) {
@@ -127,6 +140,8 @@ void FrameRect(const TRect<short>& rect) {
 void EraseRect(const TRect<short>& rect) {
     journal("QD::EraseRect");
     target().eraseRect(fromHost(rect));
+    if (easel::runtime::Dialog* const dialog = targetDialog())
+        dialog->erased(fromHost(rect));
 }
 
 void MoveTo(short h, short v) {
@@ -161,14 +176,20 @@ void ClosePoly() {
 
 void PaintPoly(OpaquePolyHandle* polygon) {
     journal("QD::PaintPoly");
-    if (polygon)
-        target().paintPolygon(*polygonOf(polygon));
+    if (!polygon)
+        return;
+    target().paintPolygon(*polygonOf(polygon));
+    if (easel::runtime::ItemContent* const content = contentUnder(*polygonOf(polygon)))
+        content->paintedMark(polygonOf(polygon)->front());
 }
 
 void FramePoly(OpaquePolyHandle* polygon) {
     journal("QD::FramePoly");
-    if (polygon)
-        target().framePolygon(*polygonOf(polygon));
+    if (!polygon)
+        return;
+    target().framePolygon(*polygonOf(polygon));
+    if (easel::runtime::ItemContent* const content = contentUnder(*polygonOf(polygon)))
+        content->framedMark(polygonOf(polygon)->front());
 }
 
 void KillPoly(OpaquePolyHandle* polygon) {
@@ -197,6 +218,7 @@ void CGraphicsEnvironment::CGContextDrawGradient(const CGPath* path, const CGrad
     if (!port || !path || gradient.ColorList().empty())
         return;
     easel::runtime::fillWithGradient(*port, path->outline, gradient);
+    state_->gradient = easel::runtime::ShownGradient{port->bounds(), gradient};
 }
 
 const CGPath* CreatePolyPath(CFPolygonRef polygon) {
@@ -248,6 +270,12 @@ void CSimplePixMap::EndDrawing() {
 void CSimplePixMap::CopyFrom() {
     journal("CSimplePixMap::CopyFrom");
     state_->copyTo(target());
+    const auto& shown = state_->gradient();
+    easel::runtime::Dialog* const dialog = targetDialog();
+    if (!shown || !dialog)
+        return;
+    if (auto* const content = dialog->contentAt({shown->area.left, shown->area.top}))
+        content->gradient = shown;
 }
 
 StGrafPortSaver::StGrafPortSaver() : port_(reinterpret_cast<OpaqueGrafPtr*>(process().ports().current())) {

@@ -149,6 +149,26 @@ void Dialog::drawInvalidItems() {
     }
 }
 
+ItemContent* Dialog::contentAt(paint::PixelPoint place) {
+    const DialogItem* const found = itemAt(place);
+    DialogItem* const drawn = found ? itemOfKind(found->number, ItemKind::UserDrawn) : nullptr;
+    if (!drawn)
+        return nullptr;
+    drawn->contentReported = false;
+    return &drawn->content;
+}
+
+void Dialog::erased(const paint::PixelRect& area) {
+    for (DialogItem& each : items_)
+        each.content.erased(area);
+}
+
+void Dialog::painted(const paint::PixelRect& area, const drawing::Rgb16& color) {
+    ItemContent* const content = contentAt({area.left, area.top});
+    if (content && itemAt({area.left, area.top})->bounds == area)
+        content->color = color;
+}
+
 void Dialog::flush() {
     const paint::PixelRect damage = port_->takeDamage();
     if (!observer_)
@@ -156,6 +176,8 @@ void Dialog::flush() {
     for (DialogItem& each : items_) {
         if (each.menu && std::exchange(each.menuReported, each.menu->revision()) != each.menu->revision())
             changed(each.number, ItemChange::Menu);
+        if (!std::exchange(each.contentReported, true))
+            changed(each.number, ItemChange::Content);
     }
     if (!damage.empty())
         observer_->pixelsDrawn(damage);

@@ -107,6 +107,8 @@ class Dialog {
     EditOutcome enterText(int item, const std::string& utf8);
     // Selects characters, as the arrow keys and the mouse do; no hit.
     void selectText(int item, TextSelection selection);
+    // While the keyboard is at work in an item, it stays there, whatever the program selects meanwhile.
+    void holdFocus(bool hold) { focusHeld_ = hold; }
     // Chooses an entry of a popup; a hit. Refused when the entry cannot be selected.
     EditOutcome chooseEntry(int item, int entry);
     // Moves the keyboard focus, selecting all of an edit field; no hit. 0 takes the focus away, and a divider
@@ -139,8 +141,13 @@ class Dialog {
     // Calls the draw procedures of the invalid items, in the order of their numbers, with this dialog's port
     // current.
     void drawInvalidItems();
-    // Reports drawn pixels and changed menus to the observer, however many changes there were since the last
-    // call. Whoever waits for input calls it before waiting.
+    // What the user item at a place of the dialog shows, to be changed as it is drawn; null if there is none.
+    ItemContent* contentAt(paint::PixelPoint place);
+    // A rectangle was erased, or painted with one color.
+    void erased(const paint::PixelRect& area);
+    void painted(const paint::PixelRect& area, const drawing::Rgb16& color);
+    // Reports drawn pixels, changed menus and what items show now to the observer, however many changes there
+    // were since the last call. Whoever waits for input calls it before waiting.
     void flush();
 
     // The same dialog as the interface names it.
@@ -162,6 +169,7 @@ class Dialog {
     int height_;
     std::vector<DialogItem> items_;
     int focus_ = 0;
+    bool focusHeld_ = false;
     bool shown_ = false;
     std::deque<int> hits_;
     StandardKeys standardKeys_ = StandardKeys::Off;

@@ -85,7 +85,8 @@ void Dialog::selectText(int number, TextSelection selection) {
     DialogItem* field = itemOfKind(number, ItemKind::EditText);
     if (!field)
         return;
-    moveFocus(number);
+    if (!focusHeld_)
+        moveFocus(number);
     field->selection = within(selection, field->text);
     changed(number, ItemChange::Selection);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/paint/pixels/PixelGeometry.h"
+#include "easel/runtime/ItemContent.h"
 #include "easel/runtime/Menus.h"
 
 #include <cstddef>
@@ -57,12 +58,14 @@ struct DialogItem {
 
     ItemDrawProcedure draw = nullptr; // of a user item
     bool invalid = false;             // waits to be drawn again
+    ItemContent content;              // of a user item: what it shows by now
+    bool contentReported = true;      // the observer has been told of it
 
     // The text in UTF-8.
     std::string shownText() const;
 };
 
 // What about an item changed, for those who show it.
-enum class ItemChange { Text, Selection, Value, Menu, Invalid };
+enum class ItemChange { Text, Selection, Value, Menu, Invalid, Content };
 
 } // namespace easel::runtime

@@ -21,6 +21,7 @@ class OffscreenImage {
     void beginDrawing();
     void endDrawing() { ports_.makeCurrent(before_); }
     CGraphicsEnvironment& environment() { return environment_; }
+    const std::optional<ShownGradient>& gradient() const { return graphics_.gradient; }
     // Copies the image to the port at its bounds.
     void copyTo(paint::Port& port) const { port.copyFrom(image_); }
 

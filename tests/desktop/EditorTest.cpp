@@ -302,7 +302,7 @@ TEST_F(EditorTest, ATemplateIsSavedListedLoadedAfterARestartAndDeletedToTheTrash
 TEST_F(EditorTest, TheTabKeyPassesOverTheLinesBetweenTheGroups) {
     startWithDrawing();
     const Window editor = openEditor(160, 290);
-    // From the position to the swatch, the preview and, past the line above it, the templates.
+    // From the position, past the line below it, over both buttons to the templates.
     for (int i = 0; i < 3; ++i)
         screen().key("Tab");
     screen().key("space");

@@ -69,6 +69,37 @@ void DialogContent::press(int item, QPointF position) {
     dialog_.hit(item);
 }
 
+void DialogContent::whenReady(std::function<void()> action) {
+    due_.push_back(std::move(action));
+    actIfReady();
+}
+
+void DialogContent::setReady(bool ready) {
+    ready_ = ready;
+    if (!ready)
+        return;
+    dialog_.holdFocus(false);
+    actIfReady();
+}
+
+void DialogContent::actIfReady() {
+    while (ready_ && !dialog_.hasHit() && !due_.empty()) {
+        const std::function<void()> action = std::move(due_.front());
+        due_.pop_front();
+        action();
+    }
+}
+
+void DialogContent::perform(int item, const runtime::MouseGesture& gesture) {
+    const auto place = [](const paint::PixelPoint& point) { return QPointF(point.h, point.v); };
+    std::deque<QPointF> way;
+    for (const paint::PixelPoint& point : gesture.way)
+        way.push_back(place(point));
+    dialog_.holdFocus(true);
+    press(item, place(gesture.press));
+    pointer_.lead(std::move(way));
+}
+
 bool DialogContent::takeBackDrag() {
     runtime::DialogDrag* const drag = runtime::dialogDrag();
     if (!drag || !pointer_.followedOn(*this))
@@ -76,7 +107,7 @@ bool DialogContent::takeBackDrag() {
     std::deque<QPointF> way;
     for (const paint::PixelPoint& step : drag->takeBack())
         way.push_back(pressed_ + QPointF(step.h, step.v));
-    pointer_.leadBack(std::move(way));
+    pointer_.lead(std::move(way));
     return true;
 }
 

@@ -2,9 +2,13 @@
 #pragma once
 
 #include "easel/runtime/Dialog.h"
+#include "easel/runtime/MouseGesture.h"
 #include "easel/window/waiting/PointerSurface.h"
 
 #include <QWidget>
+
+#include <deque>
+#include <functional>
 
 namespace easel::window {
 
@@ -30,6 +34,13 @@ class DialogContent : public QWidget, public PointerSurface {
     void move(QPointF position);
     void release(QPointF position);
 
+    // What keys stand for is done when the program waits for the user and has heard all that came before:
+    // only then is what it shows what the user goes by.
+    void whenReady(std::function<void()> action);
+    void setReady(bool ready);
+    // Does this with the mouse in an item. Meanwhile the keyboard stays where it is.
+    void perform(int item, const runtime::MouseGesture& gesture);
+
     // Takes back what the mouse has dragged since it went down; false if it drags nothing.
     bool takeBackDrag();
 
@@ -37,9 +48,13 @@ class DialogContent : public QWidget, public PointerSurface {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void actIfReady();
+
     runtime::Dialog& dialog_;
     PointerTracker& pointer_;
     QPointF pressed_;
+    bool ready_ = false;
+    std::deque<std::function<void()>> due_;
 };
 
 } // namespace easel::window

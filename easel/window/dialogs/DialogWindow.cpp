@@ -11,7 +11,9 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace easel::window {
 namespace {
@@ -70,6 +72,7 @@ DialogWindow::DialogWindow(runtime::Dialog& dialog, PointerTracker& pointer, con
     for (const runtime::DialogItem& item : dialog.items())
         addItem(item, picture);
     putButtonsInOrder();
+    orderForTab();
     dialog_.setObserver(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
     matchScreen();
@@ -119,6 +122,19 @@ void DialogWindow::putButtonsInOrder() {
     right->move(all.right() + 1 - right->width(), right->y());
 }
 
+// As the eye reads, whatever the numbers of the items.
+void DialogWindow::orderForTab() {
+    std::vector<QWidget*> inOrder;
+    for (const auto& [number, item] : items_)
+        if (item->widget()->focusPolicy() != Qt::NoFocus)
+            inOrder.push_back(item->widget());
+    std::sort(inOrder.begin(), inOrder.end(), [](const QWidget* a, const QWidget* b) {
+        return std::pair(a->y(), a->x()) < std::pair(b->y(), b->x());
+    });
+    for (std::size_t i = 1; i < inOrder.size(); ++i)
+        setTabOrder(inOrder[i - 1], inOrder[i]);
+}
+
 void DialogWindow::itemChanged(int item, runtime::ItemChange change) {
     const auto found = items_.find(item);
     if (found != items_.end() && change != runtime::ItemChange::Invalid)
@@ -164,6 +180,7 @@ void DialogWindow::programIs(Program program) {
     program_ = program;
     if (program_ == Program::Waiting && std::exchange(unmatched_, false))
         matchScreen();
+    content_->setReady(program_ == Program::Waiting);
 }
 
 // Whoever tracks the mouse takes off the lines it drew by drawing them again, and clips what is drawn. So the

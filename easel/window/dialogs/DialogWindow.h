@@ -45,6 +45,7 @@ class DialogWindow : public QDialog, private runtime::DialogObserver {
 
     void addItem(const runtime::DialogItem& item, const EntryPicture& picture);
     void putButtonsInOrder();
+    void orderForTab();
     void followFocus(const QWidget* now);
     // Makes the image anew for the screen as it is now, as soon as the program is not drawing in it.
     void matchScreen();

@@ -4,8 +4,11 @@
 #include "easel/window/dialogs/LocalNumbers.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QScopedValueRollback>
 #include <QToolTip>
+
+#include <utility>
 
 namespace easel::window {
 namespace {
@@ -68,6 +71,18 @@ void EditItem::refuse(const QString& attempted) {
         tr("\u201c%1\u201d cannot be used here: names are kept in the Mac Roman alphabet.").arg(character);
     QToolTip::showText(mapToGlobal(rect().bottomLeft()), reason, this, {}, 5000);
     setAccessibleDescription(reason);
+}
+
+void EditItem::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    entered_ = event->reason() == Qt::MouseFocusReason;
+}
+
+// Whoever clicks into the field wants to type another text, as one who gets there with the Tab key.
+void EditItem::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(entered_, false) && !hasSelectedText())
+        selectAll();
 }
 
 // A click in the field counts as a hit of it, like a keystroke.

@@ -18,6 +18,8 @@ class EditItem : public QLineEdit, public ItemWidget {
     void modelChanged(runtime::ItemChange change) override;
 
   protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
@@ -29,6 +31,7 @@ class EditItem : public QLineEdit, public ItemWidget {
 
     runtime::Dialog& dialog_;
     int item_;
+    bool entered_ = false;   // with the mouse, whose button is still down
     bool following_ = false; // taking over from the model, so nothing is to be told to it
 };
 

@@ -1,8 +1,11 @@
 // The mouse, and the keys that stand for it.
 #include "easel/window/dialogs/UserItem.h"
 
+#include "easel/runtime/PreviewGestures.h"
+#include "easel/runtime/StopRamp.h"
 #include "easel/window/dialogs/DialogContent.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -10,14 +13,39 @@
 #include <algorithm>
 
 namespace easel::window {
+namespace {
+
+// From the top of a mark: what lies around all of it.
+constexpr QRectF kAroundMark{-6.5, -1.5, 14, 12};
+constexpr double kCentreRing = 5;
+
+// The middle of a swatch is as good as any place in it.
+runtime::MouseGesture clickInMiddle(const runtime::DialogItem& item) {
+    return {{(item.bounds.left + item.bounds.right) / 2, (item.bounds.top + item.bounds.bottom) / 2}, {}};
+}
+
+} // namespace
+
+QString colorText(const drawing::Rgb16& color) {
+    return QColor(qRgba64(color.red, color.green, color.blue, 0xffff)).name();
+}
 
 UserItem::UserItem(runtime::Dialog& dialog, int item, DialogContent& content)
-    : QWidget(&content), item_(item), content_(content) {
-    const paint::PixelRect& bounds = dialog.item(item)->bounds;
-    mark_ = QPoint(bounds.width() / 2, bounds.height() / 2);
+    : QWidget(&content), dialog_(dialog), item_(item), content_(content) {
     setAttribute(Qt::WA_NoSystemBackground);
     // A click leaves the keyboard where it is, as in any dialog with a field to type in.
     setFocusPolicy(Qt::TabFocus);
+}
+
+void UserItem::modelChanged(runtime::ItemChange) {
+    if (hasFocus())
+        update();
+    Q_EMIT shownChanged();
+}
+
+QRect UserItem::onScreen(paint::PixelPoint mark) const {
+    const QRect around = kAroundMark.translated(mark.h, mark.v).toAlignedRect();
+    return {content_.mapToGlobal(around.topLeft()), around.size()};
 }
 
 void UserItem::mousePressEvent(QMouseEvent* event) {
@@ -34,80 +62,78 @@ void UserItem::mouseReleaseEvent(QMouseEvent* event) {
         content_.release(mapToParent(event->position()));
 }
 
-bool UserItem::moveMark(const QKeyEvent& event) {
-    const double step = (event.modifiers() & Qt::ShiftModifier) != 0 ? 10 : 1;
-    QPointF by;
-    switch (event.key()) {
-    case Qt::Key_Left:
-        by = {-step, 0};
-        break;
-    case Qt::Key_Right:
-        by = {step, 0};
-        break;
-    case Qt::Key_Up:
-        by = {0, -step};
-        break;
-    case Qt::Key_Down:
-        by = {0, step};
-        break;
-    default:
-        return false;
-    }
-    const QPointF to = mark_ + by;
-    // With the button down the mark may leave the item, as the mouse may.
-    mark_ = spaceBar_ == SpaceBar::Down
-                ? to
-                : QPointF(std::clamp(to.x(), 0.0, width() - 1.0), std::clamp(to.y(), 0.0, height() - 1.0));
-    return true;
+void UserItem::perform(Gesture gesture) {
+    content_.whenReady([this, gesture = std::move(gesture)] {
+        if (const auto possible = gesture(item()))
+            content_.perform(item_, *possible);
+        else
+            QApplication::beep();
+    });
+}
+
+void UserItem::chooseColor() {
+    content_.whenReady([this] {
+        const auto& items = dialog_.items();
+        const auto swatch = std::find_if(items.begin(), items.end(), [](const runtime::DialogItem& each) {
+            return sortOf(each) == ItemSort::Swatch;
+        });
+        if (swatch != items.end())
+            content_.perform(swatch->number, clickInMiddle(*swatch));
+    });
 }
 
 void UserItem::keyPressEvent(QKeyEvent* event) {
-    if (moveMark(*event)) {
-        if (spaceBar_ == SpaceBar::Down)
-            content_.move(markInContent());
-        update();
-        return;
-    }
-    if (event->key() != Qt::Key_Space) {
+    const Qt::KeyboardModifiers others = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const ItemKey key{static_cast<Qt::Key>(event->key()), (event->modifiers() & Qt::ShiftModifier) != 0};
+    const auto row = others == Qt::NoModifier ? rowOf(sortOf(item()), key) : std::nullopt;
+    if (!row)
         QWidget::keyPressEvent(event);
-        return;
-    }
-    if (!event->isAutoRepeat() && spaceBar_ == SpaceBar::Up) {
-        spaceBar_ = SpaceBar::Down;
-        content_.press(item_, markInContent());
-    }
+    else if (row->gesture)
+        perform([row = *row, key](const runtime::DialogItem& now) {
+            return sortOf(now) == row.sort ? row.gesture(now, key) : std::nullopt;
+        });
+    else if (!event->isAutoRepeat())
+        chooseColor();
 }
 
-void UserItem::keyReleaseEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Space || event->isAutoRepeat() || spaceBar_ == SpaceBar::Up) {
-        QWidget::keyReleaseEvent(event);
-        return;
-    }
-    spaceBar_ = SpaceBar::Up;
-    content_.release(markInContent());
+void UserItem::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+    Q_EMIT shownChanged();
 }
 
 void UserItem::focusOutEvent(QFocusEvent* event) {
-    if (spaceBar_ == SpaceBar::Down) {
-        spaceBar_ = SpaceBar::Up;
-        content_.release(markInContent());
-    }
     QWidget::focusOutEvent(event);
     update();
+}
+
+QRectF UserItem::focusedPart() const {
+    const QPointF corner = geometry().topLeft();
+    if (const auto ramp = runtime::StopRamp::in(item())) {
+        const paint::PixelPoint mark = ramp->markOf(ramp->active());
+        return kAroundMark.translated(QPointF(mark.h, mark.v) - corner);
+    }
+    if (const auto centre = runtime::shownCentre(item())) {
+        const QPointF at = QPointF(centre->x, centre->y) - corner;
+        return {at - QPointF(kCentreRing, kCentreRing), at + QPointF(kCentreRing, kCentreRing)};
+    }
+    return {};
 }
 
 void UserItem::paintEvent(QPaintEvent*) {
     if (!hasFocus())
         return;
-    const QColor accent = palette().color(QPalette::Highlight);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(accent, 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
-    painter.setPen(QPen(palette().color(QPalette::Base), 3));
-    painter.drawEllipse(mark_, 4, 4);
-    painter.setPen(QPen(accent, 1.5));
-    painter.drawEllipse(mark_, 4, 4);
+    const auto ring = [&](const QRectF& around, double width) {
+        painter.setPen(QPen(palette().color(QPalette::Base), width + 2));
+        painter.drawRoundedRect(around, kCentreRing, kCentreRing);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), width));
+        painter.drawRoundedRect(around, kCentreRing, kCentreRing);
+    };
+    ring(QRectF(rect()).adjusted(1, 1, -1, -1), 2);
+    if (const QRectF part = focusedPart(); !part.isEmpty())
+        ring(part, 1.5);
 }
 
 } // namespace easel::window

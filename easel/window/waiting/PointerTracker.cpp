@@ -38,9 +38,9 @@ void PointerTracker::released(QPointF position) {
     releasePosition_ = position;
 }
 
-void PointerTracker::leadBack(std::deque<QPointF> way) {
+void PointerTracker::lead(std::deque<QPointF> way) {
     newPosition_.reset();
-    releasePosition_.reset();
+    releasePosition_ = way.empty() ? position_ : way.back();
     way_ = std::move(way);
     led_ = true;
 }

@@ -24,8 +24,9 @@ class PointerTracker {
     void pressed(PointerSurface& surface, QPointF position);
     void moved(QPointF position);
     void released(QPointF position);
-    // From now on the mouse goes this way, each place on its own, and then the button goes up.
-    void leadBack(std::deque<QPointF> way);
+    // Whatever the real mouse does, the one that is followed goes this way, each place on its own, and then
+    // the button goes up.
+    void lead(std::deque<QPointF> way);
     // The surface goes away.
     void forget(const PointerSurface& surface);
 

@@ -271,5 +271,34 @@ TEST_F(DialogTest, TellsItsObserverOnceOfManyMenuChangesAndManyDrawnPixels) {
     dialog_.setObserver(nullptr);
 }
 
+TEST_F(DialogTest, TellsItsObserverOnceOfWhatAnItemShows) {
+    Recorder recorder;
+    dialog_.setObserver(&recorder);
+    dialog_.flush();
+    recorder = {};
+    dialog_.painted({.left = 10, .top = 10, .right = 60, .bottom = 20}, {1, 2, 3});
+    dialog_.painted({.left = 10, .top = 10, .right = 60, .bottom = 19}, {4, 5, 6});
+    dialog_.flush();
+    dialog_.flush();
+    EXPECT_EQ(recorder.changes, (std::vector<std::pair<int, ItemChange>>{{4, ItemChange::Content}}));
+    EXPECT_EQ(dialog_.item(4)->content.color, (drawing::Rgb16{1, 2, 3})) << "all of the item, not a part";
+    EXPECT_EQ(dialog_.contentAt({60, 10}), nullptr) << "beside it";
+    dialog_.setObserver(nullptr);
+}
+
+TEST_F(DialogTest, WhatTheProgramSelectsLeavesTheKeyboardInAnItemWhereItIsAtWork) {
+    dialog_.setFocus(4);
+    dialog_.holdFocus(true);
+    dialog_.setText(3, "abc");
+    dialog_.selectText(3, {0, 2});
+    EXPECT_EQ(dialog_.focus(), 4);
+    EXPECT_EQ(field().selection, (TextSelection{0, 2}));
+    dialog_.setFocus(5);
+    EXPECT_EQ(dialog_.focus(), 5) << "the user may leave it";
+    dialog_.holdFocus(false);
+    dialog_.selectText(3, {0, 2});
+    EXPECT_EQ(dialog_.focus(), 3);
+}
+
 } // namespace
 } // namespace easel::runtime
