@@ -172,6 +172,26 @@ void Canvas::scrollContentsBy(int, int) {
     updateView();
 }
 
+void Canvas::bringIntoView(const drawing::Box& box) {
+    const QRectF area = inViewport(box);
+    const QPointF off = area.center() - QRectF(viewport()->rect()).center();
+    const auto reach = [](double length, double wanted) { return std::max(0.0, (length - wanted) / 2); };
+    if (std::abs(off.x()) > reach(viewport()->width(), area.width()))
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + static_cast<int>(off.x()));
+    if (std::abs(off.y()) > reach(viewport()->height(), area.height()))
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + static_cast<int>(off.y()));
+}
+
+void Canvas::selectOnly(std::size_t index) {
+    drawing::Drawing& drawing = window_.drawing();
+    drawing.unselectAll();
+    drawing.select(index);
+    bringIntoView(drawing.object(index)->bounds);
+    marked();
+    reportChange();
+    Q_EMIT shapeChosen(index);
+}
+
 QRect Canvas::onScreen(const drawing::Box& box) const {
     const QRect area = inViewport(box).toAlignedRect() & viewport()->rect();
     return {viewport()->mapToGlobal(area.topLeft()), area.size()};

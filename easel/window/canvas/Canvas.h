@@ -61,6 +61,10 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void refreshCursor();
     // A rectangle in viewport coordinates that is being dragged open; none to take it away.
     void showMarquee(std::optional<QRectF> marquee);
+    // Scrolls, if need be, until the middle of the box is well in sight.
+    void bringIntoView(const drawing::Box& box);
+    // Selects this object alone, shows it and says which it is.
+    void selectOnly(std::size_t index);
     // Flashes the edge of the canvas, where nobody hears a beep.
     void flash();
 
@@ -79,6 +83,7 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void pointerLeft();
     void toolPressed(easel::drawing::Point inDrawing);
     void toolReleased();
+    void shapeChosen(std::size_t index);
     void pickedUp(easel::drawing::Point inDrawing);
 
   protected:
@@ -96,6 +101,8 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    // Tab goes from shape to shape, and behind the last one on to what lies beside the canvas.
+    bool focusNextPrevChild(bool next) override;
 
   private:
     bool panning() const { return panFrom_.has_value(); }

@@ -161,7 +161,22 @@ void Canvas::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
-    QAbstractScrollArea::keyPressEvent(event);
+    if (!tool_ || !tool_->key(*this, *event))
+        QAbstractScrollArea::keyPressEvent(event);
+}
+
+bool Canvas::focusNextPrevChild(bool next) {
+    const std::size_t count = window_.drawing().size();
+    const std::vector<std::size_t> selection = window_.drawing().selection();
+    if (interaction_.waiting.busy())
+        return false;
+    if (count == 0 || (!selection.empty() && (next ? selection.back() + 1 == count : selection.front() == 0)))
+        return QAbstractScrollArea::focusNextPrevChild(next);
+    if (selection.empty())
+        selectOnly(next ? 0 : count - 1);
+    else
+        selectOnly(next ? selection.back() + 1 : selection.front() - 1);
+    return true;
 }
 
 void Canvas::keyReleaseEvent(QKeyEvent* event) {

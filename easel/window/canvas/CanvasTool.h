@@ -3,6 +3,7 @@
 
 #include <QPointF>
 
+class QKeyEvent;
 class QMouseEvent;
 
 namespace easel::window {
@@ -19,6 +20,8 @@ class CanvasTool {
     virtual void release(Canvas&, const QMouseEvent&) {}
     // The user wants nothing to come of what was begun with the last press.
     virtual void breakOff(Canvas&) {}
+    // A key went down that the canvas has no use for; false if the tool has none either.
+    virtual bool key(Canvas&, const QKeyEvent&) { return false; }
     // The pointer is over the canvas, or a key changed: show the right cursor.
     virtual void updateCursor(Canvas& canvas) = 0;
 };

@@ -3,10 +3,13 @@
 
 #include "easel/runtime/ToolCalls.h"
 #include "easel/window/canvas/Canvas.h"
+#include "easel/window/canvas/ToolKeys.h"
 #include "easel/window/waiting/Interaction.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <optional>
 #include <vector>
 
 namespace easel::window {
@@ -25,17 +28,44 @@ PluginTool::PluginTool(const HostTool& tool, Interaction& interaction)
     : tool_(tool), interaction_(interaction) {}
 
 void PluginTool::press(Canvas& canvas, const QMouseEvent& event) {
+    interaction_.pointer.pressed(canvas, event.position());
+    work(canvas, event.position());
+}
+
+// The tool knows the mouse only, so keys become what the mouse would do.
+bool PluginTool::key(Canvas& canvas, const QKeyEvent& event) {
+    const std::optional<ToolKeyAnswer> answer = answerToKey(canvas, event);
+    if (!answer)
+        return false;
+    if (!answer->gesture) {
+        Q_EMIT declined();
+        return true;
+    }
+    interaction_.pointer.pressed(canvas, answer->gesture->press);
+    interaction_.pointer.lead(answer->gesture->way);
+    // An editor that is cancelled leaves nothing selected, and the keys would have lost their place.
+    drawing::Drawing& drawing = canvas.drawingWindow().drawing();
+    const std::vector<std::size_t> selection = drawing.selection();
+    work(canvas, answer->gesture->press);
+    if (!drawing.hasSelection()) {
+        reselect(drawing, selection);
+        canvas.marked();
+        canvas.reportChange();
+    }
+    return true;
+}
+
+void PluginTool::work(Canvas& canvas, QPointF place) {
     runtime::DrawingWindow& window = canvas.drawingWindow();
     window.activate();
-    interaction_.pointer.pressed(canvas, event.position());
     const std::size_t levels = window.drawing().undoLevels();
     const std::vector<std::size_t> selection = window.drawing().selection();
-    canvas.reportPress(event.position());
+    canvas.reportPress(place);
     runtime::ToolOutcome outcome = runtime::ToolOutcome::Declined;
     {
         const Waiting::Call call(interaction_.waiting);
         const InputGate::Scope scope(interaction_.gate, &canvas);
-        outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(event.position()));
+        outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(place));
         // A drag that was broken off has let go of the button where it stood; nothing was to come of it.
         if (interaction_.waiting.cancelled() && window.drawing().undoLevels() > levels) {
             window.drawing().takeBack();

@@ -19,6 +19,7 @@ class PluginTool : public QObject, public CanvasTool {
     PluginTool(const HostTool& tool, Interaction& interaction);
 
     void press(Canvas& canvas, const QMouseEvent& event) override;
+    bool key(Canvas& canvas, const QKeyEvent& event) override;
     void updateCursor(Canvas& canvas) override;
     void openOptions();
     const HostTool& tool() const { return tool_; }
@@ -28,6 +29,9 @@ class PluginTool : public QObject, public CanvasTool {
     void declined();
 
   private:
+    // The button has gone down at this place of the viewport.
+    void work(Canvas& canvas, QPointF place);
+
     const HostTool& tool_;
     Interaction& interaction_;
 };

@@ -1,6 +1,8 @@
 // Builds the list of shortcuts from the actions themselves, so that it cannot fall behind.
 #include "easel/window/main/HelpDialogs.h"
 
+#include "easel/window/canvas/ToolKeys.h"
+#include "easel/window/dialogs/ItemKeys.h"
 #include "easel/window/waiting/DialogStack.h"
 
 #include <QAction>
@@ -15,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <set>
 
@@ -110,6 +113,27 @@ void addEditor(QTreeWidget& list) {
          {QObject::tr("Accept, or leave all as it was"), QObject::tr("Return, Escape")}});
 }
 
+template <class Keys> QString keysText(const Keys& keys) {
+    QStringList names;
+    for (const auto& key : keys)
+        names << QKeySequence(key).toString(QKeySequence::NativeText);
+    return names.join(QObject::tr(" or "));
+}
+
+void addToolKeys(QTreeWidget& list) {
+    QTreeWidgetItem* group = addGroup(list, QObject::tr("Keys in the Drawing"));
+    const QString tab = keysText(std::array{QKeyCombination(Qt::Key_Tab), Qt::SHIFT | Qt::Key_Tab});
+    new QTreeWidgetItem(group, {QObject::tr("Select the next shape, or the one before"), tab});
+    for (const ToolKeyRow& row : toolKeyRows())
+        new QTreeWidgetItem(group, {row.text, keysText(row.keys)});
+}
+
+void addItemKeys(QTreeWidget& list) {
+    QTreeWidgetItem* group = addGroup(list, QObject::tr("Keys in the Gradient Editor"));
+    for (const ItemKeyRow& row : itemKeyRows())
+        new QTreeWidgetItem(group, {row.text, keysText(row.keys)});
+}
+
 } // namespace
 
 void showShortcuts(const QMainWindow& window, DialogStack& dialogs) {
@@ -123,6 +147,8 @@ void showShortcuts(const QMainWindow& window, DialogStack& dialogs) {
     list->setAccessibleName(QObject::tr("Shortcuts"));
     addMouse(*list);
     addEditor(*list);
+    addToolKeys(*list);
+    addItemKeys(*list);
     Listed listed;
     for (const QAction* action : window.menuBar()->actions())
         addMenu(*list, *action->menu(), listed);

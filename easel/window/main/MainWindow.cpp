@@ -6,6 +6,7 @@
 #include "easel/runtime/Process.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/SelectTool.h"
+#include "easel/window/canvas/ShapeText.h"
 #include "easel/window/look/Theme.h"
 #include "easel/window/main/ElidedLabel.h"
 #include "easel/window/main/GradientMenu.h"
@@ -71,6 +72,7 @@ MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
     setAttribute(Qt::WA_DeleteOnClose);
     setFile(std::move(loaded.file));
     canvas_ = new Canvas(drawingWindow_, shared_.interaction, shared_.canvases);
+    canvas_->setAccessibleName(tr("Drawing"));
     auto* middle = new QWidget;
     auto* layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -84,6 +86,11 @@ MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
     buildActions();
     buildStatusBar();
     connect(canvas_, &Canvas::changed, this, &MainWindow::drawingChanged);
+    connect(canvas_, &Canvas::shapeChosen, this, [this](std::size_t index) {
+        const drawing::Object& shape = *drawingWindow_.drawing().object(index);
+        statusBar()->showMessage(QStringLiteral("%1 \u2014 %2").arg(shapeName(shape), fillText(shape)),
+                                 kMessageTime);
+    });
     connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
     connect(&shared_.tools, &ToolChoice::activeChanged, this, &MainWindow::toolChanged);
     connect(&unsaved_, &UnsavedKeeper::failed, this, [this](const QString& reason) {

@@ -1,6 +1,7 @@
 // What the window says and does about the gradients of its shapes.
 #include "easel/drawing/StrokeGradient.h"
 #include "easel/window/canvas/Canvas.h"
+#include "easel/window/canvas/ToolKeys.h"
 #include "easel/window/main/GradientMenu.h"
 #include "easel/window/main/MainWindow.h"
 #include "easel/window/main/NoticeBar.h"
@@ -18,18 +19,8 @@ using drawing::Drawing;
 using drawing::Loss;
 using drawing::WholeGradient;
 
-// How near to an outline a press has to be, in screen pixels, as for the tool.
-constexpr double kReach = 3;
 // Of more selected objects than this only some are looked at for a message.
 constexpr std::size_t kMostAskedForMessage = 200;
-
-drawing::KindSet gradientKinds() {
-    drawing::KindSet kinds;
-    for (const drawing::Kind kind : drawing::kAllKinds)
-        if (drawing::carriesGradient(kind))
-            kinds.add(kind);
-    return kinds;
-}
 
 struct Kept {
     bool opacity = false;
@@ -107,7 +98,7 @@ void MainWindow::gradientPressed(drawing::Point at) {
     const Drawing& drawing = drawingWindow_.drawing();
     pressed_ = Pressed{std::nullopt, drawing.undoLevels(), runtime::TemplateSaves(shared_.templateFolder)};
     cost_ = Loss::None;
-    const auto hit = drawing.pick(at, kReach / canvas_->zoom(), gradientKinds());
+    const auto hit = drawing.pick(at, kToolReach / canvas_->zoom(), gradientKinds());
     if (!hit)
         return;
     const drawing::Object& object = *drawing.object(*hit);
@@ -156,7 +147,7 @@ void MainWindow::gradientPickedUp(drawing::Point at) {
     const drawing::PaintStep part = gradientMenu_->part();
     const bool stroke = part == drawing::PaintStep::Stroke;
     const auto hit =
-        drawing.pick(at, kReach / canvas_->zoom(), stroke ? drawing::KindSet::all() : gradientKinds());
+        drawing.pick(at, kToolReach / canvas_->zoom(), stroke ? drawing::KindSet::all() : gradientKinds());
     if (auto gradient = hit ? wholeGradientOf(*drawing.object(*hit), part) : std::nullopt) {
         shared_.copiedGradient = std::move(gradient);
         statusBar()->showMessage(tr("The gradient is copied"), kMessageTime);
