@@ -9,7 +9,6 @@ namespace desktop {
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 
 class DrawingKeysTest : public DesktopTest {
   protected:
@@ -43,8 +42,8 @@ TEST_F(DrawingKeysTest, TheSelectedShapesGradientIsTurnedEditedAndMoved) {
     const std::string turned = contents(drawing());
     press({"Tab", "Right", "shift+Down"});
     EXPECT_NE(saved(), turned);
-    // One and ten units of 240 and 140, from the middle.
-    EXPECT_THAT(contents(drawing()), HasSubstr("0.50416666666666665 0.5714285714285714"));
+    // One and ten units from the middle, in parts of 240 and 140.
+    EXPECT_THAT(contents(drawing()), HasSubstr("2 0 0.5041666666666667 0.5714285714285714"));
 }
 
 TEST_F(DrawingKeysTest, APressGoesToAPlaceWhereTheShapeIsNotCovered) {

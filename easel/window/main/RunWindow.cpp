@@ -5,6 +5,8 @@
 #include "easel/runtime/PluginModule.h"
 #include "easel/runtime/Process.h"
 #include "easel/runtime/TemplateFolder.h"
+#include "easel/window/canvas/CanvasAccess.h"
+#include "easel/window/dialogs/ItemAccess.h"
 #include "easel/window/keeping/OfferRecovery.h"
 #include "easel/window/look/EaselStyle.h"
 #include "easel/window/look/PictureIcon.h"
@@ -123,6 +125,8 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
                            QFile::decodeName(startUp.preferences.c_str()));
     applyAppearance(storedAppearance());
     QApplication::setStyle(new EaselStyle);
+    installCanvasAccess();
+    installItemAccess();
 
     easel::runtime::Process process(placesFor(startUp));
     SharedParts shared(startUp.version, process);
