@@ -33,6 +33,11 @@ class Deeper {
 
 } // namespace
 
+std::optional<FilterGrid> FilterPictures::gridOf(const drawing::Filter& filter,
+                                                 const drawing::Affine& toSheet, const PixelRect& seen) {
+    return gridFor(filter, toSheet, seen, kMostPainting);
+}
+
 FilteredPicture FilterPictures::picture(const drawing::Group& group,
                                         std::span<const drawing::ObjectPtr> objects,
                                         const drawing::Affine& toSheet, const PixelRect& seen,

@@ -17,6 +17,10 @@ namespace easel::paint {
 // all of them take together has a bound.
 class FilterPictures {
   public:
+    // Where the filter of a group that is in no other filtered one is computed; nothing if nothing shows.
+    static std::optional<FilterGrid> gridOf(const drawing::Filter& filter, const drawing::Affine& toSheet,
+                                            const PixelRect& seen);
+
     using Painting = std::function<std::shared_ptr<const Surface>(const FilterGrid& grid)>;
 
     // The picture of what the group's filter makes of the objects, for a sheet of which the pixels `seen` are

@@ -2,30 +2,14 @@
 #include "easel/paint/ObjectPainter.h"
 
 #include "easel/drawing/Filter.h"
+#include "easel/paint/SheetPart.h"
 #include "easel/paint/filter/FilterRun.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace easel::paint {
 
 using drawing::Affine;
 
 namespace {
-
-PixelPoint wholePixels(double x, double y) {
-    const auto whole = [](double value) {
-        return static_cast<int>(std::lrint(std::clamp(value, -1e9, 1e9)));
-    };
-    return {whole(x), whole(y)};
-}
-
-PixelRect movedBy(const PixelRect& rect, PixelPoint by) {
-    return {.left = rect.left + by.h,
-            .top = rect.top + by.v,
-            .right = rect.right + by.h,
-            .bottom = rect.bottom + by.v};
-}
 
 PixelRect wholeOf(const SurfaceView& surface) {
     return {.right = surface.width(), .bottom = surface.height()};
@@ -51,24 +35,25 @@ Sheet ObjectPainter::sheetFor(const SurfaceView& surface, const Affine& toSurfac
         return *sheet_;
     if (!sheet_ && !ownPictures_)
         ownPictures_ = std::make_unique<FilterPictures>();
-    return {toSurface, wholeOf(surface), sheet_ ? sheet_->filterPictures : ownPictures_.get()};
+    return {toSurface, wholeOf(surface), sheet_ ? sheet_->filterPictures : ownPictures_.get(), nullptr,
+            sheet_ ? sheet_->unwanted : nullptr};
 }
 
 FilteredPicture ObjectPainter::filteredPicture(const drawing::Group& group,
                                                std::span<const drawing::ObjectPtr> objects,
                                                const Affine& toSheet, const PixelRect& seen,
-                                               FilterPictures& pictures) {
+                                               FilterPictures& pictures, const Unwanted* unwanted) {
     const auto paint = [&](const FilterGrid& grid) {
         Surface source(grid.place.width(), grid.place.height());
         const Affine toSource = Affine::translation(-grid.place.left, -grid.place.top) * grid.drawingTo;
-        const Sheet ofSource{toSource, wholeOf(source.view()), &pictures};
+        const Sheet ofSource{toSource, wholeOf(source.view()), &pictures, nullptr, unwanted};
         ObjectPainter(ofSource).paintWithin(&group, objects, source.view(), toSource);
-        return filtered(*group.filter, std::move(source), grid.space(),
-                        [&](const drawing::ImageEffect& image) {
-                            Surface shown(grid.place.width(), grid.place.height());
-                            ObjectPainter(ofSource).paint(*image.objects, shown.view(), toSource);
-                            return shown;
-                        });
+        const auto paintImage = [&](const drawing::ImageEffect& image) {
+            Surface shown(grid.place.width(), grid.place.height());
+            ObjectPainter(ofSource).paint(*image.objects, shown.view(), toSource);
+            return shown;
+        };
+        return filtered(*group.filter, std::move(source), grid.space(), paintImage, unwanted);
     };
     return pictures.picture(group, objects, toSheet, seen, paint);
 }
@@ -76,16 +61,14 @@ FilteredPicture ObjectPainter::filteredPicture(const drawing::Group& group,
 void ObjectPainter::paintFiltered(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
                                   const SurfaceView& surface, const Affine& toSurface) {
     const Sheet sheet = sheetFor(surface, toSurface);
+    if (sheet.background)
+        return showFiltered(group, objects, surface, toSurface);
     // A drawing that is scrolled by whole pixels shows the same picture of the group.
-    const PixelPoint origin = wholePixels(std::floor(sheet.toSheet.e), std::floor(sheet.toSheet.f));
-    const PixelPoint back{-origin.h, -origin.v};
-    const PixelPoint offset =
-        wholePixels(toSurface.e - sheet.toSheet.e + origin.h, toSurface.f - sheet.toSheet.f + origin.v);
+    const SheetPart part = partOf(sheet.toSheet, sheet.seen, toSurface);
     const FilteredPicture picture =
-        filteredPicture(group, objects, Affine::translation(back.h, back.v) * sheet.toSheet,
-                        movedBy(sheet.seen, back), *sheet.filterPictures);
+        filteredPicture(group, objects, part.toSheet, part.seen, *sheet.filterPictures, sheet.unwanted);
     if (picture.pixels)
-        put(picture, surface, offset);
+        put(picture, surface, part.offset);
 }
 
 } // namespace easel::paint

@@ -15,10 +15,10 @@ HeldPaintSource::HeldPaintSource(const drawing::Paint& paint) {
         gradient_ = *gradient;
         visible_ = true;
     } else if (const auto* picture = std::get_if<drawing::PicturePtr>(&paint)) {
-        picture_ = picture->get();
+        picture_ = *picture;
         visible_ = true;
     } else if (const auto* pattern = std::get_if<drawing::PatternPtr>(&paint)) {
-        pattern_ = pattern->get();
+        pattern_ = *pattern;
         visible_ = true;
     }
 }

@@ -22,12 +22,13 @@ class HeldPaintSource {
     // What the object's inside shows: its own gradient fitted to its outline, else the fill of its file.
     static HeldPaintSource ofFill(const drawing::Object& object);
     static HeldPaintSource ofStroke(const drawing::Object& object);
+    static HeldPaintSource of(const drawing::Paint& paint) { return HeldPaintSource(paint); }
 
     // False where nothing is painted.
     bool visible() const { return visible_; }
     // What has to be made into an image before it is painted; null if it is neither.
-    const drawing::PlacedPicture* picture() const { return picture_; }
-    const drawing::Pattern* pattern() const { return pattern_; }
+    const drawing::PicturePtr& picture() const { return picture_; }
+    const drawing::PatternPtr& pattern() const { return pattern_; }
     // Everything else.
     PaintSource source() const { return gradient_ ? PaintSource(&*gradient_) : PaintSource(color_); }
 
@@ -38,8 +39,8 @@ class HeldPaintSource {
 
     drawing::ColorPaint color_;
     std::optional<drawing::Gradient> gradient_;
-    const drawing::PlacedPicture* picture_ = nullptr; // of the object
-    const drawing::Pattern* pattern_ = nullptr;       // of the object
+    drawing::PicturePtr picture_;
+    drawing::PatternPtr pattern_;
     bool visible_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include "easel/paint/GroupRuns.h"
 #include "easel/paint/Layer.h"
 #include "easel/paint/ObjectPaintSource.h"
+#include "easel/paint/TakesLong.h"
 #include "easel/paint/pixels/Parallel.h"
 #include "easel/paint/stroke/Stroker.h"
 
@@ -112,20 +113,25 @@ void ObjectPainter::paintLayer(const drawing::Group& group, ObjectSpan objects, 
     if (group.clip)
         clipLayer(layer, *group.clip, toLayer, painter_);
     if (group.mask)
-        maskLayer(layer, *group.mask, toLayer);
+        maskLayer(layer, group.mask, toLayer);
     if (group.blend == drawing::BlendMode::Normal)
         layer.layOn(surface, group.opacity);
     else
         layer.blendWith(surface, group.opacity, group.blend);
 }
 
-void ObjectPainter::maskLayer(Layer& layer, const drawing::Mask& mask, const Affine& toLayer) {
+void ObjectPainter::maskLayer(Layer& layer, const drawing::MaskPtr& mask, const Affine& toLayer) {
     Layer shown(layer.place());
-    paintWithin(nullptr, mask.objects, shown.view(), toLayer);
-    layer.maskWith(shown, mask.measure);
+    if (takeLong(mask->objects) && sheetFor(shown.view(), toLayer).background)
+        showMask(mask, shown.view(), toLayer);
+    else
+        paintWithin(nullptr, mask->objects, shown.view(), toLayer);
+    layer.maskWith(shown, mask->measure);
 }
 
 void ObjectPainter::paintObject(const Object& object, const SurfaceView& surface, const Affine& toSurface) {
+    if (sheet_)
+        endIfUnwanted(sheet_->unwanted);
     const PixelRect place = pixelsUnder(object.paintBounds(), toSurface, surface.clip());
     const double opacity = drawing::styleOf(object).opacity;
     if (place.empty() || !(opacity > 0))
@@ -155,10 +161,11 @@ void ObjectPainter::paintSteps(const Object& object, const SurfaceView& surface,
 void ObjectPainter::paintFill(const Object& object, const SurfaceView& surface, const Affine& toSurface,
                               double opacity) {
     const HeldPaintSource fill = HeldPaintSource::ofFill(object);
-    withSource(fill, object, surface, toSurface, [&](const PaintSource& source) {
-        painter_.fill(surface, object.outline, object.fillRule, toSurface, source,
-                      opacity * drawing::styleOf(object).fillOpacity);
-    });
+    withSource(fill, object.paintBounds(), surface, toSurface,
+               [&](const SurfaceView& part, const PaintSource& source) {
+                   painter_.fill(part, object.outline, object.fillRule, toSurface, source,
+                                 opacity * drawing::styleOf(object).fillOpacity);
+               });
 }
 
 // The pen is round in the object's own units only, so the stroke is made there and mapped to the drawing.
@@ -180,31 +187,74 @@ void ObjectPainter::paintStroke(const Object& object, const SurfaceView& surface
                                   return receiver(corners);
                               });
     };
-    withSource(held, object, surface, toSurface, [&](const PaintSource& source) {
-        painter_.fill(surface, polygons, drawing::FillRule::NonZero, toSurface, source,
-                      opacity * stroke.opacity);
-    });
+    withSource(held, object.paintBounds(), surface, toSurface,
+               [&](const SurfaceView& part, const PaintSource& source) {
+                   painter_.fill(part, polygons, drawing::FillRule::NonZero, toSurface, source,
+                                 opacity * stroke.opacity);
+               });
 }
 
 template <class Fill>
-void ObjectPainter::withSource(const HeldPaintSource& held, const Object& object, const SurfaceView& surface,
-                               const Affine& toSurface, const Fill& fill) {
+void ObjectPainter::withSource(const HeldPaintSource& held, const drawing::Box& filled,
+                               const SurfaceView& surface, const Affine& toSurface, const Fill& fill) {
     if (!held.visible())
         return;
+    if (!held.picture() && !held.pattern())
+        return fill(surface, held.source());
+    const bool long_ = held.picture() || takesLong(*held.pattern());
+    if (const Sheet sheet = sheetFor(surface, toSurface); long_ && sheet.background)
+        withLayer(held, filled, sheet, surface, toSurface, fill);
+    else
+        withImage(held, filled, surface, toSurface, fill);
+}
+
+template <class Fill>
+void ObjectPainter::withImage(const HeldPaintSource& held, const drawing::Box& filled,
+                              const SurfaceView& surface, const Affine& toSurface, const Fill& fill) {
     if (held.picture()) {
         if (const auto pixels = held.picture()->picture->pixels()) {
             const Image image = imageOf(*pixels, *held.picture());
-            fill(PaintSource(&image));
+            fill(surface, PaintSource(&image));
         }
-    } else if (held.pattern()) {
-        const drawing::Box filled = object.paintBounds();
+    } else {
         const PatternImage shown(*held.pattern(), filled, pixelsUnder(filled, toSurface, surface.clip()),
                                  toSurface, cells_);
         if (shown.image())
-            fill(PaintSource(shown.image()));
-    } else {
-        fill(held.source());
+            fill(surface, PaintSource(shown.image()));
     }
+}
+
+std::shared_ptr<const Surface>
+ObjectPainter::paintedApart(const drawing::Paint& paint, const drawing::Box& filled, const FilterGrid& grid) {
+    auto pixels = std::make_shared<Surface>(grid.place.width(), grid.place.height());
+    const Affine toPixels = Affine::translation(-grid.place.left, -grid.place.top) * grid.drawingTo;
+    withImage(HeldPaintSource::of(paint), filled, pixels->view(), toPixels,
+              [&](const SurfaceView& surface, const PaintSource& source) {
+                  painter_.fillAll(surface, toPixels, source);
+              });
+    return pixels;
+}
+
+// The pixels are those that the source has anywhere, so that they fill what it would.
+template <class Fill>
+void ObjectPainter::withLayer(const HeldPaintSource& held, const drawing::Box& filled, const Sheet& sheet,
+                              const SurfaceView& surface, const Affine& toSurface, const Fill& fill) {
+    const auto shown = sourceLayer(held, filled, sheet, toSurface);
+    if (!shown.picture.pixels)
+        return;
+    const Surface& pixels = *shown.picture.pixels;
+    const PixelRect& there = shown.picture.grid.place;
+    const Image image{pixels.row(0),
+                      pixels.width(),
+                      pixels.height(),
+                      pixels.stride() / kBytesPerPixel,
+                      shown.picture.grid.drawingTo.inverse() * Affine::translation(there.left, there.top),
+                      false,
+                      !shown.exact};
+    const drawing::Box box{0, 0, static_cast<double>(pixels.width()), static_cast<double>(pixels.height())};
+    const SurfaceView within =
+        surface.clippedTo(pixelsUnder(box, toSurface * image.toDrawing, surface.clip()));
+    fill(shown.exact ? surface : within, PaintSource(&image));
 }
 
 } // namespace easel::paint

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Object.h"
+#include "easel/paint/BackgroundLayers.h"
 #include "easel/paint/FilterPictures.h"
 #include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/Painter.h"
@@ -21,6 +22,8 @@ struct Sheet {
     drawing::Affine toSheet; // from drawing units to the whole's pixels
     PixelRect seen;          // the whole's pixels
     FilterPictures* filterPictures = nullptr;
+    BackgroundLayers* background = nullptr; // paints what takes long; null: all is painted at once
+    const Unwanted* unwanted = nullptr;     // ends the painting early, by GivenUp; may be null
 };
 
 // Holds scratch memory; use one for each thread.
@@ -40,7 +43,7 @@ class ObjectPainter {
     static FilteredPicture filteredPicture(const drawing::Group& group,
                                            std::span<const drawing::ObjectPtr> objects,
                                            const drawing::Affine& toSheet, const PixelRect& seen,
-                                           FilterPictures& pictures);
+                                           FilterPictures& pictures, const Unwanted* unwanted = nullptr);
 
   private:
     void paintWithin(const drawing::Group* parent, std::span<const drawing::ObjectPtr> objects,
@@ -52,13 +55,26 @@ class ObjectPainter {
                      const SurfaceView& surface, const drawing::Affine& toSurface);
     void paintLayer(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
                     const PixelRect& place, const SurfaceView& surface, const drawing::Affine& toSurface);
-    void maskLayer(Layer& layer, const drawing::Mask& mask, const drawing::Affine& toLayer);
+    void maskLayer(Layer& layer, const drawing::MaskPtr& mask, const drawing::Affine& toLayer);
     // What the group's objects show, filtered if the group has a filter, on a surface that is empty.
     void paintContent(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
                       const SurfaceView& surface, const drawing::Affine& toSurface);
     void paintFiltered(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
                        const SurfaceView& surface, const drawing::Affine& toSurface);
     Sheet sheetFor(const SurfaceView& surface, const drawing::Affine& toSurface);
+    // What takes long, as far as it is there; else as it was before, or plainly.
+    void showFiltered(const drawing::Group& group, std::span<const drawing::ObjectPtr> objects,
+                      const SurfaceView& surface, const drawing::Affine& toSurface);
+    void showMask(const drawing::MaskPtr& mask, const SurfaceView& surface, const drawing::Affine& toSurface);
+    void paintPlainly(std::span<const drawing::ObjectPtr> objects, const SurfaceView& surface,
+                      const drawing::Affine& toSurface);
+    void showLayer(const BackgroundLayers::Shown& shown, const SurfaceView& surface,
+                   const drawing::Affine& toSurface, PixelPoint offset);
+    static BackgroundLayers::Shown sourceLayer(const HeldPaintSource& held, const drawing::Box& filled,
+                                               const Sheet& sheet, const drawing::Affine& toSurface);
+    template <class Fill>
+    void withLayer(const HeldPaintSource& held, const drawing::Box& filled, const Sheet& sheet,
+                   const SurfaceView& surface, const drawing::Affine& toSurface, const Fill& fill);
     void paintObject(const drawing::Object& object, const SurfaceView& surface,
                      const drawing::Affine& toSurface);
     void paintSteps(const drawing::Object& object, const SurfaceView& surface,
@@ -68,10 +84,17 @@ class ObjectPainter {
     void paintStroke(const drawing::Object& object, const SurfaceView& surface,
                      const drawing::Affine& toSurface, double opacity);
 
-    // Calls `fill` with the source as the painter takes it, or not at all if there is nothing to show.
+    // Calls fill(the surface, the source as the painter takes it), or nothing if there is nothing to show in
+    // the box that is filled.
     template <class Fill>
-    void withSource(const HeldPaintSource& held, const drawing::Object& object, const SurfaceView& surface,
+    void withSource(const HeldPaintSource& held, const drawing::Box& filled, const SurfaceView& surface,
                     const drawing::Affine& toSurface, const Fill& fill);
+    template <class Fill>
+    void withImage(const HeldPaintSource& held, const drawing::Box& filled, const SurfaceView& surface,
+                   const drawing::Affine& toSurface, const Fill& fill);
+    // What the picture or pattern shows in the box, on all pixels of the grid.
+    std::shared_ptr<const Surface> paintedApart(const drawing::Paint& paint, const drawing::Box& filled,
+                                                const FilterGrid& grid);
 
     Painter painter_;
     std::size_t layerBytes_ = 0; // of the groups that are being painted

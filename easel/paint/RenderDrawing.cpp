@@ -36,8 +36,12 @@ template <class Paint> void forEachBand(const SurfaceView& surface, unsigned thr
 // The surface with all that it holds is one sheet.
 class WholeSurface {
   public:
-    WholeSurface(const SurfaceView& surface, const Affine& toSurface, FilterPictures* kept)
-        : sheet_{toSurface, {.right = surface.width(), .bottom = surface.height()}, kept ? kept : &own_} {}
+    WholeSurface(const SurfaceView& surface, const Affine& toSurface, FilterPictures* kept,
+                 BackgroundLayers* background)
+        : sheet_{toSurface,
+                 {.right = surface.width(), .bottom = surface.height()},
+                 kept ? kept : &own_,
+                 background} {}
     ObjectPainter painter() const { return ObjectPainter(sheet_); }
 
   private:
@@ -59,16 +63,16 @@ void renderObjects(std::span<const drawing::ObjectPtr> objects, const SurfaceVie
                    const Affine& toSurface, unsigned threads) {
     if (!toSurface.invertible())
         return;
-    const WholeSurface whole(surface, toSurface, nullptr);
+    const WholeSurface whole(surface, toSurface, nullptr, nullptr);
     forEachBand(surface, threads,
                 [&](const SurfaceView& band) { whole.painter().paint(objects, band, toSurface); });
 }
 
 void renderDrawing(const drawing::Drawing& drawing, const SurfaceView& surface, const Affine& toSurface,
-                   unsigned threads, FilterPictures* kept) {
+                   unsigned threads, FilterPictures* kept, BackgroundLayers* background) {
     if (!toSurface.invertible())
         return;
-    const WholeSurface whole(surface, toSurface, kept);
+    const WholeSurface whole(surface, toSurface, kept, background);
     forEachBand(surface, threads, [&](const SurfaceView& band) {
         const auto objects = drawing.objectsWithin(drawnArea(band.clip(), toSurface));
         if (drawing.blends())

@@ -1,6 +1,7 @@
 // Paints a drawing into its window's image where it was marked.
 #include "easel/runtime/DrawingWindow.h"
 
+#include "easel/paint/BackgroundLayers.h"
 #include "easel/paint/FilterPictures.h"
 #include "easel/paint/Port.h"
 #include "easel/paint/RenderDrawing.h"
@@ -9,6 +10,7 @@
 #include "easel/runtime/User.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <stdexcept>
 #include <utility>
@@ -26,6 +28,9 @@ View wholeDrawing(const drawing::Drawing& drawing) {
     return {
         .zoom = 1, .deviceScale = 1, .origin = {0, 0}, .width = drawing.width(), .height = drawing.height()};
 }
+
+// What a frame waits for what it shows for the first time, so that little things do not flicker.
+constexpr std::chrono::milliseconds kPatience{12};
 
 // In pixels, each way: what fits the image formats that windows and files use.
 constexpr double kLargestImage = 32767;
@@ -93,6 +98,8 @@ void DrawingWindow::listen() {
 void DrawingWindow::setDrawing(drawing::Drawing drawing) {
     drawing_ = std::move(drawing);
     filterPictures_ = std::make_unique<paint::FilterPictures>();
+    if (background_)
+        background_->clear();
     listen();
     feedback_.clear();
     setView(view_);
@@ -100,6 +107,8 @@ void DrawingWindow::setDrawing(drawing::Drawing drawing) {
 
 void DrawingWindow::setView(const View& view) {
     view_ = view;
+    if (background_)
+        background_->beginView();
     marks_.clear();
     mark(view_.seen());
 }
@@ -121,7 +130,25 @@ void DrawingWindow::mark(const drawing::Box& area) {
     marks_.assign(1, all);
 }
 
+void DrawingWindow::paintInBackground(std::function<void()> ready) {
+    background_ = std::make_unique<paint::BackgroundLayers>(std::move(ready));
+    mark(view_.seen());
+}
+
+void DrawingWindow::markReady() {
+    if (background_)
+        for (const drawing::Box& area : background_->takeReady())
+            mark(area);
+}
+
+void DrawingWindow::paintAtOnce() {
+    background_ = nullptr;
+    mark(view_.seen());
+}
+
 void DrawingWindow::paintMarked() {
+    if (background_)
+        background_->beginFrame(kPatience);
     const int width = imageLength(view_.width, view_.deviceScale);
     const int height = imageLength(view_.height, view_.deviceScale);
     if (!image_ || image_->width() != width || image_->height() != height) {
@@ -134,7 +161,7 @@ void DrawingWindow::paintMarked() {
             continue;
         whiten(*image_, box);
         paint::renderDrawing(drawing_, image_->view().clippedTo(box), view_.toImage(), paint::usefulThreads(),
-                             filterPictures_.get());
+                             filterPictures_.get(), background_.get());
     }
 }
 

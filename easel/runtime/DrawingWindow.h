@@ -7,12 +7,14 @@
 #include "easel/runtime/View.h"
 #include "host/Windows.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
 
 namespace easel::paint {
+class BackgroundLayers;
 class FilterPictures;
 class Port;
 class Surface;
@@ -60,6 +62,13 @@ class DrawingWindow {
     // image.
     void paintMarked();
     bool painted() const { return image_ != nullptr; }
+    // From now on `paintMarked` leaves what takes long to other threads, and shows what was there before, or
+    // nothing, in its place. One of them calls `ready` each time that more can be shown by `markReady`.
+    void paintInBackground(std::function<void()> ready);
+    // Marks what has been painted in the background since this was last called.
+    void markReady();
+    // Gives up what is under way in the background; all is painted at once again.
+    void paintAtOnce();
     // Painted at least once before this is asked for.
     const paint::Surface& image() const { return *image_; }
 
@@ -87,6 +96,7 @@ class DrawingWindow {
     View view_;
     std::unique_ptr<paint::Surface> image_;
     std::unique_ptr<paint::FilterPictures> filterPictures_; // as last painted
+    std::unique_ptr<paint::BackgroundLayers> background_;   // null: all is painted at once
     std::vector<drawing::Box> marks_;
     std::vector<ConstructionLine> feedback_;
     std::optional<long> cursor_;

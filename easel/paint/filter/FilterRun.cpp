@@ -39,8 +39,8 @@ class Held {
 class FilterRun {
   public:
     FilterRun(const drawing::Filter& filter, Surface source, const FilterSpace& space,
-              const ImagePainting& paintImage)
-        : filter_(filter), space_(space), paintImage_(paintImage), uses_(filter),
+              const ImagePainting& paintImage, const Unwanted* unwanted)
+        : filter_(filter), space_(space), paintImage_(paintImage), unwanted_(unwanted), uses_(filter),
           results_(filter.steps.size()) {
         if (uses_.sourceAlpha)
             sourceAlpha_ = std::make_unique<Held>(
@@ -62,6 +62,7 @@ class FilterRun {
     }
 
     void run(std::size_t i) {
+        endIfUnwanted(unwanted_);
         const drawing::FilterStep& step = filter_.steps[i];
         StepInputs inputs;
         for (const FilterInput& input : step.inputs)
@@ -103,6 +104,7 @@ class FilterRun {
     const drawing::Filter& filter_;
     const FilterSpace& space_;
     const ImagePainting& paintImage_;
+    const Unwanted* unwanted_;
     FilterUses uses_;
     std::unique_ptr<Held> source_;
     std::unique_ptr<Held> sourceAlpha_;
@@ -112,8 +114,9 @@ class FilterRun {
 } // namespace
 
 std::shared_ptr<const Surface> filtered(const drawing::Filter& filter, Surface source,
-                                        const FilterSpace& space, const ImagePainting& paintImage) {
-    return FilterRun(filter, std::move(source), space, paintImage).result();
+                                        const FilterSpace& space, const ImagePainting& paintImage,
+                                        const Unwanted* unwanted) {
+    return FilterRun(filter, std::move(source), space, paintImage, unwanted).result();
 }
 
 } // namespace easel::paint

@@ -49,11 +49,19 @@ Canvas::Canvas(runtime::DrawingWindow& window, Interaction& interaction, OpenCan
     setAccessibleName(tr("Drawing"));
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    window_.paintInBackground([this] {
+        const auto show = [this] {
+            window_.markReady();
+            marked();
+        };
+        QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+    });
     connect(&interaction_.waiting, &Waiting::becameIdle, this, &Canvas::handOverHeld);
     connect(&interaction_.keys, &ModifierKeys::optionChanged, this, &Canvas::refreshCursor);
 }
 
 Canvas::~Canvas() {
+    window_.paintAtOnce();
     interaction_.pointer.forget(*this);
 }
 

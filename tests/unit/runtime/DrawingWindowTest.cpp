@@ -3,6 +3,7 @@
 #include "easel/paint/pixels/Surface.h"
 #include "easel/runtime/PickFilter.h"
 #include "easel/runtime/Snap.h"
+#include "easel/svg/Document.h"
 #include "host/Objects.h"
 #include "tests/support/HostTest.h"
 
@@ -10,7 +11,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <semaphore>
 #include <stdexcept>
+#include <string>
 
 namespace {
 
@@ -91,6 +94,29 @@ TEST_F(DrawingWindowTest, PaintsManySmallChangesAllTheSame) {
         EXPECT_EQ(pixel(2 * i, 25), kBlack);
         EXPECT_EQ(pixel(2 * i + 1, 25), kWhite);
     }
+}
+
+TEST_F(DrawingWindowTest, MarksWhatWasPaintedInTheBackgroundAndShowsItThen) {
+    const std::string group =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='100' height='50'><filter id='f' "
+        "color-interpolation-filters='sRGB'><feFlood flood-color='#12c84a'/></filter>"
+        "<rect width='40' height='40' filter='url(#f)'/></svg>";
+    window.setDrawing(std::move(easel::svg::readBytes(group, "group.svg").value()));
+    std::binary_semaphore ready(0);
+    window.paintInBackground([&] { ready.release(); });
+    window.paintMarked();
+    EXPECT_EQ(pixel(70, 20), kWhite);
+    ready.acquire();
+    window.markReady();
+    EXPECT_FALSE(window.marks().empty());
+    window.paintMarked();
+    EXPECT_EQ(pixel(20, 20), 0xff12c84a);
+    window.drawing().erase(0);
+    window.paintMarked();
+    EXPECT_EQ(pixel(20, 20), kWhite);
+    window.paintAtOnce();
+    window.paintMarked();
+    EXPECT_EQ(pixel(20, 20), kWhite);
 }
 
 TEST_F(DrawingWindowTest, RefusesAViewThatNoImageCanHold) {
