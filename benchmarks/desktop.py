@@ -5,9 +5,10 @@ import shutil
 import statistics
 import subprocess
 import sys
+import tempfile
 import time
 
-TOOLS = ("Xvfb", "openbox", "xdotool")
+TOOLS = ("Xvfb", "openbox", "xdotool", "convert")
 REST = 0.2
 TICK = 1 / os.sysconf("SC_CLK_TCK")  # what processor time is counted in
 
@@ -48,7 +49,10 @@ class Program:
         self.times = os.path.join(settings, f"times of {self.title}")
         open(self.times, "w").close()
         self.read = 0
-        environment = os.environ | {"EASEL_TIMES": self.times, "XDG_CONFIG_HOME": settings, "XDG_DATA_HOME": settings}
+        # What a program that was killed before left unsaved would be offered above the drawing.
+        self.state = tempfile.TemporaryDirectory()
+        environment = os.environ | {"EASEL_TIMES": self.times, "XDG_CONFIG_HOME": settings, "XDG_DATA_HOME": settings,
+                                    "XDG_STATE_HOME": self.state.name}
         # The offer of templates to begin with would lie above the drawing.
         os.makedirs(os.path.join(settings, "kestrad"), exist_ok=True)
         with open(os.path.join(settings, "kestrad", "easel.conf"), "w") as file:
@@ -62,6 +66,7 @@ class Program:
     def __exit__(self, *_):
         self.process.kill()
         self.process.wait()
+        self.state.cleanup()
 
     def lines(self):
         """What the journal has that was not read yet."""
