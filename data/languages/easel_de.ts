@@ -406,6 +406,150 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>Return, Escape</source>
         <translation>Eingabe, Escape</translation>
     </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Vieleck</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Open path</source>
+        <translation>Offener Pfad</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>%1 stops</source>
+        <translation>%1 Stopps</translation>
+    </message>
+    <message>
+        <source>linear gradient, %1, %2°</source>
+        <translation>linearer Verlauf, %1, %2°</translation>
+    </message>
+    <message>
+        <source>radial gradient, %1</source>
+        <translation>radialer Verlauf, %1</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 „%2“</translation>
+    </message>
+    <message>
+        <source>no fill</source>
+        <translation>keine Füllung</translation>
+    </message>
+    <message>
+        <source>another fill</source>
+        <translation>andere Füllung</translation>
+    </message>
+    <message>
+        <source>Selected shape: give it the current gradient, if it has none</source>
+        <translation>Gewählte Form: ihr den aktuellen Verlauf geben, wenn sie keinen hat</translation>
+    </message>
+    <message>
+        <source>Selected shape: edit its gradient</source>
+        <translation>Gewählte Form: ihren Verlauf bearbeiten</translation>
+    </message>
+    <message>
+        <source>Selected shape: turn a linear gradient by 1°, move the center of a radial one by a pixel (Shift: to multiples of 15°, by ten)</source>
+        <translation>Gewählte Form: einen linearen Verlauf um 1° drehen, den Mittelpunkt eines radialen um einen Bildpunkt versetzen (Umschalt: auf Vielfache von 15°, um zehn)</translation>
+    </message>
+    <message>
+        <source>Direction %1°</source>
+        <translation>Richtung %1°</translation>
+    </message>
+    <message>
+        <source>Center at %1 % from the left and %2 % from the top</source>
+        <translation>Mittelpunkt bei %1 % von links und %2 % von oben</translation>
+    </message>
+    <message>
+        <source>Add a stop</source>
+        <translation>Einen Stopp hinzufügen</translation>
+    </message>
+    <message>
+        <source>Ramp: the stop before or after becomes active</source>
+        <translation>Farbleiste: den Stopp davor oder danach wählen</translation>
+    </message>
+    <message>
+        <source>Ramp: move the stop by a pixel (Shift: by ten)</source>
+        <translation>Farbleiste: den Stopp um einen Bildpunkt verschieben (Umschalt: um zehn)</translation>
+    </message>
+    <message>
+        <source>Ramp: move the stop by ten pixels</source>
+        <translation>Farbleiste: den Stopp um zehn Bildpunkte verschieben</translation>
+    </message>
+    <message>
+        <source>Ramp: move the stop to an end</source>
+        <translation>Farbleiste: den Stopp an ein Ende verschieben</translation>
+    </message>
+    <message>
+        <source>Ramp: add a stop after the active one</source>
+        <translation>Farbleiste: nach dem gewählten Stopp einen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Ramp: remove the stop</source>
+        <translation>Farbleiste: den Stopp entfernen</translation>
+    </message>
+    <message>
+        <source>Ramp: choose the stop&apos;s color</source>
+        <translation>Farbleiste: die Farbe des Stopps wählen</translation>
+    </message>
+    <message>
+        <source>Preview: turn a linear gradient by 1°, move the center of a radial one by a pixel (Shift: to multiples of 15°, by ten)</source>
+        <translation>Vorschau: einen linearen Verlauf um 1° drehen, den Mittelpunkt eines radialen um einen Bildpunkt versetzen (Umschalt: auf Vielfache von 15°, um zehn)</translation>
+    </message>
+    <message>
+        <source>Preview: direction to the right, center in the middle</source>
+        <translation>Vorschau: Richtung nach rechts, Mittelpunkt in die Mitte</translation>
+    </message>
+    <message>
+        <source>Swatch: choose the stop&apos;s color</source>
+        <translation>Farbfeld: die Farbe des Stopps wählen</translation>
+    </message>
+    <message>
+        <source>Stop %1 of %2</source>
+        <translation>Stopp %1 von %2</translation>
+    </message>
+    <message>
+        <source>Choose the color</source>
+        <translation>Die Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Keys in the Drawing</source>
+        <translation>Tasten in der Zeichnung</translation>
+    </message>
+    <message>
+        <source>Select the next shape, or the one before</source>
+        <translation>Die nächste Form oder die davor wählen</translation>
+    </message>
+    <message>
+        <source>Keys in the Gradient Editor</source>
+        <translation>Tasten im Verlaufseditor</translation>
+    </message>
 </context>
 <context>
     <name>core</name>
@@ -1178,6 +1322,10 @@ Easel läuft ohne dieses Werkzeug.</translation>
     <message>
         <source>The center is at %1 now</source>
         <translation>Der Mittelpunkt liegt jetzt bei %1</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnung</translation>
     </message>
 </context>
 <context>

@@ -406,6 +406,150 @@ Easel fonctionne sans cet outil.</translation>
         <source>Return, Escape</source>
         <translation>Entrée, Échap</translation>
     </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Tracé</translation>
+    </message>
+    <message>
+        <source>Open path</source>
+        <translation>Tracé ouvert</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>%1 stops</source>
+        <translation>%1 points de couleur</translation>
+    </message>
+    <message>
+        <source>linear gradient, %1, %2°</source>
+        <translation>dégradé linéaire, %1, %2°</translation>
+    </message>
+    <message>
+        <source>radial gradient, %1</source>
+        <translation>dégradé radial, %1</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 « %2 »</translation>
+    </message>
+    <message>
+        <source>no fill</source>
+        <translation>aucun remplissage</translation>
+    </message>
+    <message>
+        <source>another fill</source>
+        <translation>autre remplissage</translation>
+    </message>
+    <message>
+        <source>Selected shape: give it the current gradient, if it has none</source>
+        <translation>Forme sélectionnée : lui donner le dégradé actuel si elle n’en a pas</translation>
+    </message>
+    <message>
+        <source>Selected shape: edit its gradient</source>
+        <translation>Forme sélectionnée : modifier son dégradé</translation>
+    </message>
+    <message>
+        <source>Selected shape: turn a linear gradient by 1°, move the center of a radial one by a pixel (Shift: to multiples of 15°, by ten)</source>
+        <translation>Forme sélectionnée : tourner un dégradé linéaire de 1°, déplacer le centre d’un dégradé radial d’un pixel (Maj : aux multiples de 15°, de dix)</translation>
+    </message>
+    <message>
+        <source>Direction %1°</source>
+        <translation>Direction %1°</translation>
+    </message>
+    <message>
+        <source>Center at %1 % from the left and %2 % from the top</source>
+        <translation>Centre à %1 % de la gauche et %2 % du haut</translation>
+    </message>
+    <message>
+        <source>Add a stop</source>
+        <translation>Ajouter un point de couleur</translation>
+    </message>
+    <message>
+        <source>Ramp: the stop before or after becomes active</source>
+        <translation>Bande : choisir le point précédent ou suivant</translation>
+    </message>
+    <message>
+        <source>Ramp: move the stop by a pixel (Shift: by ten)</source>
+        <translation>Bande : déplacer le point d’un pixel (Maj : de dix)</translation>
+    </message>
+    <message>
+        <source>Ramp: move the stop by ten pixels</source>
+        <translation>Bande : déplacer le point de dix pixels</translation>
+    </message>
+    <message>
+        <source>Ramp: move the stop to an end</source>
+        <translation>Bande : déplacer le point à une extrémité</translation>
+    </message>
+    <message>
+        <source>Ramp: add a stop after the active one</source>
+        <translation>Bande : ajouter un point après celui qui est choisi</translation>
+    </message>
+    <message>
+        <source>Ramp: remove the stop</source>
+        <translation>Bande : enlever le point</translation>
+    </message>
+    <message>
+        <source>Ramp: choose the stop&apos;s color</source>
+        <translation>Bande : choisir la couleur du point</translation>
+    </message>
+    <message>
+        <source>Preview: turn a linear gradient by 1°, move the center of a radial one by a pixel (Shift: to multiples of 15°, by ten)</source>
+        <translation>Aperçu : tourner un dégradé linéaire de 1°, déplacer le centre d’un dégradé radial d’un pixel (Maj : aux multiples de 15°, de dix)</translation>
+    </message>
+    <message>
+        <source>Preview: direction to the right, center in the middle</source>
+        <translation>Aperçu : direction vers la droite, centre au milieu</translation>
+    </message>
+    <message>
+        <source>Swatch: choose the stop&apos;s color</source>
+        <translation>Couleur : choisir la couleur du point</translation>
+    </message>
+    <message>
+        <source>Stop %1 of %2</source>
+        <translation>Point %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Choose the color</source>
+        <translation>Choisir la couleur</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Enlever</translation>
+    </message>
+    <message>
+        <source>Keys in the Drawing</source>
+        <translation>Touches dans le dessin</translation>
+    </message>
+    <message>
+        <source>Select the next shape, or the one before</source>
+        <translation>Sélectionner la forme suivante ou la précédente</translation>
+    </message>
+    <message>
+        <source>Keys in the Gradient Editor</source>
+        <translation>Touches dans l’éditeur de dégradés</translation>
+    </message>
 </context>
 <context>
     <name>core</name>
@@ -1178,6 +1322,10 @@ Easel fonctionne sans cet outil.</translation>
     <message>
         <source>The center is at %1 now</source>
         <translation>Le centre est maintenant à %1</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dessin</translation>
     </message>
 </context>
 <context>
