@@ -626,7 +626,7 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <translation>Formen mit Zahlen außerhalb des Bereichs bleiben in der Datei, werden aber nicht gezeigt.</translation>
     </message>
     <message>
-        <source>Groups and useInstances nested very deep are kept in the file but not shown as such.</source>
+        <source>Groups and use elements nested very deep are kept in the file but not shown as such.</source>
         <translation>Sehr tief geschachtelte Gruppen und Wiederholungen bleiben in der Datei, werden aber nicht als solche gezeigt.</translation>
     </message>
     <message>

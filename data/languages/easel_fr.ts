@@ -626,7 +626,7 @@ Easel fonctionne sans cet outil.</translation>
         <translation>Les formes aux nombres hors limites sont gardées dans le fichier mais pas montrées.</translation>
     </message>
     <message>
-        <source>Groups and useInstances nested very deep are kept in the file but not shown as such.</source>
+        <source>Groups and use elements nested very deep are kept in the file but not shown as such.</source>
         <translation>Les groupes et les répétitions imbriqués très profondément sont gardés dans le fichier mais pas montrés comme tels.</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@ constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
     "Content outside the file is not read.",
     "References that lead back to themselves are kept in the file but not followed.",
     "Shapes with numbers out of range are kept in the file but not shown.",
-    "Groups and useInstances nested very deep are kept in the file but not shown as such.",
+    "Groups and use elements nested very deep are kept in the file but not shown as such.",
     "Gradients between colors in linear light are drawn between those of sRGB.",
 };
 

@@ -36,7 +36,7 @@ constexpr const char* kContext = "core";
                       "References that lead back to themselves are kept in the file but not followed."),
     QT_TRANSLATE_NOOP("core", "Shapes with numbers out of range are kept in the file but not shown."),
     QT_TRANSLATE_NOOP("core",
-                      "Groups and useInstances nested very deep are kept in the file but not shown as such."),
+                      "Groups and use elements nested very deep are kept in the file but not shown as such."),
     QT_TRANSLATE_NOOP("core", "Gradients between colors in linear light are drawn between those of sRGB."),
     QT_TRANSLATE_NOOP("core", "no such file"),
     QT_TRANSLATE_NOOP("core", "not a file"),
