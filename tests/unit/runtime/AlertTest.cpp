@@ -73,19 +73,19 @@ class AlertTest : public HostTest {
 
 TEST_F(AlertTest, NamesTheFileThatWasJustFound) {
     resolved("Sunset");
-    Confirm(kAlert);
+    EXPECT_FALSE(Confirm(kAlert));
     EXPECT_THAT(user_.about, ElementsAre("Sunset"));
-    Confirm(kAlert);
+    EXPECT_FALSE(Confirm(kAlert));
     EXPECT_THAT(user_.about, IsEmpty()) << "another question is not about it";
 }
 
 TEST_F(AlertTest, NamesNoFileThatIsNotThereOrIsInUseAlready) {
     resolved("Dawn");
-    Confirm(kAlert);
+    EXPECT_FALSE(Confirm(kAlert));
     EXPECT_THAT(user_.about, IsEmpty());
     const FSSpec found = resolved("Sunset");
     CloseResFile(FSpOpenResFile(&found, kReadPermission));
-    Confirm(kAlert);
+    EXPECT_FALSE(Confirm(kAlert));
     EXPECT_THAT(user_.about, IsEmpty());
 }
 
@@ -93,7 +93,7 @@ TEST_F(AlertTest, NamesWhatIsSelectedInTheListThatIsOpen) {
     resolved("Sunset");
     (new CarefulDialog)->Run();
     EXPECT_THAT(user_.about, ElementsAre("thing 0", "thing 2"));
-    Confirm(kAlert);
+    EXPECT_FALSE(Confirm(kAlert));
     EXPECT_THAT(user_.about, IsEmpty()) << "the list is gone";
 }
 
