@@ -127,7 +127,7 @@ template <typename T> struct TLine {
     [[nodiscard]] double Angle() const {
         auto const dh = static_cast<double>(end.h - start.h);
         auto const dv = static_cast<double>(end.v - start.v);
-        // atan2 tells apart the two zeros, so that -0 would lead to a half turn, or to one the other way round.
+        // atan2 tells apart the two zeros: -0 would lead to a half turn, or to one the other way round.
         return std::atan2(dv + 0.0, dh + 0.0) * (180.0 / std::numbers::pi);
     }
     [[nodiscard]] double Length() const {
