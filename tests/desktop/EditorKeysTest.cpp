@@ -132,6 +132,21 @@ TEST_F(EditorKeysTest, TheColorOfAStopIsChosenFromTheRampAndFromTheSwatch) {
     closeEditorWith("Escape");
 }
 
+TEST_F(EditorKeysTest, AStopThatWasJustAddedGetsAColorThatIsSaved) {
+    startWithDrawing();
+    openOnRamp();
+    press({"Insert", "Return"});
+    waitForDialog("Color of the gradient stop");
+    screen().key("alt+h");
+    screen().type("#00ff7f");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Color of the gradient stop"));
+    EXPECT_TRUE(getsKeyboard("Gradient"));
+    confirm();
+    // 0, 255 and 127 of 255 in the 16 bits of the record.
+    EXPECT_THAT(saved(), HasSubstr("0 65535 32639"));
+}
+
 TEST_F(EditorKeysTest, ALinearGradientIsTurnedAndARadialOneHasItsCentreMoved) {
     startWithDrawing();
     openOnField(160, 290);
