@@ -123,7 +123,8 @@ paint::Surface pictureOfPdf(const std::filesystem::path& file) {
     const auto* next = reinterpret_cast<const unsigned char*>(pixels.data() + head.size());
     for (int y = 0; y < kHigh; ++y)
         for (int x = 0; x < kWide; ++x, next += 3)
-            surface.row(y)[x] = 0xff000000U | (next[0] << 16U) | (next[1] << 8U) | next[2];
+            surface.row(y)[x] =
+                0xff000000U | std::uint32_t{next[0]} << 16 | std::uint32_t{next[1]} << 8 | next[2];
     return surface;
 }
 

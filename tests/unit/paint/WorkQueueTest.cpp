@@ -101,6 +101,7 @@ TEST(WorkQueue, EndsWithAllThatIsUnderWayAndBeginsNothingMore) {
 
 TEST(WorkQueue, GivesWhatWorkHeldBackToWhoeverAsks) {
     struct Held {
+        explicit Held(std::thread::id& thread) : destroyedBy(thread) {}
         std::thread::id& destroyedBy;
         ~Held() { destroyedBy = std::this_thread::get_id(); }
     };

@@ -9,7 +9,6 @@ using easel::drawing::Drawing;
 using easel::drawing::Rgb16;
 
 constexpr Rgb16 kRed{65535, 0, 0};
-constexpr Rgb16 kLime{0, 65535, 0};
 constexpr Rgb16 kBlack{};
 
 // The fill of a rectangle of the class "a b" under what stands in front of it.
