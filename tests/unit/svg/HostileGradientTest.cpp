@@ -4,7 +4,7 @@
 #include "easel/drawing/ShapeGradient.h"
 #include "easel/svg/write/ReadBack.h"
 
-#include <chrono>
+#include <ctime>
 
 namespace {
 
@@ -101,14 +101,14 @@ TEST(HostileGradient, IsChangedSavedAndReadAgain) {
 }
 
 TEST(HostileGradient, OfAHundredThousandStopsOrAMillionRepeatsTakesNoTimeToSpeakOf) {
-    const auto begin = std::chrono::steady_clock::now();
+    const std::clock_t begin = std::clock();
     for (const char* const spread : {"", "spreadMethod='reflect' x2='1e-6' r='1e-6'"}) {
         const std::string shape = "<rect width='50' height='40' fill='url(#g)'/>";
         changeSaveAndReopen(linear(spread, manyStops(100'000)), shape);
         changeSaveAndReopen(radial(spread, manyStops(100'000)), shape);
         changeSaveAndReopen(linear(spread, manyStops(300)), shape);
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
+    EXPECT_LT(std::clock() - begin, 60 * CLOCKS_PER_SEC);
 }
 
 } // namespace
