@@ -12,7 +12,6 @@ namespace easel::exports {
 using drawing::Affine;
 using drawing::Object;
 using svg::attribute;
-using svg::attributeUnless;
 
 namespace {
 

@@ -201,8 +201,8 @@ void ObjectPainter::withSource(const HeldPaintSource& held, const drawing::Box& 
         return;
     if (!held.picture() && !held.pattern())
         return fill(surface, held.source());
-    const bool long_ = held.picture() || takesLong(*held.pattern());
-    if (const Sheet sheet = sheetFor(surface, toSurface); long_ && sheet.background)
+    const bool isLong = held.picture() || takesLong(*held.pattern());
+    if (const Sheet sheet = sheetFor(surface, toSurface); isLong && sheet.background)
         withLayer(held, filled, sheet, surface, toSurface, fill);
     else
         withImage(held, filled, surface, toSurface, fill);

@@ -64,7 +64,7 @@ void RadialPiece::setColors(const ColorSpan& colorSpan, double rounding) {
         if (slope[i] == 0)
             continue;
         const double change = std::abs(static_cast<std::int16_t>(slope[i])) * farthest / kWholeDistance;
-        color[i] = std::min(color[i], kAlpha - static_cast<std::uint32_t>(change + 0.5));
+        color[i] = std::min(color[i], kAlpha - static_cast<std::uint32_t>(std::lrint(change)));
     }
     mix_.colors = {color[2] << 16 | color[0], kAlpha << 16 | color[1], slope[2] << 16 | slope[0], slope[1]};
 }
