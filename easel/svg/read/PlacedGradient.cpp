@@ -4,7 +4,6 @@
 
 namespace easel::svg {
 
-using drawing::Affine;
 using drawing::ColorPaint;
 using drawing::Gradient;
 using drawing::LinearGeometry;

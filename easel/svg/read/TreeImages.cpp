@@ -8,7 +8,6 @@
 
 namespace easel::svg {
 
-using drawing::Affine;
 using drawing::Box;
 
 namespace {
