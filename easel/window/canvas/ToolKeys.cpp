@@ -16,7 +16,6 @@ namespace easel::window {
 namespace {
 
 using drawing::Box;
-using drawing::Drawing;
 using drawing::Point;
 
 // A covered shape is looked for at so many places along each side of its bounds.
