@@ -4,6 +4,7 @@
 #include "easel/window/dialogs/NumberField.h"
 #include "easel/window/waiting/DialogStack.h"
 
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>

@@ -15,6 +15,11 @@ class Application : public QApplication {
     Application(int& argc, char** argv) : QApplication(argc, argv), times_(TimingJournal::ofEnvironment()) {}
 
     bool notify(QObject* receiver, QEvent* event) override;
+    bool event(QEvent* event) override;
+
+  Q_SIGNALS:
+    // The desktop's session is over, and with it the program, whatever is open.
+    void sessionOver();
 
   private:
     std::unique_ptr<TimingJournal> times_;

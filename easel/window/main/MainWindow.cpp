@@ -166,13 +166,15 @@ void MainWindow::restore(const QByteArray& geometry, double zoom) {
 
 bool MainWindow::mayEnd() {
     const bool settled = settleChanges() == Saved::Yes;
-    if (settled)
+    if (settled) {
         unsaved_.giveUp();
+        settledRevision_ = drawingWindow_.drawing().revision();
+    }
     return settled;
 }
 
 void MainWindow::keepUnsaved() {
-    if (isUnsaved())
+    if (isUnsaved() && drawingWindow_.drawing().revision() != settledRevision_)
         unsaved_.keepNow(drawingWindow_.drawing());
 }
 

@@ -13,6 +13,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <set>
 #include <vector>
@@ -61,7 +62,7 @@ class MainWindow : public QMainWindow {
     double zoom() const;
     // Puts the window where it was, with that zoom.
     void restore(const QByteArray& geometry, double zoom);
-    // Keeps what is unsaved in its journal, and returns when that is done.
+    // Keeps what is unsaved in its journal, unless the user does not want it, and returns when that is done.
     void keepUnsaved();
     // Asks what is to become of unsaved changes; false if the user would rather go on.
     bool mayEnd();
@@ -184,6 +185,7 @@ class MainWindow : public QMainWindow {
     NoticeBar* notice_;
     CancelFirst closing_;
     UnsavedKeeper unsaved_;
+    std::optional<std::uint64_t> settledRevision_; // what is unsaved in it is known to be unwanted
     FileOnDisk onDisk_;
     std::optional<std::string> contentBefore_; // of the file, if the drawing did not come from it
 

@@ -89,15 +89,17 @@ void hearSessionEnd(const Application& application, Workspace& workspace) {
                          workspace.keepAll();
                          if (!manager.allowsInteraction())
                              return;
-                         if (!workspace.mayEnd())
+                         if (workspace.mayEnd())
+                             manager.release();
+                         else
                              manager.cancel();
-                         manager.release();
                      });
     QObject::connect(&application, &QGuiApplication::saveStateRequest, &workspace,
                      [&workspace](QSessionManager& manager) {
                          workspace.keepAll();
                          manager.setRestartHint(QSessionManager::RestartIfRunning);
                      });
+    QObject::connect(&application, &Application::sessionOver, &workspace, &Workspace::leave);
 }
 
 } // namespace

@@ -34,7 +34,8 @@ QPoint cascaded(const QWidget& last, const QSize& size) {
 } // namespace
 
 Workspace::Workspace(SharedParts& shared)
-    : shared_(shared), quitting_(shared.interaction.waiting, [this] { quit(); }) {}
+    : shared_(shared), quitting_(shared.interaction.waiting, [this] { quit(); }),
+      leaving_(shared.interaction.waiting, [this] { leave(); }) {}
 
 Workspace::~Workspace() {
     for (const QPointer<MainWindow>& window : std::vector(windows_))
@@ -187,6 +188,11 @@ void Workspace::quit() {
         if (window && !window->close())
             break;
     isQuitting_ = false;
+}
+
+void Workspace::leave() {
+    if (!leaving_.hasToWait())
+        QCoreApplication::exit();
 }
 
 } // namespace easel::window

@@ -48,6 +48,8 @@ class Workspace : public QObject {
     bool mayEnd();
     // Closes all windows, asking about unsaved changes. What the plug-in waits for is cancelled first.
     void quit();
+    // Ends the program without asking. What is in journals stays there for the next start.
+    void leave();
 
   private:
     MainWindow& show(LoadedDrawing loaded);
@@ -59,6 +61,7 @@ class Workspace : public QObject {
     SharedParts& shared_;
     std::vector<QPointer<MainWindow>> windows_;
     CancelFirst quitting_;
+    CancelFirst leaving_;
     bool isQuitting_ = false;
 };
 
