@@ -85,6 +85,98 @@ TEST(Path, KeepsOrderHoweverLongItGrowsAndWhenItIsShrunk) {
         EXPECT_EQ(path.points()[i].x, static_cast<double>(i));
 }
 
+TEST(Path, OfSeveralMovesInARowTheLastCounts) {
+    Path path;
+    path.moveTo({1, 1});
+    path.moveTo({2, 2});
+    path.lineTo({3, 3});
+    path.moveTo({4, 4});
+    path.moveTo({5, 5});
+    EXPECT_EQ(path.verbs().size(), 3U);
+    EXPECT_EQ(path.points().size(), 3U);
+    EXPECT_EQ(path.points().front(), (Point{2, 2}));
+    EXPECT_EQ(path.points().back(), (Point{5, 5}));
+}
+
+TEST(Path, WithoutAMoveStartsAtTheOrigin) {
+    Path line;
+    line.lineTo({3, 4});
+    EXPECT_EQ(line, polylinePath({{0, 0}, {3, 4}}));
+    Path curve;
+    curve.cubicTo({1, 0}, {2, 0}, {3, 4});
+    EXPECT_EQ(curve.points().front(), (Point{0, 0}));
+    EXPECT_EQ(curve.points().size(), 4U);
+}
+
+TEST(Path, ClosesOnceAndOnlyWhatThereIs) {
+    Path path;
+    path.close();
+    EXPECT_TRUE(path.empty());
+    path.lineTo({3, 4});
+    path.close();
+    path.close();
+    EXPECT_EQ(path.verbs().size(), 3U);
+}
+
+TEST(Path, GoesOnFromTheStartOfTheSubpathThatWasClosedLast) {
+    Path path;
+    path.moveTo({1, 1});
+    path.lineTo({2, 1});
+    path.close();
+    path.moveTo({5, 6});
+    path.lineTo({7, 8});
+    path.cubicTo({9, 9}, {10, 10}, {11, 11});
+    path.lineTo({12, 12});
+    path.close();
+    path.cubicTo({20, 20}, {21, 21}, {22, 22});
+    path.close();
+    path.lineTo({30, 30});
+    const std::vector<Contour> contours = flatten(path, 1);
+    ASSERT_EQ(contours.size(), 4U);
+    for (const std::size_t i : {1U, 2U, 3U})
+        EXPECT_EQ(contours[i].points.front(), (Point{5, 6})) << i;
+}
+
+TEST(Path, BoundsOfMovesAloneAreTheirPlace) {
+    Path path;
+    path.moveTo({3, 4});
+    EXPECT_EQ(path.bounds(), (Box{3, 4, 3, 4}));
+    EXPECT_TRUE(Path().bounds().empty());
+    path.lineTo({5, 6});
+    path.moveTo({100, 100});
+    EXPECT_EQ(path.bounds(), (Box{3, 4, 5, 6})) << "a move after lines draws nothing";
+}
+
+TEST(Path, PolygonsLeaveOutWhatHasNoLinesAndTheRepeatedFirstPoint) {
+    Path path;
+    path.moveTo({9, 9});
+    path.close();
+    path.moveTo({0, 0});
+    for (const Point p : {Point{10, 0}, Point{10, 10}, Point{0, 0}})
+        path.lineTo(p);
+    path.close();
+    path.moveTo({1, 1});
+    path.lineTo({2, 2});
+    path.lineTo({1, 1});
+    path.moveTo({3, 3});
+    const std::vector<Contour> contours = flatten(path, 1);
+    ASSERT_EQ(contours.size(), 2U);
+    EXPECT_EQ(contours[0].points, (std::vector<Point>{{0, 0}, {10, 0}, {10, 10}}));
+    EXPECT_TRUE(contours[0].closed);
+    EXPECT_EQ(contours[1].points, (std::vector<Point>{{1, 1}, {2, 2}, {1, 1}}))
+        << "open, so that it comes back";
+    EXPECT_FALSE(contours[1].closed);
+}
+
+TEST(Path, ALineWithoutLengthIsNearWhereItIs) {
+    const Path dot = polylinePath({{5, 5}, {5, 5}});
+    EXPECT_TRUE(outlineWithin(dot, {5, 7}, 2));
+    EXPECT_FALSE(outlineWithin(dot, {5, 7.1}, 2));
+    const Path line = polylinePath({{0, 0}, {0.5, 0}});
+    EXPECT_TRUE(outlineWithin(line, {0.25, 1}, 1)) << "shorter than a unit";
+    EXPECT_FALSE(outlineWithin(line, {1.5, 0}, 0.9));
+}
+
 TEST(Path, FlattenedEllipseHasItsAreaAndStaysWithinTolerance) {
     const std::vector<Contour> contours = flatten(ellipsePath({50, 40}, 30, 20), 0.01);
     ASSERT_EQ(contours.size(), 1U);
