@@ -1,0 +1,176 @@
+// The list of objects and the index of their places, which keep what they were given however it is cut up
+// inside.
+#include "easel/drawing/DisplayList.h"
+#include "easel/drawing/PlaceIndex.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using namespace easel::drawing;
+
+ObjectPtr named(std::size_t number) {
+    Object object;
+    object.id = std::to_string(number);
+    return sealed(std::move(object));
+}
+
+std::vector<ObjectPtr> manyObjects(std::size_t count) {
+    std::vector<ObjectPtr> objects;
+    for (std::size_t i = 0; i < count; ++i)
+        objects.push_back(named(i));
+    return objects;
+}
+
+// Every way to ask the list has to give these slots and objects.
+void expectHolds(const DisplayList& list, const std::vector<std::pair<Slot, ObjectPtr>>& expected) {
+    ASSERT_EQ(list.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        ASSERT_EQ(list.slotAt(i), expected[i].first) << i;
+        ASSERT_EQ(list.indexOf(expected[i].first), i);
+        ASSERT_EQ(list.object(expected[i].first), expected[i].second) << i;
+        ASSERT_TRUE(list.holds(expected[i].first));
+    }
+    std::vector<std::pair<Slot, ObjectPtr>> visited;
+    list.forEach([&](Slot slot, const ObjectPtr& object) { visited.emplace_back(slot, object); });
+    ASSERT_EQ(visited, expected);
+}
+
+TEST(DisplayList, HoldsObjectsAppendedTwiceInTheirOrder) {
+    DisplayList list;
+    const std::vector<ObjectPtr> objects = manyObjects(1400);
+    list.append({objects.begin(), objects.begin() + 700});
+    list.append({objects.begin() + 700, objects.end()});
+    std::vector<std::pair<Slot, ObjectPtr>> expected;
+    for (const ObjectPtr& object : objects)
+        expected.emplace_back(static_cast<Slot>(expected.size()), object);
+    expectHolds(list, expected);
+}
+
+TEST(DisplayList, StaysInOrderWhereverObjectsAreInsertedAndErased) {
+    std::mt19937 random(5);
+    DisplayList list;
+    list.append(manyObjects(600));
+    std::vector<std::pair<Slot, ObjectPtr>> expected;
+    list.forEach([&](Slot slot, const ObjectPtr& object) { expected.emplace_back(slot, object); });
+    // First mostly insertions in one place, which has to be cut up, then mostly deletions until little is
+    // left.
+    for (std::size_t round = 0; round < 4000; ++round) {
+        const bool erases = !expected.empty() && random() % 8 < (round < 1500 ? 1U : 6U);
+        const std::size_t spread =
+            round % 3 == 0 ? expected.size() : std::min<std::size_t>(expected.size(), 9);
+        const std::size_t index = random() % (spread + (erases ? 0 : 1));
+        const auto at = expected.begin() + static_cast<std::ptrdiff_t>(index);
+        if (erases) {
+            ASSERT_EQ(list.erase(at->first), at->second);
+            ASSERT_FALSE(list.holds(at->first));
+            expected.erase(at);
+        } else {
+            const Slot slot = list.newSlot();
+            ASSERT_FALSE(list.holds(slot));
+            const ObjectPtr object = named(round);
+            list.insert(index, slot, object);
+            expected.insert(at, {slot, object});
+        }
+        if (round % 97 == 0) {
+            ASSERT_NO_FATAL_FAILURE(expectHolds(list, expected)) << round;
+        }
+    }
+    expectHolds(list, expected);
+}
+
+TEST(DisplayList, FillsAgainAfterItWasEmptied) {
+    DisplayList list;
+    list.append(manyObjects(300));
+    for (Slot slot = 300; slot-- > 0;)
+        list.erase(slot);
+    EXPECT_EQ(list.size(), 0U);
+    const ObjectPtr object = named(1);
+    list.insert(0, 7, object);
+    expectHolds(list, {{7, object}});
+}
+
+TEST(DisplayList, GivesBackTheObjectThatItExchanges) {
+    DisplayList list;
+    const std::vector<ObjectPtr> objects = manyObjects(3);
+    list.append(objects);
+    const ObjectPtr other = named(9);
+    EXPECT_EQ(list.replace(1, other), objects[1]);
+    expectHolds(list, {{0, objects[0]}, {1, other}, {2, objects[2]}});
+}
+
+TEST(DisplayList, KnowsNoSlotThatItNeverGaveOut) {
+    DisplayList list;
+    EXPECT_FALSE(list.holds(0));
+    list.append(manyObjects(2));
+    EXPECT_TRUE(list.holds(1));
+    EXPECT_FALSE(list.holds(2));
+}
+
+std::vector<Slot> sortedWithin(const PlaceIndex& places, const Box& area) {
+    std::vector<Slot> found = places.within(area);
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+TEST(PlaceIndex, FindsBoxesThatTheAreaMeetsAndNoOthersFarAway) {
+    PlaceIndex places;
+    places.assign({{{0, 0, 10, 10}, 1}, {{20, 0, 30, 10}, 2}, {{0, 20, 10, 30}, 3}});
+    EXPECT_EQ(sortedWithin(places, {10, 10, 20, 20}), (std::vector<Slot>{1, 2, 3})) << "corners meet";
+    EXPECT_EQ(sortedWithin(places, {11, 11, 19, 19}), std::vector<Slot>{});
+    EXPECT_EQ(sortedWithin(places, {5, 5, 6, 25}), (std::vector<Slot>{1, 3}));
+    places.insert({12, 12, 13, 13}, 4);
+    EXPECT_EQ(sortedWithin(places, {11, 11, 19, 19}), std::vector<Slot>{4});
+    places.erase({12, 12, 13, 13}, 4);
+    EXPECT_EQ(sortedWithin(places, {11, 11, 19, 19}), std::vector<Slot>{});
+    places.assign({{{0, 0, 1, 1}, 5}});
+    EXPECT_EQ(sortedWithin(places, {-100, -100, 100, 100}), std::vector<Slot>{5});
+}
+
+TEST(PlaceIndex, HasNoPlaceForNothing) {
+    PlaceIndex places;
+    places.assign({{Box(), 1}, {{5, 5, 5, 5}, 2}});
+    places.insert(Box(), 3);
+    const double far = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(sortedWithin(places, {-far, -far, far, far}), std::vector<Slot>{2}) << "a point is a place";
+    EXPECT_EQ(sortedWithin(places, Box()), std::vector<Slot>{});
+    places.erase(Box(), 2);
+    EXPECT_EQ(sortedWithin(places, {5, 5, 5, 5}), std::vector<Slot>{2});
+}
+
+// Around 2^26 neighboring numbers of single precision are 8 apart.
+TEST(PlaceIndex, MissesNoBoxWhereItsNumbersAreCoarse) {
+    const double far = 67108864;
+    for (const double sign : {1.0, -1.0})
+        for (int i = 0; i < 40; ++i) {
+            const double at = sign * (far + i * 0.7);
+            PlaceIndex places;
+            places.insert({at - 0.1, 2 - at, at + 0.1, 3 - at}, 1);
+            for (const Box& touching :
+                 {Box{at + 0.1, 2 - at, at + 0.2, 3 - at}, Box{at - 0.2, 2 - at, at - 0.1, 3 - at},
+                  Box{at, 3 - at, at, 4 - at}, Box{at, 1 - at, at, 2 - at}})
+                EXPECT_EQ(places.within(touching).size(), 1U) << at;
+            EXPECT_TRUE(places.within({at + 30, 2 - at, at + 40, 3 - at}).empty()) << at;
+            EXPECT_TRUE(places.within({at - 40, 2 - at, at - 30, 3 - at}).empty()) << at;
+            EXPECT_TRUE(places.within({at, 33 - at, at, 43 - at}).empty()) << at;
+            EXPECT_TRUE(places.within({at, -38 - at, at, -28 - at}).empty()) << at;
+        }
+}
+
+TEST(PlaceIndex, FindsWhatLiesBeyondItsNumbers) {
+    PlaceIndex places;
+    places.insert({1e300, 0, 2e300, 1}, 1);
+    places.insert({-2e300, 0, -1e300, 1}, 2);
+    EXPECT_EQ(sortedWithin(places, {1.5e300, 0, 1.6e300, 1}), std::vector<Slot>{1});
+    EXPECT_EQ(sortedWithin(places, {-1.6e300, 0, -1.5e300, 1}), std::vector<Slot>{2});
+    EXPECT_EQ(sortedWithin(places, {-10, 0, 10, 1}), std::vector<Slot>{});
+}
+
+} // namespace
