@@ -49,6 +49,116 @@ TEST(Object, KindsHaveNamesThatLeadBackToThem) {
     EXPECT_EQ(kindFromName("blob"), std::nullopt);
 }
 
+TEST(Object, ClosedKindsCarryGradients) {
+    for (const Kind kind : {Kind::Rect, Kind::Ellipse, Kind::Polygon, Kind::Path})
+        EXPECT_TRUE(carriesGradient(kind)) << kindName(kind);
+    for (const Kind kind : {Kind::Polyline, Kind::Line, Kind::Picture, Kind::Text})
+        EXPECT_FALSE(carriesGradient(kind)) << kindName(kind);
+}
+
+TEST(Object, KindsAreNumberedAsPluginsSeeThem) {
+    int number = 0;
+    for (const Kind kind : kAllKinds)
+        EXPECT_EQ(static_cast<int>(kind), ++number);
+    EXPECT_EQ(number, 8);
+}
+
+TEST(Object, ASetOfKindsHoldsThoseAdded) {
+    for (const Kind one : kAllKinds) {
+        KindSet set = KindSet::none();
+        EXPECT_EQ(set, KindSet::none());
+        set.add(one);
+        for (const Kind other : kAllKinds)
+            EXPECT_EQ(set.has(other), one == other);
+        EXPECT_TRUE(KindSet::all().has(one));
+        set.add(Kind::Path);
+        EXPECT_TRUE(set.has(one) && set.has(Kind::Path));
+    }
+    EXPECT_FALSE(KindSet::all() == KindSet::none());
+}
+
+TEST(Object, IsInAFileIfItsTagTakesAnyRoom) {
+    EXPECT_FALSE(ElementSpan().inFile());
+    EXPECT_FALSE((ElementSpan{7, 7, 0}.inFile()));
+    EXPECT_TRUE((ElementSpan{0, 1, 0}.inFile()));
+    EXPECT_LT((ElementSpan{1, 9, 9}), (ElementSpan{2, 3, 0}));
+    EXPECT_LT((ElementSpan{1, 3, 9}), (ElementSpan{1, 4, 0}));
+    EXPECT_LT((ElementSpan{1, 3, 0}), (ElementSpan{1, 3, 1}));
+}
+
+TEST(Object, ANameIsATextOrNone) {
+    const Name none;
+    EXPECT_TRUE(none.empty());
+    EXPECT_EQ(none.text(), "");
+    EXPECT_TRUE(Name("").empty());
+    Name name("a leaf");
+    EXPECT_FALSE(name.empty());
+    const Name copy = name;
+    name = Name("another");
+    EXPECT_EQ(name.text(), "another");
+    EXPECT_EQ(copy.text(), "a leaf");
+    name = none;
+    EXPECT_TRUE(name.empty());
+}
+
+TEST(Object, APlainStyleAndTheDrawingsUnitsStandForNone) {
+    Object object;
+    EXPECT_EQ(styleOf(object), Style());
+    EXPECT_EQ(unitsOf(object), Affine());
+    EXPECT_EQ(penUnitsOf(object), Affine());
+    object.units = std::make_shared<const Affine>(Affine::scaling(2, 3));
+    Style style = penOf(4);
+    object.style = std::make_shared<const Style>(style);
+    EXPECT_EQ(styleOf(object).stroke.width, 4);
+    EXPECT_EQ(unitsOf(object), Affine::scaling(2, 3));
+    EXPECT_EQ(penUnitsOf(object), Affine::scaling(2, 3));
+    style.stroke.inDrawingUnits = true;
+    object.style = std::make_shared<const Style>(style);
+    EXPECT_EQ(penUnitsOf(object), Affine());
+}
+
+TEST(Object, ARemainderIsEmptyWithoutOpacityAndEllipse) {
+    EXPECT_TRUE(Remainder().empty());
+    EXPECT_FALSE((Remainder{{{0, 1}}, std::nullopt}.empty()));
+    EXPECT_FALSE((Remainder{{}, Affine()}.empty()));
+}
+
+TEST(Object, TheGradientOfAPaintIsThatOfAPaintThatIsOne) {
+    const auto gradient = std::make_shared<const Gradient>();
+    EXPECT_EQ(gradientIn(Paint(gradient)), gradient.get());
+    EXPECT_EQ(gradientIn(Paint(ColorPaint())), nullptr);
+    EXPECT_EQ(gradientIn(Paint()), nullptr);
+}
+
+TEST(Object, ANewGradientKeepsWhatTheRecordCannotHold) {
+    Object object = square();
+    const RemainderPtr remainder = object.remainder;
+    object.setGradient(gradientAt(20));
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::File) << "it has an equal one already";
+    object.setGradient(gradientAt(50));
+    EXPECT_EQ(gradientIn(object.gradient)->GetGradientData().Angle(), 50);
+    EXPECT_EQ(object.remainder, remainder);
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::Edited);
+    object.setGradient({});
+    EXPECT_FALSE(gradientIn(object.gradient));
+    EXPECT_FALSE(object.remainder);
+}
+
+TEST(Object, ThePatternAndTheStrokeItHasAlreadyAreNoEdit) {
+    Object object = square();
+    object.setFillPattern(FillPattern::SolidBlack);
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::File);
+    object.setFillPattern(FillPattern::Other);
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::Edited);
+    object.style = std::make_shared<const Style>(penOf(3));
+    object.setStrokePaint(ColorPaint());
+    EXPECT_EQ(object.strokeOrigin, PaintOrigin::File);
+    object.setStrokePaint(ColorPaint{{1, 2, 3}, 0.5});
+    EXPECT_EQ(object.strokeOrigin, PaintOrigin::Edited);
+    EXPECT_EQ(styleOf(object).stroke.paint, Paint(ColorPaint{{1, 2, 3}, 0.5}));
+    EXPECT_EQ(styleOf(object).stroke.width, 3);
+}
+
 TEST(Object, SaysTheSameAsACopyWithEqualGradientAndRemainder) {
     const Object object = square();
     Object copy = object;
@@ -112,6 +222,7 @@ TEST(Group, BlendModesHaveNamesThatLeadBackToThem) {
 
 TEST(Stroke, MarksOnlyWithPaintWidthAndOpacity) {
     EXPECT_TRUE(strokes(penOf(2)));
+    EXPECT_TRUE(strokes(penOf(0.5)));
     EXPECT_FALSE(strokes(penOf(0)));
     Style clear = penOf(2);
     clear.stroke.opacity = 0;
