@@ -35,6 +35,18 @@ TEST(DescribedPlaces, AreTheEndsThemselvesWhereTheGradientEndsWithTheShape) {
     }
 }
 
+TEST(DescribedPlaces, OfAGradientBesideTheShapeAreOneStop) {
+    const Path shape = rectanglePath({0, 0, 10, 10});
+    const CGradientData after =
+        describe({LinearGeometry{{-9, 0}, {-5, 0}}, {}, Spread::Pad, kRamp}, shape).record;
+    ASSERT_EQ(after.ColorList().size(), 1U);
+    EXPECT_EQ(after.ColorList().front().ColorRGB(), (RGBColor{0, 0, 65535})) << "its last color";
+    const CGradientData before =
+        describe({LinearGeometry{{15, 0}, {19, 0}}, {}, Spread::Pad, kRamp}, shape).record;
+    ASSERT_EQ(before.ColorList().size(), 1U);
+    EXPECT_EQ(before.ColorList().front().ColorRGB(), (RGBColor{65535, 0, 0})) << "its first color";
+}
+
 TEST(DescribedPlaces, OfALineThatIsOneUnitLongAreInOneUnit) {
     const GradientDescription description =
         describe({LinearGeometry{{0, 0}, {1, 0}}, {}, Spread::Pad, kRamp}, rectanglePath({0, 0, 4, 4}));

@@ -146,6 +146,83 @@ TEST(GradientCommands, ObjectsWithoutAGradientHaveNothingToRemove) {
     EXPECT_TRUE(saysTheSame(object, before));
 }
 
+TEST(GradientCommands, ARecordWithoutColorsLeavesBlack) {
+    Object object = rectangle();
+    putGradient(object, linear(0, {}));
+    removeGradient(object);
+    EXPECT_EQ(object.fill, Paint(ColorPaint()));
+    EXPECT_EQ(object.fillPattern, FillPattern::SolidBlack);
+}
+
+TEST(GradientCommands, AnOpaqueBlackIsTheHostsPatternAndNoOtherColorIs) {
+    Object object = rectangle();
+    putPlainColor(object, {0, 0, 0});
+    EXPECT_EQ(object.fillPattern, FillPattern::SolidBlack);
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::Edited);
+    putPlainColor(object, {0, 0, 1});
+    EXPECT_EQ(object.fillPattern, FillPattern::Other);
+    EXPECT_EQ(object.fill, Paint(ColorPaint{{0, 0, 1}, 1}));
+}
+
+TEST(GradientCommands, AGradientThatIsThereAlreadyIsNoEdit) {
+    Object object = rectangle();
+    object.fillPattern = FillPattern::Other;
+    object.fill = std::make_shared<const Gradient>(
+        Gradient{LinearGeometry{{0, 0}, {100, 0}}, {}, Spread::Pad, Ramp({{0, {1, 2, 3}}, {1, {4, 5, 6}}})});
+    const WholeGradient shown = wholeGradientOf(object).value();
+    putGradient(object, shown);
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::File);
+    EXPECT_FALSE(object.showsGradient()) << "the file's gradient is no record";
+    putGradient(object, kRainbow);
+    EXPECT_EQ(object.fillOrigin, PaintOrigin::Edited);
+    EXPECT_EQ(object.fillPattern, FillPattern::Other) << "a pattern over which a gradient shows stays";
+    EXPECT_FALSE(object.remainder);
+    EXPECT_TRUE(object.showsGradient());
+}
+
+TEST(GradientCommands, TheGradientOfTheFileIsNotSeenOnceTheFillIsEditedOrCarriesNone) {
+    Object object = rectangle();
+    object.fill = std::make_shared<const Gradient>();
+    EXPECT_TRUE(wholeGradientOf(object));
+    object.fillOrigin = PaintOrigin::Edited;
+    EXPECT_FALSE(wholeGradientOf(object));
+    object.fillOrigin = PaintOrigin::File;
+    object.fillPattern = FillPattern::None;
+    EXPECT_FALSE(wholeGradientOf(object)) << "nothing is filled";
+    object.fillPattern = FillPattern::Other;
+    object.kind = Kind::Line;
+    EXPECT_FALSE(wholeGradientOf(object));
+    object.kind = Kind::Path;
+    object.fill = ColorPaint();
+    EXPECT_FALSE(wholeGradientOf(object));
+}
+
+TEST(GradientCommands, AreOnTheOutlineOrOnTheFrameOfTheStroke) {
+    Object object = rectangle();
+    object.fillRule = FillRule::EvenOdd;
+    EXPECT_EQ(frameOf(object, PaintStep::Fill).outline, object.outline);
+    EXPECT_EQ(frameOf(object, PaintStep::Fill).inside, FillRule::EvenOdd);
+    Style style;
+    style.stroke.paint = ColorPaint();
+    style.stroke.width = 6;
+    object.style = std::make_shared<const Style>(style);
+    EXPECT_EQ(frameOf(object, PaintStep::Stroke).outline.bounds(), (Box{-3, -3, 103, 53}));
+    EXPECT_EQ(frameOf(object, PaintStep::Stroke).inside, std::nullopt);
+}
+
+TEST(GradientCommands, TwoStopsAreEvenAtTheEnds) {
+    EXPECT_EQ(positions(withEvenStops(linear(0, {{kRed, 0.3}, {kBlue, 0.4}}))), (std::vector{0.0, 1.0}));
+    EXPECT_TRUE(positions(withEvenStops(linear(0, {}))).empty());
+}
+
+TEST(GradientCommands, GradientsAreTheSameInRecordAndRemainder) {
+    WholeGradient other = kRainbow;
+    EXPECT_TRUE(same(kRainbow, other));
+    other.remainder.opacity = {{0, 0.5}};
+    EXPECT_FALSE(same(kRainbow, other));
+    EXPECT_FALSE(same(kRainbow, linear(31, kRainbow.record.ColorList())));
+}
+
 Drawing twoShapesAndALine() {
     Object line = rectangle();
     line.kind = Kind::Line;
@@ -194,6 +271,28 @@ TEST(SelectedGradients, WithoutAChangeThereIsNoStep) {
     EXPECT_FALSE(canTakeGradient(drawing, PaintStep::Fill));
     drawing.select(2);
     EXPECT_FALSE(canTakeGradient(drawing, PaintStep::Fill)) << "a line";
+}
+
+TEST(SelectedGradients, AStepHasAKindOfItsOwnAndIsOver) {
+    Drawing drawing = twoShapesAndALine();
+    drawing.select(0);
+    EXPECT_TRUE(changeSelected(drawing, PaintStep::Fill, reversed));
+    EXPECT_EQ(drawing.undoKind(), 2);
+    drawing.erase(2);
+    drawing.undo();
+    EXPECT_EQ(drawing.size(), 2U) << "what followed is not undone with it";
+}
+
+TEST(SelectedGradients, WhatStaysAsItIsStaysOutOfTheStep) {
+    Drawing drawing = twoShapesAndALine();
+    selectAll(drawing);
+    const ObjectPtr plain = drawing.object(1);
+    const ObjectPtr line = drawing.object(2);
+    EXPECT_TRUE(changeSelected(drawing, PaintStep::Fill, reversed));
+    EXPECT_EQ(drawing.object(1), plain);
+    EXPECT_EQ(drawing.object(2), line);
+    EXPECT_FALSE(changeSelectedObjects(drawing, PaintStep::Fill, [](Object&) {}));
+    EXPECT_EQ(drawing.undoLevels(), 1U);
 }
 
 } // namespace

@@ -54,6 +54,62 @@ TEST(GradientFit, RadialGradientReachesTheFarthestCorner) {
     EXPECT_NEAR(fit.radius, std::sqrt(12500.0), 1e-5);
 }
 
+TEST(GradientFit, TheFarthestCornerIsAnyOfTheFour) {
+    const Box box{10, 20, 14, 23};
+    EXPECT_EQ(farthestCorner(box, {10, 20}), 5);
+    EXPECT_EQ(farthestCorner(box, {14, 20}), 5);
+    EXPECT_EQ(farthestCorner(box, {14, 23}), 5);
+    EXPECT_EQ(farthestCorner(box, {10, 23}), 5);
+    EXPECT_EQ(farthestCorner(box, {12, 21.5}), 2.5);
+}
+
+TEST(GradientFit, ARampThatReachesBeyondItsEndsIsComplete) {
+    const auto stops = completeStops(record(kLinearGradient, {{kRed, -0.5}, {kBlue, 1.5}}));
+    ASSERT_EQ(stops.size(), 2U);
+    EXPECT_EQ(stops[0].position, -0.5);
+    EXPECT_EQ(stops[1].position, 1.5);
+    EXPECT_TRUE(completeStops(record(kLinearGradient, {})).empty());
+}
+
+TEST(GradientFit, BothPointsOfCirclesAreSharesOfTheBounds) {
+    CGradientData data = record(kRadialGradient, {{kRed, 0}, {kBlue, 1}});
+    data.SetStart({0.25, 0.5});
+    data.SetEnd({0.75, 0.125});
+    const auto fit = std::get<RadialGeometry>(fitGeometry(data, rectanglePath({100, 200, 140, 280})));
+    EXPECT_EQ(fit.focus, (Point{110, 240}));
+    EXPECT_EQ(fit.centre, (Point{130, 210}));
+    EXPECT_NEAR(fit.radius, std::hypot(30.0, 70.0), 1e-5);
+}
+
+TEST(GradientFit, AnEllipseStretchesTheCirclesAboutTheEndAndLeavesALineAlone) {
+    CGradientData data = record(kRadialGradient, {{kRed, 0}, {kBlue, 1}});
+    data.SetStart({0.25, 0.5});
+    data.SetEnd({0.75, 0.5});
+    Remainder remainder;
+    remainder.ellipse = Affine::scaling(2, 0.5);
+    const Path outline = rectanglePath({100, 200, 140, 280});
+    const Gradient gradient = fitGradient(data, &remainder, outline);
+    const auto& fit = std::get<RadialGeometry>(gradient.geometry);
+    EXPECT_EQ(gradient.toDrawing(fit.centre), (Point{130, 240}));
+    EXPECT_EQ(gradient.toDrawing(fit.focus), (Point{110, 240}));
+    // A radius to the right is twice as long in the drawing, one downwards half as long; the farthest corner
+    // is 30 to the left and 40 up.
+    EXPECT_NEAR(gradient.toDrawing(fit.centre + Point{fit.radius, 0}).x - 130, 2 * std::hypot(15.0, 80.0),
+                1e-4);
+    data.SetType(kLinearGradient);
+    EXPECT_EQ(fitGradient(data, &remainder, outline).toDrawing, Affine());
+}
+
+TEST(GradientFit, OpacityIsPutOverTheColors) {
+    Remainder remainder;
+    remainder.opacity = {{0, 0.25}, {1, 0.75}};
+    const Gradient gradient = fitGradient(record(kLinearGradient, {{kRed, 0}, {kBlue, 1}}), &remainder,
+                                          rectanglePath({0, 0, 1, 1}));
+    EXPECT_EQ(gradient.ramp.stops(),
+              (std::vector<RampStop>{{0, {65535, 0, 0}, 0.25}, {1, {0, 0, 65535}, 0.75}}));
+    EXPECT_EQ(gradient.spread, Spread::Pad);
+}
+
 TEST(GradientFit, AnyTypeOtherThanLinearIsRadial) {
     for (const int type : {0, 2, 3, -1})
         EXPECT_TRUE(std::holds_alternative<RadialGeometry>(

@@ -26,6 +26,9 @@ TEST(AlikeGradients, DifferByRoundingAtMost) {
     EXPECT_FALSE(alike(line, linear({100, 200.1}, {300, 250})));
     EXPECT_FALSE(alike(line, linear({100, 200}, {300.1, 250})));
     EXPECT_FALSE(alike(linear({0, 0}, {0.1, 0}), linear({0, 0}, {0.1001, 0}))) << "near nothing in units";
+    EXPECT_TRUE(alike(linear({0, 0}, {0.1, 0}), linear({0, 0}, {0.100004, 0})))
+        << "less than a hundred-thousandth of a unit";
+    EXPECT_TRUE(alike(radial({0, 0}, 0, {0, 0}, 0.01), radial({0, 0}, 0, {0, 0}, 0.01002)));
 }
 
 TEST(AlikeGradients, HaveTheSameCirclesBesideTheirSize) {

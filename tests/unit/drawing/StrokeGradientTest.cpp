@@ -64,6 +64,32 @@ TEST(StrokeGradient, FrameReachesAsFarAsThePen) {
     EXPECT_EQ(strokeFrame(object).bounds(), (Box{2, 18, 98, 22}));
 }
 
+TEST(StrokeGradient, FrameIsTheOutlineInTheFourCornersOfThePen) {
+    Object object = line(redToBlue(LinearGeometry{{0, 0}, {1, 0}}), 2);
+    object.outline = ellipsePath({50, 40}, 30, 20);
+    object.outline.moveTo({1, 2});
+    object.outline.lineTo({3, 4});
+    const Path frame = strokeFrame(object);
+    const std::size_t verbs = object.outline.verbs().size();
+    const std::size_t points = object.outline.points().size();
+    ASSERT_EQ(frame.verbs().size(), 4 * verbs);
+    ASSERT_EQ(frame.points().size(), 4 * points);
+    std::size_t copy = 0;
+    for (const Point corner : {Point{-1, -1}, Point{1, -1}, Point{1, 1}, Point{-1, 1}}) {
+        for (std::size_t i = 0; i < verbs; ++i)
+            EXPECT_EQ(frame.verbs()[copy * verbs + i], object.outline.verbs()[i]);
+        for (std::size_t i = 0; i < points; ++i)
+            EXPECT_EQ(frame.points()[copy * points + i], object.outline.points()[i] + corner);
+        ++copy;
+    }
+}
+
+TEST(StrokeGradient, IsNoneWhereTheStrokeDoesNotShow) {
+    EXPECT_TRUE(gradientIn(strokeGradientOf(line(redToBlue(LinearGeometry{{0, 0}, {1, 0}}))).record));
+    EXPECT_FALSE(gradientIn(strokeGradientOf(line(redToBlue(LinearGeometry{{0, 0}, {1, 0}}), 0)).record));
+    EXPECT_FALSE(gradientIn(strokeGradientOf(Object()).record));
+}
+
 TEST(StrokeGradient, CopiedAndPutBackLooksTheSame) {
     for (const Spread spread : {Spread::Pad, Spread::Reflect, Spread::Repeat}) {
         Object object = line(redToBlue(LinearGeometry{{20, 10}, {50, 30}}, spread));

@@ -44,6 +44,14 @@ TEST(VisibleRange, IsTheSameForAShapeMuchSmallerThanAUnit) {
                 0.3, std::sqrt(0.65));
 }
 
+TEST(VisibleRange, FollowsCurvesBetweenTheirEnds) {
+    // The nearest and the farthest point of a circle in the direction of its middle, off the ends of its
+    // curves.
+    const double away = std::hypot(30.0, 30.0);
+    expectRange(visibleRange({{0, 0}, 0, {0, 0}, 100}, {}, filled(ellipsePath({30, 30}, 10, 10))),
+                (away - 10) / 100, (away + 10) / 100);
+}
+
 TEST(VisibleRange, FollowsCirclesThatMoveWhileTheyGrow) {
     // Along the axis the circles that begin at (-5, 0) and end around the origin reach k 15 to the right.
     const RadialGeometry moving{{-5, 0}, 0, {0, 0}, 10};
@@ -54,8 +62,10 @@ TEST(VisibleRange, FollowsCirclesThatMoveWhileTheyGrow) {
 TEST(VisibleRange, IsTheWholeRampWithoutProperCirclesOrExtent) {
     const Path shape = rectanglePath({20, 1, 25, 4});
     expectRange(visibleRange({{15, 0}, 0, {0, 0}, 10}, {}, filled(shape)), 0, 1);
+    expectRange(visibleRange({{10, 0}, 0, {0, 0}, 10}, {}, filled(shape)), 0, 1);
     expectRange(visibleRange({{0, 0}, 0, {0, 0}, std::nan("")}, {}, filled(shape)), 0, 1);
     expectRange(visibleRange(kCircle, {}, filled(rectanglePath({3, 3, 3, 3}))), 0, 1);
+    expectRange(visibleRange(kCircle, {}, filled(rectanglePath({30, 30, 30, 30}))), 0, 1);
     expectRange(visibleRange(kCircle, {}, filled(Path())), 0, 1);
 }
 
