@@ -233,11 +233,11 @@ TEST_F(GradientMenuTest, APlainColorIsGivenToGradientsAndPlainShapes) {
     EXPECT_TRUE(vanishes("Plain color"));
     EXPECT_TRUE(colorVanishes(kMarker));
     for (const Spot place : {Spot{64, 230}, Spot{250, 350}, kMarkerMiddle})
-        EXPECT_EQ(pixelAt(place.x, place.y), 0x3c78b4U);
+        EXPECT_TRUE(eventually([&] { return pixelAt(place.x, place.y) == 0x3c78b4U; })) << place.x;
     EXPECT_TRUE(getsKeyboard("drawing.svg"));
     screen().key("ctrl+z");
     waitForColor(kMarker);
-    EXPECT_EQ(pixelAt(80, 300), gradient);
+    EXPECT_TRUE(eventually([&] { return pixelAt(80, 300) == gradient; }));
     EXPECT_EQ(contents(drawing()), before);
     EXPECT_EQ(quit(), 0) << "nothing to ask about";
 }

@@ -66,7 +66,8 @@ Screen::Screen(const std::string& outputFolder, const std::string& size)
     XkbQueryExtension(display_, &opcode, &bellEvent_, &error, &major, &minor);
     XkbSelectEvents(display_, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
     listener_ = XCreateSimpleWindow(display_, DefaultRootWindow(display_), 0, 0, 1, 1, 0, 0, 0);
-    manager_ = std::make_unique<Process>(std::vector<std::string>{"openbox", "--sm-disable"},
+    manager_ = std::make_unique<Process>(std::vector<std::string>{"openbox", "--sm-disable", "--config-file",
+                                                                  SOURCE_DIR "/tests/desktop/openbox.xml"},
                                          std::map<std::string, std::string>{{"DISPLAY", name_}},
                                          outputFolder + "/openbox.log");
     XFlush(display_);
