@@ -21,7 +21,8 @@ namespace easel::paint::HWY_NAMESPACE {
 
 #if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
 
-void MixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretch) {
+void MixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretch,
+               std::ptrdiff_t) {
     plain::mixLinear(row, spans, stretch);
 }
 
@@ -83,7 +84,8 @@ HWY_INLINE hn::Vec<Pixels> Opaque(const LinearMixStretch& stretch, std::size_t a
 }
 
 // Whole blocks from x to `end`.
-HWY_INLINE void MixBlocks(std::uint32_t* row, int x, int end, const LinearMixStretch& stretch) {
+HWY_INLINE void MixBlocks(std::uint32_t* row, int x, int end, const LinearMixStretch& stretch,
+                          std::ptrdiff_t toNextRow) {
     if (!stretch.steps || x == end)
         return;
     const Pixels d;
@@ -91,9 +93,11 @@ HWY_INLINE void MixBlocks(std::uint32_t* row, int x, int end, const LinearMixStr
     const auto stride = hn::ShiftLeft<4>(hn::LoadDup128(d, stretch.steps->pixel.data()));
     static_assert(kBlock == 1 << 4);
     const auto forAll = [&](const auto& pixelsAt) HWY_ATTR {
-        for (; x < end; x += kBlock, levels = hn::Add(levels, stride))
+        for (; x < end; x += kBlock, levels = hn::Add(levels, stride)) {
+            hwy::Prefetch(row + x + toNextRow);
             for (std::size_t at = 0; at < kBlock; at += hn::Lanes(d))
                 hn::StoreU(pixelsAt(at), d, row + x + at);
+        }
     };
     if (!stretch.steps->opaque)
         forAll([&](std::size_t at)
@@ -126,35 +130,20 @@ HWY_INLINE void MixStretches(std::uint32_t* row, int block, int x, int end, int 
     StorePixels(d, mixed, row, x, room);
 }
 
-// After a gap the processor no longer knows in advance which lines are needed, and waits for each gap anew.
-// Told early, it fetches them while the pixels before are mixed.
-HWY_INLINE void FetchBeyondGaps(const std::uint32_t* row, int end, const LinearMixStretch* stretch) {
-    constexpr int kLine = 16; // pixels
-    constexpr int kFetched = 16 * kLine;
-    for (; stretch->end < end; ++stretch) {
-        const int begin = stretch->end;
-        const LinearMixStretch& next = stretch[1];
-        if (stretch->steps || !next.steps)
-            continue;
-        for (int x = begin; x < std::min({begin + kFetched, next.end, end}); x += kLine)
-            hwy::Prefetch(row + x);
-    }
-}
-
 // Blocks begin with the span, whatever the stretches and the vectors are.
-void MixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretch) {
+void MixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretch,
+               std::ptrdiff_t toNextRow) {
     const Pixels d;
     const int lanes = static_cast<int>(hn::Lanes(d));
-    if (!spans.empty())
-        FetchBeyondGaps(row, spans.back().end, stretch);
     for (const PixelSpan& span : spans) {
         for (int block = span.begin; block < span.end;) {
             while (stretch->end <= block)
                 ++stretch;
             const int inside = (std::min(stretch->end, span.end) - block) & ~(kBlock - 1);
-            MixBlocks(row, block, block + inside, *stretch);
+            MixBlocks(row, block, block + inside, *stretch, toNextRow);
             block += inside;
             const int end = std::min(block + kBlock, span.end);
+            hwy::Prefetch(row + block + toNextRow);
             for (int x = block; x < end; x += lanes)
                 MixStretches(row, block, x, std::min(x + lanes, end), span.end, stretch);
             block = end;
@@ -172,8 +161,9 @@ namespace easel::paint {
 
 HWY_EXPORT(MixLinear);
 
-void mixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretches) {
-    HWY_DYNAMIC_DISPATCH(MixLinear)(row, spans, stretches);
+void mixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretches,
+               std::ptrdiff_t toNextRow) {
+    HWY_DYNAMIC_DISPATCH(MixLinear)(row, spans, stretches, toNextRow);
 }
 
 } // namespace easel::paint

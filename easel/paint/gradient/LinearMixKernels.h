@@ -29,7 +29,8 @@ struct LinearMixStretch {
 };
 
 // Lays the colors over what fully covered spans of a row have within the stretches, which follow one another
-// as they do for fillLinear.
-void mixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretches);
+// as they do for fillLinear. The pixels `toNextRow` beyond those painted are fetched from memory meanwhile.
+void mixLinear(std::uint32_t* row, std::span<const PixelSpan> spans, const LinearMixStretch* stretches,
+               std::ptrdiff_t toNextRow);
 
 } // namespace easel::paint

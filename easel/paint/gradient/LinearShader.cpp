@@ -103,7 +103,7 @@ void LinearShader::row(int y, const RowCoverage& coverage) {
     layOut(track, coverage.extent());
     if (!coverage.full.empty()) {
         if (anyMixes_)
-            mixLinear(pixels, coverage.full, mixed_.data());
+            mixLinear(pixels, coverage.full, mixed_.data(), toNextRow(surface_, y));
         else
             fillLinear(pixels, coverage.full, stretches_.data());
     }

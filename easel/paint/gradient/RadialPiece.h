@@ -20,9 +20,8 @@ class RadialPiece {
     bool suits(const RadialRow& row, int begin, int end) const {
         return unitsAcross(row, begin, end) <= kMostUnits;
     }
-    // Pixels `begin` to `end` of the row, which `pixels` points to the first of; see fillRadial and
-    // mixRadial.
-    void paint(std::uint32_t* pixels, int begin, int end, int room, const RadialRow& row) const;
+    // The pixels from `begin` on; see fillRadial and mixRadial.
+    void paint(const MixRange& range, int begin, const RadialRow& row) const;
 
   private:
     // Single precision is good to four parts in 2 to the 24 of the distance, which may be half a unit, and

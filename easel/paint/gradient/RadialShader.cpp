@@ -81,6 +81,7 @@ RadialShader::RadialShader(const SurfaceView& surface, const RadialMap& map, con
 
 void RadialShader::row(int y, std::span<const CoverageRun> runs) {
     std::uint32_t* pixels = surface_.row(y);
+    const std::ptrdiff_t toNext = toNextRow(surface_, y);
     const RadialRow row(rows_, y);
     BlendQueue queue(pixels);
     Track track(*this, row, y);
@@ -90,7 +91,7 @@ void RadialShader::row(int y, std::span<const CoverageRun> runs) {
         const RadialPiece& piece = pieces_[track.index()];
         if (run.coverage == kFullCoverage && piece.suits(row, begin, end)) {
             const int room = hides_ || !piece.opaque() ? run.end : end;
-            return piece.paint(pixels + begin, begin, end, room - begin, row);
+            return piece.paint({pixels + begin, end - begin, room - begin, toNext}, begin, row);
         }
         for (int x = begin; x < end; ++x)
             queue.add(colorSpan, x, track.parameter(x), shareOf(run, opacity_));

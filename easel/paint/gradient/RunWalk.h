@@ -4,6 +4,7 @@
 #include "easel/paint/coverage/Coverage.h"
 #include "easel/paint/gradient/ColorSpans.h"
 #include "easel/paint/pixels/PixelKernels.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <algorithm>
 #include <array>
@@ -56,6 +57,13 @@ inline float shareOf(std::uint32_t coverage, double opacity) {
 }
 inline float shareOf(const CoverageRun& run, double opacity) {
     return shareOf(static_cast<std::uint32_t>(run.coverage), opacity);
+}
+
+// From a pixel to the one below it, which is the next to be painted; 0 in the last row. Opacity has to read
+// what is there, and where it leaves out parts of rows, the processor does not know in advance which memory
+// comes next: so that is fetched a row early.
+inline std::ptrdiff_t toNextRow(const SurfaceView& surface, int y) {
+    return y + 1 < surface.clip().bottom ? surface.stride() / kBytesPerPixel : 0;
 }
 
 // Collects the pixels of a color span that have to be blended, so that they are handed over many at a time.

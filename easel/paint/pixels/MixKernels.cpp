@@ -6,6 +6,7 @@
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "easel/paint/pixels/MixKernels.cpp"
+#include "hwy/cache_control.h"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 
@@ -52,11 +53,9 @@ HWY_INLINE auto MixerOf(const MixColors& mix) {
     const Distances d;
     return [=, blueRed = pairs(mix.colors.blueRed), greenAlpha = pairs(mix.colors.greenAlpha),
             blueRedSlope = pairs(mix.colors.blueRedSlope), greenSlope = pairs(mix.colors.greenSlope),
-            shareOf0 = hn::Set(d, mix.share), shareSlope = hn::Set(d, mix.shareSlope),
-            least = hn::Set(d, plain::kLeastShare), most = hn::Set(d, plain::kMostShare)](
+            shareOf0 = hn::Set(d, mix.share), shareSlope = hn::Set(d, mix.shareSlope)](
                hn::Vec<Distances> distance, hn::Vec<Pixels> below) HWY_ATTR {
-        const auto exact = hn::Add(shareOf0, hn::Mul(shareSlope, distance));
-        const auto share = Doubled(hn::Min(hn::Max(exact, least), most));
+        const auto share = Doubled(hn::Add(shareOf0, hn::Mul(shareSlope, distance)));
         const auto whole = hn::BitCast(d16, Doubled(distance));
         const auto part = [&](auto base, auto slope) HWY_ATTR {
             const auto color = hn::Add(base, hn::MulFixedPoint15(slope, whole));
@@ -75,22 +74,31 @@ template <class Mixed> HWY_INLINE void MixFew(const MixRange& range, const Mixed
     StorePixels(d, hn::IfThenElse(ours, mixed(below), below), range.first, 0, range.room);
 }
 
-// `startAt(index)` is where a vector that begins with the pixel lies along the run; `mixed(along, below)`
-// gives the mixed pixels there and goes on by a vector. The last vector ends with the last pixel, read before
-// the others are written over: so no pixel of the next piece is touched, whose reading would have to wait for
-// that.
-template <class StartAt, class Mixed>
-HWY_INLINE void MixAll(const MixRange range, const StartAt& startAt, const Mixed& mixed) {
+// `startAt(index)` is where a vector that begins with the pixel lies along the run; `next(along)` gives what
+// the colors there depend on, and goes on by a vector; `mixed(distances, below)` gives the mixed pixels.
+// Distances are found two vectors early, so that there are pixels to mix while square roots are taken. The
+// last vector ends with the last pixel, read before the others are written over: so no pixel of the next
+// piece is touched, whose reading would have to wait for that.
+template <class StartAt, class Next, class Mixed>
+HWY_INLINE void MixAll(const MixRange range, const StartAt& startAt, const Next& next, const Mixed& mixed) {
     const Pixels d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     auto along = startAt(0);
+    auto present = next(along);
     if (range.count < lanes)
-        return MixFew(range, [&](hn::Vec<Pixels> below) HWY_ATTR { return mixed(along, below); });
+        return MixFew(range, [&](hn::Vec<Pixels> below) HWY_ATTR { return mixed(present, below); });
     std::uint32_t* const last = range.first + range.count - lanes;
     auto lastAlong = startAt(range.count - lanes);
-    const auto lastPixels = mixed(lastAlong, hn::LoadU(d, last));
-    for (std::uint32_t* pixels = range.first; pixels < last; pixels += lanes)
-        hn::StoreU(mixed(along, hn::LoadU(d, pixels)), d, pixels);
+    const auto lastPixels = mixed(next(lastAlong), hn::LoadU(d, last));
+    auto second = next(along);
+    for (std::uint32_t* pixels = range.first; pixels < last; pixels += lanes) {
+        const auto third = next(along);
+        hwy::Prefetch(pixels + range.toNextRow);
+        hn::StoreU(mixed(present, hn::LoadU(d, pixels)), d, pixels);
+        present = second;
+        second = third;
+    }
+    hwy::Prefetch(last + range.toNextRow);
     hn::StoreU(lastPixels, d, last);
 }
 
@@ -99,13 +107,13 @@ void MixRadial(const MixRange& range, const RadialRun& run, const MixColors& col
     const auto step = hn::Set(d, static_cast<float>(run.step));
     const auto stride = hn::Mul(step, hn::Set(d, static_cast<float>(hn::Lanes(d))));
     const auto distancesOf = DistancesOf(d, run);
-    const auto mixer = MixerOf(colors);
     const auto startAt = [&](int at) HWY_ATTR { return hn::Mul(step, hn::Iota(d, static_cast<float>(at))); };
-    MixAll(range, startAt, [&](hn::Vec<Distances>& along, hn::Vec<Pixels> below) HWY_ATTR {
+    const auto next = [&](hn::Vec<Distances>& along) HWY_ATTR {
         const auto distances = distancesOf(along);
         along = hn::Add(along, stride);
-        return mixer(distances, below);
-    });
+        return distances;
+    };
+    MixAll(range, startAt, next, MixerOf(colors));
 }
 
 #if HWY_HAVE_FLOAT64
@@ -115,18 +123,18 @@ void MixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& 
     const auto step = hn::Set(d, run.step);
     const auto stride = hn::Mul(step, hn::Set(d, static_cast<double>(hn::Lanes(d))));
     const auto distancesOf = DistancesOf(d, run);
-    const auto mixer = MixerOf(colors);
     const auto startAt = [&](int at) HWY_ATTR { return hn::Mul(step, hn::Iota(d, at)); };
-    const auto next = [&](hn::Vec<decltype(d)>& along) HWY_ATTR {
+    const auto nextHalf = [&](hn::Vec<decltype(d)>& along) HWY_ATTR {
         const auto distances = hn::DemoteTo(dHalf, distancesOf(along));
         along = hn::Add(along, stride);
         return distances;
     };
-    MixAll(range, startAt, [&](hn::Vec<decltype(d)>& along, hn::Vec<Pixels> below) HWY_ATTR {
-        const auto low = next(along);
-        const auto high = next(along);
-        return mixer(hn::Combine(Distances(), high, low), below);
-    });
+    const auto next = [&](hn::Vec<decltype(d)>& along) HWY_ATTR {
+        const auto low = nextHalf(along);
+        const auto high = nextHalf(along);
+        return hn::Combine(Distances(), high, low);
+    };
+    MixAll(range, startAt, next, MixerOf(colors));
 }
 #else
 void MixRadialFar(const MixRange& range, const RadialRun& run, const MixColors& colors) {
@@ -140,9 +148,9 @@ void MixFlat(const MixRange& range, const FlatMix& color) {
     const auto even = hn::BitCast(d16, hn::Set(d, color.blueRed));
     const auto odd = hn::BitCast(d16, hn::Set(d, color.greenAlpha));
     const auto rest = hn::Set(d16, color.rest);
-    MixAll(
-        range, [](int at) { return at; },
-        [=](int, hn::Vec<Pixels> below) HWY_ATTR { return LaidOver(Pixels(), even, odd, below, rest); });
+    const auto anywhere = [](int at) { return at; };
+    MixAll(range, anywhere, anywhere,
+           [=](int, hn::Vec<Pixels> below) HWY_ATTR { return LaidOver(Pixels(), even, odd, below, rest); });
 }
 
 #endif

@@ -4,18 +4,24 @@
 
 #include "easel/paint/pixels/PixelKernels.h"
 
+#include <cstddef>
+#include <cstdint>
+
 namespace easel::paint {
 
 // The pixels of a row that a piece is laid over: `count` of them. Those up to `room` pixels from the first
-// (at least `count`) may be read and written as they are.
+// (at least `count`) may be read and written as they are. The pixels `toNextRow` beyond each are fetched from
+// memory meanwhile.
 struct MixRange {
     std::uint32_t* first;
     int count;
     int room;
+    std::ptrdiff_t toNextRow;
 };
 
 // The colors along the distance, as for opaque pixels but with a unit more that makes up for what products
-// cut off, and the share of the pixel that they take: at 0 and its change over a unit, in 65536ths.
+// cut off, and the share of the pixel that they take: at 0 and its change over a unit, in 65536ths. What is
+// left of them has to fit in 16 bits as well, so that rounded shares are from 1 to 65535.
 struct MixColors {
     RadialColors colors;
     float share;
