@@ -1,18 +1,13 @@
 #include "easel/svg/style/ComputedStyle.h"
 
 #include "easel/svg/style/Color.h"
+#include "easel/svg/style/StyleValues.h"
 #include "easel/svg/style/TextStyle.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace easel::svg {
-
-using drawing::FillRule;
-using drawing::LineCap;
-using drawing::LineJoin;
-using drawing::PaintStep;
 
 namespace {
 
@@ -42,73 +37,6 @@ class Reader {
     ComputedStyle& result_;
 };
 
-std::optional<FillRule> parseRule(std::string_view text) {
-    if (equalIgnoringCase(text, "evenodd"))
-        return FillRule::EvenOdd;
-    if (equalIgnoringCase(text, "nonzero"))
-        return FillRule::NonZero;
-    return std::nullopt;
-}
-
-std::optional<LineJoin> parseJoin(std::string_view text) {
-    if (equalIgnoringCase(text, "round"))
-        return LineJoin::Round;
-    if (equalIgnoringCase(text, "bevel"))
-        return LineJoin::Bevel;
-    // The two joins that nobody draws are drawn as the one they are like.
-    if (equalIgnoringCase(text, "miter") || equalIgnoringCase(text, "miter-clip") ||
-        equalIgnoringCase(text, "arcs"))
-        return LineJoin::Miter;
-    return std::nullopt;
-}
-
-std::optional<LineCap> parseCap(std::string_view text) {
-    if (equalIgnoringCase(text, "round"))
-        return LineCap::Round;
-    if (equalIgnoringCase(text, "square"))
-        return LineCap::Square;
-    if (equalIgnoringCase(text, "butt"))
-        return LineCap::Butt;
-    return std::nullopt;
-}
-
-std::optional<PaintStep> parsePaintOrder(std::string_view text) {
-    Scanner scanner(text);
-    while (scanner.takeWord("markers"))
-        scanner.skipSpaces();
-    if (scanner.takeWord("stroke"))
-        return PaintStep::Stroke;
-    if (scanner.takeWord("fill") || scanner.takeWord("normal") || scanner.done())
-        return PaintStep::Fill;
-    return std::nullopt;
-}
-
-using Dashes = std::shared_ptr<const std::vector<double>>;
-
-std::optional<Dashes> parseDashes(std::string_view text, const LengthContext& lengths) {
-    if (equalIgnoringCase(text, "none"))
-        return Dashes();
-    std::vector<double> dashes;
-    double sum = 0;
-    Scanner scanner(text);
-    while (!scanner.done()) {
-        const std::string_view rest = scanner.rest();
-        const std::size_t count = std::min(rest.find_first_of(" ,\t\r\n"), rest.size());
-        const auto length = parseLength(rest.substr(0, count), lengths, Axis::Other);
-        if (!length || *length < 0)
-            return std::nullopt;
-        dashes.push_back(*length);
-        sum += *length;
-        scanner = Scanner(rest.substr(count));
-        scanner.skipSeparator();
-    }
-    if (!(sum > 0) || !std::isfinite(sum))
-        return Dashes();
-    if (dashes.size() % 2 != 0)
-        dashes.insert(dashes.end(), dashes.begin(), dashes.end());
-    return std::make_shared<const std::vector<double>>(std::move(dashes));
-}
-
 // The shorthand is the weaker one, wherever it stands.
 void inheritMarkers(const StatedStyle& stated, const std::array<std::string_view, 3>& outside,
                     std::array<std::string_view, 3>& markers) {
@@ -125,29 +53,6 @@ void inheritMarkers(const StatedStyle& stated, const std::array<std::string_view
     }
 }
 
-std::optional<double> parseFontSize(std::string_view text, const LengthContext& lengths) {
-    static constexpr std::array<std::pair<std::string_view, double>, 7> kSizes = {{{"xx-small", 9},
-                                                                                   {"x-small", 10},
-                                                                                   {"small", 13},
-                                                                                   {"medium", 16},
-                                                                                   {"large", 18},
-                                                                                   {"x-large", 24},
-                                                                                   {"xx-large", 32}}};
-    for (const auto& [name, size] : kSizes)
-        if (equalIgnoringCase(text, name))
-            return size;
-    if (equalIgnoringCase(text, "larger"))
-        return lengths.fontSize * 1.2;
-    if (equalIgnoringCase(text, "smaller"))
-        return lengths.fontSize / 1.2;
-    // A percentage is one of the parent's size.
-    if (!text.empty() && text.back() == '%') {
-        const auto part = parseFraction(text);
-        return part ? std::optional(*part * lengths.fontSize) : std::nullopt;
-    }
-    return parseLength(text, lengths, Axis::Other);
-}
-
 } // namespace
 
 const TextStyle& textStyleOf(const ComputedStyle& style) {
@@ -155,9 +60,13 @@ const TextStyle& textStyleOf(const ComputedStyle& style) {
     return style.textStyle ? *style.textStyle : kPlain;
 }
 
-double parseOpacity(std::string_view text, double otherwise) {
+std::optional<double> parseOpacity(std::string_view text) {
     const auto value = parseFraction(text);
-    return value ? std::clamp(*value, 0.0, 1.0) : otherwise;
+    return value ? std::optional(std::clamp(*value, 0.0, 1.0)) : std::nullopt;
+}
+
+double parseOpacity(std::string_view text, double otherwise) {
+    return parseOpacity(text).value_or(otherwise);
 }
 
 std::optional<PaintSpec> parsePaint(std::string_view text) {
@@ -200,7 +109,7 @@ ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext&
     inheritMarkers(stated, markers, result.markers);
     Reader reader(stated, *this, result);
     const auto length = [&lengths](std::string_view text) { return parseLength(text, lengths, Axis::Other); };
-    const auto opacity = [](std::string_view text) { return std::optional(parseOpacity(text, 1)); };
+    const auto opacity = [](std::string_view text) { return parseOpacity(text); };
 
     reader.read(Property::FontSize, &ComputedStyle::fontSize,
                 [&](std::string_view text) { return parseFontSize(text, lengths); });
@@ -215,25 +124,17 @@ ComputedStyle ComputedStyle::inherited(const StatedStyle& stated, LengthContext&
     reader.read(Property::ClipRule, &ComputedStyle::clipRule, parseRule);
     reader.read(Property::Stroke, &ComputedStyle::stroke, parsePaint);
     reader.read(Property::StrokeOpacity, &ComputedStyle::strokeOpacity, opacity);
-    reader.read(Property::StrokeWidth, &ComputedStyle::strokeWidth, length);
-    reader.read(Property::StrokeMiterlimit, &ComputedStyle::miterLimit, [](std::string_view text) {
-        const auto limit = parseFraction(text);
-        return limit && *limit >= 1 ? limit : std::nullopt;
-    });
+    reader.read(Property::StrokeWidth, &ComputedStyle::strokeWidth,
+                [&](std::string_view text) { return parseSize(text, lengths, Axis::Other); });
+    reader.read(Property::StrokeMiterlimit, &ComputedStyle::miterLimit, parseMiterLimit);
     reader.read(Property::StrokeLinejoin, &ComputedStyle::join, parseJoin);
     reader.read(Property::StrokeLinecap, &ComputedStyle::cap, parseCap);
     reader.read(Property::StrokeDasharray, &ComputedStyle::dashes,
                 [&](std::string_view text) { return parseDashes(text, lengths); });
     reader.read(Property::StrokeDashoffset, &ComputedStyle::dashOffset, length);
     reader.read(Property::PaintOrder, &ComputedStyle::first, parsePaintOrder);
-    reader.read(Property::Visibility, &ComputedStyle::visible, [](std::string_view text) {
-        return std::optional(!equalIgnoringCase(text, "hidden") && !equalIgnoringCase(text, "collapse"));
-    });
-    reader.read(Property::ImageRendering, &ComputedStyle::smoothPictures, [](std::string_view text) {
-        return std::optional(!equalIgnoringCase(text, "optimizeSpeed") &&
-                             !equalIgnoringCase(text, "pixelated") &&
-                             !equalIgnoringCase(text, "crisp-edges"));
-    });
+    reader.read(Property::Visibility, &ComputedStyle::visible, parseVisibility);
+    reader.read(Property::ImageRendering, &ComputedStyle::smoothPictures, parseSmoothness);
     return result;
 }
 

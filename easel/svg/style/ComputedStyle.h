@@ -66,7 +66,8 @@ const TextStyle& textStyleOf(const ComputedStyle& style);
 // Nothing for a paint that is not understood.
 std::optional<PaintSpec> parsePaint(std::string_view text);
 
-// 0 to 1, from a number or percentage; `otherwise` if the text is neither.
+// 0 to 1, from a number or percentage; nothing or `otherwise` if the text is neither.
+std::optional<double> parseOpacity(std::string_view text);
 double parseOpacity(std::string_view text, double otherwise);
 
 } // namespace easel::svg

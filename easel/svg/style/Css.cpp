@@ -3,6 +3,7 @@
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
+#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -69,15 +70,16 @@ std::string_view takeBlock(std::string_view& text) {
     return block;
 }
 
-// One declaration's value without its mark of importance.
-Declaration declaration(std::string_view name, std::string_view value) {
+// One declaration's value without its mark of importance. Nothing if any other mark stands in it.
+std::optional<Declaration> declaration(std::string_view name, std::string_view value) {
     Declaration result{trimmed(name), trimmed(value)};
-    const std::size_t mark = result.value.rfind('!');
-    if (mark != std::string_view::npos &&
-        equalIgnoringCase(trimmed(result.value.substr(mark + 1)), "important")) {
-        result.value = trimmed(result.value.substr(0, mark));
-        result.importance = Importance::Important;
-    }
+    const std::size_t mark = lengthUntil(result.value, "!");
+    if (mark == result.value.size())
+        return result;
+    if (!equalIgnoringCase(trimmed(result.value.substr(mark + 1)), "important"))
+        return std::nullopt;
+    result.value = trimmed(result.value.substr(0, mark));
+    result.importance = Importance::Important;
     return result;
 }
 
@@ -90,8 +92,10 @@ std::vector<Declaration> parseDeclarations(std::string_view text) {
         const std::string_view part = text.substr(0, end);
         text.remove_prefix(std::min(end + 1, text.size()));
         const std::size_t colon = part.find(':');
-        if (colon != std::string_view::npos)
-            result.push_back(declaration(part.substr(0, colon), part.substr(colon + 1)));
+        if (colon == std::string_view::npos)
+            continue;
+        if (const auto one = declaration(part.substr(0, colon), part.substr(colon + 1)))
+            result.push_back(*one);
     }
     return result;
 }

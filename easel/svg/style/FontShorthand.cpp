@@ -1,18 +1,13 @@
 #include "easel/svg/style/FontShorthand.h"
 
+#include "easel/svg/style/StyleValues.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace easel::svg {
 
 namespace {
-
-bool isOneOf(std::string_view word, std::initializer_list<std::string_view> words) {
-    return std::any_of(words.begin(), words.end(),
-                       [&](std::string_view other) { return equalIgnoringCase(word, other); });
-}
 
 // What a word before the size states; null if it is the size.
 std::string_view FontStatements::*statementOf(std::string_view word) {

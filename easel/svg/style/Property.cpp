@@ -1,6 +1,7 @@
 #include "easel/svg/style/Property.h"
 
 #include "easel/svg/style/FontShorthand.h"
+#include "easel/svg/style/PropertyGrammar.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
@@ -123,7 +124,13 @@ void StatedStyle::setFont(std::string_view shorthand, Importance importance) {
 }
 
 void StatedStyle::set(const Declaration& declaration) {
-    if (const auto property = propertyFromName(declaration.name))
+    const auto property = propertyFromName(declaration.name);
+    if (!property)
+        return;
+    // A value that is none changes nothing where nothing else is stated, and is looked at only where it
+    // could.
+    const bool beats = !(*this)[*property].empty() || declaration.importance == Importance::Important;
+    if (!beats || isValueOf(*property, declaration.value))
         set(*property, declaration.value, declaration.importance);
 }
 

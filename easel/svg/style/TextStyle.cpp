@@ -124,6 +124,19 @@ std::optional<double> parseSpacing(std::string_view text, const LengthContext& l
     return parseLength(text, lengths, Axis::Other);
 }
 
+std::optional<Baseline> parseDominantBaseline(std::string_view text) {
+    static constexpr std::string_view kOthers[] = {"auto", "use-script", "no-change", "reset-size"};
+    const auto isText = [text](std::string_view word) { return equalIgnoringCase(text, word); };
+    const auto baseline = parseBaseline(text);
+    const bool isOther = std::any_of(std::begin(kOthers), std::end(kOthers), isText);
+    return !baseline && isOther ? std::optional(Baseline::Alphabetic) : baseline;
+}
+
+std::optional<bool> parseRightToLeft(std::string_view text) {
+    static constexpr Word<bool> kWords[] = {{"ltr", false}, {"rtl", true}};
+    return valueOf(text, kWords);
+}
+
 bool isNameOfWords(std::string_view name) {
     Scanner scanner(name);
     while (!scanner.done()) {
@@ -166,16 +179,45 @@ TextStyle TextStyle::inherited(const StatedStyle& stated, const LengthContext& l
     read(stated, Property::LetterSpacing, &TextStyle::letterSpacing, style, spacing);
     read(stated, Property::WordSpacing, &TextStyle::wordSpacing, style, spacing);
     read(stated, Property::TextAnchor, &TextStyle::anchor, style, parseAnchor);
-    read(stated, Property::DominantBaseline, &TextStyle::baseline, style, [](std::string_view text) {
-        return std::optional(parseBaseline(text).value_or(Baseline::Alphabetic));
-    });
+    read(stated, Property::DominantBaseline, &TextStyle::baseline, style, parseDominantBaseline);
     read(stated, Property::WhiteSpace, &TextStyle::whiteSpace, style, parseWhiteSpace);
     read(stated, Property::WritingMode, &TextStyle::direction, style, parseWritingMode);
     read(stated, Property::GlyphOrientation, &TextStyle::upright, style, parseOrientation);
     read(stated, Property::TextOrientation, &TextStyle::upright, style, parseOrientation);
-    read(stated, Property::Direction, &TextStyle::rightToLeft, style,
-         [](std::string_view text) { return std::optional(equalIgnoringCase(text, "rtl")); });
+    read(stated, Property::Direction, &TextStyle::rightToLeft, style, parseRightToLeft);
     return style;
+}
+
+bool isTextValue(Property property, std::string_view text) {
+    const LengthContext lengths{1, 1};
+    switch (property) {
+    case Property::FontFamily:
+        return !familyNames(text).empty();
+    case Property::FontWeight:
+        return parseWeight(text, 400).has_value();
+    case Property::FontStyle:
+        return parseSlant(text).has_value();
+    case Property::FontStretch:
+        return parseStretch(text).has_value();
+    case Property::LetterSpacing:
+    case Property::WordSpacing:
+        return parseSpacing(text, lengths).has_value();
+    case Property::TextAnchor:
+        return parseAnchor(text).has_value();
+    case Property::DominantBaseline:
+        return parseDominantBaseline(text).has_value();
+    case Property::WhiteSpace:
+        return parseWhiteSpace(text).has_value();
+    case Property::WritingMode:
+        return parseWritingMode(text).has_value();
+    case Property::GlyphOrientation:
+    case Property::TextOrientation:
+        return parseOrientation(text).has_value();
+    case Property::Direction:
+        return parseRightToLeft(text).has_value();
+    default:
+        return true;
+    }
 }
 
 std::string familyNames(std::string_view stated) {

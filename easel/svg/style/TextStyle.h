@@ -44,6 +44,9 @@ struct TextStyle {
     TextStyle inherited(const StatedStyle& stated, const LengthContext& lengths) const;
 };
 
+// Whether the text is a value of this property of text.
+bool isTextValue(Property property, std::string_view text);
+
 // The families of a list as fontconfig is asked for them, without quotes. Empty if one of them is no name of
 // CSS: words without quotes begin with a letter.
 std::string familyNames(std::string_view stated);

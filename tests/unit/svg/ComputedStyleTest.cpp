@@ -125,6 +125,18 @@ TEST(ComputedStyle, MiterLimitsBelowOneAreMistakes) {
     EXPECT_EQ(styledWith(Property::StrokeMiterlimit, "sharp").miterLimit, 4);
 }
 
+TEST(ComputedStyle, MistakesInAttributesChangeNothing) {
+    ComputedStyle outer;
+    outer.fillOpacity = 0.25;
+    outer.visible = false;
+    outer.smoothPictures = false;
+    outer.strokeWidth = 3;
+    EXPECT_EQ(styledWith(Property::FillOpacity, "some", outer).fillOpacity, 0.25);
+    EXPECT_FALSE(styledWith(Property::Visibility, "perhaps", outer).visible);
+    EXPECT_FALSE(styledWith(Property::ImageRendering, "nicely", outer).smoothPictures);
+    EXPECT_EQ(styledWith(Property::StrokeWidth, "-1", outer).strokeWidth, 3);
+}
+
 TEST(ComputedStyle, WhatIsHiddenOrCollapsedIsNotVisible) {
     EXPECT_FALSE(styledWith(Property::Visibility, "hidden").visible);
     EXPECT_FALSE(styledWith(Property::Visibility, "collapse").visible);

@@ -70,6 +70,19 @@ TEST(StyleSheet, ImportantDeclarationsAreStrongerThanAllOthers) {
     EXPECT_EQ(fillBehind("<style>rect{fill:lime!important}</style>", "style='fill:red!important'"), kRed);
 }
 
+TEST(StyleSheet, MistakesBeatNothing) {
+    EXPECT_EQ(fillUnder(".a{fill:red;fill:lime!unknown}"), kRed);
+    EXPECT_EQ(fillUnder(".a{fill:red;fill:lime!}"), kRed);
+    EXPECT_EQ(fillUnder(".a{fill:red;fill:lime!important!important}"), kRed);
+    EXPECT_EQ(fillUnder(".a{fill:red;fill:nonsense}"), kRed);
+    EXPECT_EQ(fillUnder(".a{fill:nonsense!important;fill:red}"), kRed);
+    EXPECT_EQ(fillUnder(".a{fill:red} #r{fill:nonsense}"), kRed);
+    EXPECT_EQ(fillBehind("<style>.a{fill:red}</style>", "style='fill:'"), kRed);
+    EXPECT_EQ(fillBehind("", "fill='red' style='fill:12'"), kRed);
+    EXPECT_EQ(fillBehind("<g fill='lime'/>", "fill='nonsense' style='--c:lime!x;fill:var(--c,red)'"), kRed);
+    EXPECT_EQ(fillUnder(".a{fill:lime;fill:var(--none)}"), kBlack) << "what it asks for is found out later";
+}
+
 TEST(StyleSheet, AnElementOfSheetsHoldsForItsTypeAndItsMedia) {
     EXPECT_EQ(
         fillBehind(
