@@ -56,13 +56,8 @@ void FilterSteps::add(pugi::xml_node element) {
 std::optional<FilterEffect> FilterSteps::effectOf(std::string_view name, const FilterAttributes& attributes) {
     if (name != "feImage")
         return filterEffect(name, attributes);
-    const std::string_view reference = hrefOf(attributes.element());
-    const pugi::xml_node target = scene_.tree.byId(localId(reference));
-    if (!target) {
-        scene_.notes.add(Unsupported::External);
-        return FloodEffect{{}, 0};
-    }
-    auto objects = readImage_(target, on_.place);
+    const Box region = stepRegion(FilterStep{FloodEffect{}, {}, {}}, attributes);
+    auto objects = readImage_(attributes.element(), region, on_.place);
     return objects ? FilterEffect(ImageEffect{std::move(objects)}) : FilterEffect(FloodEffect{{}, 0});
 }
 

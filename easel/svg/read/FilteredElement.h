@@ -17,8 +17,9 @@ struct FilteredElement {
     drawing::Box painted; // what painting it may touch, in its own units
 };
 
-// The objects that a picture of the file shows in the units of the place; null for none.
+// The objects that an effect shows which takes them from elsewhere, a picture fitted into the region; null
+// for none. Both are in the units of the place.
 using ReadFilterImage = std::function<std::shared_ptr<const std::vector<drawing::ObjectPtr>>(
-    pugi::xml_node target, const Place& place)>;
+    pugi::xml_node effect, const drawing::Box& region, const Place& place)>;
 
 } // namespace easel::svg

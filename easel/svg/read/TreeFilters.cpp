@@ -1,5 +1,6 @@
 // Groups of elements that are filtered. Each filter of a list has a group of its own in that of the next.
 #include "easel/svg/read/TreeReader.h"
+#include "easel/svg/read/Viewport.h"
 
 #include <algorithm>
 #include <utility>
@@ -55,8 +56,16 @@ void TreeReader::setFilters(const FilteredGroups& groups, const StatedStyle& sta
         groups[i]->filter = filters[i];
 }
 
-std::shared_ptr<const std::vector<drawing::ObjectPtr>> TreeReader::readFilterImage(pugi::xml_node target,
-                                                                                   const Place& place) {
+TreeReader::FilterImage TreeReader::readFilterImage(pugi::xml_node effect, const drawing::Box& region,
+                                                    const Place& place) {
+    const std::string_view id = localId(hrefOf(effect));
+    if (id.empty())
+        return readFilterPicture(effect, region, place);
+    const pugi::xml_node target = scene_.tree.byId(id);
+    return target ? readFilterTarget(target, place) : nullptr;
+}
+
+TreeReader::FilterImage TreeReader::readFilterTarget(pugi::xml_node target, const Place& place) {
     if (std::find(openImages_.begin(), openImages_.end(), target) != openImages_.end()) {
         scene_.notes.add(Unsupported::Circle);
         return nullptr;
@@ -73,6 +82,37 @@ std::shared_ptr<const std::vector<drawing::ObjectPtr>> TreeReader::readFilterIma
     openImages_.push_back(target);
     readApart({{std::move(inside), {}}, target, false}, objects);
     openImages_.pop_back();
+    return std::make_shared<const std::vector<drawing::ObjectPtr>>(std::move(objects));
+}
+
+TreeReader::FilterImage TreeReader::readFilterPicture(pugi::xml_node effect, const drawing::Box& region,
+                                                      const Place& place) {
+    if (!(region.width() > 0 && region.height() > 0))
+        return nullptr;
+    Place inside = placeAround(effect);
+    inside.style = inside.style.inherited(scene_.cascade.of(effect), inside.lengths);
+    inside.toDrawing = place.toDrawing;
+    const auto fitOf = [&](double width, double height) {
+        return fitViewBox({0, 0, width, height}, effect.attribute("preserveAspectRatio").value(), region);
+    };
+    const PictureContent content = pictures_.content(hrefOf(effect));
+    std::vector<drawing::ObjectPtr> objects;
+    if (const auto* const pixels = std::get_if<std::shared_ptr<const drawing::Picture>>(&content)) {
+        const drawing::Box whole{0, 0, static_cast<double>((*pixels)->width()),
+                                 static_cast<double>((*pixels)->height())};
+        const drawing::Affine fit = fitOf(whole.right, whole.bottom);
+        if (auto object = pictureObject(effect, boxUnder(whole, fit), fit, 1, inside, *pixels))
+            objects.push_back(sealed(std::move(*object)));
+    } else if (const auto* const shapes = std::get_if<std::shared_ptr<const ShapePicture>>(&content)) {
+        const auto placed = [&](DrawingSize size) -> std::optional<Placement> {
+            return Placement{inside.toDrawing * fitOf(size.width > 0 ? size.width : region.width(),
+                                                      size.height > 0 ? size.height : region.height()),
+                             nullptr};
+        };
+        objects = readEmbedded(**shapes, scene_, placed).value_or(std::vector<drawing::ObjectPtr>());
+    }
+    if (objects.empty())
+        return nullptr;
     return std::make_shared<const std::vector<drawing::ObjectPtr>>(std::move(objects));
 }
 

@@ -65,14 +65,23 @@ void TreeReader::addPicture(pugi::xml_node element, const StatedStyle& stated, P
     const auto frame = framePicture(element, stated, inside, picture->width(), picture->height());
     if (!frame)
         return;
-    auto object = reader_.readPicture(element, drawing::rectanglePath(frame->shown),
-                                      parseOpacity(stated[Property::Opacity], 1), inside);
+    auto object = pictureObject(element, frame->shown, frame->fit, parseOpacity(stated[Property::Opacity], 1),
+                                inside, std::move(picture));
+    if (object)
+        addObject(std::move(*object), element, stated, frame->viewport, std::move(inside));
+}
+
+std::optional<drawing::Object> TreeReader::pictureObject(pugi::xml_node element, const Box& shown,
+                                                         const drawing::Affine& fit, double opacity,
+                                                         const Place& inside,
+                                                         std::shared_ptr<const drawing::Picture> picture) {
+    auto object = reader_.readPicture(element, drawing::rectanglePath(shown), opacity, inside);
     if (!object)
-        return;
+        return std::nullopt;
     object->fillPattern = drawing::FillPattern::Other;
-    object->fill = std::make_shared<const drawing::PlacedPicture>(drawing::PlacedPicture{
-        std::move(picture), inside.toDrawing * frame->fit, inside.style.smoothPictures});
-    addObject(std::move(*object), element, stated, frame->viewport, std::move(inside));
+    object->fill = std::make_shared<const drawing::PlacedPicture>(
+        drawing::PlacedPicture{std::move(picture), inside.toDrawing * fit, inside.style.smoothPictures});
+    return object;
 }
 
 // The shapes are what the picture shows beside its outline, cut off there.

@@ -34,8 +34,8 @@ std::string_view attributeText(pugi::xml_node element, const char* name) {
 
 TreeReader::TreeReader(const Scene& scene, Source& source, std::function<bool(double)> progress)
     : scene_(scene), source_(source), progress_(std::move(progress)), clips_(scene),
-      filters_(scene,
-               [this](pugi::xml_node target, const Place& place) { return readFilterImage(target, place); }),
+      filters_(scene, [this](pugi::xml_node effect, const Box& region,
+                             const Place& place) { return readFilterImage(effect, region, place); }),
       reader_(scene,
               [this](pugi::xml_node pattern, const PaintPlace& at) { return readPattern(pattern, at); }),
       pictures_(scene) {}

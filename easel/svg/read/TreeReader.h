@@ -114,6 +114,12 @@ class TreeReader {
                     std::shared_ptr<const drawing::Picture> picture);
     void addShapes(pugi::xml_node element, const StatedStyle& stated, Place inside,
                    const ShapePicture& picture);
+    // The rectangle that a picture of pixels fills, as far as it is shown. `fit` goes from the pixels to
+    // the units inside.
+    std::optional<drawing::Object> pictureObject(pugi::xml_node element, const drawing::Box& shown,
+                                                 const drawing::Affine& fit, double opacity,
+                                                 const Place& inside,
+                                                 std::shared_ptr<const drawing::Picture> picture);
     // Adds an object that was read of the element. `box` is that of the element in its own units, in which
     // `inside` is.
     void addObject(drawing::Object object, pugi::xml_node element, const StatedStyle& stated,
@@ -156,9 +162,12 @@ class TreeReader {
     // Gives them the filters that the style asks for; they hold the objects from this one on.
     void setFilters(const FilteredGroups& groups, const StatedStyle& stated, const drawing::Box& box,
                     const Place& place, std::size_t firstObject);
-    // The objects of a picture that a filter takes from the file; null if there are none.
-    std::shared_ptr<const std::vector<drawing::ObjectPtr>> readFilterImage(pugi::xml_node target,
-                                                                           const Place& place);
+    // The objects that a filter shows which takes them from elsewhere: from an element of the file, or from a
+    // picture that is fitted into the region. Null if there are none.
+    using FilterImage = std::shared_ptr<const std::vector<drawing::ObjectPtr>>;
+    FilterImage readFilterImage(pugi::xml_node effect, const drawing::Box& region, const Place& place);
+    FilterImage readFilterTarget(pugi::xml_node target, const Place& place);
+    FilterImage readFilterPicture(pugi::xml_node effect, const drawing::Box& region, const Place& place);
     void narrow(Place& place, std::shared_ptr<const drawing::ClipPath> clip);
     // The mask that the style asks for; null for none.
     drawing::MaskPtr maskFor(const StatedStyle& stated, const drawing::Box& box, const Place& place);

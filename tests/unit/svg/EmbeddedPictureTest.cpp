@@ -2,6 +2,7 @@
 #include "tests/support/SmallPictures.h"
 #include "tests/unit/svg/ReadHelp.h"
 
+#include "easel/drawing/Filter.h"
 #include "easel/drawing/Picture.h"
 #include "easel/svg/read/PlaceBeside.h"
 #include "easel/svg/text/DataUri.h"
@@ -61,6 +62,48 @@ TEST_F(BesideDrawing, FilesInItsFolderAndBelowAreRead) {
         EXPECT_TRUE(drawing.notes().empty());
     }
     EXPECT_TRUE(placeBeside(file(), "file://" + (folder() / "a%20b.png").string()));
+}
+
+// What the only effect of a filter shows, whose region is 40 by 20 at 10, 10.
+const std::vector<ObjectPtr>* filterImage(const Drawing& drawing) {
+    const auto& filter = drawing.object(0)->group->filter;
+    const auto* const image = std::get_if<ImageEffect>(&filter->steps.back().effect);
+    return image ? image->objects.get() : nullptr;
+}
+
+std::string filterShowing(const std::string& attributes) {
+    return "<filter id='f' filterUnits='userSpaceOnUse' x='10' y='10' width='40' height='20'><feImage " +
+           attributes + "/></filter><rect width='60' height='60' filter='url(#f)'/>";
+}
+
+TEST_F(BesideDrawing, FiltersShowFilesToo) {
+    const Drawing drawing = read(filterShowing("href='a b.png'"));
+    EXPECT_TRUE(drawing.notes().empty());
+    const auto* const objects = filterImage(drawing);
+    ASSERT_TRUE(objects && objects->size() == 1U);
+    // Two by two pixels fill the height of the region, in its middle.
+    const PlacedPicture& picture = *std::get<PicturePtr>(objects->front()->fill);
+    EXPECT_EQ(picture.toDrawing(Point{0, 0}), (Point{20, 10}));
+    EXPECT_EQ(picture.toDrawing(Point{2, 2}), (Point{40, 30}));
+    EXPECT_EQ(objects->front()->bounds, (Box{20, 10, 40, 30}));
+
+    const Drawing part = read(filterShowing("x='12' width='8' preserveAspectRatio='none' href='a b.png'"));
+    ASSERT_TRUE(filterImage(part));
+    EXPECT_EQ(filterImage(part)->front()->bounds, (Box{12, 10, 20, 30})) << "fitted into its own region";
+}
+
+TEST_F(BesideDrawing, FiltersShowDrawingsButNotInCirclesOrFromElsewhere) {
+    write(folder() / "inner.svg",
+          "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='2'><rect width='1' height='1'/></svg>");
+    const Drawing drawing = read(filterShowing("href='inner.svg'"));
+    EXPECT_TRUE(drawing.notes().empty());
+    ASSERT_TRUE(filterImage(drawing));
+    EXPECT_EQ(filterImage(drawing)->front()->bounds, (Box{10, 10, 20, 20}));
+    const Drawing circle = read(filterShowing("href='drawing.svg'"));
+    EXPECT_EQ(circle.notes().size(), 1U);
+    const Drawing elsewhere = read(filterShowing("href='../other/secret.png'"));
+    EXPECT_FALSE(filterImage(elsewhere));
+    EXPECT_EQ(elsewhere.notes().size(), 1U);
 }
 
 TEST_F(BesideDrawing, FilesElsewhereAreNotReadWhateverWayLeadsThere) {
