@@ -32,10 +32,16 @@ std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, cons
     if (equalIgnoringCase(stated[Property::Display], "none"))
         return std::nullopt;
     noteEffects(stated);
-    Inside inside{outside, nullptr};
-    Place& place = inside.place;
+    Place place = outside;
     place.style = outside.style.inherited(stated, place.lengths);
     place.toDrawing = outside.toDrawing * transformOf(stated, place.lengths, Box());
+    Inside inside = inLayer(element, stated, std::move(place), objects_.size(), hidden_.size());
+    waiting_ += inside.waiting ? 1 : 0;
+    return inside;
+}
+
+TreeReader::Inside TreeReader::inLayer(pugi::xml_node element, const StatedStyle& stated, Place place,
+                                       std::size_t firstObject, std::size_t firstHidden) {
     const std::size_t filters = filters_.countOf(stated);
     const bool waits = filters > 0 || asksForBox(stated);
     Group effects = waits ? Group() : effectsOf(stated, Box(), place);
@@ -43,11 +49,11 @@ std::optional<TreeReader::Inside> TreeReader::enter(pugi::xml_node element, cons
     // Even if nothing else does, what it waits for makes a layer of it.
     effects.isolated = effects.isolated || waits;
     const Place before = waits ? place : Place();
-    if (auto group = addGroup(place, std::move(effects)); group && waits) {
-        FilteredGroups filtered = addFiltered(place, group, filters);
-        inside.waiting = std::make_shared<const WaitingGroup>(WaitingGroup{
-            element, std::move(group), before, objects_.size(), hidden_.size(), std::move(filtered)});
-        ++waiting_;
+    Inside inside{std::move(place), nullptr};
+    if (auto group = addGroup(inside.place, std::move(effects)); group && waits) {
+        FilteredGroups filtered = addFiltered(inside.place, group, filters);
+        inside.waiting = std::make_shared<const WaitingGroup>(
+            WaitingGroup{element, std::move(group), before, firstObject, firstHidden, std::move(filtered)});
     }
     return inside;
 }

@@ -56,17 +56,13 @@ void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, c
     inside.lengths.viewportHeight = frame->height;
     const drawing::Affine toDrawing = shape.toDrawing * frame->toShape;
     inside.toDrawing = toDrawing * frame->toViewport;
-    drawing::Group effects = effectsOf(stated, drawing::Box(), inside);
-    effects.opacity = parseOpacity(stated[Property::Opacity], 1);
-    addGroup(inside, std::move(effects));
-    if (filters_.countOf(stated) > 0)
-        scene_.notes.add(Unsupported::Filter);
-    if (!showsOverflow(stated))
-        narrow(inside, rectangleClip(frame->viewport, toDrawing));
     noteEffects(stated);
+    Inside content = inLayer(marker, stated, std::move(inside), markers.size(), 0);
+    if (!showsOverflow(stated))
+        narrow(content.place, rectangleClip(frame->viewport, toDrawing));
 
     openMarkers_.push_back(marker);
-    readApart(marker, std::move(inside), markers);
+    readApart(marker, std::move(content), markers);
     openMarkers_.pop_back();
 }
 
@@ -75,8 +71,8 @@ Place TreeReader::placeAround(pugi::xml_node element) const {
     return svg::placeAround(scene_, element);
 }
 
-void TreeReader::readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects) {
-    readApart({{std::move(place), {}}, element.first_child()}, objects);
+void TreeReader::readApart(pugi::xml_node element, Inside inside, std::vector<drawing::ObjectPtr>& objects) {
+    readApart(Work{std::move(inside), element.first_child()}, objects);
 }
 
 void TreeReader::readApart(Work first, std::vector<drawing::ObjectPtr>& objects) {
@@ -84,7 +80,7 @@ void TreeReader::readApart(Work first, std::vector<drawing::ObjectPtr>& objects)
     auto work = std::exchange(work_, {});
     auto open = std::exchange(open_, {});
     auto hidden = std::exchange(hidden_, {});
-    const std::size_t waiting = std::exchange(waiting_, 0);
+    const std::size_t waiting = std::exchange(waiting_, first.inside.waiting ? 1 : 0);
     ++apart_;
     work_.push_back(std::move(first));
     readAll();

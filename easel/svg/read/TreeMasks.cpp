@@ -125,7 +125,7 @@ MaskPtr TreeReader::readMask(pugi::xml_node element, const Box& box, const Place
     narrow(inside, rectangleClip(region, place.toDrawing * toUser));
     if (holdsSharesOfBox(element))
         inside.toDrawing = inside.toDrawing * boxUnits(box);
-    readApart(element, std::move(inside), mask->objects);
+    readApart(element, {std::move(inside), nullptr}, mask->objects);
     return mask;
 }
 

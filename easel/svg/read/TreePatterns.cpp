@@ -65,7 +65,7 @@ TreeReader::ReadPattern TreeReader::readPatternContent(pugi::xml_node content, c
     inside.toDrawing = frame.contentToOwn;
     std::vector<drawing::ObjectPtr> objects;
     openPatterns_.push_back(content);
-    readApart(content, std::move(inside), objects);
+    readApart(content, {std::move(inside), nullptr}, objects);
     openPatterns_.pop_back();
     return {frame.contentToOwn,
             frame.width,

@@ -135,7 +135,7 @@ class TreeReader {
     ReadPattern readPatternContent(pugi::xml_node content, const PatternFrame& frame);
     Place placeAround(pugi::xml_node element) const;
     // Adds what the element holds to other objects than the drawing's.
-    void readApart(pugi::xml_node element, Place place, std::vector<drawing::ObjectPtr>& objects);
+    void readApart(pugi::xml_node element, Inside inside, std::vector<drawing::ObjectPtr>& objects);
     void readApart(Work work, std::vector<drawing::ObjectPtr>& objects);
     void readUse(pugi::xml_node element, Inside inside);
     void readTarget(pugi::xml_node use, pugi::xml_node target, Inside inside);
@@ -147,6 +147,10 @@ class TreeReader {
     Place rootPlace();
     // The place inside a container; nothing if nothing of it is shown.
     std::optional<Inside> enter(pugi::xml_node element, const Place& outside);
+    // The place inside the layer that the style makes of what an element holds, which begins with these of
+    // the objects and hidden shapes. Who reads it counts it among those that wait if it does.
+    Inside inLayer(pugi::xml_node element, const StatedStyle& stated, Place place, std::size_t firstObject,
+                   std::size_t firstHidden);
     void finishGroup(const WaitingGroup& waiting);
     // The box of what was read since, in the group's own units, what is hidden included.
     drawing::Box boxOf(const WaitingGroup& waiting) const;

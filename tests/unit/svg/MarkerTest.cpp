@@ -1,4 +1,6 @@
 // Where markers stand, how they are turned, and what becomes of drawings with them.
+#include "easel/drawing/Filter.h"
+#include "easel/drawing/Group.h"
 #include "easel/svg/read/MarkerVertices.h"
 #include "easel/svg/text/PathData.h"
 #include "tests/unit/svg/ReadHelp.h"
@@ -86,6 +88,38 @@ TEST(Markers, MayBePaintedAsTheShapeThatShowsThem) {
     EXPECT_EQ(std::get<ColorPaint>(markers[0]->fill).color, (Rgb16{65535, 0, 0}));
     EXPECT_EQ(std::get<ColorPaint>(styleOf(*markers[0]).stroke.paint).color, (Rgb16{0, 65535, 0}));
     EXPECT_EQ(std::get<ColorPaint>(markers[1]->fill).color, (Rgb16{0, 0, 65535}));
+}
+
+// The layer with a filter that the first marker lies in.
+const Group* filteredLayer(const Drawing& drawing) {
+    const auto& markers = drawing.object(0)->markers;
+    const Group* group = markers && !markers->empty() ? markers->front()->group.get() : nullptr;
+    while (group && !group->filter)
+        group = group->parent.get();
+    return group;
+}
+
+TEST(Markers, AreFilteredAsTheyAreAndAsWhatIsInThemIs) {
+    const std::string flood = "<filter id='f'><feFlood/></filter>";
+    const std::string line = "<path d='M10 10H50' marker-start='url(#m)'/>";
+    const std::string begin = "<marker id='m' markerUnits='userSpaceOnUse' markerWidth='9' markerHeight='9' ";
+    const Drawing whole =
+        readOk(svgFile(flood + begin + "filter='url(#f)'><rect width='40' height='20'/></marker>" + line));
+    EXPECT_THAT(whole.notes(), testing::IsEmpty());
+    ASSERT_TRUE(filteredLayer(whole));
+    // A tenth more on each side of what it holds, moved to the vertex; what cuts it off does so before.
+    EXPECT_EQ(filteredLayer(whole)->filter->bounds(), (Box{6, 8, 54, 32}));
+    const Drawing part = readOk(
+        svgFile(flood + begin + "><g><rect width='40' height='20' filter='url(#f)'/></g></marker>" + line));
+    ASSERT_TRUE(filteredLayer(part));
+    EXPECT_EQ(filteredLayer(part)->filter->bounds(), (Box{6, 8, 54, 32}));
+    // What is hidden counts for the box.
+    const Drawing hidden = readOk(svgFile(flood + begin +
+                                          "filter='url(#f)'><rect width='40' height='20'/><rect x='40' "
+                                          "visibility='hidden' width='60' height='20'/></marker>" +
+                                          line));
+    ASSERT_TRUE(filteredLayer(hidden));
+    EXPECT_EQ(filteredLayer(hidden)->filter->bounds(), (Box{0, 8, 120, 32}));
 }
 
 TEST(Markers, AreNoObjectsOfTheirOwnAndStayInTheFile) {
