@@ -287,7 +287,11 @@ void TextContentReader::addText(std::string_view utf8, const Level& level) {
         const bool blank = isBlank(character);
         if (blank && !preserve && afterBlank_)
             continue;
-        addCharacter(blank ? U' ' : character, level);
+        const std::u32string shown =
+            case_.shown(blank ? U' ' : character, textStyleOf(level.style).transform);
+        addCharacter(shown.front(), level);
+        for (std::size_t i = 1; i < shown.size(); ++i)
+            addToLast(shown[i]);
         afterBlank_ = blank && !preserve;
     }
 }
@@ -308,6 +312,14 @@ void TextContentReader::addCharacter(char32_t c, const Level& level) {
         character.dx = character.dy = 0;
     }
     content_.text.characters.push_back(character);
+}
+
+void TextContentReader::addToLast(char32_t c) {
+    type::Character more = content_.text.characters.back();
+    more.character = c;
+    more.x = more.y = std::nullopt;
+    more.dx = more.dy = 0;
+    content_.text.characters.push_back(more);
 }
 
 void TextContentReader::finish() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "easel/svg/read/Scene.h"
+#include "easel/svg/read/TextCase.h"
 #include "easel/svg/read/TextLists.h"
 #include "easel/svg/style/TextStyle.h"
 #include "easel/type/Text.h"
@@ -63,6 +64,8 @@ class TextContentReader {
     void addStretched(pugi::xml_node element, const Level& level, std::size_t begin);
     void addText(std::string_view utf8, const Level& level);
     void addCharacter(char32_t character, const Level& level);
+    // One more that is shown for the character before it.
+    void addToLast(char32_t character);
     void addControls(std::u32string_view controls) { controls_ += controls; }
     void finish();
 
@@ -71,7 +74,8 @@ class TextContentReader {
     TextContent content_;
     TextLists lists_;
     std::u32string controls_; // that wait for the character behind them
-    bool afterBlank_ = true;  // so that another one collapses into it
+    TextCase case_;
+    bool afterBlank_ = true; // so that another one collapses into it
     std::size_t depth_ = 0;
 };
 

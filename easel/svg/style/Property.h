@@ -80,12 +80,13 @@ enum class Property : std::uint8_t {
     TextDecoration,
     TextDecorationLine,
     TextOrientation,
+    TextTransform,
     UnicodeBidi,
     WhiteSpace,
     WordSpacing,
     WritingMode,
 };
-inline constexpr std::size_t kPropertyCount = 71;
+inline constexpr std::size_t kPropertyCount = 72;
 // From here on they are of text.
 inline constexpr Property kFirstOfText = Property::AlignmentBaseline;
 

@@ -93,6 +93,14 @@ std::optional<WhiteSpace> parseWhiteSpace(std::string_view text) {
     return valueOf(text, kWords);
 }
 
+std::optional<TextTransform> parseTextTransform(std::string_view text) {
+    static constexpr Word<TextTransform> kWords[] = {{"none", TextTransform::None},
+                                                     {"uppercase", TextTransform::Uppercase},
+                                                     {"lowercase", TextTransform::Lowercase},
+                                                     {"capitalize", TextTransform::Capitalize}};
+    return valueOf(text, kWords);
+}
+
 std::optional<type::Direction> parseWritingMode(std::string_view text) {
     using enum type::Direction;
     static constexpr Word<type::Direction> kWords[] = {
@@ -180,6 +188,7 @@ TextStyle TextStyle::inherited(const StatedStyle& stated, const LengthContext& l
     read(stated, Property::WordSpacing, &TextStyle::wordSpacing, style, spacing);
     read(stated, Property::TextAnchor, &TextStyle::anchor, style, parseAnchor);
     read(stated, Property::DominantBaseline, &TextStyle::baseline, style, parseDominantBaseline);
+    read(stated, Property::TextTransform, &TextStyle::transform, style, parseTextTransform);
     read(stated, Property::WhiteSpace, &TextStyle::whiteSpace, style, parseWhiteSpace);
     read(stated, Property::WritingMode, &TextStyle::direction, style, parseWritingMode);
     read(stated, Property::GlyphOrientation, &TextStyle::upright, style, parseOrientation);
@@ -206,6 +215,8 @@ bool isTextValue(Property property, std::string_view text) {
         return parseAnchor(text).has_value();
     case Property::DominantBaseline:
         return parseDominantBaseline(text).has_value();
+    case Property::TextTransform:
+        return parseTextTransform(text).has_value();
     case Property::WhiteSpace:
         return parseWhiteSpace(text).has_value();
     case Property::WritingMode:

@@ -25,6 +25,9 @@ enum class Baseline : std::uint8_t {
 
 enum class WhiteSpace : std::uint8_t { ByElement, Collapse, Preserve };
 
+// Which letters are shown in place of those that are written.
+enum class TextTransform : std::uint8_t { None, Uppercase, Lowercase, Capitalize };
+
 struct TextStyle {
     std::string_view families; // as stated; empty: none is
     int weight = 400;
@@ -35,6 +38,7 @@ struct TextStyle {
     double wordSpacing = 0;
     type::Anchor anchor = type::Anchor::Start;
     Baseline baseline = Baseline::Alphabetic;
+    TextTransform transform = TextTransform::None;
     WhiteSpace whiteSpace = WhiteSpace::ByElement; // ByElement: as xml:space says
     type::Direction direction = type::Direction::Horizontal;
     type::Upright upright = type::Upright::ByScript;

@@ -55,6 +55,7 @@ const Grammar kGrammars[] = {
     {"letter-spacing", {"normal", "-1px"}, {"loose"}},
     {"text-anchor", {"middle"}, {"center"}},
     {"dominant-baseline", {"auto", "hanging", "no-change"}, {"low"}},
+    {"text-transform", {"uppercase", "none"}, {"upper"}},
     {"white-space", {"pre-line"}, {"preserve"}},
     {"writing-mode", {"vertical-rl", "tb"}, {"down"}},
     {"text-orientation", {"sideways"}, {"up"}},

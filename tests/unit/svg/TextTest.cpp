@@ -63,6 +63,21 @@ void expectSame(const std::string& one, const std::string& other) {
 
 } // namespace
 
+TEST(SvgText, ShowsItsLettersInTheCaseThatIsStated) {
+    const auto styled = [](const char* transform, const std::string& content) {
+        return "<text y='50' style='text-transform:" + std::string(transform) + "'>" + content + "</text>";
+    };
+    const auto plain = [](const std::string& content) { return "<text y='50'>" + content + "</text>"; };
+    expectSame(styled("uppercase", "Straße, наука ﬁn é1a"), plain("STRASSE, НАУКА ﬁN É1A"));
+    expectSame(styled("lowercase", "ÀB ΩΑ<tspan>X</tspan>"), plain("àb ωαx"));
+    expectSame(styled("capitalize", "it's o’clock, (3d ömer) é-b<tspan>cd</tspan>"),
+               plain("It's O’clock, (3d Ömer) É-Bcd"));
+    expectSame(styled("uppercase", "a<tspan style='text-transform:none'>b</tspan>"), plain("Ab"));
+    // A letter that becomes two takes one place of a list.
+    expectSame("<text y='50' x='0 30 60' style='text-transform:uppercase'>aßb</text>",
+               "<text y='50'>A<tspan x='30'>SS</tspan><tspan x='60'>B</tspan></text>");
+}
+
 TEST(SvgText, AnElementIsOneObjectThatCarriesNoGradient) {
     const Drawing drawing = read("<text id='t' x='10' y='50' fill='red'>Hi</text>");
     ASSERT_EQ(drawing.size(), 1U);
