@@ -1,6 +1,6 @@
 // Which values attributes, style sheets and style attributes give an element.
 #include "easel/svg/style/ElementSubject.h"
-#include "easel/svg/style/Property.h"
+#include "easel/svg/style/PropertyGrammar.h"
 #include "easel/svg/text/Length.h"
 #include "easel/svg/text/Scanner.h"
 
@@ -57,7 +57,7 @@ std::vector<Declaration> Cascade::gather(pugi::xml_node element, StatedStyle& st
             if (isCustomProperty(declaration.name))
                 custom.push_back(declaration);
             else
-                style.set(declaration);
+                declare(style, declaration);
         }
     };
     for (const pugi::xml_attribute attribute : element.attributes())

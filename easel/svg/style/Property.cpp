@@ -1,7 +1,6 @@
 #include "easel/svg/style/Property.h"
 
 #include "easel/svg/style/FontShorthand.h"
-#include "easel/svg/style/PropertyGrammar.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
@@ -122,17 +121,6 @@ void StatedStyle::setFont(std::string_view shorthand, Importance importance) {
     set(Property::FontStretch, font.stretch, importance);
     set(Property::FontSize, font.size, importance);
     set(Property::FontFamily, font.families, importance);
-}
-
-void StatedStyle::set(const Declaration& declaration) {
-    const auto property = propertyFromName(declaration.name);
-    if (!property)
-        return;
-    // A value that is none changes nothing where nothing else is stated, and is looked at only where it
-    // could.
-    const bool beats = !(*this)[*property].empty() || declaration.importance == Importance::Important;
-    if (!beats || isValueOf(*property, declaration.value))
-        set(*property, declaration.value, declaration.importance);
 }
 
 bool StatedStyle::asksForCustomProperties() const {

@@ -101,8 +101,6 @@ class StatedStyle {
         return values_[static_cast<std::size_t>(property)];
     }
     void set(Property property, std::string_view value, Importance importance);
-    // A declaration whose value is none of its property's beats no other.
-    void set(const Declaration& declaration);
     bool asksForCustomProperties() const;
     // Whether any property of text is stated.
     bool statesText() const { return statesText_; }

@@ -153,4 +153,15 @@ bool isValueOf(Property property, std::string_view text) {
     return property < kFirstOfText ? isEffectValue(property, text) : isTextValue(property, text);
 }
 
+void declare(StatedStyle& style, const Declaration& declaration) {
+    const auto property = propertyFromName(declaration.name);
+    if (!property)
+        return;
+    // A value that is none changes nothing where nothing else is stated, and is looked at only where it
+    // could.
+    const bool beats = !style[*property].empty() || declaration.importance == Importance::Important;
+    if (!beats || isValueOf(*property, declaration.value))
+        style.set(*property, declaration.value, declaration.importance);
+}
+
 } // namespace easel::svg

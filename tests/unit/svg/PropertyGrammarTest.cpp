@@ -65,8 +65,8 @@ const Grammar kGrammars[] = {
 // What counts after the first value and then the second is declared.
 std::string stronger(const char* property, const char* first, const char* second) {
     StatedStyle style;
-    style.set({property, first, Importance::Normal});
-    style.set({property, second, Importance::Normal});
+    declare(style, {property, first, Importance::Normal});
+    declare(style, {property, second, Importance::Normal});
     return std::string(style[propertyFromName(property).value()]);
 }
 
