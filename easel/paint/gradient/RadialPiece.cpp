@@ -16,9 +16,6 @@ constexpr double kHalfLevel = 128;
 // rounding lets a color exceed its alpha.
 constexpr std::uint32_t kAlpha = 0xFF82;
 constexpr double kWholePixel = 65536;
-// So near to none and all of the pixel the shares may come: half a unit for the distance, half a unit for the
-// share itself, and some room for single precision.
-constexpr double kShareMargin = 1.25;
 
 // Nine significant bits, so that its products with the numbers of pixels in a row are exact in single
 // precision.
@@ -75,14 +72,8 @@ void RadialPiece::setColors(const ColorSpan& colorSpan, double rounding) {
 void RadialPiece::setMix(const ColorSpan& colorSpan, double opacity) {
     constexpr double kCutOff = 1; // what products cut off
     setColors(colorSpan, kHalfLevel + kCutOff);
-    const auto shareAt = [&](double distance) {
-        const double weight = (colorSpan.color[3] + colorSpan.slope[3] * distance) * opacity;
-        return std::clamp(weight * kWholePixel, kShareMargin, kWholePixel - kShareMargin);
-    };
-    const double first = shareAt(0);
-    const double last = shareAt(colorSpan.reach);
-    mix_.share = static_cast<float>((first + last) / 2);
-    mix_.shareSlope = static_cast<float>((last - first) / (colorSpan.reach * toUnits_));
+    mix_.share = static_cast<float>(colorSpan.at(middle_)[3] * opacity * kWholePixel);
+    mix_.shareSlope = static_cast<float>(colorSpan.slope[3] * opacity / toUnits_ * kWholePixel);
 }
 
 void RadialPiece::setFlatMix(const Channels& color, double weight) {

@@ -53,9 +53,11 @@ HWY_INLINE auto MixerOf(const MixColors& mix) {
     const Distances d;
     return [=, blueRed = pairs(mix.colors.blueRed), greenAlpha = pairs(mix.colors.greenAlpha),
             blueRedSlope = pairs(mix.colors.blueRedSlope), greenSlope = pairs(mix.colors.greenSlope),
-            shareOf0 = hn::Set(d, mix.share), shareSlope = hn::Set(d, mix.shareSlope)](
+            shareOf0 = hn::Set(d, mix.share), shareSlope = hn::Set(d, mix.shareSlope),
+            least = hn::Set(d, plain::kLeastShare), most = hn::Set(d, plain::kMostShare)](
                hn::Vec<Distances> distance, hn::Vec<Pixels> below) HWY_ATTR {
-        const auto share = Doubled(hn::Add(shareOf0, hn::Mul(shareSlope, distance)));
+        const auto exact = hn::Add(shareOf0, hn::Mul(shareSlope, distance));
+        const auto share = Doubled(hn::Min(hn::Max(exact, least), most));
         const auto whole = hn::BitCast(d16, Doubled(distance));
         const auto part = [&](auto base, auto slope) HWY_ATTR {
             const auto color = hn::Add(base, hn::MulFixedPoint15(slope, whole));

@@ -20,8 +20,7 @@ struct MixRange {
 };
 
 // The colors along the distance, as for opaque pixels but with a unit more that makes up for what products
-// cut off, and the share of the pixel that they take: at 0 and its change over a unit, in 65536ths. What is
-// left of them has to fit in 16 bits as well, so that rounded shares are from 1 to 65535.
+// cut off, and the share of the pixel that they take: at 0 and its change over a unit, in 65536ths.
 struct MixColors {
     RadialColors colors;
     float share;

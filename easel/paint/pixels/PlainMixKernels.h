@@ -13,6 +13,10 @@ namespace easel::paint::plain {
 
 // Added to a number, leaves the nearest whole one in the lowest bits.
 constexpr float kToBits = 3.0F * (1 << 22);
+// Neither all of the pixel nor nothing of it, since what is left of 65536 parts has to fit in 16 bits as
+// well. Neither makes a difference: products with the one part cut it off.
+constexpr float kLeastShare = 1;
+constexpr float kMostShare = 65535;
 
 inline std::uint32_t bitsOf(float value) {
     return std::bit_cast<std::uint32_t>(value + kToBits) & 0xFFFF;
@@ -20,7 +24,8 @@ inline std::uint32_t bitsOf(float value) {
 
 inline std::uint32_t mixedAt(float distance, const MixColors& mix, std::uint32_t below) {
     const int whole = static_cast<std::int16_t>(bitsOf(distance));
-    const std::uint32_t share = bitsOf(mix.share + mix.shareSlope * distance);
+    const float exact = mix.share + mix.shareSlope * distance;
+    const std::uint32_t share = bitsOf(std::min(std::max(exact, kLeastShare), kMostShare));
     const RadialColors& colors = mix.colors;
     const auto part = [&](std::uint32_t base, std::uint32_t slope) {
         return halfAlong(base, slope, whole) * share >> 16;
