@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <limits>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -20,11 +21,15 @@ namespace {
 constexpr double kFineUnitsPerEm = 65536;
 constexpr FT_Pos kStrength = static_cast<FT_Pos>(kFineUnitsPerEm / 24);
 
+// Signed or not, as the version of FreeType has them.
+using Tag = std::remove_pointer_t<decltype(FT_Outline::tags)>;
+using End = std::remove_pointer_t<decltype(FT_Outline::contours)>;
+
 // The outline as FreeType has it: the points of each contour once, and which of them are controls of curves.
 struct Contours {
     std::vector<FT_Vector> points;
-    std::vector<char> tags;
-    std::vector<short> ends;
+    std::vector<Tag> tags;
+    std::vector<End> ends;
 };
 
 class ContourMaker {
@@ -49,7 +54,7 @@ class ContourMaker {
     }
 
   private:
-    void add(Point p, char tag) {
+    void add(Point p, Tag tag) {
         made_.points.push_back({std::lround(p.x * scale_), std::lround(p.y * scale_)});
         made_.tags.push_back(tag);
     }
@@ -64,7 +69,7 @@ class ContourMaker {
             made_.points.pop_back();
             made_.tags.pop_back();
         }
-        made_.ends.push_back(static_cast<short>(made_.points.size() - 1));
+        made_.ends.push_back(static_cast<End>(made_.points.size() - 1));
         begin_ = made_.points.size();
     }
 
@@ -124,8 +129,8 @@ Path emboldened(const Path& outline, double unitsPerEm) {
         contours.points.size() > static_cast<std::size_t>(std::numeric_limits<short>::max()))
         return outline;
     FT_Outline made{};
-    made.n_points = static_cast<short>(contours.points.size());
-    made.n_contours = static_cast<short>(contours.ends.size());
+    made.n_points = static_cast<End>(contours.points.size());
+    made.n_contours = static_cast<End>(contours.ends.size());
     made.points = contours.points.data();
     made.tags = contours.tags.data();
     made.contours = contours.ends.data();

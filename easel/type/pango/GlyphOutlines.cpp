@@ -25,6 +25,14 @@ Point point(float x, float y) {
     return {static_cast<double>(x), static_cast<double>(y)};
 }
 
+void draw(hb_font_t* font, std::uint32_t glyph, hb_draw_funcs_t* pen, Path& path) {
+#if HB_VERSION_ATLEAST(7, 0, 0)
+    hb_font_draw_glyph(font, glyph, pen, &path);
+#else
+    hb_font_get_glyph_shape(font, glyph, pen, &path);
+#endif
+}
+
 void moveTo(hb_draw_funcs_t*, void* path, hb_draw_state_t*, float x, float y, void*) {
     pathOf(path).moveTo(point(x, y));
 }
@@ -138,7 +146,7 @@ Path GlyphOutlines::of(PangoFont* font, std::uint32_t glyph) {
     if (isNew) {
         ++count_;
         Path path;
-        hb_font_get_glyph_shape(pango_font_get_hb_font(font), glyph, pen_.get(), &path);
+        draw(pango_font_get_hb_font(font), glyph, pen_.get(), path);
         if (own.embolden)
             path = emboldened(path, unitsPerEm_);
         place->second = path.transformed(own.toEms);
