@@ -61,6 +61,7 @@ const std::string kTexts[] = {
     "<text x='10' y='60' fill='#fc0' stroke='#000' paint-order='stroke' transform='rotate(5)'>stroked</text>",
     "<text x='10' y='60' fill='#c00' fill-opacity='.4' letter-spacing='-9'>overlapping</text>",
     "<text x='10' y='60' text-decoration='underline'>under <tspan fill='#c00'>lined</tspan></text>",
+    "<text x='10' y='60' style='text-transform:uppercase'>stra\u00dfe</text>",
 };
 
 std::string charactersOf(const pugi::xml_node& node) {
@@ -133,6 +134,7 @@ TEST(TextAsSvg, EachCharacterIsInATextElement) {
     EXPECT_EQ(textIn(exports::encodeSvg(drawingOf(kTexts[1]), 1)), "shiftedabout");
     EXPECT_EQ(textIn(exports::encodeSvg(drawingOf(kTexts[7]), 1)), "alongapath");
     EXPECT_EQ(textIn(exports::encodeSvg(drawingOf(kTexts[8]), 1)), "inagradient");
+    EXPECT_EQ(textIn(exports::encodeSvg(drawingOf(kTexts[12]), 1)), "STRASSE") << "as it is shown";
     EXPECT_EQ(textIn(exports::encodeSvg(drawingOf(kTexts[6]), 1)),
               "\u0645\u0631\u062d\u0628\u0627\u0628\u0627\u0644\u0639\u0627\u0644\u0645");
 }
