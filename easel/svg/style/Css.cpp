@@ -73,7 +73,8 @@ std::string_view takeBlock(std::string_view& text) {
 // One declaration's value without its mark of importance. Nothing if any other mark stands in it.
 std::optional<Declaration> declaration(std::string_view name, std::string_view value) {
     Declaration result{trimmed(name), trimmed(value)};
-    const std::size_t mark = lengthUntil(result.value, "!");
+    const bool marked = result.value.find('!') != std::string_view::npos;
+    const std::size_t mark = marked ? lengthUntil(result.value, "!") : result.value.size();
     if (mark == result.value.size())
         return result;
     if (!equalIgnoringCase(trimmed(result.value.substr(mark + 1)), "important"))
