@@ -70,13 +70,11 @@ std::string writtenOut(const std::string& text, const UseInstance& instance, con
     const bool isSymbol = target.name() == prefix + "symbol";
     if (isSymbol || target.name() == viewport) {
         std::string tag = '<' + viewport + attributesOf(text, use, {"width", "height"});
-        // The place in the file counts for the element that stands there, the size unless `use` gives
-        // another.
+        // The place of `use` moves all of it, and the size is that of `use` where it gives one.
         const bool width = use.find("width") != nullptr;
         const bool height = use.find("height") != nullptr;
-        tag += attributesWithout(text, target,
-                                 {"id", width ? "width" : "id", height ? "height" : "id", "x", "y"}) +
-               '>';
+        tag +=
+            attributesWithout(text, target, {"id", width ? "width" : "id", height ? "height" : "id"}) + '>';
         const std::size_t contentBegin = target.span().end;
         const std::string content =
             target.closesItself() ? ""
