@@ -47,6 +47,47 @@ TEST(MaskAlpha, TellsLuminanceUnlessSomethingDarkerIsPaintedOver) {
     EXPECT_FALSE(alphaTells("<rect width='9' height='9' fill='url(#g)'/>"));
 }
 
+TEST(MaskAlpha, TellsLuminanceOfStrokesAndOfRampsOfOneOpacity) {
+    const std::string ramps = "<linearGradient id='w'><stop stop-color='#fff'/><stop offset='1' "
+                              "stop-color='#fff'/></linearGradient>"
+                              "<linearGradient id='b'><stop stop-color='#fff'/><stop offset='1' "
+                              "stop-color='#999'/></linearGradient>";
+    const auto stroke = [](const std::string& color) {
+        return "<path d='M 5 5 L 30 30' fill='none' stroke-width='4' stroke='" + color + "'/>";
+    };
+    EXPECT_TRUE(alphaTells(stroke("#777")));
+    EXPECT_TRUE(alphaTells(kWhite + stroke("#fff")));
+    EXPECT_FALSE(alphaTells(kWhite + stroke("#777")));
+    EXPECT_TRUE(alphaTells(ramps + stroke("url(#b)")));
+    EXPECT_TRUE(alphaTells(kWhite + ramps + stroke("url(#w)")));
+    EXPECT_FALSE(alphaTells(kWhite + ramps + stroke("url(#b)")));
+    EXPECT_TRUE(alphaTells(ramps + "<rect width='9' height='9' fill='url(#b)'/>"));
+}
+
+TEST(MaskAlpha, DoesNotTellLuminanceOfWhatHasManyColorsOrIsBlended) {
+    const std::string pattern = "<pattern id='p' width='4' height='4' patternUnits='userSpaceOnUse'>"
+                                "<rect width='2' height='4' fill='#fff'/></pattern>";
+    EXPECT_FALSE(alphaTells(pattern + "<rect width='9' height='9' fill='url(#p)'/>"));
+    EXPECT_FALSE(alphaTells(pattern + "<path d='M 5 5 H 30' stroke='url(#p)'/>"));
+    EXPECT_FALSE(alphaTells("<marker id='e' markerWidth='3' markerHeight='3'><rect width='3' height='3'/>"
+                            "</marker><path d='M 5 5 H 30' stroke='#fff' marker-end='url(#e)'/>"));
+    EXPECT_FALSE(alphaTells("<g style='mix-blend-mode:multiply'>" + kWhite + "</g>"));
+    EXPECT_TRUE(alphaTells("<g opacity='.5'>" + kWhite + "</g>"));
+    EXPECT_TRUE(alphaTells("<rect width='9' height='9' fill='#fff' fill-opacity='0'/>"));
+}
+
+TEST(MaskAlpha, IsNotAskedForOfMasksOfAlphaOrOfVeryManyObjects) {
+    auto mask = *masked(kWhite).object(0)->group->mask;
+    EXPECT_TRUE(exports::alphaTellsLuminance(mask));
+    mask.objects.assign(1000, mask.objects.front());
+    EXPECT_TRUE(exports::alphaTellsLuminance(mask));
+    mask.objects.push_back(mask.objects.front());
+    EXPECT_FALSE(exports::alphaTellsLuminance(mask));
+    mask.objects.resize(1);
+    mask.measure = drawing::MaskMeasure::Alpha;
+    EXPECT_FALSE(exports::alphaTellsLuminance(mask));
+}
+
 TEST(MaskAlpha, WhatItCannotTellIsMaskedByAPictureThatLooksTheSame) {
     const drawing::Drawing drawing =
         masked(kWhite + kBlack + kGray + "<rect y='44' width='30' height='10' fill='url(#g)'/>");
