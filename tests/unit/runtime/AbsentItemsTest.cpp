@@ -20,6 +20,8 @@ constexpr short kUser = 5;
 constexpr short kRadio = 6;
 constexpr short kNone = 7;
 
+constexpr long kReferenceSize = sizeof(void*);
+
 constexpr const char* kResources = R"(<resources>
   <menu id="20"><entry>first</entry><entry>second</entry></menu>
   <dialog id="7" title="All kinds" width="200" height="200">
@@ -120,14 +122,14 @@ TEST_F(AbsentItemsTest, OnlyAPopupHasAMenuAndOnlyItsOwnTagReadsIt) {
     OpaqueMenuRef* menu = nullptr;
     long size = 0;
     constexpr OSType kTag = kControlPopupButtonMenuHandleTag;
-    EXPECT_NE(GetControlData(nullptr, 0, kTag, sizeof menu, &menu, &size), 0);
-    EXPECT_NE(GetControlData(button, 0, kTag, sizeof menu, &menu, &size), 0);
-    EXPECT_NE(GetControlData(popup, 0, FourCC("font"), sizeof menu, &menu, &size), 0);
+    EXPECT_NE(GetControlData(nullptr, 0, kTag, kReferenceSize, &menu, &size), 0);
+    EXPECT_NE(GetControlData(button, 0, kTag, kReferenceSize, &menu, &size), 0);
+    EXPECT_NE(GetControlData(popup, 0, FourCC("font"), kReferenceSize, &menu, &size), 0);
     EXPECT_EQ(size, 0);
-    EXPECT_NE(GetControlData(popup, 0, kTag, sizeof menu - 1, &menu, &size), 0) << "not the half of it";
+    EXPECT_NE(GetControlData(popup, 0, kTag, kReferenceSize - 1, &menu, &size), 0) << "not the half of it";
     EXPECT_EQ(menu, nullptr);
-    EXPECT_EQ(size, static_cast<long>(sizeof menu));
-    EXPECT_EQ(GetControlData(popup, 0, kTag, sizeof menu, &menu, nullptr), 0);
+    EXPECT_EQ(size, kReferenceSize);
+    EXPECT_EQ(GetControlData(popup, 0, kTag, kReferenceSize, &menu, nullptr), 0);
     EXPECT_EQ(CountMenuItems(menu), 2);
 }
 
@@ -157,7 +159,7 @@ TEST_F(AbsentItemsTest, AnEntryThatAMenuLacksIsNeitherReadNorChanged) {
     ControlRef popup = nullptr;
     GetDialogItemAsControl(dialog_, kPopup, &popup);
     OpaqueMenuRef* menu = nullptr;
-    GetControlData(popup, 0, kControlPopupButtonMenuHandleTag, sizeof menu, &menu, nullptr);
+    GetControlData(popup, 0, kControlPopupButtonMenuHandleTag, kReferenceSize, &menu, nullptr);
     for (const short entry : {short{0}, short{3}}) {
         SetMenuItemText(menu, entry, "other");
         DeleteMenuItem(menu, entry);
