@@ -35,6 +35,20 @@ TEST(DescribedPlaces, AreTheEndsThemselvesWhereTheGradientEndsWithTheShape) {
     }
 }
 
+TEST(DescribedPlaces, OnAShapeWithoutExtentAreThoseOfTheGradientItself) {
+    const Ramp ramp({{0.25, {65535, 0, 0}, 1}, {0.75, {0, 0, 65535}, 1}});
+    const CGradientData line =
+        describe({LinearGeometry{{0, 0}, {10, 0}}, {}, Spread::Pad, ramp}, rectanglePath({3, 3, 3, 3}))
+            .record;
+    EXPECT_EQ(firstPlace(line), 0.25);
+    EXPECT_EQ(lastPlace(line), 0.75);
+    const CGradientData nothing =
+        describe({LinearGeometry{{4, 4}, {4, 4}}, {}, Spread::Pad, ramp}, rectanglePath({0, 0, 9, 9})).record;
+    ASSERT_EQ(nothing.ColorList().size(), 1U) << "a gradient without extent shows its last color";
+    EXPECT_EQ(nothing.ColorList().front().ColorRGB(), (RGBColor{0, 0, 65535}));
+    EXPECT_EQ(firstPlace(nothing), 0.75);
+}
+
 TEST(DescribedPlaces, OfAGradientBesideTheShapeAreOneStop) {
     const Path shape = rectanglePath({0, 0, 10, 10});
     const CGradientData after =

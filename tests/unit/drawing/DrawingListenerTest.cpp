@@ -82,6 +82,18 @@ TEST_F(DrawingListener, HearsOfBothSelectionsWhenAStepIsUndone) {
     expectTold({100, 50, 0});
 }
 
+TEST(DrawingListenerAsking, FindsTheDrawingAsItIsAfterTheChange) {
+    Drawing drawing(200, 200, {square("a", 0), square("b", 100)}, nullptr, {});
+    std::vector<std::size_t> found;
+    drawing.setChangeListener([&](const Box& area) { found.push_back(drawing.objectsWithin(area).size()); });
+    drawing.erase(0);
+    EXPECT_EQ(found.back(), 0U);
+    drawing.insert(0, square("c", 50));
+    EXPECT_EQ(found.back(), 1U);
+    drawing.amend(0, square("d", 150));
+    EXPECT_EQ(found, (std::vector<std::size_t>{0, 1, 0, 1})) << "where it was and where it is";
+}
+
 TEST_F(DrawingListener, FindsTheFirstObjectFromTheBackByItsId) {
     EXPECT_EQ(drawing_.indexOfId("a"), 0U);
     EXPECT_EQ(drawing_.indexOfId("b"), 1U);

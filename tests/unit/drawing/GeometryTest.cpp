@@ -145,6 +145,11 @@ TEST(Geometry, TheLargestScaleIsThatOfTheLongestDirection) {
     }
 }
 
+TEST(Geometry, ARotationScalesByOneHoweverItIsRounded) {
+    for (int degrees = 0; degrees < 360; ++degrees)
+        EXPECT_NEAR(Affine::rotation(degrees).largestScale(), 1, 1e-7) << degrees;
+}
+
 TEST(Geometry, ARotationTurnsClockwiseOnTheScreenAndExactlyAtQuarters) {
     EXPECT_EQ(Affine::rotation(90)({1, 0}), (Point{0, 1}));
     EXPECT_EQ(Affine::rotation(90)({0, 1}), (Point{-1, 0}));
