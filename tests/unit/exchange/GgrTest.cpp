@@ -160,6 +160,48 @@ TEST(Ggr, DamageIsNamedWithItsLine) {
     EXPECT_THAT(refusal("GIMP Gradient\n99999999999\n"), HasSubstr("line 2"));
 }
 
+TEST(Ggr, EachNumberOfASegmentHasItsBounds) {
+    for (const std::string segment :
+         {"0 0.5 1 0 0 0 1 1 1 1 0 0", "0 0.5 1 0 0 -0.1 1 1 1 1 1 0 0", "0 0.5 1 0 0 0 1 1 1.1 1 1 0 0",
+          "0 0.5 1 0 0 0 1 1 1 1 1 0", "0 0.5 1 0 0 0 1 1 1 1 1 0.5 0", "0 0.5 1 0 0 0 1 1 1 1 1 -1 0",
+          "0 0.5 1 0 0 0 1 1 1 1 1 0 0 5", "0 0.5 1 0 0 0 1 1 1 1 1 0 0 0 x",
+          "0 0.5 1 0 0 0 1 1 1 1 1 0 0 0 0 0", "0.5 0.2 1 0 0 0 1 1 1 1 1 0 0",
+          "-0.5 0.2 1 0 0 0 1 1 1 1 1 0 0", "0 0.2 1.5 0 0 0 1 1 1 1 1 0 0"})
+        EXPECT_THAT(refusal(file(segment + "\n")), HasSubstr("line 4")) << segment;
+    for (const char* count : {"0", "10001", "-1", "1.5", "1 1", "one"})
+        EXPECT_THAT(refusal("GIMP Gradient\nName: n\n" + std::string(count) + "\n"), HasSubstr("line 3"))
+            << count;
+}
+
+TEST(Ggr, LinesMayEndAsOnOtherSystemsAndTheLastMayBeCutOff) {
+    const auto result = imported("GIMP Gradient\r\nName: A b \r\n1\r\n0 0.5 1" + kBlackToWhite + "0 0");
+    EXPECT_EQ(result.name, "A b");
+    EXPECT_EQ(result.gradient.ColorList().size(), 2U);
+    EXPECT_EQ(imported("GIMP Gradient\n1\n0 0.5 1" + kBlackToWhite + "0 0\n").name, "");
+}
+
+TEST(Ggr, SegmentsThatMissEachOtherByARoundingMeet) {
+    // The second begins, and has its middle and its end, a little before the first one ends.
+    const auto result = imported(file("0 0.25 0.5" + kBlackToWhite + "0 0\n0.499995 0.499996 0.499997" +
+                                          kBlackToWhite + "0 0\n0.5 0.75 1" + kBlackToWhite + "0 0\n",
+                                      3));
+    double before = 0;
+    for (const auto& stop : result.gradient.ColorList()) {
+        EXPECT_GE(stop.Percent(), before);
+        before = stop.Percent();
+    }
+    EXPECT_EQ(before, 1);
+    EXPECT_TRUE(result.notes.empty());
+}
+
+TEST(Ggr, GrayHasTheHueOfRed) {
+    // From a gray to red, once round the circle of hues: cyan half way, half saturated and of three quarters'
+    // value.
+    const auto result = imported(file("0 0.5 1 0.5 0.5 0.5 1 1 0 0 1 0 1\n"));
+    EXPECT_NEAR(redAt(result.gradient, 0.5), 0.375 * 255, 1);
+    EXPECT_NEAR(redAt(result.gradient, 1), 255, 1);
+}
+
 TEST(Ggr, WhatIsWrittenReadsBackAsTheSameStops) {
     CGradientData gradient;
     auto& stops = gradient.ColorList();

@@ -80,6 +80,8 @@ TEST_F(AbsentObjectsTest, WhatIsPutBeyondAnEndIsPutAtIt) {
     TessObject copy;
     const TessObject rect = list_[0];
     CloneItem(&rect, copy);
+    copy.SetFillPattern(kBlackPat());
+    ASSERT_NE(copy.State()->object, rect.State()->object);
     InsertObj(TessObject(), 0, list_);
     InsertObj(copy, 0, CTessObjList());
     EXPECT_EQ(window_.drawing().size(), 1U);

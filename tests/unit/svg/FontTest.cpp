@@ -52,6 +52,56 @@ TEST(SvgFont, PairsAreKernedByCharactersRangesAndNames) {
     expectBox(boundsOf(fontWith("<hkern u1='B' u2='A' k='200'/>"), "AB"), 100, 40, 132, 50);
 }
 
+TEST(SvgFont, PairsOfWhatTheFontLacksOrOfRangesThatAreNoneAreNotKerned) {
+    for (const std::string pair : {"u1='x' u2='B'", "u1='A' u2='U+43'", "u1='A' u2=''", "g1='a'",
+                                   "g1='nobody' g2='b'", "u1='A' u2='U+'", "u1='A' u2='U+0000042'",
+                                   "u1='A' u2='U+4G'", "u1='A' u2='U+42-'", "u1='A' u2='U+41-41'"})
+        expectBox(boundsOf(fontWith("<hkern " + pair + " k='200'/>"), "AB"), 100, 40, 132, 50);
+    expectBox(boundsOf(fontWith("<hkern u1='u+0041' u2='U+4a,U+0042' k='200'/>"), "AB"), 100, 40, 128, 50);
+}
+
+TEST(SvgFont, GlyphsAreThoseOfLettersThatStandAlone) {
+    // The first glyph of a letter is the one that is shown.
+    const std::string wide = "d='M0 0H2000V500H0Z'/>";
+    const auto widthOfC = [&](const std::string& glyphs) {
+        return boundsOf(fontWith(glyphs + "<glyph unicode='C' d='M0 0H100V500H0Z'/>"), "C").width();
+    };
+    EXPECT_NEAR(widthOfC(""), 2, 1e-9);
+    EXPECT_NEAR(widthOfC("<glyph unicode='C' arabic-form='initial' " + wide), 2, 1e-9);
+    EXPECT_NEAR(widthOfC("<glyph unicode='C' orientation='v' " + wide), 2, 1e-9);
+    EXPECT_NEAR(widthOfC("<glyph " + wide + "<glyph glyph-name='C' " + wide), 2, 1e-9);
+    EXPECT_NEAR(widthOfC("<glyph unicode='C' arabic-form='isolated' " + wide), 40, 1e-9);
+    EXPECT_NEAR(widthOfC("<glyph unicode='C' orientation='h' " + wide), 40, 1e-9);
+}
+
+TEST(SvgFont, MeasuresThatAreNoneAreTheUsualOnes) {
+    for (const char* units :
+         {"units-per-em='0'", "units-per-em='-5'", "units-per-em='1e9'", "units-per-em='em'"})
+        expectBox(boundsOf(fontWith("", units), "AA"), 100, 40, 122, 50);
+    expectBox(boundsOf(fontWith("<glyph unicode='C' horiz-adv-x='1e9'/>"), "CA"), 112, 40, 122, 50);
+}
+
+TEST(SvgFont, WithoutAFamilyNothingIsSetInIt) {
+    const std::string nameless = "<font horiz-adv-x='600'><glyph unicode='A' d='M0 0H500V500H0Z'/></font>";
+    const Box other = boundsOf("", "A");
+    for (const std::string& font : {nameless, "<font><font-face/></font>" + nameless})
+        expectBox(boundsOf(font, "A"), other.left, other.top, other.right, other.bottom);
+}
+
+TEST(SvgFont, OfAFamilyThatIsNamedLikeNoneInStyleSheetsKeepsItsName) {
+    const std::string font = "<font horiz-adv-x='600'><font-face font-family='7 Seas'/>"
+                             "<glyph unicode='A' d='M0 0H500V500H0Z'/></font>";
+    expectBox(boundsOf(font, "A", "\"7 Seas\""), 100, 40, 110, 50);
+}
+
+TEST(SvgFont, SlantedFontsAreForSlantedText) {
+    const std::string fonts = fontWith("") +
+                              "<font horiz-adv-x='900'><font-face font-family='Own' "
+                              "font-style='oblique'/><glyph unicode='A' d='M0 0H900V500H0Z'/></font>";
+    EXPECT_NEAR(boundsOf(fonts, "<tspan font-style='italic'>A</tspan>").width(), 18, 1e-9);
+    EXPECT_NEAR(boundsOf(fonts, "A").width(), 10, 1e-9);
+}
+
 TEST(SvgFont, WhatItLacksIsItsSignForThat) {
     expectBox(boundsOf(fontWith("<missing-glyph d='M0 0H100V1000H0Z'/>"), "?A"), 100, 30, 122, 50);
 }
