@@ -39,9 +39,14 @@ TEST_F(GradientMenuTest, AGradientIsPastedOntoSeveralShapesAndOneUndoTakesItBack
 }
 
 TEST_F(GradientMenuTest, AGradientIsPickedUpByAClickThatChangesNothing) {
+    const std::string translucent = "stop-color=\"#f0d060\" stop-opacity=\"0.25\"";
+    replaceInDrawing("stop-color=\"#f0d060\"", translucent);
     startWithDrawing();
     screen().key("ctrl+shift+i");
     screen().click(onScreen(kGradMiddle.x, kGradMiddle.y));
+    // Where there is none, the one that was picked up stays.
+    screen().key("ctrl+shift+i");
+    screen().click(onScreen(kMarkerMiddle.x, kMarkerMiddle.y));
     screen().key("v");
     select({kPlainMiddle});
     screen().key("ctrl+shift+v");
@@ -57,7 +62,7 @@ TEST_F(GradientMenuTest, AGradientIsPickedUpByAClickThatChangesNothing) {
     screen().key("ctrl+shift+v");
     EXPECT_TRUE(colorVanishes(kMarker));
     const std::string after = saved();
-    EXPECT_THAT(gradientOf(after, "plain"), HasSubstr("#203080"));
+    EXPECT_THAT(gradientOf(after, "plain"), AllOf(HasSubstr("#203080"), HasSubstr(translucent)));
     EXPECT_THAT(gradientOf(after, "marker"), HasSubstr("#a02040"));
     EXPECT_THAT(gradientOf(after, "grad"), HasSubstr("id=\"l\"")) << "still as the file had it";
     EXPECT_FALSE(hasWindow("Gradient"));
@@ -98,6 +103,7 @@ TEST_F(GradientMenuTest, TheCurrentGradientIsAppliedWithoutOpeningTheEditor) {
 
 TEST_F(GradientMenuTest, OpacityIsShownWhileItIsChosenAndCancelBringsItBack) {
     startWithDrawing();
+    const std::string before = contents(drawing());
     screen().key("v");
     select({kGradMiddle});
     const std::uint32_t opaque = pixelAt(80, 300);
@@ -108,8 +114,30 @@ TEST_F(GradientMenuTest, OpacityIsShownWhileItIsChosenAndCancelBringsItBack) {
     screen().key("Escape");
     EXPECT_TRUE(vanishes("Opacity"));
     EXPECT_TRUE(eventually([&] { return pixelAt(80, 300) == opaque; }));
-    screen().key("ctrl+s");
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    EXPECT_TRUE(eventually([&] { return !hasWindow("drawing.svg*"); })) << "nothing has to be saved";
+    screen().key("ctrl+shift+z");
+    EXPECT_EQ(saved(), before) << "nor is there anything to redo";
     EXPECT_EQ(quit(), 0) << "nothing to ask about";
+}
+
+TEST_F(GradientMenuTest, AnOpacityThatIsTypedCountsOnceAndIsOneStep) {
+    startWithDrawing();
+    const std::string before = contents(drawing());
+    screen().key("v");
+    select({kGradMiddle});
+    const std::uint32_t opaque = pixelAt(80, 300);
+    screen().key("ctrl+shift+o");
+    waitForDialog("Opacity");
+    // Shown at 5 percent first.
+    screen().type("50");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Opacity"));
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    EXPECT_THAT(gradientOf(saved(), "grad"), HasSubstr("stop-opacity=\"0.5\""));
+    screen().key("ctrl+z");
+    EXPECT_TRUE(eventually([&] { return pixelAt(80, 300) == opaque; }));
+    EXPECT_EQ(saved(), before);
 }
 
 TEST_F(GradientMenuTest, ADragThatIsBrokenOffIsNoStepForUndoOrRedo) {
@@ -200,6 +228,39 @@ TEST_F(GradientMenuTest, StrokesAreReversedInsteadOfFills) {
     EXPECT_EQ(saved(), svg);
 }
 
+TEST_F(GradientMenuTest, StrokesArePickedUpPaintedPlainAndLoseTheirGradient) {
+    std::string svg = contents(drawing());
+    svg.insert(svg.rfind("</svg>"),
+               "<path id=\"line\" d=\"M60 200H560\" stroke=\"url(#s)\" stroke-width=\"12\"/>"
+               "<path d=\"M60 20H560\" stroke=\"#00aa88\" stroke-width=\"12\"/>");
+    svg.insert(svg.find("</defs>"), "<linearGradient id=\"s\" gradientUnits=\"userSpaceOnUse\" x1=\"60\" "
+                                    "x2=\"560\"><stop stop-color=\"#ff0000\"/>"
+                                    "<stop offset=\"1\" stop-color=\"#0000ff\"/></linearGradient>");
+    std::ofstream(drawing()) << svg;
+    startWithDrawing();
+    screen().key("ctrl+shift+d");
+    screen().key("ctrl+shift+i");
+    screen().click(onScreen(310, 200));
+    screen().key("v");
+    select({{310, 20}});
+    screen().key("ctrl+shift+v");
+    EXPECT_TRUE(becomes({66, 24}, 0xff0000));
+    EXPECT_TRUE(becomes({554, 24}, 0x0000ff));
+    screen().key("ctrl+shift+k");
+    waitForDialog("Plain color");
+    screen().key("alt+h");
+    screen().key("ctrl+a");
+    screen().type("#3c78b4");
+    screen().key("Return");
+    EXPECT_TRUE(vanishes("Plain color"));
+    EXPECT_TRUE(becomes({66, 24}, 0x3c78b4));
+    EXPECT_TRUE(becomes({554, 24}, 0x3c78b4));
+    EXPECT_TRUE(getsKeyboard("drawing.svg"));
+    select({{310, 200}});
+    screen().key("ctrl+shift+Delete");
+    EXPECT_TRUE(becomes({554, 204}, 0xff0000));
+}
+
 TEST_F(GradientMenuTest, AnAngleIsTyped) {
     startWithDrawing();
     screen().key("v");
@@ -276,9 +337,9 @@ TEST_F(GradientMenuTest, AGlossyButtonThatIsEditedStaysGlossy) {
     svg.insert(svg.find("</defs>"),
                "<linearGradient id=\"body\" x2=\"0\" y2=\"1\"><stop stop-color=\"#2a6ad0\"/>"
                "<stop offset=\"1\" stop-color=\"#0a2050\"/></linearGradient>"
-               "<linearGradient id=\"gloss\" x2=\"0\" y2=\"1\"><stop stop-color=\"#ffffff\" "
+               "<radialGradient id=\"gloss\" cy=\"0\" r=\"1\"><stop stop-color=\"#ffffff\" "
                "stop-opacity=\".85\"/><stop offset=\"1\" stop-color=\"#ffffff\" stop-opacity=\"0\"/>"
-               "</linearGradient>");
+               "</radialGradient>");
     svg.insert(svg.rfind("</svg>"),
                "<rect id=\"button\" x=\"300\" y=\"60\" width=\"180\" height=\"100\" rx=\"30\" "
                "fill=\"url(#body)\"/><rect id=\"shine\" x=\"310\" y=\"64\" width=\"160\" height=\"46\" "
@@ -288,6 +349,7 @@ TEST_F(GradientMenuTest, AGlossyButtonThatIsEditedStaysGlossy) {
     // Away from the edges, on which the frame of what is selected lies.
     const std::uint32_t body = pixelAt(390, 118);
     const std::uint32_t dull = pixelAt(390, 105);
+    const std::uint32_t side = pixelAt(320, 84);
     EXPECT_LT(difference(pixelAt(390, 69), 0xcbd9f1), 0x18);
     // The white becomes yellow; how far one sees through it stays.
     const Window editor = openEditor(390, 90);
@@ -303,6 +365,8 @@ TEST_F(GradientMenuTest, AGlossyButtonThatIsEditedStaysGlossy) {
     EXPECT_GT(pixelAt(390, 69) >> 16, 0xb8U);
     EXPECT_LT(difference(pixelAt(390, 105), dull), 0x20) << "at its lower end one still sees the button";
     EXPECT_EQ(pixelAt(390, 118), body);
+    constexpr std::uint32_t kRedAndGreen = 0xffff00; // which yellow has as white does
+    EXPECT_LT(difference(pixelAt(320, 84) & kRedAndGreen, side & kRedAndGreen), 4) << "as wide as it was";
     EXPECT_THAT(gradientOf(saved(), "shine"), AllOf(HasSubstr("#ffff00\" stop-opacity=\"0.85\""),
                                                     HasSubstr("#ffffff\" stop-opacity=\"0\"")));
 }

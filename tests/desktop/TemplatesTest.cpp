@@ -100,7 +100,8 @@ class TemplatesTest : public DesktopTest {
         screen().type(begin);
         screen().key("Return");
     }
-    // Whether all of a row of the list has one color, which the rows above and below it have not.
+    // Whether all of a row of the list has one color, other than that of the rows above and below it. Of a
+    // frame the two sides differ.
     static bool hasLine(const Area& rows) {
         const Picture shown = screen().picture();
         const auto isOfOneColor = [&](int y) {
@@ -110,9 +111,9 @@ class TemplatesTest : public DesktopTest {
             return true;
         };
         for (int y = rows.top + 1; y + 1 < rows.bottom; ++y) {
-            const std::uint32_t color = shown.at({rows.left, y});
+            const std::uint32_t ground = shown.at({rows.left, y - 1});
             if (isOfOneColor(y - 1) && isOfOneColor(y) && isOfOneColor(y + 1) &&
-                color != shown.at({rows.left, y - 1}) && color != shown.at({rows.left, y + 1}))
+                shown.at({rows.left, y}) != ground && shown.at({rows.left, y + 1}) == ground)
                 return true;
         }
         return false;
@@ -150,8 +151,9 @@ TEST_F(TemplatesTest, EachHasItsPictureBelowALineAndAHeadingThatCannotBeChosen) 
     const Area picture = waitForColor(kPink);
     EXPECT_GE(picture.width(), 12);
     EXPECT_GE(picture.height(), 12);
-    EXPECT_TRUE(hasLine(
-        {picture.left, editor.content.top + EditorItems::templates.y + 20, picture.left + 100, picture.top}));
+    // The line leaves the margins of its row free.
+    const int top = editor.content.top + EditorItems::templates.y + 20;
+    EXPECT_TRUE(eventually([&] { return hasLine({picture.right, top, picture.right + 80, picture.top}); }));
     // Past the line and the heading; on the heading Return would choose nothing.
     for (const char* key : {"Home", "Down", "Down", "Return"})
         screen().key(key);

@@ -99,6 +99,16 @@ TEST(Play, TheGradientMenuChangesTheRecord) {
     EXPECT_THAT(positionsOf(gradientAfter(uneven + "change fill r even\n")), testing::ElementsAre(0, 0.5, 1));
 }
 
+TEST(Play, AChangeIsOneStepOfOneObject) {
+    const std::string two =
+        kShape + "add rect s 10 10 9 9\ngradient s 1 0 0 0 1 1 0:0,0,0 1:9,9,9\nchange fill s reverse\n";
+    EXPECT_EQ(
+        printed(two + "change fill r opacity 0.5\nprint object s\n")["gradient"].value("opacity", json()),
+        json());
+    const std::string undone = kShape + "change fill r opacity 0.5\nundo\nprint object r\n";
+    EXPECT_EQ(printed(undone)["gradient"], gradientAfter(""));
+}
+
 TEST(Play, AGradientIsCopiedFromFillToStroke) {
     const tests::TemporaryFolder folder;
     tests::writeContent(folder / "in.svg",
@@ -110,6 +120,7 @@ TEST(Play, AGradientIsCopiedFromFillToStroke) {
     EXPECT_EQ(printed(shape + "print stroke r\n")["gradient"], nullptr);
     const json stroke = printed(shape + copy + "print stroke r\n")["gradient"];
     EXPECT_EQ(stroke["stops"], json({{0.0, 65535, 0, 0}, {1.0, 0, 0, 0}}));
+    EXPECT_EQ(printed(shape + "print stroke r\n")["stroke"], "r");
     EXPECT_EQ(printed(shape + copy + "undo\nprint stroke r\n")["gradient"], nullptr);
 }
 
@@ -121,6 +132,7 @@ TEST(Play, RefusesWhatTheGradientMenuDoesNotHave) {
                 HasSubstr("there is no \"spin\" in the gradient menu"));
     EXPECT_THAT(refusal(kShape + "change fill r like stroke r\n"), HasSubstr("has no gradient there"));
     EXPECT_THAT(refusal(kShape + "change fill r reverse twice\n"), HasSubstr("unexpected word"));
+    EXPECT_THAT(refusal(kShape + "change fill r like fill r twice\n"), HasSubstr("unexpected word"));
     EXPECT_THAT(refusal(kShape + "add line l 0 0 9 9\nchange fill l reverse\n"),
                 HasSubstr("takes no gradient there"));
     EXPECT_THAT(refusal(kWindow + "add rect r 1 1 2 2\nprint fit r\n"), HasSubstr("has no gradient"));
@@ -162,6 +174,10 @@ TEST(Play, RemaindersOfOtherPeoplesGradientsArePrinted) {
     ASSERT_EQ(gradient["ellipse"].size(), 4U);
     // Twice as wide as high.
     EXPECT_NEAR(gradient["ellipse"][0].get<double>() / gradient["ellipse"][3].get<double>(), 2, 1e-6);
+    const json circle = printed("open \"" + (folder / "in.svg").string() +
+                                "\"\nchange fill @0 circular\nprint object @0\n")["gradient"];
+    EXPECT_EQ(circle["opacity"], gradient["opacity"]);
+    EXPECT_EQ(circle.value("ellipse", json()), json());
 }
 
 TEST(Play, StateIsPrintedBeforeAnythingHappened) {
