@@ -32,6 +32,31 @@ TEST(MacBinary, ForksBeginAtMultiplesOf128Bytes) {
     EXPECT_EQ(bytes[256], 7);
 }
 
+// The remainder of the bits, with 16 zeros behind them, divided by x^16 + x^12 + x^5 + 1, as long division
+// goes.
+std::uint16_t remainderOf(ByteView bytes) {
+    std::uint32_t remainder = 0;
+    for (std::size_t i = 0; i < bytes.size() * 8 + 16; ++i) {
+        const bool one = i < bytes.size() * 8 && (bytes[i / 8] >> (7 - i % 8) & 1) != 0;
+        remainder = remainder * 2 + (one ? 1 : 0);
+        if (remainder >= 0x10000)
+            remainder ^= 0x11021;
+    }
+    return static_cast<std::uint16_t>(remainder);
+}
+
+TEST(MacBinary, HeadersAreAsTheSecondVersionOfTheFormatHasThem) {
+    const std::string digits = "123456789";
+    ASSERT_EQ(remainderOf(Bytes(digits.begin(), digits.end())), 0x31C3) << "the check value of XMODEM's CRC";
+    const auto bytes = writeMacBinary(sample());
+    const Bytes sizesAndDates(bytes.begin() + 83, bytes.begin() + 99);
+    EXPECT_EQ(sizesAndDates,
+              (Bytes{0, 0, 0, 3, 0, 0, 0, 200, 0xB2, 0xD0, 0x5E, 0x00, 0xB2, 0xD0, 0x5E, 0x00}));
+    EXPECT_EQ(bytes[122], 129);
+    EXPECT_EQ(bytes[123], 129);
+    EXPECT_EQ(bytes[124] * 256 + bytes[125], remainderOf(ByteView(bytes).first(124)));
+}
+
 TEST(MacBinary, EveryChangeOfTheHeaderIsNoticed) {
     auto bytes = writeMacBinary({"x", {}, {}, {}, 0});
     EXPECT_TRUE(readMacBinary(bytes));
