@@ -207,8 +207,11 @@ TEST(PickFilter, IgnoresNumbersBeyondItsBits) {
     runtime::admit(filter, -1);
     runtime::admit(filter, 256);
     EXPECT_EQ(filter, descrimAllOff);
-    runtime::admit(filter, 255);
-    EXPECT_NE(filter, descrimAllOff);
+    for (const int last : {0, 255}) {
+        SelDescrimT one;
+        runtime::admit(one, last);
+        EXPECT_NE(one, descrimAllOff) << last;
+    }
 }
 
 using ObjToPolyTest = tests::HostTest;
