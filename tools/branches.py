@@ -1,25 +1,27 @@
 #!/usr/bin/env python3
-"""Prints which branches tests took, as gcov counted them in a build with coverage.
+"""Prints which branches tests took, file by file and room by room, in a build with coverage by GCC 12.
 
-Branches that only an exception takes do not count, wherever they are: gcov marks them in its JSON, in its text only
-where the line ran. Nor do branches of lines that hold nothing but brackets, which the compiler made for itself, and of
-allocations, which are those of their exceptions. What is compiled several times, as templates and inline functions are,
-counts once: a branch is taken if it is in any of them.
+A branch is one of the ways that the program itself takes from a place where there are several. What only an exception
+takes does not count, nor what lies on its way: the compiler asks there what has been built already and has to be
+destroyed. gcov counts that, and for each call that may throw the way back from it, which is why this reads the graphs
+itself (gcov_graph.py). Nor do branches of lines that hold nothing but brackets count, which the compiler made for
+itself. What is compiled several times, as templates and inline functions are, counts once: a branch is taken if it is
+in any of them.
 
 Usage: tools/branches.py BUILD LEAST FOLDER [--without FOLDER]
 The exit code is 1 if fewer than LEAST percent of the branches below FOLDER are taken.
 """
 
 import argparse
-import json
 import pathlib
 import re
-import subprocess
 import sys
 from collections import defaultdict
 
+from gcov_graph import read_functions
+
 TOP = pathlib.Path(__file__).resolve().parent.parent
-OF_THE_COMPILER = re.compile(r"[\s{}();]*|.*\bnew [A-Z].*")
+OF_THE_COMPILER = re.compile(r"[\s{}();]*")
 WIDTH = 44
 
 
@@ -32,30 +34,37 @@ def arguments():
     return parser.parse_args()
 
 
-def units(build):
-    """What gcov says of each compiled unit that ran."""
-    for counts in sorted(build.rglob("*.gcda")):
-        said = subprocess.run(["gcov", "--json-format", "--stdout", "--branch-probabilities", counts.resolve()], cwd=build,
-                              capture_output=True, text=True, check=True).stdout
-        for line in said.splitlines():
-            yield json.loads(line)
+class Names:
+    """Names of files below the top, of what they are called in a build; none for files that do not count."""
+
+    def __init__(self, asked):
+        self.asked = asked
+        self.known = {}
+
+    def __call__(self, written):
+        if written not in self.known:
+            self.known[written] = self.below_top((self.asked.build / written).resolve())
+        return self.known[written]
+
+    def below_top(self, path):
+        name = str(path.relative_to(TOP)) if path.is_relative_to(TOP) else ""
+        without = self.asked.without
+        counts = name.startswith(self.asked.folder + "/") and not (without and name.startswith(without + "/"))
+        return name if counts else None
 
 
-def is_counted(name, folder, without):
-    return name.startswith(folder + "/") and not (without and name.startswith(without + "/"))
-
-
-def branches(build, folder, without):
-    """How often each branch of each line of each file was taken."""
-    files = defaultdict(lambda: defaultdict(list))
-    for unit in units(build):
-        for file in unit["files"]:
-            name = (build / file["file"]).resolve()
-            if not name.is_relative_to(TOP) or not is_counted(str(name.relative_to(TOP)), folder, without):
-                continue
-            for line in file["lines"]:
-                known = files[str(name.relative_to(TOP))][line["line_number"]]
-                taken = [branch["count"] for branch in line["branches"] if not branch["throw"]]
+def branches(asked):
+    """How often each branch of each function on each line of each file was taken."""
+    name_of = Names(asked)
+    files = defaultdict(lambda: defaultdict(lambda: defaultdict(list)))
+    for counts in sorted(asked.build.rglob("*.gcda")):
+        for function in read_functions(counts):
+            of_lines = defaultdict(list)
+            for (file, line), taken in function.decisions():
+                if name := name_of(file):
+                    of_lines[name, line] += taken
+            for (name, line), taken in of_lines.items():
+                known = files[name][line][function.place]
                 known += [0] * (len(taken) - len(known))
                 for i, count in enumerate(taken):
                     known[i] += count
@@ -67,25 +76,34 @@ def percent(taken, count):
 
 
 def row(name, count, taken, missing=""):
+    # Rounded down: what is printed as 90 percent are 90.
     print(f"{name:{WIDTH}} {count:8} {taken:8} {int(percent(taken, count)):5}%  {missing}".rstrip())
+
+
+def heading(of_what, last=""):
+    print(f"{of_what:{WIDTH}} {'branches':>8} {'taken':>8} {'':6}  {last}".rstrip())
 
 
 def main():
     asked = arguments()
-    count = taken = 0
-    print(f"{'file':{WIDTH}} {'branches':>8} {'taken':>8} {'':6}  lines with a branch that no test takes")
-    for name, lines in sorted(branches(asked.build, asked.folder, asked.without).items()):
+    rooms = defaultdict(lambda: [0, 0])
+    heading("file", "lines with a branch that no test takes")
+    for name, lines in sorted(branches(asked).items()):
         source = (TOP / name).read_text().splitlines()
-        own = {number: counts for number, counts in sorted(lines.items())
+        own = {number: sum(functions.values(), []) for number, functions in sorted(lines.items())
                if not OF_THE_COMPILER.fullmatch(source[number - 1])}
-        of_file = sum(len(counts) for counts in own.values())
-        taken_of_file = sum(1 for counts in own.values() for each in counts if each > 0)
-        if of_file:
-            row(name, of_file, taken_of_file, ",".join(str(number) for number, counts in own.items() if 0 in counts))
-        count += of_file
-        taken += taken_of_file
-    row("all", count, taken)
-    return 1 if percent(taken, count) < asked.least else 0
+        count = sum(len(counts) for counts in own.values())
+        taken = sum(1 for counts in own.values() for each in counts if each > 0)
+        if count:
+            row(name, count, taken, ",".join(str(number) for number, counts in own.items() if 0 in counts))
+        for room in (str(pathlib.Path(name).parent), "all"):
+            rooms[room][0] += count
+            rooms[room][1] += taken
+    print()
+    heading("room")
+    for room in sorted(rooms, key=lambda room: (room == "all", room)):
+        row(room, *rooms[room])
+    return 1 if percent(rooms["all"][1], rooms["all"][0]) < asked.least else 0
 
 
 if __name__ == "__main__":
