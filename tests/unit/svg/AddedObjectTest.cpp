@@ -102,6 +102,38 @@ TEST(AddedObjects, KeepOpacitiesAndTheOrderOfPainting) {
     EXPECT_THAT(writtenWith(faint), HasSubstr("fill=\"none\""));
 }
 
+TEST(AddedObjects, StateTheOpacityOfTheirFillWhereItIsNotFull) {
+    Object object = rectangle();
+    EXPECT_THAT(writtenWith(object), Not(HasSubstr("opacity")));
+    Style style;
+    style.fillOpacity = 0;
+    object.style = std::make_shared<const Style>(style);
+    EXPECT_THAT(writtenWith(object), HasSubstr(" fill-opacity=\"0\""));
+    style.fillOpacity = 0.5;
+    object.style = std::make_shared<const Style>(style);
+    object.fill = ColorPaint{{65535, 0, 0}, 0.25};
+    EXPECT_THAT(writtenWith(object), HasSubstr(" fill-opacity=\"0.125\""));
+}
+
+TEST(AddedObjects, StateTheOpacityOfTheirStrokeWhereItIsNotFull) {
+    Stroke stroke = redStroke();
+    EXPECT_THAT(writtenWith(strokedWith(stroke)), Not(HasSubstr("opacity")));
+    stroke.opacity = 0;
+    EXPECT_THAT(writtenWith(strokedWith(stroke)), HasSubstr(" stroke-opacity=\"0\""));
+    stroke.opacity = 0.5;
+    stroke.paint = ColorPaint{{65535, 0, 0}, 0.25};
+    EXPECT_THAT(writtenWith(strokedWith(stroke)), HasSubstr(" stroke-opacity=\"0.125\""));
+    stroke.paint = std::make_shared<const Gradient>();
+    EXPECT_THAT(writtenWith(strokedWith(stroke)), HasSubstr(" stroke-opacity=\"0.5\""));
+    stroke.opacity = 1;
+    EXPECT_THAT(writtenWith(strokedWith(stroke)), Not(HasSubstr("stroke-opacity")));
+}
+
+TEST(AddedObjects, WithRoundedCornersStateBothRadii) {
+    EXPECT_THAT(writtenWith(rectangle(roundedRectanglePath({10, 20, 50, 100}, 4, 8))),
+                HasSubstr(" x=\"10\" y=\"20\" width=\"40\" height=\"80\" rx=\"4\" ry=\"8\""));
+}
+
 TEST(AddedObjects, OfAnOutlineThatTheirElementCannotSayArePaths) {
     const Box box{10, 20, 40, 60};
     Path almostRounded = roundedRectanglePath(box, 4, 2);

@@ -261,6 +261,39 @@ TEST(SvgWriter, AddedObjectsGoBeforeTheRootsEndInItsUnits) {
     }
 }
 
+TEST(SvgWriter, OfTwoCopiesOfAnObjectTheFirstKeepsItsElement) {
+    const std::string element = "<rect id='a' width='9' height='9' fill='red'/>";
+    Drawing drawing = readOk(svgFile(element));
+    Object copy = *drawing.object(0);
+    copy.outline = rectanglePath({20, 0, 29, 9});
+    drawing.insert(1, sealed(copy));
+    giveGradient(drawing, 1, oddRecord());
+    const std::string bytes = toBytes(drawing);
+    EXPECT_NE(bytes.find(element), std::string::npos) << bytes;
+    const Drawing again = readOk(bytes);
+    ASSERT_EQ(again.size(), 2U);
+    EXPECT_EQ(again.object(0)->bounds, (Box{0, 0, 9, 9}));
+    EXPECT_EQ(again.object(1)->bounds, (Box{20, 0, 29, 9}));
+    EXPECT_FALSE(recordOf(again, 0));
+    EXPECT_TRUE(recordOf(again, 1));
+}
+
+TEST(SvgWriter, ItsLinesEndAsTheFirstOneOfTheFileDoes) {
+    const auto afterTheRoot = [](const std::string& before, const std::string& after) {
+        Drawing drawing = readOk(
+            before + "<svg xmlns='http://www.w3.org/2000/svg'><rect width='9' height='9'/></svg>" + after);
+        giveGradient(drawing, 0, oddRecord());
+        const std::string bytes = toBytes(drawing);
+        const std::size_t begin = bytes.find('>', bytes.find("<svg")) + 1;
+        return bytes.substr(begin, bytes.find('<', begin) - begin);
+    };
+    EXPECT_EQ(afterTheRoot("", ""), "\n") << "there is none yet";
+    EXPECT_EQ(afterTheRoot("", "\r\n"), "\r\n");
+    EXPECT_EQ(afterTheRoot("\n", "\r\n"), "\n");
+    EXPECT_EQ(afterTheRoot("\r\n", "\n"), "\r\n");
+    EXPECT_EQ(afterTheRoot(" \n", ""), "\n");
+}
+
 TEST(SvgWriter, SavingMarksTheDrawingSavedAndAFailureLeavesItDirty) {
     const tests::TemporaryFolder folder;
     Drawing drawing = readOk(kUntidy);
