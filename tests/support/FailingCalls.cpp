@@ -109,6 +109,10 @@ int fchmod(int file, mode_t mode) noexcept {
     return fails("fchmod") ? -1 : static_cast<int>(::syscall(SYS_fchmod, file, mode));
 }
 
+ssize_t pread(int file, void* bytes, size_t count, off_t from) {
+    return fails("pread") ? -1 : ::syscall(SYS_pread64, file, bytes, count, from);
+}
+
 ssize_t write(int file, const void* bytes, size_t count) {
     return fails("write") ? -1 : ::syscall(SYS_write, file, bytes, count);
 }

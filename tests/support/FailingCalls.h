@@ -5,9 +5,9 @@
 
 namespace tests {
 
-// While it exists, calls of this thread that change files or open them fail, none of them with any effect.
-// Programs that use it compile tests/support/FailingCalls.cpp, which takes the place of link, unlink, rename,
-// open, mkdir, write, fsync, syncfs, flock, fchown and fchmod.
+// While it exists, calls of this thread that change files, open them or read from a place in them fail, none
+// of them with any effect. Programs that use it compile tests/support/FailingCalls.cpp, which takes the place
+// of link, unlink, rename, open, mkdir, pread, write, fsync, syncfs, flock, fchown and fchmod.
 class FailingCalls {
   public:
     // The call with this number fails, counted from 1, and no other.

@@ -135,6 +135,40 @@ TEST(AppleDouble, TheBeginningOfAFileTellsItsTypeOrHowMuchMoreToRead) {
     FAIL() << "never found";
 }
 
+TEST(AppleDouble, TypeAndCreatorTakeEightBytesOfTheFinderInfo) {
+    const auto infoIn = [](const std::string& entry) {
+        return AppleDouble::read(handMade(AppleDouble::kVersion2, {{9, entry}}, "0123456789abcdef"))
+            .value()
+            .finderInfo();
+    };
+    EXPECT_EQ(infoIn("GTMP*Kst"), kInfo);
+    EXPECT_EQ(infoIn("GTMP*Ks"), FinderInfo{});
+}
+
+TEST(AppleDouble, EntriesMayShareBytesAsLongAsAllOfThemFitIntoTheFile) {
+    auto bytes = handMade(AppleDouble::kVersion2, {{2, "fork"}, {4, ""}}, "0123456789abcdef");
+    setNumber(bytes, 26 + 4, std::uint32_t{0});
+    setNumber(bytes, 26 + 8, static_cast<std::uint32_t>(bytes.size()));
+    EXPECT_TRUE(AppleDouble::read(bytes));
+    setNumber(bytes, 38 + 8, std::uint32_t{1});
+    EXPECT_EQ(tests::errorOf(AppleDouble::read(bytes)), HeaderDamage::EntriesOverlap);
+}
+
+TEST(AppleDouble, ABeginningThatEndsInItsTableAsksForTheWholeTable) {
+    using Answer = FinderInfoPlace::Answer;
+    const auto whole =
+        handMade(AppleDouble::kVersion2, {{2, "fork"}, {3, "n"}, {9, kFinderEntry}}, "0123456789abcdef");
+    const std::size_t tableEnd = 26 + 3 * 12;
+    // The data of the last entry come first, behind five bytes that belong to nothing.
+    const std::size_t infoEnd = tableEnd + 5 + 32;
+    for (std::size_t size = 26; size < infoEnd; ++size) {
+        const auto place = findFinderInfo(ByteView(whole).first(size));
+        EXPECT_EQ(place.answer, Answer::ReadMore) << size;
+        EXPECT_EQ(place.needed, size < tableEnd ? tableEnd : infoEnd) << size;
+    }
+    EXPECT_EQ(findFinderInfo(ByteView(whole).first(infoEnd)).info, kInfo);
+}
+
 TEST(AppleDouble, RandomDamageNeverReadsOutOfBounds) {
     std::mt19937 random(3);
     const auto whole = handMade(AppleDouble::kVersion2, {{2, "fork"}, {9, kFinderEntry}}, "0123456789abcdef");

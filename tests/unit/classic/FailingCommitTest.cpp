@@ -63,12 +63,13 @@ class FailingCommit : public testing::TestWithParam<const char*> {};
 
 TEST_P(FailingCommit, AReplacedFileIsTheOldOrTheNewOneAndTheOldOneIsNeverLost) {
     withEachCallFailing(GetParam(), EPERM, [](Stage& stage, auto failing) {
-        dropFile(stage.folder, "a.GRD", "old");
+        dropFile(stage.folder, "a.GRD", "old", tests::kTemplateType, "data");
         const auto done = failing([&] { return writePair(stage.pair(), headerWith("new"), stage.trash); });
         const std::string kept = keptIn(stage.folder, "a.GRD");
         EXPECT_TRUE(kept == "new" || kept == "old") << kept;
         if (done) {
             EXPECT_EQ(kept, "new");
+            EXPECT_EQ(tests::contentOf(stage.folder / "a.GRD"), "");
         }
         if (kept == "new") {
             EXPECT_EQ(stage.inTrash(), "old");

@@ -173,6 +173,51 @@ TEST(ResourceFork, EveryKindOfDamageIsNamed) {
     EXPECT_EQ(damageWhen(256, std::uint32_t{500}), ForkDamage::ResourcesOverlap);
 }
 
+TEST(ResourceFork, AListThatEndsBeyondTheMapIsDamage) {
+    // The map takes the bytes from 16 to 108, its type list begins at 44, and TMPL has one reference of 12
+    // bytes.
+    constexpr std::size_t kOffsetOfTemplates = 60;
+    auto bytes = handMadeFile();
+    setNumber(bytes, kOffsetOfTemplates, std::uint16_t{108 - 44 - 11});
+    EXPECT_EQ(tests::errorOf(ResourceFork::read(bytes)), ForkDamage::ListOutside)
+        << "its last byte is outside";
+    setNumber(bytes, kOffsetOfTemplates, std::uint16_t{108 - 44 + 1});
+    EXPECT_EQ(tests::errorOf(ResourceFork::read(bytes)), ForkDamage::ListOutside) << "all of it is outside";
+}
+
+// Two types with one list of so many references to empty resources. The map is as small as that can be.
+Bytes fileWithSharedReferences(std::uint16_t references) {
+    const std::uint32_t dataSize = 2U * 4U * references;
+    const std::uint32_t mapSize = 28U + 2U + 2U * 8U + 12U * references;
+    Bytes file;
+    for (const std::uint32_t number : {16U, 16U + dataSize, dataSize, mapSize})
+        putNumber(file, number);
+    file.resize(file.size() + dataSize + 24);
+    putNumber(file, std::uint16_t{28});
+    putNumber(file, static_cast<std::uint16_t>(mapSize));
+    putNumber(file, std::uint16_t{1}); // two types
+    for (const std::uint32_t type : {kString, kTemplate}) {
+        putNumber(file, type);
+        putNumber(file, static_cast<std::uint16_t>(references - 1));
+        putNumber(file, std::uint16_t{18}); // both lists are the one behind the types
+    }
+    for (std::uint16_t id = 0; id < references; ++id) {
+        putNumber(file, id);
+        putNumber(file, std::uint16_t{0xFFFF});
+        putNumber(file, std::uint32_t{4U * id});
+        putNumber(file, std::uint32_t{0});
+    }
+    return file;
+}
+
+TEST(ResourceFork, TypesMayShareReferencesAsLongAsTheMapWouldHaveRoomForAllOfThem) {
+    // References take 12 bytes: 82 bytes of a map have room for 6, and 94 for 7.
+    const auto fork = ResourceFork::read(fileWithSharedReferences(3));
+    ASSERT_TRUE(fork);
+    EXPECT_EQ(fork->resources().size(), 6U);
+    EXPECT_EQ(tests::errorOf(ResourceFork::read(fileWithSharedReferences(4))), ForkDamage::ListOutside);
+}
+
 TEST(ResourceFork, RandomDamageNeverReadsOutOfBounds) {
     std::mt19937 random(7);
     const auto whole = *sample().write();
