@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 namespace easel::runtime {
 namespace {
 
@@ -15,30 +17,32 @@ constexpr int kLeft = 100;
 constexpr int kWidth = 400;
 constexpr int kMarks = 50; // vertically
 
-int pixelOf(double position) {
-    return kLeft + static_cast<int>(kWidth * position);
+int pixelOf(double position, int width = kWidth) {
+    return kLeft + static_cast<int>(width * position);
 }
 
-// A ramp from 100 to 500 with marks below it, and what the ends need beyond the stops that there are.
-DialogItem rampOf(const std::vector<double>& positions, std::size_t active) {
+// A ramp from 100 to 500, or as wide as is said, with marks below it, and what the ends need beyond the stops
+// that there are.
+DialogItem rampOf(const std::vector<double>& positions, std::size_t active, int width = kWidth) {
     DialogItem item;
     item.kind = ItemKind::UserDrawn;
     CGradientData record;
     record.SetStart({kLeft, 40});
-    record.SetEnd({kLeft + kWidth, 40});
+    record.SetEnd({static_cast<double>(kLeft + width), 40});
     record.ColorList().clear();
     if (positions.front() > 0)
         record.ColorList().emplace_back(RGBColor{1, 1, 1}, 0);
     for (const double position : positions) {
         record.ColorList().emplace_back(RGBColor{static_cast<std::uint16_t>(1000 * position), 0, 0},
                                         position);
-        item.content.framedMark({pixelOf(position), kMarks});
+        item.content.framedMark({pixelOf(position, width), kMarks});
     }
     if (positions.back() < 1)
         record.ColorList().emplace_back(RGBColor{2, 2, 2}, 1);
-    item.content.gradient = ShownGradient{{.left = kLeft, .top = 30, .right = 500, .bottom = 50}, record};
-    item.content.paintedMark({pixelOf(positions[active]), kMarks});
-    item.content.framedMark({pixelOf(positions[active]), kMarks});
+    item.content.gradient =
+        ShownGradient{{.left = kLeft, .top = 30, .right = kLeft + width, .bottom = 50}, record};
+    item.content.paintedMark({pixelOf(positions[active], width), kMarks});
+    item.content.framedMark({pixelOf(positions[active], width), kMarks});
     return item;
 }
 
@@ -58,6 +62,55 @@ TEST(StopRamp, TheMarksTellTheStopsFromThoseThatFillTheEnds) {
         EXPECT_EQ(ramp->stops()[ramp->active()].position, positions[1]);
     }
     EXPECT_EQ(StopRamp::in(rampOf({0.25, 0.5}, 0))->stops()[0].color, (drawing::Rgb16{250, 0, 0}));
+}
+
+TEST(StopRamp, EachMarkHasAPartInTellingTheStopsFromThoseThatFillTheEnds) {
+    // Without the first mark the stop at the start could be the first one, and without the others too: it
+    // lies in the pixel of the second ramp's first stop.
+    for (const std::vector<double>& positions : {std::vector{0.5, 0.5}, {1.0 / 1024, 0.5}})
+        EXPECT_EQ(positionsOf(*StopRamp::in(rampOf(positions, 0))), positions);
+}
+
+TEST(StopRamp, WhatIsNoRampHasNoStops) {
+    const DialogItem whole = rampOf({0.25, 0.5}, 0);
+    ASSERT_TRUE(StopRamp::in(whole));
+    DialogItem item = whole;
+    item.content.gradient.reset();
+    EXPECT_FALSE(StopRamp::in(item)) << "no gradient";
+    item = whole;
+    item.content.marks.clear();
+    EXPECT_FALSE(StopRamp::in(item)) << "no marks";
+    item = whole;
+    item.content.filledMark.reset();
+    EXPECT_FALSE(StopRamp::in(item)) << "no mark of the active stop";
+    item = whole;
+    item.content.gradient->record.ColorList().emplace_back(RGBColor{}, 1);
+    EXPECT_FALSE(StopRamp::in(item)) << "three stops more than marks, and a ramp has two ends";
+    item.content.gradient->record.ColorList().clear();
+    item.content.gradient->record.ColorList().emplace_back(RGBColor{}, 1);
+    EXPECT_FALSE(StopRamp::in(item)) << "fewer stops than marks";
+}
+
+TEST(StopRamp, StopsGoFromLeftToRightAndInOnePlaceAsTheRecordHasThem) {
+    DialogItem item = rampOf({0, 0.75, 0.25, 0.25, 1}, 0);
+    auto& colors = item.content.gradient->record.ColorList();
+    std::next(colors.begin(), 2)->SetColor({7, 7, 7});
+    std::next(colors.begin(), 3)->SetColor({8, 8, 8});
+    const StopRamp ramp = *StopRamp::in(item);
+    EXPECT_EQ(positionsOf(ramp), (std::vector{0.0, 0.25, 0.25, 0.75, 1.0}));
+    EXPECT_EQ(ramp.stops()[1].color, (drawing::Rgb16{7, 7, 7}));
+    EXPECT_EQ(ramp.stops()[2].color, (drawing::Rgb16{8, 8, 8}));
+}
+
+TEST(StopRamp, APositionIsAPixelBetweenTheEndsOfTheRamp) {
+    const StopRamp ramp = *StopRamp::in(rampOf({0.25, 0.5}, 0));
+    EXPECT_EQ(ramp.left(), 100);
+    EXPECT_EQ(ramp.right(), 500);
+    EXPECT_EQ(ramp.pixelAt(0), 100);
+    EXPECT_EQ(ramp.pixelAt(0.75), 400);
+    EXPECT_EQ(ramp.pixelAt(1), 500);
+    EXPECT_EQ(ramp.pixelAt(-0.5), 100);
+    EXPECT_EQ(ramp.pixelAt(1.5), 500);
 }
 
 TEST(StopRamp, WithoutMarksThereAreNoStops) {
@@ -80,6 +133,19 @@ TEST(StopRamp, AStopIsTakenWhereItIsTheNearest) {
     EXPECT_TRUE(ramp.choose(2)->way.empty());
 }
 
+TEST(StopRamp, AStopBetweenPixelsIsTakenOnTheSideWhereNoOtherIsNearer) {
+    // The stops lie in eighths of a pixel, 200 pixels from the start.
+    const auto pressOf = [](double one, double other, std::size_t stop) {
+        return StopRamp::in(rampOf({0, (200 + one) / 1024, (200 + other) / 1024, 1}, 0, 1024))
+            ->choose(stop)
+            ->press.h;
+    };
+    EXPECT_EQ(pressOf(0.125, 0.375, 1), 300);
+    EXPECT_EQ(pressOf(0.125, 0.375, 2), 301) << "pixel 300 is nearer to the first";
+    EXPECT_EQ(pressOf(0.625, 0.875, 1), 300) << "pixel 301 is nearer to the second";
+    EXPECT_EQ(pressOf(0.625, 0.875, 2), 301);
+}
+
 TEST(StopRamp, OfTwoStopsInOnePlaceOnlyTheFirstIsTaken) {
     const StopRamp ramp = *StopRamp::in(rampOf({0, 0.5, 0.5, 1}, 1));
     EXPECT_TRUE(ramp.choose(1));
@@ -87,6 +153,7 @@ TEST(StopRamp, OfTwoStopsInOnePlaceOnlyTheFirstIsTaken) {
     EXPECT_EQ(ramp.chooseBeside(1)->press.h, 500) << "the next that can be taken";
     EXPECT_EQ(ramp.chooseBeside(-1)->press.h, 100);
     EXPECT_FALSE(StopRamp::in(rampOf({0, 1}, 1))->chooseBeside(1));
+    EXPECT_FALSE(StopRamp::in(rampOf({0, 1}, 0))->chooseBeside(-1));
 }
 
 TEST(StopRamp, AMoveIsADragThatEndsWhereTheStopCanBeTakenAgain) {
@@ -102,6 +169,8 @@ TEST(StopRamp, AMoveIsADragThatEndsWhereTheStopCanBeTakenAgain) {
     EXPECT_EQ(ramp.move(2, 300, -1)->way.back().h, 299);
     EXPECT_EQ(StopRamp::in(rampOf({0, 0.25, 0.25, 0.75, 1}, 3))->move(3, 150, -1)->way.back().h, 150)
         << "past two in one place";
+    EXPECT_EQ(StopRamp::in(rampOf({0, 0.25, 0.5, 0.75, 1}, 3))->move(3, 200, -1)->way.back().h, 199)
+        << "beside the stop that lies there and comes first";
     EXPECT_FALSE(ramp.move(1, 100, -1)) << "there is nothing further to the left";
 }
 
@@ -120,6 +189,23 @@ TEST(StopRamp, ANewStopLiesBehindTheActiveOneOrInTheWidestSpace) {
     for (int i = 0; i <= 20; ++i)
         many.push_back(i / 20.0);
     EXPECT_FALSE(StopRamp::in(rampOf(many, 3))->add());
+}
+
+TEST(StopRamp, TheSpaceForANewStopMayReachToEitherEndOfTheRamp) {
+    EXPECT_EQ(StopRamp::in(rampOf({0.25, 0.5}, 1))->add()->press.h, 400) << "behind the last stop";
+    EXPECT_EQ(StopRamp::in(rampOf({0.75, 0.875, 1}, 2))->add()->press.h, 250) << "before the first one";
+    EXPECT_EQ(StopRamp::in(rampOf({0, 0.03125, 0.25}, 0))->add()->press.h, 350) << "the widest is the last";
+}
+
+TEST(StopRamp, ANewStopIsOutOfReachOfBothNeighbors) {
+    std::vector<double> sixteenths;
+    for (int i = 0; i <= 16; ++i)
+        sixteenths.push_back(i / 16.0);
+    // A press 10 pixels from a stop no longer takes hold of it, and half a pixel may be lost at either side.
+    const auto gesture = StopRamp::in(rampOf(sixteenths, 3, 16 * 22))->add();
+    ASSERT_TRUE(gesture);
+    EXPECT_EQ(gesture->press.h, kLeft + 3 * 22 + 11);
+    EXPECT_FALSE(StopRamp::in(rampOf(sixteenths, 3, 16 * 21))->add());
 }
 
 TEST(StopRamp, AStopIsPulledOffUnlessThereAreOnlyTwo) {
