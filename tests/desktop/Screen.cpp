@@ -65,6 +65,8 @@ Screen::Screen(const std::string& outputFolder, const std::string& size)
     int minor = XkbMinorVersion;
     XkbQueryExtension(display_, &opcode, &bellEvent_, &error, &major, &minor);
     XkbSelectEvents(display_, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
+    // On a busy machine a key may be down for long before the test gets to let it go.
+    XAutoRepeatOff(display_);
     listener_ = XCreateSimpleWindow(display_, DefaultRootWindow(display_), 0, 0, 1, 1, 0, 0, 0);
     manager_ = std::make_unique<Process>(std::vector<std::string>{"openbox", "--sm-disable", "--config-file",
                                                                   SOURCE_DIR "/tests/desktop/openbox.xml"},
