@@ -11,9 +11,23 @@ std::string lowerCase(std::string_view text) {
     return lower;
 }
 
+namespace {
+
+bool isSameLetter(char a, char b) {
+    return lowerCase(a) == lowerCase(b);
+}
+
+} // namespace
+
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return lowerCase(x) == lowerCase(y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), isSameLetter);
+}
+
+std::size_t findIgnoringCase(std::string_view text, std::string_view wanted) {
+    const auto* const found =
+        std::search(text.begin(), text.end(), wanted.begin(), wanted.end(), isSameLetter);
+    const bool isThere = found != text.end() || wanted.empty();
+    return isThere ? static_cast<std::size_t>(found - text.begin()) : std::string_view::npos;
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -23,6 +23,8 @@ inline bool isLetter(char c) {
 
 std::string lowerCase(std::string_view text);
 bool equalIgnoringCase(std::string_view a, std::string_view b);
+// Where `wanted` first stands in the text, whatever its case; npos if nowhere.
+std::size_t findIgnoringCase(std::string_view text, std::string_view wanted);
 // Without the blanks at either end.
 std::string_view trimmed(std::string_view text);
 

@@ -167,7 +167,7 @@ void TextContentReader::addDecorations(Level& level, const StatedStyle& stated) 
         {"line-through", type::LineKind::Strikethrough}};
     for (const auto& [word, kind] : kLines)
         for (const Property property : {Property::TextDecoration, Property::TextDecorationLine})
-            if (stated[property].find(word) != std::string_view::npos)
+            if (findIgnoringCase(stated[property], word) != std::string_view::npos)
                 level.decorations.push_back({kind, 0, nullptr, 0, 0});
 }
 

@@ -43,9 +43,12 @@ void Cascade::addSheet(pugi::xml_node styleElement) {
     std::string text;
     for (const pugi::xml_node part : styleElement.children())
         text += part.value();
-    sheetsStateFill_ = sheetsStateFill_ || text.find("fill") != std::string::npos;
-    sheetsStateStroke_ = sheetsStateStroke_ || text.find("stroke") != std::string::npos;
-    sheetsImport_ = sheetsImport_ || text.find("@import") != std::string::npos;
+    const auto names = [&text](std::string_view word) {
+        return findIgnoringCase(text, word) != std::string_view::npos;
+    };
+    sheetsStateFill_ = sheetsStateFill_ || names("fill");
+    sheetsStateStroke_ = sheetsStateStroke_ || names("stroke");
+    sheetsImport_ = sheetsImport_ || names("@import");
     sheet_.add(text, media_);
 }
 

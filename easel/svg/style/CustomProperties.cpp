@@ -20,6 +20,16 @@ constexpr std::size_t kMostScopes = 10'000;
 
 constexpr std::string_view kFunction = "var(";
 
+// Where the function next stands in the value, else the value's end. Path data, the longest values, have no
+// brackets.
+std::size_t findFunction(std::string_view value) {
+    constexpr std::size_t kBefore = kFunction.size() - 1;
+    for (std::size_t at = value.find('('); at != std::string_view::npos; at = value.find('(', at + 1))
+        if (at >= kBefore && equalIgnoringCase(value.substr(at - kBefore, kFunction.size()), kFunction))
+            return at - kBefore;
+    return value.size();
+}
+
 const Declaration* find(const std::vector<Declaration>& own, std::string_view name) {
     const Declaration* found = nullptr;
     for (const Declaration& declaration : own)
@@ -53,7 +63,7 @@ class Replacement {
 
     bool append(std::string_view value, int depth) {
         while (true) {
-            const std::size_t begin = std::min(value.find(kFunction), value.size());
+            const std::size_t begin = findFunction(value);
             result_ += value.substr(0, begin);
             if (result_.size() > kLongest)
                 return false;
@@ -92,7 +102,7 @@ bool isCustomProperty(std::string_view name) {
 }
 
 bool asksForCustomProperty(std::string_view value) {
-    return value.find(kFunction) != std::string_view::npos;
+    return findFunction(value) != value.size();
 }
 
 const CustomProperties* CustomValues::add(const CustomProperties* outer, std::vector<Declaration> own) {

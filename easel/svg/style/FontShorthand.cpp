@@ -4,6 +4,7 @@
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
+#include <string>
 
 namespace easel::svg {
 
@@ -17,7 +18,8 @@ std::string_view FontStatements::*statementOf(std::string_view word) {
         return &FontStatements::variant;
     if (isOneOf(word, {"bold", "bolder", "lighter"}))
         return &FontStatements::weight;
-    if (word.ends_with("condensed") || word.ends_with("expanded"))
+    const std::string lower = text::lowerCase(word);
+    if (lower.ends_with("condensed") || lower.ends_with("expanded"))
         return &FontStatements::stretch;
     const bool isNumber = !word.empty() && std::all_of(word.begin(), word.end(), text::isDigit);
     return isNumber ? &FontStatements::weight : nullptr;

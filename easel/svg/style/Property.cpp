@@ -98,6 +98,12 @@ std::optional<Property> propertyFromName(std::string_view name) {
     return found == kByName.end() ? std::nullopt : std::optional(found->second);
 }
 
+std::optional<Property> propertyFromDeclaration(std::string_view name) {
+    const bool inSmallLetters =
+        std::all_of(name.begin(), name.end(), [](char c) { return text::lowerCase(c) == c; });
+    return inSmallLetters ? propertyFromName(name) : propertyFromName(text::lowerCase(name));
+}
+
 void StatedStyle::set(Property property, std::string_view value, Importance importance) {
     const auto i = static_cast<std::size_t>(property);
     if (important_[i] && importance == Importance::Normal)

@@ -90,7 +90,10 @@ inline constexpr std::size_t kPropertyCount = 72;
 // From here on they are of text.
 inline constexpr Property kFirstOfText = Property::AlignmentBaseline;
 
+// As XML writes it: in small letters.
 std::optional<Property> propertyFromName(std::string_view name);
+// As style sheets write it: in letters of either case.
+std::optional<Property> propertyFromDeclaration(std::string_view name);
 
 // The values that attributes, style sheets and the style attribute give an element, the strongest for each
 // property. They point into the file's text or what the cascade keeps.

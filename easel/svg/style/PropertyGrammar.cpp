@@ -30,7 +30,7 @@ bool isNoneOrFunction(std::string_view text) {
 
 bool isDisplay(std::string_view text) {
     const std::string_view first = text.substr(0, text.find(' '));
-    return first.starts_with("inline-") || first.starts_with("table-") ||
+    return findIgnoringCase(first, "inline-") == 0 || findIgnoringCase(first, "table-") == 0 ||
            isOneOf(first, {"none", "inline", "block", "list-item", "run-in", "compact", "marker", "table",
                            "contents", "flex", "grid", "flow", "flow-root", "ruby"});
 }
@@ -154,7 +154,7 @@ bool isValueOf(Property property, std::string_view text) {
 }
 
 void declare(StatedStyle& style, const Declaration& declaration) {
-    const auto property = propertyFromName(declaration.name);
+    const auto property = propertyFromDeclaration(declaration.name);
     if (!property)
         return;
     // A value that is none changes nothing where nothing else is stated, and is looked at only where it

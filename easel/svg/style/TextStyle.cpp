@@ -182,7 +182,7 @@ TextStyle TextStyle::inherited(const StatedStyle& stated, const LengthContext& l
     read(stated, Property::FontStyle, &TextStyle::slant, style, parseSlant);
     read(stated, Property::FontStretch, &TextStyle::stretch, style, parseStretch);
     read(stated, Property::FontVariant, &TextStyle::smallCaps, style, [](std::string_view text) {
-        return std::optional(text.find("small-caps") != std::string_view::npos);
+        return std::optional(findIgnoringCase(text, "small-caps") != std::string_view::npos);
     });
     read(stated, Property::LetterSpacing, &TextStyle::letterSpacing, style, spacing);
     read(stated, Property::WordSpacing, &TextStyle::wordSpacing, style, spacing);

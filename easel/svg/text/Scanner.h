@@ -9,6 +9,7 @@
 namespace easel::svg {
 
 using text::equalIgnoringCase;
+using text::findIgnoringCase;
 using text::isSpace;
 using text::trimmed;
 

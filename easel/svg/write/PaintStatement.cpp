@@ -1,6 +1,7 @@
 #include "easel/svg/write/PaintStatement.h"
 
 #include "easel/svg/style/Css.h"
+#include "easel/svg/text/Scanner.h"
 
 #include <array>
 #include <utility>
@@ -25,8 +26,9 @@ std::string withoutPlainReferences(std::string_view style) {
 const Declaration* strongest(const std::vector<Declaration>& declarations, std::string_view property) {
     const Declaration* strongest = nullptr;
     for (const Declaration& declaration : declarations)
-        if (declaration.name == property && (!strongest || declaration.importance == Importance::Important ||
-                                             strongest->importance == Importance::Normal))
+        if (equalIgnoringCase(declaration.name, property) &&
+            (!strongest || declaration.importance == Importance::Important ||
+             strongest->importance == Importance::Normal))
             strongest = &declaration;
     return strongest;
 }

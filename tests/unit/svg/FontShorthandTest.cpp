@@ -21,6 +21,7 @@ TEST(FontShorthand, StatesWhatItNamesAndResetsTheRest) {
     EXPECT_EQ(plain.size, "1em");
     EXPECT_EQ(parseFont("bolder ultra-expanded 9pt x").stretch, "ultra-expanded");
     EXPECT_EQ(parseFont("bolder ultra-expanded 9pt x").weight, "bolder");
+    EXPECT_EQ(parseFont("CONDENSED 9pt x").stretch, "CONDENSED");
 }
 
 TEST(FontShorthand, TheHeightOfALineMayStandApartFromItsSlash) {

@@ -29,7 +29,7 @@ const Grammar kGrammars[] = {
     {"stroke-width", {"0", "2%", "3mm"}, {"-1", "thin", "1furlong"}},
     {"paint-order", {"normal", "stroke fill"}, {"last"}},
     {"visibility", {"visible", "hidden", "collapse"}, {"none"}},
-    {"display", {"none", "inline-block", "block flow", "table-cell"}, {"no", "invisible", "none-such"}},
+    {"display", {"none", "inline-block", "block flow", "Table-Cell"}, {"no", "invisible", "none-such"}},
     {"overflow", {"visible", "hidden scroll"}, {"show"}},
     {"isolation", {"auto", "isolate"}, {"isolated"}},
     {"mix-blend-mode", {"Multiply", "plus-lighter", "color-dodge"}, {"add"}},
@@ -82,7 +82,7 @@ TEST(PropertyGrammar, ValuesBeatEarlierOnesAndMistakesDoNot) {
 
 TEST(PropertyGrammar, WordsOfEveryPropertyAndWhatIsFoundOutLaterAreValues) {
     for (const Grammar& grammar : kGrammars)
-        for (const char* word : {"inherit", "initial", "UNSET", "revert", "var(--x)"})
+        for (const char* word : {"inherit", "initial", "UNSET", "revert", "var(--x)", "VAR(--x)"})
             EXPECT_EQ(stronger(grammar.property, grammar.values[0], word), word) << grammar.property;
 }
 

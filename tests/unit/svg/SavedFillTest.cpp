@@ -48,6 +48,16 @@ TEST(SavedFill, IsStrongerThanASheetEvenInAStyleThatDoesNotEnd) {
               recordText(someRecord()));
 }
 
+TEST(SavedFill, TakesThePlaceOfOneInCapitals) {
+    Drawing drawing = readOk(rectangleWith("style='Stroke:red;FILL : Lime;opacity:1'"));
+    giveGradient(drawing, 0, someRecord());
+    const std::string text = toBytes(drawing);
+    EXPECT_NE(text.find("style='Stroke:red;FILL : url(#"), std::string::npos) << text;
+    EXPECT_EQ(savedRecord(rectangleWith("style='fill:red;FILL:lime'")), recordText(someRecord()));
+    EXPECT_EQ(savedRecord(svgFile("<style>rect{FILL:red}</style><rect width='9' height='9'/>")),
+              recordText(someRecord()));
+}
+
 TEST(SavedFill, ComesAfterEntitiesThatMayStateOne) {
     for (const char* style :
          {"&f;", "stroke:none;&f;", "&f;;fill:blue", "&f; stroke:none", "&g;", "&g;;fill:blue"}) {

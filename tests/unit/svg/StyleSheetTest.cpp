@@ -57,6 +57,19 @@ TEST(StyleSheet, RulesOfOtherKindsArePassedOver) {
     EXPECT_EQ(fillUnder(".a{fill:red}" + deep), kRed) << "nested deeper than anybody nests";
 }
 
+TEST(StyleSheet, NamesOfPropertiesMayBeInCapitals) {
+    EXPECT_EQ(fillUnder(".a{fill:lime; FILL:red}"), kRed);
+    EXPECT_EQ(fillUnder(".a{Fill:RED; fill:lime}"), (Rgb16{0, 65535, 0}));
+    EXPECT_EQ(fillBehind("", "style='FILL:red' fill='lime'"), kRed);
+    EXPECT_EQ(fillBehind("", "FILL='red'"), kBlack) << "the names of attributes have one case only";
+}
+
+TEST(StyleSheet, NamesOfCustomPropertiesHaveOneCaseAndTheFunctionHasTwo) {
+    EXPECT_EQ(fillUnder(".a{--c:red; --C:lime; fill:VAR(--c)}"), kRed);
+    EXPECT_EQ(fillUnder(".a{--c:red; fill:Var(--C, lime)}"), (Rgb16{0, 65535, 0}));
+    EXPECT_EQ(fillUnder(".a{--VAR:red; fill:var(--n,var(--VAR))}"), kRed);
+}
+
 TEST(StyleSheet, TheMostSpecificThenTheLastDeclarationCounts) {
     EXPECT_EQ(fillUnder("#r{fill:red} .a.b{fill:lime} rect{fill:lime} *{fill:lime}"), kRed);
     EXPECT_EQ(fillUnder(".b{fill:lime} .a{fill:red}"), kRed);

@@ -128,6 +128,8 @@ TEST(SvgTextSpans, HaveLinesOverUnderAndThroughThem) {
     const Box through = bounds("line-through");
     EXPECT_EQ(through.top, plain.top);
     EXPECT_LT(through.left, plain.left) << "as long as the cell of the letter";
+    EXPECT_TRUE(looksThe("<text style='text-decoration: UNDERLINE'>a</text>",
+                         "<text text-decoration='underline'>a</text>"));
     EXPECT_TRUE(looksThe("<text style='text-decoration-line: underline'>a</text>",
                          "<text text-decoration='underline'>a</text>"));
     EXPECT_TRUE(looksThe("<text text-decoration='underline'><tspan>a</tspan></text>",

@@ -90,6 +90,7 @@ TEST(TextStyle, WordsAreThoseOfTheirProperty) {
     EXPECT_EQ(styleWith(Property::TextOrientation, "sideways").upright, type::Upright::None);
     EXPECT_EQ(styleWith(Property::TextOrientation, "askew").upright, type::Upright::ByScript);
     EXPECT_TRUE(styleWith(Property::FontVariant, "small-caps").smallCaps);
+    EXPECT_TRUE(styleWith(Property::FontVariant, "SMALL-CAPS").smallCaps);
     EXPECT_FALSE(styleWith(Property::FontVariant, "normal").smallCaps);
     EXPECT_TRUE(styleWith(Property::Direction, "rtl").rightToLeft);
     EXPECT_FALSE(styleWith(Property::Direction, "ltr").rightToLeft);

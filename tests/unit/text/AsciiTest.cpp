@@ -14,6 +14,14 @@ TEST(Ascii, OnlyLettersAToZHaveTwoCases) {
     EXPECT_FALSE(equalIgnoringCase("url", "url("));
 }
 
+TEST(Ascii, WordsAreFoundInEitherCase) {
+    EXPECT_EQ(findIgnoringCase("a LineThrough b", "linethrough"), 2U);
+    EXPECT_EQ(findIgnoringCase("aAb", "AB"), 1U);
+    EXPECT_EQ(findIgnoringCase("fil", "fill"), std::string_view::npos);
+    EXPECT_EQ(findIgnoringCase("", "a"), std::string_view::npos);
+    EXPECT_EQ(findIgnoringCase("", ""), 0U);
+}
+
 TEST(Ascii, BlanksAreCutOffAtTheEndsOnly) {
     EXPECT_EQ(trimmed(" \t\r\n\f a b\v \n"), "a b\v");
     EXPECT_EQ(trimmed("  \n"), "");
