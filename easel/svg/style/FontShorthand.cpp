@@ -1,6 +1,6 @@
 #include "easel/svg/style/FontShorthand.h"
 
-#include "easel/svg/style/StyleValues.h"
+#include "easel/svg/style/Words.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>

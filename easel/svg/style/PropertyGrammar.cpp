@@ -5,6 +5,7 @@
 #include "easel/svg/style/ComputedStyle.h"
 #include "easel/svg/style/StyleValues.h"
 #include "easel/svg/style/TextStyle.h"
+#include "easel/svg/style/Words.h"
 #include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Transform.h"
 

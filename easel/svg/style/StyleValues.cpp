@@ -1,11 +1,10 @@
 #include "easel/svg/style/StyleValues.h"
 
+#include "easel/svg/style/Words.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <initializer_list>
 #include <utility>
 
 namespace easel::svg {
@@ -15,39 +14,26 @@ using drawing::LineCap;
 using drawing::LineJoin;
 using drawing::PaintStep;
 
-bool isOneOf(std::string_view text, std::initializer_list<std::string_view> words) {
-    return std::any_of(words.begin(), words.end(),
-                       [&](std::string_view word) { return equalIgnoringCase(text, word); });
-}
-
 std::optional<FillRule> parseRule(std::string_view text) {
-    if (equalIgnoringCase(text, "evenodd"))
-        return FillRule::EvenOdd;
-    if (equalIgnoringCase(text, "nonzero"))
-        return FillRule::NonZero;
-    return std::nullopt;
+    static constexpr Word<FillRule> kWords[] = {{"evenodd", FillRule::EvenOdd},
+                                                {"nonzero", FillRule::NonZero}};
+    return valueOf(text, kWords);
 }
 
 std::optional<LineJoin> parseJoin(std::string_view text) {
-    if (equalIgnoringCase(text, "round"))
-        return LineJoin::Round;
-    if (equalIgnoringCase(text, "bevel"))
-        return LineJoin::Bevel;
     // The two joins that nobody draws are drawn as the one they are like.
-    if (equalIgnoringCase(text, "miter") || equalIgnoringCase(text, "miter-clip") ||
-        equalIgnoringCase(text, "arcs"))
-        return LineJoin::Miter;
-    return std::nullopt;
+    static constexpr Word<LineJoin> kWords[] = {{"round", LineJoin::Round},
+                                                {"bevel", LineJoin::Bevel},
+                                                {"miter", LineJoin::Miter},
+                                                {"miter-clip", LineJoin::Miter},
+                                                {"arcs", LineJoin::Miter}};
+    return valueOf(text, kWords);
 }
 
 std::optional<LineCap> parseCap(std::string_view text) {
-    if (equalIgnoringCase(text, "round"))
-        return LineCap::Round;
-    if (equalIgnoringCase(text, "square"))
-        return LineCap::Square;
-    if (equalIgnoringCase(text, "butt"))
-        return LineCap::Butt;
-    return std::nullopt;
+    static constexpr Word<LineCap> kWords[] = {
+        {"round", LineCap::Round}, {"square", LineCap::Square}, {"butt", LineCap::Butt}};
+    return valueOf(text, kWords);
 }
 
 std::optional<PaintStep> parsePaintOrder(std::string_view text) {
@@ -86,16 +72,11 @@ std::optional<Dashes> parseDashes(std::string_view text, const LengthContext& le
 }
 
 std::optional<double> parseFontSize(std::string_view text, const LengthContext& lengths) {
-    static constexpr std::array<std::pair<std::string_view, double>, 7> kSizes = {{{"xx-small", 9},
-                                                                                   {"x-small", 10},
-                                                                                   {"small", 13},
-                                                                                   {"medium", 16},
-                                                                                   {"large", 18},
-                                                                                   {"x-large", 24},
-                                                                                   {"xx-large", 32}}};
-    for (const auto& [name, size] : kSizes)
-        if (equalIgnoringCase(text, name))
-            return size;
+    static constexpr Word<double> kSizes[] = {{"xx-small", 9}, {"x-small", 10}, {"small", 13},
+                                              {"medium", 16},  {"large", 18},   {"x-large", 24},
+                                              {"xx-large", 32}};
+    if (const auto size = valueOf(text, kSizes))
+        return size;
     if (equalIgnoringCase(text, "larger"))
         return lengths.fontSize * 1.2;
     if (equalIgnoringCase(text, "smaller"))
@@ -119,15 +100,15 @@ std::optional<double> parseMiterLimit(std::string_view text) {
 }
 
 std::optional<bool> parseVisibility(std::string_view text) {
-    if (equalIgnoringCase(text, "visible"))
-        return true;
-    return isOneOf(text, {"hidden", "collapse"}) ? std::optional(false) : std::nullopt;
+    static constexpr Word<bool> kWords[] = {{"visible", true}, {"hidden", false}, {"collapse", false}};
+    return valueOf(text, kWords);
 }
 
 std::optional<bool> parseSmoothness(std::string_view text) {
-    if (isOneOf(text, {"auto", "smooth", "high-quality", "optimizeQuality"}))
-        return true;
-    return isOneOf(text, {"optimizeSpeed", "pixelated", "crisp-edges"}) ? std::optional(false) : std::nullopt;
+    static constexpr Word<bool> kWords[] = {
+        {"auto", true},           {"smooth", true},     {"high-quality", true}, {"optimizeQuality", true},
+        {"optimizeSpeed", false}, {"pixelated", false}, {"crisp-edges", false}};
+    return valueOf(text, kWords);
 }
 
 } // namespace easel::svg

@@ -5,7 +5,6 @@
 #include "easel/drawing/Style.h"
 #include "easel/svg/text/Length.h"
 
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -30,8 +29,5 @@ std::optional<bool> parseSmoothness(std::string_view text);
 // An even number of lengths; null if the line is solid.
 using Dashes = std::shared_ptr<const std::vector<double>>;
 std::optional<Dashes> parseDashes(std::string_view text, const LengthContext& lengths);
-
-// Whatever the case.
-bool isOneOf(std::string_view text, std::initializer_list<std::string_view> words);
 
 } // namespace easel::svg

@@ -1,5 +1,6 @@
 #include "easel/svg/style/TextStyle.h"
 
+#include "easel/svg/style/Words.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
@@ -8,19 +9,6 @@
 namespace easel::svg {
 
 namespace {
-
-template <class Value> struct Word {
-    std::string_view word;
-    Value value;
-};
-
-template <class Value, std::size_t count>
-std::optional<Value> valueOf(std::string_view text, const Word<Value> (&words)[count]) {
-    for (const Word<Value>& each : words)
-        if (equalIgnoringCase(text, each.word))
-            return each.value;
-    return std::nullopt;
-}
 
 constexpr int kLightest = 1;
 constexpr int kHeaviest = 1000;
@@ -133,11 +121,9 @@ std::optional<double> parseSpacing(std::string_view text, const LengthContext& l
 }
 
 std::optional<Baseline> parseDominantBaseline(std::string_view text) {
-    static constexpr std::string_view kOthers[] = {"auto", "use-script", "no-change", "reset-size"};
-    const auto isText = [text](std::string_view word) { return equalIgnoringCase(text, word); };
-    const auto baseline = parseBaseline(text);
-    const bool isOther = std::any_of(std::begin(kOthers), std::end(kOthers), isText);
-    return !baseline && isOther ? std::optional(Baseline::Alphabetic) : baseline;
+    if (isOneOf(text, {"auto", "use-script", "no-change", "reset-size"}))
+        return Baseline::Alphabetic;
+    return parseBaseline(text);
 }
 
 std::optional<bool> parseRightToLeft(std::string_view text) {
