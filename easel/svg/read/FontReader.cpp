@@ -65,15 +65,6 @@ std::optional<Range> parseRange(std::string_view text) {
     return Range{*first, *last};
 }
 
-// The node after it in the order of the text.
-pugi::xml_node nextElement(pugi::xml_node node) {
-    if (node.first_child())
-        return node.first_child();
-    while (node && !node.next_sibling())
-        node = node.parent();
-    return node.next_sibling();
-}
-
 class FontElement {
   public:
     FontElement(const XmlTree& tree, pugi::xml_node element, Budget& budget)
@@ -167,21 +158,18 @@ void FontElement::readGlyph(pugi::xml_node element, bool missing) {
     DrawnGlyph glyph;
     if (!missing)
         glyph.characters = charactersOf(element.attribute("unicode").value());
-    const std::string name = element.attribute("glyph-name").value();
-    if (!missing && glyph.characters.empty() && name.empty())
+    if (!missing && glyph.characters.empty())
         return;
     glyph.outline = parsePathData(element.attribute("d").value())
                         .path.transformed(Affine::scaling(1 / unitsPerEm_, -1 / unitsPerEm_));
     budget_.spend(glyph.outline.points().size() + glyph.characters.size());
     glyph.advance = measure(element, "horiz-adv-x", measure(element_, "horiz-adv-x", 0));
-    if (glyph.characters.empty() && !missing)
-        return;
     const std::size_t number = font_.size();
     byCharacters_[glyph.characters].push_back(number);
-    for (std::string_view rest = name; !rest.empty();) {
-        const std::size_t end = std::min(rest.find(','), rest.size());
-        byName_[std::string(trimmed(rest.substr(0, end)))].push_back(number);
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+    for (std::string_view names = element.attribute("glyph-name").value(); !names.empty();) {
+        const std::size_t end = std::min(names.find(','), names.size());
+        byName_[std::string(trimmed(names.substr(0, end)))].push_back(number);
+        names.remove_prefix(std::min(end + 1, names.size()));
     }
     font_.add(std::move(glyph));
 }
@@ -229,7 +217,7 @@ std::vector<std::size_t> FontElement::glyphsOf(pugi::xml_node pair, const char* 
 
 std::vector<DrawnFont> readFonts(const XmlTree& tree, Budget& budget) {
     std::vector<DrawnFont> fonts;
-    for (pugi::xml_node element = tree.root(); element; element = nextElement(element))
+    for (pugi::xml_node element = tree.root(); element; element = nextInside(tree.root(), element))
         if (tree.svgName(element) == "font")
             if (auto font = FontElement(tree, element, budget).read())
                 fonts.push_back(*std::move(font));

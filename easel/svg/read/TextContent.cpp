@@ -244,17 +244,10 @@ void TextContentReader::readSpan(pugi::xml_node element, const Level& outer) {
 // The text of another element, without what the elements in it say.
 void TextContentReader::readReferenced(pugi::xml_node element, const Level& level) {
     const pugi::xml_node referenced = scene_.tree.byId(localId(hrefOf(element)));
-    for (pugi::xml_node node = referenced.first_child(); node;) {
+    for (pugi::xml_node node = referenced.first_child(); node; node = nextInside(referenced, node)) {
         scene_.budget.spend(1);
         if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
             addText(node.value(), level);
-        if (node.first_child()) {
-            node = node.first_child();
-            continue;
-        }
-        while (node != referenced && !node.next_sibling())
-            node = node.parent();
-        node = node == referenced ? pugi::xml_node() : node.next_sibling();
     }
 }
 

@@ -29,20 +29,11 @@ std::string describe(const pugi::xml_parse_result& result, const std::string& te
     return "it is not well-formed XML (line " + std::to_string(lineOf(text, result.offset)) + ")";
 }
 
-// Calls visit(element) for the element and all below it, in the order of the text, without recursion.
+// Calls visit(element) for the element and all below it, in the order of the text.
 template <class Visitor> void forEachElement(pugi::xml_node root, Visitor visit) {
-    pugi::xml_node node = root;
-    while (node) {
+    for (pugi::xml_node node = root; node; node = nextInside(root, node))
         if (node.type() == pugi::node_element)
             visit(node);
-        if (node.first_child()) {
-            node = node.first_child();
-            continue;
-        }
-        while (node != root && !node.next_sibling())
-            node = node.parent();
-        node = node == root ? pugi::xml_node() : node.next_sibling();
-    }
 }
 
 void expandText(pugi::xml_node element, Entities& entities) {
@@ -159,6 +150,14 @@ std::optional<std::size_t> XmlTree::idNumber(std::string_view id) const {
 
 std::size_t XmlTree::tagBegin(pugi::xml_node element) const {
     return static_cast<std::size_t>(element.offset_debug()) - 1;
+}
+
+pugi::xml_node nextInside(pugi::xml_node root, pugi::xml_node node) {
+    if (node.first_child())
+        return node.first_child();
+    while (node != root && !node.next_sibling())
+        node = node.parent();
+    return node == root ? pugi::xml_node() : node.next_sibling();
 }
 
 std::string_view hrefOf(pugi::xml_node element) {

@@ -60,6 +60,10 @@ class XmlTree {
     std::unordered_set<std::string> svgPrefixes_; // with their colons
 };
 
+// The node that follows in the order of the text, inside the root or else none; so a tree of any depth is
+// gone through without recursion.
+pugi::xml_node nextInside(pugi::xml_node root, pugi::xml_node node);
+
 // What `href` or `xlink:href` says; empty if neither is there.
 std::string_view hrefOf(pugi::xml_node element);
 
