@@ -11,9 +11,6 @@ using svg::attribute;
 
 namespace {
 
-constexpr std::string_view kGeneric[] = {"serif",   "sans-serif", "monospace",
-                                         "cursive", "fantasy",    "system-ui"};
-
 constexpr std::string_view kSlants[] = {"normal", "italic", "oblique"};
 
 // In the order of the enumeration.
@@ -37,8 +34,7 @@ std::string familyText(std::string_view names) {
         const std::size_t end = std::min(names.find(','), names.size());
         const std::string_view name = names.substr(0, end);
         names.remove_prefix(std::min(end + 1, names.size()));
-        const bool generic = std::find(std::begin(kGeneric), std::end(kGeneric), name) != std::end(kGeneric);
-        const std::string one = generic ? std::string(name) : quoted(name);
+        const std::string one = type::isGenericFamily(name) ? std::string(name) : quoted(name);
         if (!name.empty() && ("," + text + ",").find("," + one + ",") == std::string::npos)
             text += (text.empty() ? "" : ",") + one;
     }

@@ -1,8 +1,11 @@
 // Which font a run of text asks for, and the measures of one.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <string>
+#include <string_view>
 
 namespace easel::type {
 
@@ -23,6 +26,13 @@ enum class Stretch : std::uint8_t {
 
 // How letters stand in vertical lines: as their script wants it, all upright, or all lying on their side.
 enum class Upright : std::uint8_t { ByScript, All, None };
+
+// Names that stand for whatever family is there.
+inline bool isGenericFamily(std::string_view name) {
+    constexpr std::string_view kNames[] = {"serif",   "sans-serif", "monospace",
+                                           "cursive", "fantasy",    "system-ui"};
+    return std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames);
+}
 
 struct Font {
     std::string families; // separated by commas, the best first; what is missing is replaced by the next

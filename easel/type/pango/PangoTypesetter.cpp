@@ -286,9 +286,7 @@ FontMetrics PangoTypesetter::metrics(const Font& font) {
 }
 
 bool PangoTypesetter::has(const std::string& family) {
-    static constexpr std::string_view kGeneric[] = {"serif",   "sans-serif", "monospace",
-                                                    "cursive", "fantasy",    "system-ui"};
-    if (std::find(std::begin(kGeneric), std::end(kGeneric), family) != std::end(kGeneric))
+    if (isGenericFamily(family))
         return true;
     const std::lock_guard lock(mutex_);
     return pango_font_map_get_family(fonts_.get(), family.c_str()) != nullptr;
