@@ -63,8 +63,7 @@ void ObjectPainter::showMask(const drawing::MaskPtr& mask, const SurfaceView& su
             auto pixels = std::make_shared<Surface>(place.width(), place.height());
             const Affine toPixels = Affine::translation(-place.left, -place.top) * toSheet;
             FilterPictures pictures;
-            const PixelRect whole{.right = place.width(), .bottom = place.height()};
-            ObjectPainter({toPixels, whole, &pictures, nullptr, &unwanted})
+            ObjectPainter({toPixels, pixels->view().clip(), &pictures, nullptr, &unwanted})
                 .paint(mask->objects, pixels->view(), toPixels);
             return std::shared_ptr<const Surface>(pixels);
         };
@@ -105,13 +104,10 @@ void ObjectPainter::showLayer(const BackgroundLayers::Shown& shown, const Surfac
                               const Affine& toSurface, PixelPoint offset) {
     if (shown.exact)
         return put(shown.picture, surface, offset);
-    const Surface& pixels = *shown.picture.pixels;
     const FilterGrid& grid = shown.picture.grid;
     const Affine place = Affine::translation(grid.place.left, grid.place.top);
-    const Image image{
-        pixels.row(0), pixels.width(), pixels.height(), pixels.stride() / kBytesPerPixel, place, false, true};
-    const drawing::Box box{0, 0, static_cast<double>(pixels.width()), static_cast<double>(pixels.height())};
-    painter_.fill(surface, drawing::rectanglePath(box).transformed(place), drawing::FillRule::NonZero,
+    const Image image = imageOf(*shown.picture.pixels, place, false, true);
+    painter_.fill(surface, drawing::rectanglePath(image.box()).transformed(place), drawing::FillRule::NonZero,
                   toSurface * grid.drawingTo.inverse(), PaintSource(&image));
 }
 

@@ -242,18 +242,12 @@ void ObjectPainter::withLayer(const HeldPaintSource& held, const drawing::Box& f
     const auto shown = sourceLayer(held, filled, sheet, toSurface);
     if (!shown.picture.pixels)
         return;
-    const Surface& pixels = *shown.picture.pixels;
-    const PixelRect& there = shown.picture.grid.place;
-    const Image image{pixels.row(0),
-                      pixels.width(),
-                      pixels.height(),
-                      pixels.stride() / kBytesPerPixel,
-                      shown.picture.grid.drawingTo.inverse() * Affine::translation(there.left, there.top),
-                      false,
-                      !shown.exact};
-    const drawing::Box box{0, 0, static_cast<double>(pixels.width()), static_cast<double>(pixels.height())};
+    const FilterGrid& grid = shown.picture.grid;
+    const Image image = imageOf(
+        *shown.picture.pixels,
+        grid.drawingTo.inverse() * Affine::translation(grid.place.left, grid.place.top), false, !shown.exact);
     const SurfaceView within =
-        surface.clippedTo(pixelsUnder(box, toSurface * image.toDrawing, surface.clip()));
+        surface.clippedTo(pixelsUnder(image.box(), toSurface * image.toDrawing, surface.clip()));
     fill(shown.exact ? surface : within, PaintSource(&image));
 }
 

@@ -181,9 +181,7 @@ void PatternImage::paintCells(const Pattern& pattern, const PixelRect& area, con
 }
 
 void PatternImage::setImage(const Affine& toDrawing, bool repeats) {
-    image_ = Image{
-        pixels_->row(0), pixels_->width(), pixels_->height(), pixels_->stride() / kBytesPerPixel, toDrawing,
-        repeats,         repeats};
+    image_ = imageOf(*pixels_, toDrawing, repeats, repeats);
 }
 
 } // namespace easel::paint

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
+#include "easel/paint/pixels/Surface.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +21,14 @@ struct Image {
     bool smooth = true;        // else a place takes the color of the one pixel that it lies in
 
     const std::uint32_t* row(int y) const { return pixels + y * stride; }
+    // All of it, in its own units.
+    drawing::Box box() const { return {0, 0, static_cast<double>(width), static_cast<double>(height)}; }
 };
+
+// Of a surface's pixels, which it goes on owning.
+inline Image imageOf(const Surface& surface, const drawing::Affine& toDrawing, bool repeats, bool smooth) {
+    return {surface.row(0), surface.width(), surface.height(), surface.stride() / kBytesPerPixel, toDrawing,
+            repeats,        smooth};
+}
 
 } // namespace easel::paint
