@@ -1323,10 +1323,6 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>The center is at %1 now</source>
         <translation>Der Mittelpunkt liegt jetzt bei %1</translation>
     </message>
-    <message>
-        <source>Drawing</source>
-        <translation>Zeichnung</translation>
-    </message>
 </context>
 <context>
     <name>easel::window::NoticeBar</name>

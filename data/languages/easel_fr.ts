@@ -1323,10 +1323,6 @@ Easel fonctionne sans cet outil.</translation>
         <source>The center is at %1 now</source>
         <translation>Le centre est maintenant à %1</translation>
     </message>
-    <message>
-        <source>Drawing</source>
-        <translation>Dessin</translation>
-    </message>
 </context>
 <context>
     <name>easel::window::NoticeBar</name>

@@ -35,8 +35,7 @@ std::optional<drawing::Point> shownCentre(const DialogItem& item) {
 }
 
 MouseGesture turnTo(const DialogItem& item, double degrees) {
-    const paint::PixelPoint middle{(item.bounds.left + item.bounds.right) / 2,
-                                   (item.bounds.top + item.bounds.bottom) / 2};
+    const paint::PixelPoint middle = item.bounds.middle();
     const auto h = static_cast<int>(std::lround(kLineLength * std::cos(degrees * kRadiansOfDegree)));
     const auto v = static_cast<int>(std::lround(-kLineLength * std::sin(degrees * kRadiansOfDegree)));
     return {middle, {{middle.h + h, middle.v + v}}};

@@ -35,6 +35,7 @@ struct PixelRect {
     bool empty() const { return left >= right || top >= bottom; }
     int width() const { return std::max(right - left, 0); }
     int height() const { return std::max(bottom - top, 0); }
+    PixelPoint middle() const { return {(left + right) / 2, (top + bottom) / 2}; }
     bool contains(PixelPoint point) const {
         return point.h >= left && point.h < right && point.v >= top && point.v < bottom;
     }

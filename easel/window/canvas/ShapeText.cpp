@@ -2,8 +2,8 @@
 #include "easel/window/canvas/ShapeText.h"
 
 #include "easel/drawing/GradientCommands.h"
+#include "easel/window/look/ColorText.h"
 
-#include <QColor>
 #include <QObject>
 
 #include <cmath>
@@ -54,7 +54,7 @@ QString fillText(const drawing::Object& object) {
     if (const auto gradient = drawing::wholeGradientOf(object))
         return gradientText(gradient->record);
     if (const auto* const plain = std::get_if<drawing::ColorPaint>(&object.fill))
-        return QColor(qRgba64(plain->color.red, plain->color.green, plain->color.blue, 0xffff)).name();
+        return colorText(plain->color);
     const bool none = std::holds_alternative<drawing::NoPaint>(object.fill);
     return none ? QObject::tr("no fill") : QObject::tr("another fill");
 }

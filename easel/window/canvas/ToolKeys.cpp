@@ -5,6 +5,7 @@
 #include "easel/runtime/PreviewGestures.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/look/PathConversion.h"
+#include "easel/window/waiting/ArrowKeys.h"
 
 #include <QKeyEvent>
 #include <QObject>
@@ -22,11 +23,6 @@ using drawing::Point;
 constexpr int kTries = 24;
 // Long enough to be a drag; in screen pixels.
 constexpr double kLine = 40;
-constexpr double kSmallStep = 1;
-constexpr double kLargeStep = 10;
-constexpr double kTurn = 1;
-// What a drag with Shift keeps to.
-constexpr double kShiftTurn = 15;
 
 bool lieAt(const Canvas& canvas, std::size_t index, Point place) {
     return canvas.drawingWindow().drawing().pick(place, kToolReach / canvas.zoom(), gradientKinds()) == index;
@@ -35,9 +31,8 @@ bool lieAt(const Canvas& canvas, std::size_t index, Point place) {
 // A place where a press means this shape.
 std::optional<Point> placeOf(const Canvas& canvas, std::size_t index) {
     const Box& bounds = canvas.drawingWindow().drawing().object(index)->bounds;
-    const Point middle{(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
-    if (lieAt(canvas, index, middle))
-        return middle;
+    if (lieAt(canvas, index, bounds.centre()))
+        return bounds.centre();
     for (int row = 0; row <= kTries; ++row)
         for (int column = 0; column <= kTries; ++column) {
             const Point place{bounds.left + bounds.width() * column / kTries,
@@ -76,30 +71,22 @@ ToolKeyAnswer pressAt(Canvas& canvas, std::size_t index, Point place) {
     return {ToolGesture{inView(canvas, place), {}}};
 }
 
-// Right and down count up.
-QPoint directionOf(int key) {
-    return {(key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0),
-            (key == Qt::Key_Down ? 1 : 0) - (key == Qt::Key_Up ? 1 : 0)};
-}
-
 std::optional<ToolKeyAnswer> answerToArrow(Canvas& canvas, std::size_t index, const QKeyEvent& event) {
-    const QPoint direction = directionOf(event.key());
+    const QPoint arrow = arrowOf(event.key());
     const drawing::Object& object = *canvas.drawingWindow().drawing().object(index);
     const auto gradient = wholeGradientOf(object);
-    if (direction.isNull() || !gradient)
+    if (arrow.isNull() || !gradient)
         return std::nullopt;
     const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
     if (gradient->record.Type() == kLinearGradient) {
-        const double step = shift ? kShiftTurn : kTurn;
         const auto angle = static_cast<double>(gradient->record.Angle());
-        return turn(canvas, index,
-                    runtime::nextAngle(angle, direction.x() + direction.y() > 0 ? -step : step));
+        return turn(canvas, index, runtime::nextAngle(angle, turnOf(arrow, shift)));
     }
-    const double step = (shift ? kLargeStep : kSmallStep) / canvas.zoom();
+    const double step = stepOf(shift) / canvas.zoom();
     const TPoint<double> end = gradient->record.End();
     return pressAt(canvas, index,
-                   {object.bounds.left + end.h * object.bounds.width() + direction.x() * step,
-                    object.bounds.top + end.v * object.bounds.height() + direction.y() * step});
+                   {object.bounds.left + end.h * object.bounds.width() + arrow.x() * step,
+                    object.bounds.top + end.v * object.bounds.height() + arrow.y() * step});
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "easel/window/dialogs/ControlItems.h"
 #include "easel/window/dialogs/StopAccess.h"
 #include "easel/window/dialogs/UserItem.h"
+#include "easel/window/look/ColorText.h"
 
 #include <QAccessibleWidget>
 

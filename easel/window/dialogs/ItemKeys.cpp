@@ -3,6 +3,7 @@
 
 #include "easel/runtime/PreviewGestures.h"
 #include "easel/runtime/StopRamp.h"
+#include "easel/window/waiting/ArrowKeys.h"
 
 #include <QObject>
 
@@ -17,21 +18,8 @@ using runtime::MouseGesture;
 using runtime::StopRamp;
 using MaybeGesture = std::optional<MouseGesture>;
 
-constexpr int kLargeStep = 10; // pixels
-constexpr double kDegreeStep = 1;
-// What a drag with Shift keeps to.
-constexpr double kLargeDegreeStep = 15;
-
-int horizontal(Qt::Key key) {
-    return (key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0);
-}
-
-int vertical(Qt::Key key) {
-    return (key == Qt::Key_Down ? 1 : 0) - (key == Qt::Key_Up ? 1 : 0);
-}
-
 MaybeGesture chooseStop(const DialogItem& item, const ItemKey& pressed) {
-    return StopRamp::in(item)->chooseBeside(vertical(pressed.key));
+    return StopRamp::in(item)->chooseBeside(arrowOf(pressed.key).y());
 }
 
 MaybeGesture moveBy(const DialogItem& item, int pixels) {
@@ -41,7 +29,7 @@ MaybeGesture moveBy(const DialogItem& item, int pixels) {
 }
 
 MaybeGesture moveStop(const DialogItem& item, const ItemKey& pressed) {
-    return moveBy(item, horizontal(pressed.key) * (pressed.shift ? kLargeStep : 1));
+    return moveBy(item, arrowOf(pressed.key).x() * stepOf(pressed.shift));
 }
 
 MaybeGesture moveStopFar(const DialogItem& item, const ItemKey& pressed) {
@@ -64,23 +52,19 @@ MaybeGesture removeStop(const DialogItem& item, const ItemKey&) {
 }
 
 MaybeGesture turnOrMove(const DialogItem& item, const ItemKey& pressed) {
-    const int right = horizontal(pressed.key);
-    const int down = vertical(pressed.key);
-    if (const auto angle = shownAngle(item)) {
-        const double step = pressed.shift ? kLargeDegreeStep : kDegreeStep;
-        return turnTo(item, runtime::nextAngle(*angle, right + down > 0 ? -step : step));
-    }
+    const QPoint arrow = arrowOf(pressed.key);
+    if (const auto angle = shownAngle(item))
+        return turnTo(item, runtime::nextAngle(*angle, turnOf(arrow, pressed.shift)));
     const drawing::Point centre = *shownCentre(item);
-    const int step = pressed.shift ? kLargeStep : 1;
-    return moveCentreTo(item, {static_cast<int>(std::lround(centre.x)) + right * step,
-                               static_cast<int>(std::lround(centre.y)) + down * step});
+    const QPoint by = arrow * stepOf(pressed.shift);
+    return moveCentreTo(item, {static_cast<int>(std::lround(centre.x)) + by.x(),
+                               static_cast<int>(std::lround(centre.y)) + by.y()});
 }
 
 MaybeGesture toTheMiddle(const DialogItem& item, const ItemKey&) {
     if (shownAngle(item))
         return turnTo(item, 0);
-    return moveCentreTo(
-        item, {(item.bounds.left + item.bounds.right) / 2, (item.bounds.top + item.bounds.bottom) / 2});
+    return moveCentreTo(item, item.bounds.middle());
 }
 
 } // namespace

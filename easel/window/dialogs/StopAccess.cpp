@@ -2,6 +2,7 @@
 #include "easel/window/dialogs/StopAccess.h"
 
 #include "easel/window/dialogs/UserItem.h"
+#include "easel/window/look/ColorText.h"
 
 #include <cmath>
 
@@ -86,10 +87,17 @@ QVariant StopAccess::minimumStepSize() const {
     return ramp ? kWholeRamp / std::max(1, ramp->right() - ramp->left()) : 0.0;
 }
 
-void StopAccess::moveTo(int pixel, int direction) {
-    ramp_->perform([stop = stop_, pixel, direction](const DialogItem& item) {
+// What the stop of this number lets the mouse do by then.
+template <class Gesture> void StopAccess::perform(Gesture gesture) {
+    ramp_->perform([stop = stop_, gesture](const DialogItem& item) {
         const auto ramp = StopRamp::in(item);
-        return ramp && stop < ramp->stops().size() ? ramp->move(stop, pixel, direction) : std::nullopt;
+        return ramp && stop < ramp->stops().size() ? gesture(*ramp, stop) : std::nullopt;
+    });
+}
+
+void StopAccess::moveTo(int pixel, int direction) {
+    perform([pixel, direction](const StopRamp& ramp, std::size_t stop) {
+        return ramp.move(stop, pixel, direction);
     });
 }
 
@@ -102,10 +110,7 @@ void StopAccess::setCurrentValue(const QVariant& value) {
 }
 
 void StopAccess::choose() {
-    ramp_->perform([stop = stop_](const DialogItem& item) {
-        const auto ramp = StopRamp::in(item);
-        return ramp && stop < ramp->stops().size() ? ramp->choose(stop) : std::nullopt;
-    });
+    perform([](const StopRamp& ramp, std::size_t stop) { return ramp.choose(stop); });
 }
 
 QStringList StopAccess::actionNames() const {
@@ -128,10 +133,7 @@ void StopAccess::doAction(const QString& name) {
     else if (name == decreaseAction())
         moveTo(ramp->placeOf(stop_) - 1, -1);
     else if (name == removeName())
-        ramp_->perform([stop = stop_](const DialogItem& item) {
-            const auto now = StopRamp::in(item);
-            return now && stop < now->stops().size() ? now->remove(stop) : std::nullopt;
-        });
+        perform([](const StopRamp& now, std::size_t stop) { return now.remove(stop); });
     else
         choose();
     if (name == colorName())

@@ -49,6 +49,7 @@ class StopAccess : public QAccessibleInterface,
   private:
     // Nothing if there is no such stop any more.
     std::optional<runtime::StopRamp> shown() const;
+    template <class Gesture> void perform(Gesture gesture);
     void choose();
     void moveTo(int pixel, int direction);
 

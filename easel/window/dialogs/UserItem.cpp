@@ -19,16 +19,7 @@ namespace {
 constexpr QRectF kAroundMark{-6.5, -1.5, 14, 12};
 constexpr double kCentreRing = 5;
 
-// The middle of a swatch is as good as any place in it.
-runtime::MouseGesture clickInMiddle(const runtime::DialogItem& item) {
-    return {{(item.bounds.left + item.bounds.right) / 2, (item.bounds.top + item.bounds.bottom) / 2}, {}};
-}
-
 } // namespace
-
-QString colorText(const drawing::Rgb16& color) {
-    return QColor(qRgba64(color.red, color.green, color.blue, 0xffff)).name();
-}
 
 UserItem::UserItem(runtime::Dialog& dialog, int item, DialogContent& content)
     : QWidget(&content), dialog_(dialog), item_(item), content_(content) {
@@ -78,7 +69,7 @@ void UserItem::chooseColor() {
             return sortOf(each) == ItemSort::Swatch;
         });
         if (swatch != items.end())
-            content_.perform(swatch->number, clickInMiddle(*swatch));
+            content_.perform(swatch->number, {swatch->bounds.middle(), {}});
     });
 }
 

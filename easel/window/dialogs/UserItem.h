@@ -13,9 +13,6 @@ namespace easel::window {
 
 class DialogContent;
 
-// "#rrggbb"
-QString colorText(const drawing::Rgb16& color);
-
 // An item that the program draws. It shows nothing itself but the keyboard's focus: a ring around the item
 // and one around what the keys work on. Keys become what the mouse would do, as the program knows no others.
 class UserItem : public QWidget, public ItemWidget {

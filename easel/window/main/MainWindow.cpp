@@ -15,6 +15,7 @@
 #include "easel/window/main/NoticeBar.h"
 #include "easel/window/main/SharedParts.h"
 #include "easel/window/waiting/CoreTexts.h"
+#include "easel/window/waiting/FitToScreen.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -37,7 +38,6 @@ namespace {
 
 constexpr double kZoomStep = 1.25;
 constexpr QSize kWindowSize{1120, 760};
-constexpr QSize kFrame{16, 48}; // about what a window manager puts around a window
 
 QString joined(const std::vector<std::string>& notes) {
     QStringList lines;
@@ -72,7 +72,6 @@ MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
     setAttribute(Qt::WA_DeleteOnClose);
     setFile(std::move(loaded.file));
     canvas_ = new Canvas(drawingWindow_, shared_.interaction, shared_.canvases);
-    canvas_->setAccessibleName(tr("Drawing"));
     auto* middle = new QWidget;
     auto* layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -80,7 +79,7 @@ MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
     layout->addWidget(notice_);
     layout->addWidget(canvas_, 1);
     setCentralWidget(middle);
-    resize(kWindowSize.boundedTo(screen()->availableSize() - kFrame));
+    resize(kWindowSize.boundedTo(screen()->availableSize() - kWindowFrame));
     setAcceptDrops(true);
 
     buildActions();

@@ -10,8 +10,6 @@
 namespace easel::window {
 namespace {
 
-constexpr QSize kWindowFrame{16, 48}; // about what a window manager puts around a window
-
 void letScroll(QDialog& dialog) {
     QWidget* const typed = dialog.focusWidget();
     auto* content = new QWidget;
