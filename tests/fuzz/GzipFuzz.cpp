@@ -1,18 +1,15 @@
 // Unpacking gzip: its members, and how much of them fits.
 #include "easel/files/Gzip.h"
+#include "tests/fuzz/Fuzzing.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
 
-constexpr std::uintmax_t kLimit = 1 << 20;
+using fuzzing::require;
 
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
+constexpr std::uintmax_t kLimit = 1 << 20;
 
 } // namespace
 

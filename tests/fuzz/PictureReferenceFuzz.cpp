@@ -2,20 +2,16 @@
 #include "easel/pictures/EncodedPicture.h"
 #include "easel/svg/read/PlaceBeside.h"
 #include "easel/svg/text/DataUri.h"
+#include "tests/fuzz/Fuzzing.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
 
+using fuzzing::require;
 using namespace easel;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 // Decoding more than this only takes time.
 constexpr std::int64_t kMostPixels = 1 << 20;

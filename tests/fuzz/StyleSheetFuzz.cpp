@@ -2,49 +2,30 @@
 // it the style of a shape.
 #include "easel/drawing/Group.h"
 #include "easel/svg/Document.h"
+#include "tests/fuzz/Fuzzing.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <variant>
 
 namespace {
 
+using fuzzing::escaped;
+using fuzzing::require;
 using namespace easel;
 
-// What has to hold whatever the style is.
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-std::string escapedStyle(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        if (c == '<')
-            result += "&lt;";
-        else if (c == '&')
-            result += "&amp;";
-        else if (c == '"')
-            result += "&quot;";
-        else if (static_cast<unsigned char>(c) >= ' ' || c == '\t' || c == '\n')
-            result += c;
-    }
-    return result;
-}
-
 std::string drawingWith(std::string_view sheet, std::string_view style) {
-    return "<svg xmlns='http://www.w3.org/2000/svg' width='100' height='100'><style>" + escapedStyle(sheet) +
+    return "<svg xmlns='http://www.w3.org/2000/svg' width='100' height='100'><style>" + escaped(sheet) +
            "</style><defs><marker id='m'><path id='p' d='M0 0h3v3z' fill='context-stroke'/></marker>"
            "<linearGradient id='g'><stop class='s'/><stop offset='1' class='s t'/></linearGradient>"
            "<filter id='f'><feFlood class='s'/></filter></defs><g class='a' lang='de'><g class='a b'>"
            "<rect class='r' width='50' height='20' fill='url(#g)'/><path d='M5 5l50 60 3 20' class='b r' "
            "style=\"" +
-           escapedStyle(style) +
+           escaped(style) +
            "\"/></g><circle r='9' data-x='y z'/><use href='#p' class='r'/><text class='a t' y='50'>A a</text>"
            "</g></svg>";
 }

@@ -2,23 +2,18 @@
 #include "easel/drawing/ShapeGradient.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/write/ReadBack.h"
+#include "tests/fuzz/Fuzzing.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <utility>
 
 namespace {
 
+using fuzzing::require;
 using namespace easel;
-
-// What has to hold whatever the file is.
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 // Turns the gradient that the shape has, or gives it one, as the tool does.
 void changeGradient(drawing::Drawing& drawing, std::size_t index) {

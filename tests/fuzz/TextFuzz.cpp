@@ -2,40 +2,21 @@
 // opens an element,
 // "-" closes one, "@NAME=VALUE" gives the one opened last an attribute, and other lines are text.
 #include "easel/svg/Document.h"
+#include "tests/fuzz/Fuzzing.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace {
 
+using fuzzing::escaped;
+using fuzzing::require;
 using namespace easel;
-
-// What has to hold whatever the text is.
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-std::string escaped(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        if (c == '<')
-            result += "&lt;";
-        else if (c == '&')
-            result += "&amp;";
-        else if (c == '"')
-            result += "&quot;";
-        else if (static_cast<unsigned char>(c) >= ' ' || c == '\t')
-            result += c;
-    }
-    return result;
-}
 
 bool isName(std::string_view text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {

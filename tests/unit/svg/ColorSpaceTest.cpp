@@ -1,21 +1,14 @@
 // Color spaces, by the values that the CSS color module's examples give for one green, and by their formulas
 // near black.
 #include "easel/svg/style/Color.h"
+#include "tests/unit/svg/ExpectedColor.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using easel::svg::parseColor;
-
-void expectBytes(const char* text, int red, int green, int blue, double opacity = 1) {
-    const auto color = parseColor(text);
-    ASSERT_TRUE(color) << text;
-    EXPECT_NEAR(color->color.red / 257.0, red, 0.51) << text;
-    EXPECT_NEAR(color->color.green / 257.0, green, 0.51) << text;
-    EXPECT_NEAR(color->color.blue / 257.0, blue, 0.51) << text;
-    EXPECT_NEAR(color->opacity, opacity, 1e-9) << text;
-}
+using tests::expectBytes;
 
 TEST(ColorSpaces, OneGreenIsTheSameInEach) {
     for (const char* green :

@@ -1,5 +1,6 @@
 // Colors in the forms of CSS, against values computed by hand or taken from their definitions.
 #include "easel/svg/style/Color.h"
+#include "tests/unit/svg/ExpectedColor.h"
 
 #include <gtest/gtest.h>
 
@@ -11,15 +12,7 @@ using easel::drawing::ColorPaint;
 using easel::drawing::Rgb16;
 using easel::svg::colorText;
 using easel::svg::parseColor;
-
-void expectBytes(const char* text, int red, int green, int blue, double opacity = 1) {
-    const auto color = parseColor(text);
-    ASSERT_TRUE(color) << text;
-    EXPECT_NEAR(color->color.red / 257.0, red, 0.51) << text;
-    EXPECT_NEAR(color->color.green / 257.0, green, 0.51) << text;
-    EXPECT_NEAR(color->color.blue / 257.0, blue, 0.51) << text;
-    EXPECT_NEAR(color->opacity, opacity, 1e-9) << text;
-}
+using tests::expectBytes;
 
 TEST(SvgColor, MixturesOfTwoColors) {
     expectBytes("color-mix(in srgb, red, blue)", 128, 0, 128);
