@@ -13,6 +13,7 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/CompressDocuments.cmake")
+set(CPACK_POST_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/DropLibraryScripts.cmake")
 
 # Libraries of Debian that the files need are found by dpkg-shlibdeps, which has to be told where ours lies.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
