@@ -36,6 +36,8 @@ struct DialogTheme {
     std::uint32_t shadow = 0xb0b0b0;
     // What erasing leaves. Plug-ins draw black marks on it, so it is light on dark desktops too.
     std::uint32_t erased = 0xf2f2f2;
+    // Of the line around swatches, where the black one that they have cannot be told from the background.
+    std::optional<std::uint32_t> rim = {};
 
     friend bool operator==(const DialogTheme&, const DialogTheme&) = default;
 };

@@ -26,17 +26,9 @@ class PlainPen {
     paint::PortState saved_;
 };
 
-} // namespace
-
-void drawSeparator(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& bounds) {
-    const PlainPen pen(port, theme.separator);
-    const int middle = (bounds.top + bounds.bottom) / 2;
-    port.paintRect({.left = bounds.left, .top = middle, .right = bounds.right, .bottom = middle + 1});
-}
-
 // Two bars, below and to the right, as if the light came from the upper left.
-void drawShadow(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& swatch) {
-    const PlainPen pen(port, theme.shadow);
+void drawBars(paint::Port& port, std::uint32_t color, const paint::PixelRect& swatch) {
+    const PlainPen pen(port, color);
     port.paintRect({.left = swatch.right,
                     .top = swatch.top + kShadowWidth,
                     .right = swatch.right + kShadowWidth,
@@ -45,6 +37,25 @@ void drawShadow(paint::Port& port, const DialogTheme& theme, const paint::PixelR
                     .top = swatch.bottom,
                     .right = swatch.right,
                     .bottom = swatch.bottom + kShadowWidth});
+}
+
+} // namespace
+
+void drawSeparator(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& bounds) {
+    const PlainPen pen(port, theme.separator);
+    const int middle = (bounds.top + bounds.bottom) / 2;
+    port.paintRect({.left = bounds.left, .top = middle, .right = bounds.right, .bottom = middle + 1});
+}
+
+void drawShadow(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& swatch) {
+    drawBars(port, theme.shadow, swatch);
+    if (!theme.rim)
+        return;
+    const PlainPen pen(port, *theme.rim);
+    port.frameRect({.left = swatch.left - 1,
+                    .top = swatch.top - 1,
+                    .right = swatch.right + 1,
+                    .bottom = swatch.bottom + 1});
 }
 
 } // namespace easel::runtime

@@ -13,7 +13,7 @@ namespace easel::runtime {
 // A line along the middle of the bounds.
 void drawSeparator(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& bounds);
 
-// The shadow that lifts a swatch off its dialog, outside of the swatch's bounds.
+// The shadow that lifts a swatch off its dialog, and on dark desktops a rim; outside of the swatch's bounds.
 void drawShadow(paint::Port& port, const DialogTheme& theme, const paint::PixelRect& swatch);
 
 } // namespace easel::runtime

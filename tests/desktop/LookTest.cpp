@@ -33,7 +33,7 @@ class LookTest : public DesktopTest, public testing::WithParamInterface<const ch
     }
 };
 
-TEST_P(LookTest, RadioButtonsButtonsAndFieldsStandOutFromTheGround) {
+TEST_P(LookTest, RadioButtonsButtonsFieldsAndTheSwatchStandOutFromTheGround) {
     startInLook(GetParam());
     const Window editor = openEditor(160, 290);
     const auto stripAt = [&](Spot from, int width, int height) {
@@ -43,10 +43,13 @@ TEST_P(LookTest, RadioButtonsButtonsAndFieldsStandOutFromTheGround) {
     const Area unsetRadio = stripAt({344, 22}, 18, 20);
     const Area edgeOfCancel = stripAt({236, 392}, 8, 10);
     const Area edgeOfPopup = stripAt({20, 24}, 8, 10);
+    // Up to the swatch's frame, which is black whatever its color.
+    const Area edgeOfSwatch = stripAt({EditorItems::swatch.x - 45, EditorItems::swatch.y}, 6, 10);
     constexpr int kSeen = 40;
     EXPECT_TRUE(eventually([&] { return contrastIn(screen().picture(), unsetRadio) > kSeen; }));
     EXPECT_TRUE(eventually([&] { return contrastIn(screen().picture(), edgeOfCancel) > kSeen; }));
     EXPECT_TRUE(eventually([&] { return contrastIn(screen().picture(), edgeOfPopup) > kSeen; }));
+    EXPECT_TRUE(eventually([&] { return contrastIn(screen().picture(), edgeOfSwatch) > kSeen; }));
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, LookTest, testing::Values("light", "dark", "high-contrast"),

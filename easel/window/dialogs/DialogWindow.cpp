@@ -34,9 +34,9 @@ runtime::DialogTheme themeOf(const QPalette& palette) {
     const QColor ground = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::WindowText);
     const bool dark = ground.lightness() < text.lightness();
-    const QColor erased = dark ? mixed(ground, text, kMarkGround) : ground;
+    const QColor seen = mixed(ground, text, kMarkGround);
     return {rgb(ground), rgb(mixed(ground, text, 0.18)), rgb(mixed(ground, QColor(Qt::black), 0.24)),
-            rgb(erased)};
+            rgb(dark ? seen : ground), dark ? std::optional(rgb(seen)) : std::nullopt};
 }
 
 ItemWidget* makeItemWidget(runtime::Dialog& dialog, const runtime::DialogItem& item,
