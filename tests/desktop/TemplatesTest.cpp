@@ -85,6 +85,24 @@ TEST_F(StarterOfferTest, TheQuestionComesAfterWhatADrawingIsToldAbout) {
     }));
 }
 
+TEST_F(StarterOfferTest, NobodyIsAskedAnyMoreWhoHasATemplateMeanwhile) {
+    startForTheFirstTimeWith("<defs>", "<defs>");
+    const Area plain = waitForColor(kPlain);
+    const fs::path css = folder() / "ramp.css";
+    std::ofstream(css) << "linear-gradient(red, blue)";
+    Process import({EASEL_PROGRAM, "templates", "import", css.string()}, environment(),
+                   (folder() / "import.log").string());
+    ASSERT_EQ(import.wait(10s), 0);
+    // The window becomes active again when a dialog over it is gone.
+    screen().keyDown("Control_L");
+    screen().click({plain.left + 20, plain.top + 20});
+    screen().keyUp("Control_L");
+    waitForDialog("Gradient");
+    closeEditorWith("Escape");
+    EXPECT_TRUE(eventually([&] { return waitForColor(kPlain).top < plain.top - 5; }));
+    EXPECT_FALSE(isAnswered());
+}
+
 class TemplatesTest : public DesktopTest {
   protected:
     fs::path templates() const { return configuration() / "kestrad" / "Gradient Templates"; }

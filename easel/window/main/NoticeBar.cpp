@@ -1,6 +1,7 @@
 // Lays out the notice and its button.
 #include "easel/window/main/NoticeBar.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -28,23 +29,30 @@ NoticeBar::NoticeBar(QWidget* parent)
 }
 
 void NoticeBar::tell(const QString& text, const std::vector<Action>& actions) {
-    const bool isAsking = shown_ && shown_->isQuestion;
+    const bool isAsking = shown_ && shown_->isQuestion();
     if (isAsking && text.isEmpty())
         waiting_.reset();
     else if (isAsking)
-        waiting_ = Notice{text, actions};
+        waiting_ = Notice{text, actions, {}};
     else if (text.isEmpty())
         putAway();
     else
-        show({text, actions});
+        show({text, actions, {}});
 }
 
-void NoticeBar::ask(const QString& question, const std::vector<Action>& answers) {
-    Notice notice{question, answers, true};
+void NoticeBar::ask(const QString& question, const std::vector<Action>& answers,
+                    const std::function<bool()>& needsAnswer) {
+    Notice notice{question, answers, needsAnswer};
     if (shown_)
         waiting_ = std::move(notice);
     else
         show(std::move(notice));
+}
+
+bool NoticeBar::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && shown_ && shown_->isOver())
+        putAway();
+    return QFrame::event(event);
 }
 
 void NoticeBar::show(Notice notice) {
@@ -66,13 +74,13 @@ void NoticeBar::showButtons() {
         connect(button, &QPushButton::clicked, this, [this, chosen = action.act] { act(chosen); });
         buttons_->addWidget(button);
     }
-    done_->setVisible(!shown_->isQuestion);
+    done_->setVisible(!shown_->isQuestion());
 }
 
 void NoticeBar::putAway() {
     shown_.reset();
     hide();
-    if (auto next = std::exchange(waiting_, std::nullopt))
+    if (auto next = std::exchange(waiting_, std::nullopt); next && !next->isOver())
         show(*std::move(next));
 }
 

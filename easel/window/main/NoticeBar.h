@@ -28,14 +28,22 @@ class NoticeBar : public QFrame {
     // Plain text; an empty one puts the notice away. Each action has a button, which puts the notice away.
     void tell(const QString& text, const std::vector<Action>& actions = {});
     // The same for a question, which only its answers put away. What is told meanwhile waits for them, the
-    // last of it, and a question waits until a notice is put away.
-    void ask(const QString& question, const std::vector<Action>& answers);
+    // last of it, and a question waits until a notice is put away. It is put away unanswered once it need not
+    // be asked any more, which is looked at whenever the user comes to the window.
+    void ask(const QString& question, const std::vector<Action>& answers,
+             const std::function<bool()>& needsAnswer);
+
+  protected:
+    bool event(QEvent* event) override;
 
   private:
     struct Notice {
         QString text;
         std::vector<Action> actions;
-        bool isQuestion = false;
+        std::function<bool()> needsAnswer; // of a question
+
+        bool isQuestion() const { return needsAnswer != nullptr; }
+        bool isOver() const { return needsAnswer && !needsAnswer(); }
     };
 
     void show(Notice notice);

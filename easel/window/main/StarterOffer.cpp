@@ -28,8 +28,12 @@ void addThem(NoticeBar& notice, SharedParts& shared) {
 } // namespace
 
 bool offerStarterTemplates(NoticeBar& notice, SharedParts& shared) {
-    if (shared.templateFolder.empty() || QSettings().value(kAnsweredKey).toBool() ||
-        !exchange::TemplateShelf(shared.templateFolder, {}).names().empty())
+    // The user may save one meanwhile, or answer another window.
+    const auto needsAnswer = [folder = shared.templateFolder] {
+        return !QSettings().value(kAnsweredKey).toBool() &&
+               exchange::TemplateShelf(folder, {}).names().empty();
+    };
+    if (shared.templateFolder.empty() || !needsAnswer())
         return false;
     const auto answered = [] { QSettings().setValue(kAnsweredKey, true); };
     notice.ask(
@@ -40,7 +44,8 @@ bool offerStarterTemplates(NoticeBar& notice, SharedParts& shared) {
               answered();
               addThem(notice, shared);
           }},
-         {QObject::tr("No &Thanks"), answered}});
+         {QObject::tr("No &Thanks"), answered}},
+        needsAnswer);
     return true;
 }
 

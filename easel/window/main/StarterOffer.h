@@ -6,8 +6,8 @@ namespace easel::window {
 class NoticeBar;
 struct SharedParts;
 
-// Asks in the notice bar, unless the user has templates or has answered before. The bar and the parts outlive
-// the answer. Whether it asked.
+// Asks in the notice bar, unless and until the user has templates or has answered elsewhere. The bar and the
+// parts outlive the answer. Whether it asked.
 bool offerStarterTemplates(NoticeBar& notice, SharedParts& shared);
 
 } // namespace easel::window
