@@ -733,6 +733,138 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>it has no &lt;resources&gt;</source>
         <translation>sie hat kein &lt;resources&gt;</translation>
     </message>
+    <message>
+        <source>the name of a file cannot hold &apos;:&apos;</source>
+        <translation>der Name einer Datei kann kein „:“ enthalten</translation>
+    </message>
+    <message>
+        <source>the name of a file cannot begin with &apos;._&apos;</source>
+        <translation>der Name einer Datei kann nicht mit „._“ beginnen</translation>
+    </message>
+    <message>
+        <source>it cannot be the name of a file</source>
+        <translation>so kann keine Datei heißen</translation>
+    </message>
+    <message>
+        <source>its folder is not there</source>
+        <translation>der Ordner dafür ist nicht da</translation>
+    </message>
+    <message>
+        <source>not a name for a folder</source>
+        <translation>so kann kein Ordner heißen</translation>
+    </message>
+    <message>
+        <source>it has no name for the template folder</source>
+        <translation>der Name des Vorlagenordners fehlt darin</translation>
+    </message>
+    <message>
+        <source>its resources are damaged</source>
+        <translation>ihre Ressourcen sind beschädigt</translation>
+    </message>
+    <message>
+        <source>its resources are larger than a resource file can be</source>
+        <translation>ihre Ressourcen sind größer, als eine Ressourcendatei sein kann</translation>
+    </message>
+    <message>
+        <source>the defaults are larger than a resource file can be</source>
+        <translation>die Voreinstellungen sind größer, als eine Ressourcendatei sein kann</translation>
+    </message>
+    <message>
+        <source>the header file is cut short</source>
+        <translation>die Kopfdatei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>it is no AppleDouble header file</source>
+        <translation>sie ist keine AppleDouble-Kopfdatei</translation>
+    </message>
+    <message>
+        <source>it has an AppleDouble version other than 1 and 2</source>
+        <translation>ihre AppleDouble-Version ist weder 1 noch 2</translation>
+    </message>
+    <message>
+        <source>an entry of the header file does not lie within it</source>
+        <translation>ein Eintrag der Kopfdatei liegt außerhalb von ihr</translation>
+    </message>
+    <message>
+        <source>entries of the header file overlap</source>
+        <translation>Einträge der Kopfdatei überlappen sich</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>der Name ist vergeben</translation>
+    </message>
+    <message>
+        <source>the compressor&apos;s output is not a deflate stream</source>
+        <translation>was die Kompression ausgibt, ist kein Deflate-Strom</translation>
+    </message>
+    <message>
+        <source>unknown error of the dynamic linker</source>
+        <translation>unbekannter Fehler des dynamischen Linkers</translation>
+    </message>
+    <message>
+        <source>It could not be read.</source>
+        <translation>Das konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The change was not kept.</source>
+        <translation>Die Änderung wurde nicht aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>The current gradient and templates will not be kept.</source>
+        <translation>Der aktuelle Verlauf und Vorlagen werden nicht aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Nothing was saved.</source>
+        <translation>Nichts wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>it is no well-formed XML: %1</source>
+        <translation>sie ist kein wohlgeformtes XML: %1</translation>
+    </message>
+    <message>
+        <source>it is not well-formed XML (line %1)</source>
+        <translation>sie ist kein wohlgeformtes XML (Zeile %1)</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: %1</source>
+        <translation>lässt sich nicht laden: %1</translation>
+    </message>
+    <message>
+        <source>the picture would have %1 by %2 pixels; no side can be longer than %3</source>
+        <translation>das Bild hätte %1 mal %2 Pixel; keine Seite kann länger als %3 sein</translation>
+    </message>
+    <message>
+        <source>a picture of %1 by %2 pixels needs %3 MB of memory, and %4 MB are free</source>
+        <translation>ein Bild von %1 mal %2 Pixeln braucht %3 MB Speicher, und %4 MB sind frei</translation>
+    </message>
+    <message>
+        <source>%1; nothing was saved</source>
+        <translation>%1; nichts wurde gespeichert</translation>
+    </message>
+    <message>
+        <source>it could not be opened again: %1</source>
+        <translation>sie ließe sich nicht wieder öffnen: %1</translation>
+    </message>
+    <message>
+        <source>it would hold %1 objects instead of %2</source>
+        <translation>sie enthielte %1 Objekte statt %2</translation>
+    </message>
+    <message>
+        <source>the fill of %1 would not be read back as it is now</source>
+        <translation>die Füllung von %1 käme nicht so zurück, wie sie jetzt ist</translation>
+    </message>
+    <message>
+        <source>the stroke of %1 would not be read back as it is now</source>
+        <translation>die Kontur von %1 käme nicht so zurück, wie sie jetzt ist</translation>
+    </message>
+    <message>
+        <source>object %1</source>
+        <translation>Objekt %1</translation>
+    </message>
+    <message>
+        <source>the object &quot;%1&quot;</source>
+        <translation>Objekt „%1“</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::Canvas</name>
@@ -1382,6 +1514,121 @@ Easel läuft ohne dieses Werkzeug.</translation>
     <message>
         <source>Select</source>
         <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>system</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>der Vorgang ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>das Dateisystem ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>der zugeteilte Platz ist aufgebraucht</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>kein Ordner</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>die Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>zu viele offene Dateien im System</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>zu viele Verweise hintereinander</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>das Gerät oder die Datei ist belegt</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>das Programm in der Datei läuft gerade</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>das Gerät ist nicht da</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>das Gerät oder die Adresse ist nicht da</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>die Datei ist auf dem Server nicht mehr da</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>der Server ist nicht in Betrieb</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>der Server antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Transport endpoint is not connected</source>
+        <translation>keine Verbindung zum Server</translation>
+    </message>
+    <message>
+        <source>Invalid cross-device link</source>
+        <translation>es liegt auf einem anderen Datenträger</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>das ist hier nicht möglich</translation>
+    </message>
+    <message>
+        <source>Operation not supported</source>
+        <translation>das wird hier nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Directory not empty</source>
+        <translation>der Ordner ist nicht leer</translation>
     </message>
 </context>
 </TS>

@@ -733,6 +733,138 @@ Easel fonctionne sans cet outil.</translation>
         <source>it has no &lt;resources&gt;</source>
         <translation>il n’a pas de &lt;resources&gt;</translation>
     </message>
+    <message>
+        <source>the name of a file cannot hold &apos;:&apos;</source>
+        <translation>le nom d’un fichier ne peut pas contenir «&#xa0;:&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the name of a file cannot begin with &apos;._&apos;</source>
+        <translation>le nom d’un fichier ne peut pas commencer par «&#xa0;._&#xa0;»</translation>
+    </message>
+    <message>
+        <source>it cannot be the name of a file</source>
+        <translation>aucun fichier ne peut porter ce nom</translation>
+    </message>
+    <message>
+        <source>its folder is not there</source>
+        <translation>son dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>not a name for a folder</source>
+        <translation>aucun dossier ne peut porter ce nom</translation>
+    </message>
+    <message>
+        <source>it has no name for the template folder</source>
+        <translation>le nom du dossier des modèles y manque</translation>
+    </message>
+    <message>
+        <source>its resources are damaged</source>
+        <translation>ses ressources sont endommagées</translation>
+    </message>
+    <message>
+        <source>its resources are larger than a resource file can be</source>
+        <translation>ses ressources dépassent ce que contient un fichier de ressources</translation>
+    </message>
+    <message>
+        <source>the defaults are larger than a resource file can be</source>
+        <translation>les réglages par défaut dépassent ce que contient un fichier de ressources</translation>
+    </message>
+    <message>
+        <source>the header file is cut short</source>
+        <translation>le fichier d’en-tête est tronqué</translation>
+    </message>
+    <message>
+        <source>it is no AppleDouble header file</source>
+        <translation>ce n’est pas un fichier d’en-tête AppleDouble</translation>
+    </message>
+    <message>
+        <source>it has an AppleDouble version other than 1 and 2</source>
+        <translation>sa version d’AppleDouble n’est ni 1 ni 2</translation>
+    </message>
+    <message>
+        <source>an entry of the header file does not lie within it</source>
+        <translation>une entrée du fichier d’en-tête se trouve hors de lui</translation>
+    </message>
+    <message>
+        <source>entries of the header file overlap</source>
+        <translation>des entrées du fichier d’en-tête se chevauchent</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>le nom est déjà pris</translation>
+    </message>
+    <message>
+        <source>the compressor&apos;s output is not a deflate stream</source>
+        <translation>la compression n’a pas produit de flux deflate</translation>
+    </message>
+    <message>
+        <source>unknown error of the dynamic linker</source>
+        <translation>erreur inconnue de l’éditeur de liens dynamique</translation>
+    </message>
+    <message>
+        <source>It could not be read.</source>
+        <translation>La lecture a échoué.</translation>
+    </message>
+    <message>
+        <source>The change was not kept.</source>
+        <translation>La modification n’a pas été conservée.</translation>
+    </message>
+    <message>
+        <source>The current gradient and templates will not be kept.</source>
+        <translation>Le dégradé actuel et les modèles ne seront pas conservés.</translation>
+    </message>
+    <message>
+        <source>Nothing was saved.</source>
+        <translation>Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>it is no well-formed XML: %1</source>
+        <translation>ce n’est pas du XML bien formé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it is not well-formed XML (line %1)</source>
+        <translation>ce n’est pas du XML bien formé (ligne %1)</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: %1</source>
+        <translation>impossible à charger&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the picture would have %1 by %2 pixels; no side can be longer than %3</source>
+        <translation>l’image aurait %1 sur %2 pixels&#xa0;; aucun côté ne peut dépasser %3</translation>
+    </message>
+    <message>
+        <source>a picture of %1 by %2 pixels needs %3 MB of memory, and %4 MB are free</source>
+        <translation>une image de %1 sur %2 pixels demande %3 Mo de mémoire, et %4 Mo sont libres</translation>
+    </message>
+    <message>
+        <source>%1; nothing was saved</source>
+        <translation>%1&#xa0;; rien n’a été enregistré</translation>
+    </message>
+    <message>
+        <source>it could not be opened again: %1</source>
+        <translation>il ne pourrait pas être rouvert&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it would hold %1 objects instead of %2</source>
+        <translation>il contiendrait %1 objets au lieu de %2</translation>
+    </message>
+    <message>
+        <source>the fill of %1 would not be read back as it is now</source>
+        <translation>à la relecture, le fond ne serait plus celui d’à présent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the stroke of %1 would not be read back as it is now</source>
+        <translation>à la relecture, le contour ne serait plus celui d’à présent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>object %1</source>
+        <translation>objet %1</translation>
+    </message>
+    <message>
+        <source>the object &quot;%1&quot;</source>
+        <translation>objet «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::Canvas</name>
@@ -1382,6 +1514,121 @@ Easel fonctionne sans cet outil.</translation>
     <message>
         <source>Select</source>
         <translation>Sélection</translation>
+    </message>
+</context>
+<context>
+    <name>system</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>permission refusée</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>l’opération n’est pas permise</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>il n’y a plus de place sur le disque</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>le système de fichiers est en lecture seule</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>le quota de disque est dépassé</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>erreur d’entrée/sortie</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>le fichier est trop grand</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>le nom du fichier est trop long</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>trop de fichiers ouverts dans le système</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>la mémoire ne suffit pas</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>trop de liens symboliques à la suite</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>le périphérique ou la ressource est occupé</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>le programme du fichier est en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>le périphérique est absent</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>le périphérique ou l’adresse est absent</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>le fichier n’est plus sur le serveur</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>le serveur est arrêté</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>le serveur ne répond pas</translation>
+    </message>
+    <message>
+        <source>Transport endpoint is not connected</source>
+        <translation>aucune connexion au serveur</translation>
+    </message>
+    <message>
+        <source>Invalid cross-device link</source>
+        <translation>il se trouve sur un autre disque</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>ce n’est pas possible ici</translation>
+    </message>
+    <message>
+        <source>Operation not supported</source>
+        <translation>l’opération n’est pas prise en charge ici</translation>
+    </message>
+    <message>
+        <source>Directory not empty</source>
+        <translation>le dossier n’est pas vide</translation>
     </message>
 </context>
 </TS>

@@ -253,7 +253,7 @@ bool Confirm(short id) {
         alert->about = namesAskedAbout();
     // A plug-in asks the same of a name that no file can have as of one that a file has.
     if (const auto refusal = process().storage().takeRefusal(); alert && refusal)
-        alert = easel::runtime::notice(id, refusal->message() + ". Nothing was saved.");
+        alert = easel::runtime::refusal(id, *refusal, "Nothing was saved.");
     // A question that cannot be put is taken as declined.
     return alert && process().user().confirm(*alert) == easel::runtime::Answer::Yes;
 }

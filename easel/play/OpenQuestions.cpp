@@ -62,7 +62,7 @@ Json describe(const runtime::Dialog* dialog) {
 }
 
 Json describe(const runtime::Alert* alert) {
-    return {{"id", alert->id}, {"kind", "alert"}, {"text", alert->text}};
+    return {{"id", alert->id}, {"kind", "alert"}, {"text", alert->message()}};
 }
 
 Json describe(const ColorQuestion* question) {

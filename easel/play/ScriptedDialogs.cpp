@@ -99,8 +99,8 @@ bool ScriptedUser::movesOrLetsGo(const Step& step) {
 
 runtime::Answer ScriptedUser::confirm(const runtime::Alert& alert) {
     const QuestionScope open(questions_, &alert);
-    if (alert.isNotice)
-        session_.say(alert.text);
+    if (alert.refusal)
+        session_.say(alert.message());
     const auto answer = waitFor<runtime::Answer>(session_, session_.steps(), kAlertOpen,
                                                  [&](const Step& step) -> std::optional<runtime::Answer> {
                                                      if (movesOrLetsGo(step))

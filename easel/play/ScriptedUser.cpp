@@ -66,8 +66,8 @@ bool ScriptedUser::keyIsDown(std::uint16_t code) {
     return (code == runtime::kOptionKey && optionDown_) || (code == runtime::kShiftKey && shiftDown_);
 }
 
-void ScriptedUser::tell(const std::string& message) {
-    session_.say(message);
+void ScriptedUser::tell(const files::Error& error, const std::string& outcome) {
+    session_.say(error.message() + ". " + outcome);
 }
 
 } // namespace easel::play

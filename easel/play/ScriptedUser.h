@@ -39,7 +39,7 @@ class ScriptedUser : public runtime::User {
     void setCursor(runtime::DrawingWindow&, long) override {}
     void setDialogCursor(long) override {}
     void beep() override { ++beeps_; }
-    void tell(const std::string& message) override;
+    void tell(const files::Error& error, const std::string& outcome) override;
     void dialogShown(runtime::Dialog& dialog) override;
     void dialogClosed(runtime::Dialog& dialog) override;
     std::int16_t nextHit(runtime::Dialog& dialog) override;

@@ -1,6 +1,9 @@
 // A question with two answers, as an alert resource words it, or what has to be said in its place.
 #pragma once
 
+#include "easel/files/Result.h"
+
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,20 +18,23 @@ struct Alert {
     std::string detail; // what there is to know beyond it; may be empty
     std::string yesButton;
     std::string noButton;
-    // Where no answer makes a difference: the text is something to know, with the one button for no.
-    bool isNotice = false;
+    // Where no answer makes a difference: why, with the one button for no. The text is what comes of it.
+    std::optional<files::Error> refusal = {};
     // The names of what the question is about, where its words leave that open; may be empty.
     std::vector<std::string> about = {};
+
+    // All of it that has to be said.
+    std::string message() const { return refusal ? refusal->message() + ". " + text : text; }
 };
 
-inline Alert notice(int id, std::string text) {
+inline Alert refusal(int id, files::Error why, std::string outcome) {
     return {.id = id,
             .title = {},
-            .text = std::move(text),
+            .text = std::move(outcome),
             .detail = {},
             .yesButton = {},
             .noButton = "OK",
-            .isNotice = true,
+            .refusal = std::move(why),
             .about = {}};
 }
 

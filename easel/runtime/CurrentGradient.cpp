@@ -28,7 +28,7 @@ class UnseenUser : public User {
     void setCursor(DrawingWindow&, long) override {}
     void setDialogCursor(long) override {}
     void beep() override {}
-    void tell(const std::string&) override {}
+    void tell(const files::Error&, const std::string&) override {}
     void dialogShown(Dialog&) override {}
     void dialogClosed(Dialog&) override {}
     std::int16_t nextHit(Dialog&) override { return 0; }

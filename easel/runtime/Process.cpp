@@ -16,9 +16,9 @@ Process* gCurrent = nullptr;
 
 Process::Process(const classic::StoragePlaces& places)
     : pickFilter_(filterOf(drawing::KindSet::all())),
-      storage_(places, blocks_, [this](const std::string& message) {
+      storage_(places, blocks_, [this](const files::Error& error, const std::string& outcome) {
           if (hasUser())
-              user().tell(message);
+              user().tell(error, outcome);
       }) {
     if (gCurrent)
         throw std::logic_error("there is a host process already");

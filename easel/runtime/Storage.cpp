@@ -10,7 +10,7 @@ Storage::Storage(const classic::StoragePlaces& places, MemoryBlocks& blocks, Tel
     : tell_(std::move(tell)), files_(places, [this](const files::Error& error) { tellError(error); }),
       resourceFiles_(
           files_, blocks, [this](const files::Error& error) { tellError(error); },
-          [this](const files::Error& error) { tell_(error.message() + ". It could not be read."); }),
+          [this](const files::Error& error) { tell_(error, "It could not be read."); }),
       defaults_(places) {}
 
 classic::FileResult Storage::resolve(std::int16_t volume, std::int64_t folder, std::string_view name,
@@ -42,12 +42,12 @@ files::Error Storage::refusalOf(classic::FileResult result, std::string_view nam
 
 void Storage::tellError(const files::Error& error) {
     keptAll_ = false;
-    tell_(error.message() + ". The change was not kept.");
+    tell_(error, "The change was not kept.");
 }
 
 void Storage::tellNothingIsKept(const files::Error& error) {
     if (!std::exchange(unusable_, error))
-        tell_(error.message() + ". The current gradient and templates will not be kept.");
+        tell_(error, "The current gradient and templates will not be kept.");
 }
 
 void Storage::tellDefaultsNotKept(const files::Error& error) {

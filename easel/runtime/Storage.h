@@ -15,8 +15,8 @@ namespace easel::runtime {
 
 class Storage {
   public:
-    // Says something to the user.
-    using Tell = std::function<void(const std::string&)>;
+    // Says to the user what went wrong, and in a sentence what comes of it.
+    using Tell = std::function<void(const files::Error&, const std::string&)>;
 
     // Resources are read into the blocks, which outlive the storage.
     Storage(const classic::StoragePlaces& places, MemoryBlocks& blocks, Tell tell);

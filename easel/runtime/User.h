@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
+#include "easel/files/Result.h"
 
 #include <cstdint>
 #include <optional>
@@ -70,8 +71,8 @@ class User {
 
     virtual void beep() = 0;
 
-    // Says something the user has to know, naming the file and the reason.
-    virtual void tell(const std::string& message) = 0;
+    // Says what went wrong, and what comes of it: a sentence.
+    virtual void tell(const files::Error& error, const std::string& outcome) = 0;
 
     // A dialog becomes visible, filled as it is now; it stays the host's. Changes from here on are told to
     // the dialog's observer.

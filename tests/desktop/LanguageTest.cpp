@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <fstream>
+
 namespace desktop {
 namespace {
 
@@ -72,6 +74,23 @@ TEST_F(LanguageTest, AnAngleTypedWithEitherSignIsTheSame) {
     };
     EXPECT_THAT(typeAngle("22,5"), HasSubstr("22.5 "));
     EXPECT_THAT(typeAngle("67.5"), HasSubstr("67.5 "));
+}
+
+TEST_F(LanguageTest, AGermanUserReadsInGermanWhyNoTemplateIsKept) {
+    const std::filesystem::path templates = configuration() / "kestrad" / "Gradient Templates";
+    std::ofstream(templates) << "in the folder's place";
+    start({}, speaking("de_DE"));
+    EXPECT_EQ(messageOf(waitForDialog("Easel")),
+              templates.string() +
+                  ": kein Ordner. Der aktuelle Verlauf und Vorlagen werden nicht aufbewahrt.");
+}
+
+TEST_F(LanguageTest, AReasonWithANumberInItIsTranslatedAroundTheNumber) {
+    writeDrawing();
+    std::ofstream(drawing()) << "<svg xmlns='http://www.w3.org/2000/svg'>\n</g>\n</svg>\n";
+    start({drawing().string()}, speaking("fr_FR"));
+    EXPECT_EQ(messageOf(waitForDialog("Easel")),
+              drawing().string() + ": ce n\u2019est pas du XML bien form\u00e9 (ligne 2)");
 }
 
 TEST_F(LanguageTest, WhoeverPrefersEnglishGetsItBeforeWhatComesAfter) {

@@ -22,7 +22,9 @@ class IdleUser : public easel::runtime::User {
     void setCursor(easel::runtime::DrawingWindow&, long) override {}
     void setDialogCursor(long) override {}
     void beep() override {}
-    void tell(const std::string& message) override { ADD_FAILURE() << message; }
+    void tell(const easel::files::Error& error, const std::string& outcome) override {
+        ADD_FAILURE() << error.message() << ". " << outcome;
+    }
     void dialogShown(easel::runtime::Dialog&) override {}
     void dialogClosed(easel::runtime::Dialog&) override {}
     std::int16_t nextHit(easel::runtime::Dialog&) override { return 0; }

@@ -2,6 +2,7 @@
 #include "easel/window/dialogs/Questions.h"
 
 #include "easel/runtime/Alert.h"
+#include "easel/window/waiting/CoreTexts.h"
 #include "easel/window/waiting/DialogStack.h"
 
 #include <QMessageBox>
@@ -14,6 +15,8 @@ constexpr std::size_t kMostNamed = 8;
 
 // The question, and a line for each thing that it is about.
 QString questionOf(const runtime::Alert& alert) {
+    if (alert.refusal)
+        return inUsersLanguage(*alert.refusal, alert.text);
     QStringList lines{QString::fromStdString(alert.text)};
     if (!alert.about.empty())
         lines << QString();
@@ -29,7 +32,7 @@ QString questionOf(const runtime::Alert& alert) {
 
 runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dialogs) {
     QMessageBox box(over);
-    box.setIcon(alert.isNotice ? QMessageBox::Warning : QMessageBox::Question);
+    box.setIcon(alert.refusal ? QMessageBox::Warning : QMessageBox::Question);
     box.setWindowTitle(alert.title.empty() ? QObject::tr("Easel") : QString::fromStdString(alert.title));
     box.setTextFormat(Qt::PlainText);
     box.setText(questionOf(alert));
@@ -39,7 +42,7 @@ runtime::Answer ask(const runtime::Alert& alert, QWidget* over, DialogStack& dia
         return QString::fromStdString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
     };
     QPushButton* yes =
-        alert.isNotice ? nullptr : box.addButton(caption(alert.yesButton), QMessageBox::AcceptRole);
+        alert.refusal ? nullptr : box.addButton(caption(alert.yesButton), QMessageBox::AcceptRole);
     QPushButton* no = box.addButton(caption(alert.noButton), QMessageBox::RejectRole);
     // What is asked about cannot always be undone.
     box.setDefaultButton(no);

@@ -6,6 +6,7 @@
 #include "easel/window/dialogs/ColorPicker.h"
 #include "easel/window/dialogs/DeletionWindow.h"
 #include "easel/window/dialogs/Questions.h"
+#include "easel/window/waiting/CoreTexts.h"
 #include "easel/window/waiting/Interaction.h"
 #include "easel/window/waiting/TellProblem.h"
 #include "host/Drawing.h"
@@ -72,8 +73,8 @@ void DesktopUser::beep() {
     QApplication::beep();
 }
 
-void DesktopUser::tell(const std::string& message) {
-    tellProblem(QString::fromStdString(message), interaction_.dialogs);
+void DesktopUser::tell(const files::Error& error, const std::string& outcome) {
+    tellProblem(inUsersLanguage(error, outcome), interaction_.dialogs);
 }
 
 void DesktopUser::dialogShown(runtime::Dialog& dialog) {

@@ -26,7 +26,7 @@ class DesktopUser : public runtime::User {
     void setCursor(runtime::DrawingWindow& window, long id) override;
     void setDialogCursor(long id) override;
     void beep() override;
-    void tell(const std::string& message) override;
+    void tell(const files::Error& error, const std::string& outcome) override;
     void dialogShown(runtime::Dialog& dialog) override;
     void dialogClosed(runtime::Dialog& dialog) override;
     std::int16_t nextHit(runtime::Dialog& dialog) override;

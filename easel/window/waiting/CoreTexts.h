@@ -9,11 +9,12 @@
 
 namespace easel::window {
 
-// A note or the reason of an error. One that nobody translated, such as a reason with numbers in it, or a
-// system's own, stays as it is.
+// A note, the reason of an error or what comes of it. One that nobody translated stays as it is.
 QString inUsersLanguage(const std::string& sentence);
 
 // "FILE: reason"
 QString inUsersLanguage(const files::Error& error);
+// "FILE: reason. Outcome"
+QString inUsersLanguage(const files::Error& error, const std::string& outcome);
 
 } // namespace easel::window

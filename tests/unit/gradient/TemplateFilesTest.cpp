@@ -19,7 +19,8 @@ using testing::IsEmpty;
 class Asked : public IdleUser {
   public:
     easel::runtime::Answer confirm(const easel::runtime::Alert&) override { return answer; }
-    void tell(const std::string&) override {} // the host may say which file it could not read
+    // The host may say which file it could not read.
+    void tell(const easel::files::Error&, const std::string&) override {}
 
     easel::runtime::Answer answer = easel::runtime::Answer::Yes;
 };

@@ -16,7 +16,9 @@ class StorageTest : public testing::Test {
     runtime::MemoryBlocks blocks_;
     std::vector<std::string> told_;
     runtime::Storage storage_{classic::StoragePlaces::within(folder_.path()), blocks_,
-                              [this](const std::string& message) { told_.push_back(message); }};
+                              [this](const files::Error& error, const std::string& outcome) {
+                                  told_.push_back(error.message() + ". " + outcome);
+                              }};
 };
 
 const files::Error kReadOnly{"folder", "read-only", {}};
