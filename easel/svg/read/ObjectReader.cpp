@@ -200,10 +200,11 @@ std::optional<Object> ObjectReader::readPicture(pugi::xml_node element, const dr
     return object;
 }
 
-std::shared_ptr<const ContextPaints> ObjectReader::contextOf(const Shape& shape, const Place& place) const {
-    const PaintPlace at{shape.box(), place.toDrawing, place.lengths};
-    return std::make_shared<const ContextPaints>(
-        ContextPaints{paint(place.style.fill, at, place.style), paint(place.style.stroke, at, place.style)});
+std::shared_ptr<const ContextPaints>
+ObjectReader::contextOf(ContextPaints::Giver giver, const drawing::Box& box, const Place& place) const {
+    const PaintPlace at{box, place.toDrawing, place.lengths};
+    return std::make_shared<const ContextPaints>(ContextPaints{
+        paint(place.style.fill, at, place.style), paint(place.style.stroke, at, place.style), giver});
 }
 
 void ObjectReader::setFill(Object& object, const PaintPlace& at, const ComputedStyle& style) {

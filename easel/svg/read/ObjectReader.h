@@ -30,8 +30,10 @@ class ObjectReader {
     std::optional<drawing::Object> readPicture(pugi::xml_node element, const drawing::Path& outline,
                                                double opacity, const Place& place);
 
-    // What the markers of that shape may be painted with.
-    std::shared_ptr<const ContextPaints> contextOf(const Shape& shape, const Place& place) const;
+    // What others may be painted with because of a shape or `use` element there. Its box and `place` are in
+    // its own units.
+    std::shared_ptr<const ContextPaints> contextOf(ContextPaints::Giver giver, const drawing::Box& box,
+                                                   const Place& place) const;
 
   private:
     using StylePtr = std::shared_ptr<const drawing::Style>;

@@ -27,7 +27,7 @@ void TreeReader::addMarkers(drawing::Object& object, const Shape& shape, const P
     if (!takesMarkers(shape.kind) || std::all_of(ids.begin(), ids.end(), isNone))
         return;
     Place context = place;
-    context.style.context = reader_.contextOf(shape, place);
+    context.style.context = reader_.contextOf(ContextPaints::Giver::Shape, shape.box(), place);
     std::vector<drawing::ObjectPtr> markers;
     for (const MarkerVertex& vertex : markerVertices(shape)) {
         const pugi::xml_node marker = scene_.tree.byId(ids[static_cast<std::size_t>(vertex.slot)]);

@@ -26,6 +26,10 @@ constexpr std::size_t kDeepestUse = 500;
 // How many steps up the tree cost as much as a point.
 constexpr std::size_t kStepsUp = 16;
 
+bool asksForContext(const PaintSpec& paint) {
+    return paint.kind == PaintSpec::Kind::ContextFill || paint.kind == PaintSpec::Kind::ContextStroke;
+}
+
 std::string_view attributeText(pugi::xml_node element, const char* name) {
     return element.attribute(name).value();
 }
@@ -217,18 +221,22 @@ void TreeReader::addObject(Object object, pugi::xml_node element, const StatedSt
     const FilteredGroups filtered = addFiltered(inside, addGroup(inside, std::move(effects)), filters);
     object.group = inside.group;
     if (apart_ == 0)
-        addSource(object, element, inside.use);
+        addSource(object, element, inside);
     else
         object.id = drawing::Name();
     objects_.push_back(sealed(std::move(object)));
     setFilters(filtered, stated, box, inside, objects_.size() - 1);
 }
 
-void TreeReader::addSource(Object& object, pugi::xml_node element, std::uint32_t use) {
+void TreeReader::addSource(Object& object, pugi::xml_node element, const Place& place) {
     const std::size_t begin = scene_.tree.tagBegin(element);
     object.source = {static_cast<std::uint32_t>(begin),
-                     static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), use};
+                     static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), place.use};
     source_.objects.push_back(object.source);
+    if (asksForContext(place.style.fill))
+        source_.contextFills.insert(object.source);
+    if (asksForContext(place.style.stroke))
+        source_.contextStrokes.insert(object.source);
 }
 
 void TreeReader::readUse(pugi::xml_node element, Inside inside) {
@@ -245,6 +253,7 @@ void TreeReader::readUse(pugi::xml_node element, Inside inside) {
         return scene_.notes.add(Unsupported::DeepLayer);
     scene_.budget.spend(1);
     open_.push_back(element);
+    inside.place.style.context = contextOfUse(element, target, inside.place);
     readTarget(element, target, std::move(inside));
 }
 

@@ -142,6 +142,12 @@ class TreeReader {
     void readChildren(pugi::xml_node element, Inside inside);
     void readSwitch(pugi::xml_node element, Inside inside);
     bool leadsBack(pugi::xml_node use, pugi::xml_node target);
+    // What the target of a `use` element, in which the place is, may be painted with; null for nothing.
+    std::shared_ptr<const ContextPaints> contextOfUse(pugi::xml_node use, pugi::xml_node target,
+                                                      const Place& place);
+    // In the units of the `use` element, whose target it is.
+    drawing::Box boxOfTarget(pugi::xml_node use, pugi::xml_node target, Place place) const;
+    bool fileAsksForContext();
 
     void readFrom(const Place& outside);
     Place rootPlace();
@@ -183,7 +189,7 @@ class TreeReader {
     void noteEffects(const StatedStyle& stated);
     // Keeps the box of a shape that is not shown for those that ask for the box of a group.
     void addHidden(const Shape& shape, const Place& place);
-    void addSource(drawing::Object& object, pugi::xml_node element, std::uint32_t use);
+    void addSource(drawing::Object& object, pugi::xml_node element, const Place& place);
     void addUseInstance(pugi::xml_node use, pugi::xml_node target, Place& place);
     void tick();
 
@@ -202,11 +208,13 @@ class TreeReader {
     std::map<pugi::xml_node, ReadPattern> patterns_; // by the elements whose content they show
     std::vector<pugi::xml_node> openImages_;         // elements that filters show and that are being read
     KnownMask lastMask_;
-    std::vector<drawing::Path> hidden_; // outlines in the drawing, of a waiting group's hidden shapes
-    std::size_t waiting_ = 0;           // groups that wait
-    std::size_t apart_ = 0;             // how often `readApart` is at work
-    std::deque<Work> work_;             // the last is the innermost
-    DrawingSize size_;                  // a side that is not known yet is 0
+    std::vector<drawing::Path> hidden_;      // outlines in the drawing, of a waiting group's hidden shapes
+    std::size_t waiting_ = 0;                // groups that wait
+    std::size_t apart_ = 0;                  // how often `readApart` is at work
+    std::deque<Work> work_;                  // the last is the innermost
+    bool measures_ = false;                  // whether only the boxes of what is read are wanted
+    std::optional<bool> fileAsksForContext_; // unknown until it matters
+    DrawingSize size_;                       // a side that is not known yet is 0
     std::size_t visited_ = 0;
 };
 

@@ -25,10 +25,13 @@ struct PaintSpec {
 
 struct TextStyle;
 
-// What the shape that shows a marker is painted with.
+// What `context-fill` and `context-stroke` stand for: the paints of the shape that shows a marker, or else of
+// the `use` element around.
 struct ContextPaints {
+    enum class Giver : std::uint8_t { Shape, Use };
     drawing::Paint fill;
     drawing::Paint stroke;
+    Giver giver = Giver::Shape;
 };
 
 struct ComputedStyle {
@@ -52,7 +55,7 @@ struct ComputedStyle {
     bool smoothPictures = true;
     std::array<std::string_view, 3>
         markers; // ids of those at the start, in between and at the end; empty: none
-    std::shared_ptr<const ContextPaints> context; // null: outside of markers
+    std::shared_ptr<const ContextPaints> context; // null: none
     const CustomProperties* custom = nullptr;     // null: none
     std::shared_ptr<const TextStyle> textStyle;   // null: nothing is stated of it
 

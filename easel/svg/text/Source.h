@@ -45,8 +45,10 @@ struct Source : drawing::DocumentSource {
     bool sheetsStateFill = false;
     bool sheetsStateStroke = false;
     std::vector<drawing::ElementSpan> objects; // of every object that was read, in the drawing's order
-    std::vector<UseInstance> useInstances;     // number 1 is the first
-    std::set<std::size_t> chosen;              // start tags of what is shown of `switch` elements
+    // Those of them that take their fill or stroke from a `use` element.
+    std::set<drawing::ElementSpan> contextFills, contextStrokes;
+    std::vector<UseInstance> useInstances; // number 1 is the first
+    std::set<std::size_t> chosen;          // start tags of what is shown of `switch` elements
 
     const std::string& text() const { return encoding == Encoding::Utf8 ? bytes : decoded; }
 };

@@ -15,7 +15,7 @@ namespace easel::svg {
 enum class StatementStrength : std::uint8_t { Attribute, Style };
 
 struct PaintStatement {
-    std::string_view property; // "fill" or "stroke"
+    std::string_view property; // "fill", "stroke" or the opacity of one
     std::string paint;         // without quotes in it
     StatementStrength strength = StatementStrength::Attribute;
 };

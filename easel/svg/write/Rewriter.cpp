@@ -1,5 +1,7 @@
 #include "easel/svg/write/Rewriter.h"
 
+#include "easel/svg/style/Color.h"
+#include "easel/svg/text/Number.h"
 #include "easel/svg/text/Tags.h"
 #include "easel/svg/write/ObjectText.h"
 #include "easel/svg/write/RawTag.h"
@@ -58,6 +60,28 @@ void removeElement(Splices& splices, const std::string& text, std::size_t tag) {
     splices.replace(ownLine ? begin : tag, end, "");
 }
 
+StatementStrength strength(bool sheetsStateIt) {
+    return sheetsStateIt ? StatementStrength::Style : StatementStrength::Attribute;
+}
+
+// A paint that the object has, with the opacity that is stated beside it. Nothing for one that cannot be said
+// of one object.
+void addPaint(std::vector<PaintStatement>& paints, std::string_view property, const Object& object,
+              StatementStrength strength, GradientBlock& gradients) {
+    const bool isFill = property == "fill";
+    const drawing::Style& style = styleOf(object);
+    const drawing::Paint& paint = isFill ? object.fill : style.stroke.paint;
+    if (const drawing::Gradient* const gradient = drawing::gradientIn(paint)) {
+        paints.push_back({property, gradients.addForeign(*gradient, object), strength});
+    } else if (const auto* const color = std::get_if<drawing::ColorPaint>(&paint)) {
+        paints.push_back({property, colorText(color->color), strength});
+        const double around = isFill ? style.fillOpacity : style.stroke.opacity;
+        if (color->opacity != 1)
+            paints.push_back(
+                {isFill ? "fill-opacity" : "stroke-opacity", numberText(color->opacity * around), strength});
+    }
+}
+
 } // namespace
 
 Rewriter::Rewriter(const Snapshot& drawing, const Source& source)
@@ -91,12 +115,34 @@ void Rewriter::gatherChanges() {
         else if (auto paints = givenPaints(*object); !paints.empty())
             addChange(object->source, std::move(paints));
     });
+    if (!source_.contextFills.empty() || !source_.contextStrokes.empty())
+        keepContextPaints();
+}
+
+void Rewriter::keepContextPaints() {
+    std::set<ElementSpan> seen;
+    drawing_.forEach([&](const ObjectPtr& object) {
+        const ElementSpan& element = object->source;
+        if (!element.inFile() || !writtenOut_.contains(element.use) || !seen.insert(element).second)
+            return;
+        std::vector<PaintStatement> paints;
+        if (object->fillOrigin != PaintOrigin::Edited && source_.contextFills.contains(element))
+            addPaint(paints, "fill", *object, strength(source_.sheetsStateFill), gradients_);
+        if (object->strokeOrigin != PaintOrigin::Edited && source_.contextStrokes.contains(element))
+            addPaint(paints, "stroke", *object, strength(source_.sheetsStateStroke), gradients_);
+        if (paints.empty())
+            return;
+        auto& changes = changes_[element.use];
+        const auto known = std::find_if(changes.begin(), changes.end(),
+                                        [&](const Change& change) { return change.tag == element.tagBegin; });
+        if (known == changes.end())
+            changes.push_back({element.tagBegin, std::move(paints)});
+        else
+            known->paints.insert(known->paints.end(), paints.begin(), paints.end());
+    });
 }
 
 std::vector<PaintStatement> Rewriter::givenPaints(const Object& object) {
-    const auto strength = [](bool sheetsStateIt) {
-        return sheetsStateIt ? StatementStrength::Style : StatementStrength::Attribute;
-    };
     std::vector<PaintStatement> paints;
     if (object.fillOrigin == PaintOrigin::Edited)
         if (std::string fill = fillText(object, gradients_); !fill.empty())

@@ -33,6 +33,8 @@ class Rewriter {
     void addChange(const drawing::ElementSpan& element, std::vector<PaintStatement> paints);
     // What was given to the object since it was read, if it is its element that says so.
     std::vector<PaintStatement> givenPaints(const drawing::Object& object);
+    // States the paints that objects of written out use instances took from a `use` element, which is gone.
+    void keepContextPaints();
     // Has a use instance written out, and so those around it.
     void writeOut(std::uint32_t instance);
     // What repeats the element that begins here, or something around it, is written out as it was: only the
