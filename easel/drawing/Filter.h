@@ -24,8 +24,12 @@ struct FilterInput {
 };
 
 // Lengths and places of effects are in the units of the filter.
+// What an effect takes for pixels beyond the edges of its input.
+enum class EdgeMode : std::uint8_t { Duplicate, Wrap, None };
+
 struct BlurEffect {
     Point deviation; // of the bell curve, each way; not below 0
+    EdgeMode edge = EdgeMode::None;
 };
 
 struct OffsetEffect {
@@ -77,7 +81,6 @@ struct TransferEffect {
 };
 
 struct ConvolveEffect {
-    enum class Edge : std::uint8_t { Duplicate, Wrap, None };
     int columns = 3;
     int rows = 3;
     std::vector<double> kernel; // columns times rows
@@ -85,7 +88,7 @@ struct ConvolveEffect {
     double bias = 0;
     int targetX = 1; // the cell of the kernel that lies on the pixel
     int targetY = 1;
-    Edge edge = Edge::Duplicate;
+    EdgeMode edge = EdgeMode::Duplicate;
     bool keepsAlpha = false;
     Point unit; // the distance of the kernel's cells; 0: a pixel
 };

@@ -1,6 +1,7 @@
 // feConvolveMatrix (SVG 1.1, 15.13): the kernel is laid on the picture turned by half a turn.
 #include "easel/paint/filter/Convolve.h"
 
+#include "easel/paint/filter/Edges.h"
 #include "easel/paint/filter/PixelLoops.h"
 #include "easel/paint/filter/Shade.h"
 
@@ -11,15 +12,6 @@ namespace easel::paint {
 namespace {
 
 using drawing::ConvolveEffect;
-
-// The pixel that stands for one at this place of a row or column; -1 for none.
-int placeWithin(int place, int size, ConvolveEffect::Edge edge) {
-    if (place >= 0 && place < size)
-        return place;
-    if (edge == ConvolveEffect::Edge::Duplicate)
-        return std::clamp(place, 0, size - 1);
-    return edge == ConvolveEffect::Edge::Wrap ? (place % size + size) % size : -1;
-}
 
 // Multiplied by alpha or not, from 0 to 1: red, green, blue, alpha.
 std::array<float, 4> channelsOf(std::uint32_t pixel, bool multiplied) {
@@ -52,11 +44,13 @@ std::vector<Cell> cellsOf(const ConvolveEffect& effect, PixelPoint step) {
 Surface convolved(const ConvolveEffect& effect, PixelPoint step, const Surface& picture) {
     const std::vector<Cell> cells = cellsOf(effect, step);
     const auto bias = static_cast<float>(effect.bias);
+    const Edges columns{0, picture.width(), effect.edge};
+    const Edges rows{0, picture.height(), effect.edge};
     const auto sumAt = [&](int x, int y) {
         std::array<float, 4> sum{};
         for (const Cell& cell : cells) {
-            const int fromX = placeWithin(x + cell.x, picture.width(), effect.edge);
-            const int fromY = placeWithin(y + cell.y, picture.height(), effect.edge);
+            const int fromX = columns.placeFor(x + cell.x);
+            const int fromY = rows.placeFor(y + cell.y);
             if (fromX < 0 || fromY < 0)
                 continue;
             const auto channels = channelsOf(picture.row(fromY)[fromX], !effect.keepsAlpha);

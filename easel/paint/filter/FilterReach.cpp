@@ -17,6 +17,9 @@ struct ReachOfEffect {
     Point scale;
 
     std::optional<FilterReach> operator()(const drawing::BlurEffect& blur) const {
+        // Its edges stand for all that is beyond them.
+        if (blur.edge != drawing::EdgeMode::None)
+            return std::nullopt;
         return FilterReach{static_cast<double>(blurReach(blur.deviation.x * scale.x)),
                            static_cast<double>(blurReach(blur.deviation.y * scale.y))};
     }

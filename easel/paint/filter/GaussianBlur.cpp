@@ -2,6 +2,7 @@
 // in a row from there on. Columns are blurred; rows become columns for it.
 #include "easel/paint/filter/GaussianBlur.h"
 
+#include "easel/paint/filter/Edges.h"
 #include "easel/paint/filter/PixelLoops.h"
 #include "easel/paint/filter/Transpose.h"
 
@@ -47,16 +48,18 @@ const std::uint8_t* bytesOf(const Surface& picture, int y, int at) {
 }
 
 // The bytes from `begin` to `begin + count` of each row, each of them the sum of those above and below it.
-void bellStrip(const Surface& picture, Surface& result, const std::vector<std::uint32_t>& weights, int begin,
-               int count) {
+void bellStrip(const Surface& picture, const Edges& edges, Surface& result,
+               const std::vector<std::uint32_t>& weights, int begin, int count) {
     std::array<std::uint32_t, kStrip> sums;
     const int reach = static_cast<int>(weights.size()) - 1;
     for (int y = 0; y < picture.height(); ++y) {
         sums.fill(65536 / 2);
-        const int last = std::min(y + reach, picture.height() - 1);
-        for (int from = std::max(y - reach, 0); from <= last; ++from) {
+        for (int from = y - reach; from <= y + reach; ++from) {
+            const int place = edges.placeFor(from);
+            if (place < 0)
+                continue;
             const std::uint32_t weight = weights[static_cast<std::size_t>(std::abs(from - y))];
-            const std::uint8_t* const bytes = bytesOf(picture, from, begin);
+            const std::uint8_t* const bytes = bytesOf(picture, place, begin);
             for (int i = 0; i < count; ++i)
                 sums[static_cast<std::size_t>(i)] += weight * bytes[i];
         }
@@ -98,30 +101,34 @@ struct BoxBlur {
 
 // Sums wrap around on their way, but not at their end, where `Whole` holds 255 times the total weight.
 template <class Whole, class Real>
-void boxStrip(const Surface& picture, Surface& result, const BoxBlur& boxes, int begin, int count) {
-    std::array<Whole, kStrip> first{};
-    std::array<Whole, kStrip> second{};
-    std::array<Whole, kStrip> third{};
+void boxStrip(const Surface& picture, const Edges& edges, Surface& result, const BoxBlur& boxes, int begin,
+              int count) {
+    std::array<Whole, kStrip> once{};
+    std::array<Whole, kStrip> twice{};
+    std::array<Whole, kStrip> thrice{};
     std::array<Whole, kStrip> change;
     const auto part = static_cast<Real>(1 / boxes.total);
-    for (int y = -boxes.reach; y < picture.height(); ++y) {
+    // What goes on beyond the edge begins as far before the first pixel as its boxes reach.
+    const int first = edges.goOn() ? -boxes.reach : 0;
+    for (int y = first - boxes.reach; y < picture.height(); ++y) {
         change.fill(0);
         for (const BoxBlur::Term term : boxes.terms) {
             const int from = y + boxes.reach - term.delay;
-            if (from < 0 || from >= picture.height())
+            const int place = from < first ? -1 : edges.placeFor(from);
+            if (place < 0)
                 continue;
-            const std::uint8_t* const bytes = bytesOf(picture, from, begin);
+            const std::uint8_t* const bytes = bytesOf(picture, place, begin);
             const auto factor = static_cast<Whole>(term.factor);
             for (int i = 0; i < count; ++i)
                 change[static_cast<std::size_t>(i)] += factor * bytes[i];
         }
         for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i)
-            third[i] += second[i] += first[i] += change[i];
+            thrice[i] += twice[i] += once[i] += change[i];
         if (y < 0)
             continue;
         std::uint8_t* const out = reinterpret_cast<std::uint8_t*>(result.row(y)) + begin;
         for (int i = 0; i < count; ++i) {
-            const auto sum = static_cast<std::make_signed_t<Whole>>(third[static_cast<std::size_t>(i)]);
+            const auto sum = static_cast<std::make_signed_t<Whole>>(thrice[static_cast<std::size_t>(i)]);
             out[i] = static_cast<std::uint8_t>(static_cast<Real>(sum) * part + Real{0.5});
         }
     }
@@ -138,17 +145,17 @@ template <class Strip> Surface inStrips(const Surface& picture, Strip strip) {
     return result;
 }
 
-Surface columnsBlurred(const Surface& picture, double deviation) {
+Surface columnsBlurred(const Surface& picture, double deviation, const Edges& edges) {
     if (deviation < kLeastForBoxes)
         return inStrips(picture,
                         [&, weights = bellWeights(deviation)](Surface& result, int begin, int count) {
-                            bellStrip(picture, result, weights, begin, count);
+                            bellStrip(picture, edges, result, weights, begin, count);
                         });
     const BoxBlur boxes(std::min(deviation, kLargestDeviation));
     const bool small = boxes.total * 255 < 0x1p31;
     return inStrips(picture, [&](Surface& result, int begin, int count) {
         const auto strip = small ? boxStrip<std::uint32_t, float> : boxStrip<std::uint64_t, double>;
-        strip(picture, result, boxes, begin, count);
+        strip(picture, edges, result, boxes, begin, count);
     });
 }
 
@@ -158,14 +165,24 @@ constexpr double kLeastDeviation = 0.05;
 } // namespace
 
 Surface blurred(const Surface& picture, double deviationX, double deviationY) {
+    return blurred(picture, deviationX, deviationY, {.right = picture.width(), .bottom = picture.height()},
+                   drawing::EdgeMode::None);
+}
+
+Surface blurred(const Surface& picture, double deviationX, double deviationY, const PixelRect& region,
+                drawing::EdgeMode edge) {
+    const PixelRect whole{.right = picture.width(), .bottom = picture.height()};
+    const PixelRect inside = edge == drawing::EdgeMode::None ? whole : region.intersection(whole);
+    const Edges columns{inside.left, inside.right, edge};
+    const Edges rows{inside.top, inside.bottom, edge};
     const bool sideways = deviationX >= kLeastDeviation;
     const bool down = deviationY >= kLeastDeviation;
     if (!sideways && !down)
         return mapped(picture, [](std::uint32_t pixel) { return pixel; });
     if (!sideways)
-        return columnsBlurred(picture, deviationY);
-    Surface rows = transposed(columnsBlurred(transposed(picture), deviationX));
-    return down ? columnsBlurred(rows, deviationY) : std::move(rows);
+        return columnsBlurred(picture, deviationY, rows);
+    Surface result = transposed(columnsBlurred(transposed(picture), deviationX, columns));
+    return down ? columnsBlurred(result, deviationY, rows) : std::move(result);
 }
 
 int blurReach(double deviation) {

@@ -38,7 +38,7 @@ class EffectPicture {
 
     Surface operator()(const drawing::BlurEffect& effect) const {
         const Point deviation = inPixels(effect.deviation);
-        return blurred(input(0), deviation.x, deviation.y);
+        return blurred(input(0), deviation.x, deviation.y, inputs_.firstRegion, effect.edge);
     }
     Surface operator()(const drawing::OffsetEffect& effect) const {
         return movedBy(input(0), inPixels(effect.by));

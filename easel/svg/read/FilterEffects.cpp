@@ -32,8 +32,16 @@ Point notNegative(std::optional<Point> lengths) {
     return lengths && lengths->x >= 0 && lengths->y >= 0 ? *lengths : Point{};
 }
 
+EdgeMode edgeMode(const FilterAttributes& a, EdgeMode otherwise) {
+    const std::array<std::pair<std::string_view, EdgeMode>, 4> modes = {{{{}, otherwise},
+                                                                         {"duplicate", EdgeMode::Duplicate},
+                                                                         {"wrap", EdgeMode::Wrap},
+                                                                         {"none", EdgeMode::None}}};
+    return named(a.text("edgeMode"), modes);
+}
+
 BlurEffect blurEffect(const FilterAttributes& a) {
-    return {a.eachWay(notNegative(a.pair("stdDeviation")))};
+    return {a.eachWay(notNegative(a.pair("stdDeviation"))), edgeMode(a, EdgeMode::None)};
 }
 
 OffsetEffect offsetEffect(const FilterAttributes& a) {
@@ -156,10 +164,7 @@ std::optional<FilterEffect> convolveEffect(const FilterAttributes& a) {
     if (effect.divisor == 0)
         effect.divisor = sum == 0 ? 1 : sum;
     effect.bias = a.number("bias", 0);
-    const std::string_view edge = a.text("edgeMode");
-    effect.edge = edge == "wrap"   ? ConvolveEffect::Edge::Wrap
-                  : edge == "none" ? ConvolveEffect::Edge::None
-                                   : ConvolveEffect::Edge::Duplicate;
+    effect.edge = edgeMode(a, EdgeMode::Duplicate);
     effect.keepsAlpha = a.text("preserveAlpha") == "true";
     effect.unit = a.eachWay(notNegative(a.pair("kernelUnitLength")));
     return effect;

@@ -109,7 +109,8 @@ TEST(InitialValues, OfAConvolutionAreThreeByThreeAroundTheMiddle) {
     EXPECT_EQ(convolve.bias, 0);
     EXPECT_EQ(convolve.targetX, 1);
     EXPECT_EQ(convolve.targetY, 1);
-    EXPECT_EQ(convolve.edge, ConvolveEffect::Edge::Duplicate);
+    EXPECT_EQ(convolve.edge, EdgeMode::Duplicate);
+    EXPECT_EQ(BlurEffect().edge, EdgeMode::None);
     EXPECT_FALSE(convolve.keepsAlpha);
 }
 

@@ -81,6 +81,42 @@ TEST(Blurs, AreTheSumsThatTheStandardDefines) {
     }
 }
 
+// The place within a region that stands for one beyond its edges.
+int placeWithin(int place, int begin, int end, easel::drawing::EdgeMode mode) {
+    while (mode == easel::drawing::EdgeMode::Wrap && place < begin)
+        place += end - begin;
+    while (mode == easel::drawing::EdgeMode::Wrap && place >= end)
+        place -= end - begin;
+    return std::clamp(place, begin, end - 1);
+}
+
+TEST(Blurs, GoOnBeyondTheEdgesOfTheirRegion) {
+    const Surface picture = anyPicture(33, 31);
+    const PixelRect region{.left = 4, .top = 3, .right = 27, .bottom = 20};
+    for (const auto mode : {easel::drawing::EdgeMode::Duplicate, easel::drawing::EdgeMode::Wrap}) {
+        // So large that no box sees an edge.
+        const int margin = 60;
+        Surface endless(33 + 2 * margin, 31 + 2 * margin);
+        for (int y = 0; y < endless.height(); ++y)
+            for (int x = 0; x < endless.width(); ++x)
+                endless.row(y)[x] =
+                    picture.row(placeWithin(y - margin, region.top, region.bottom,
+                                            mode))[placeWithin(x - margin, region.left, region.right, mode)];
+        for (const auto& [x, y] : {std::pair{0.7, 1.5}, {2.0, 2.6}, {5.0, 12.0}}) {
+            const Surface result = blurred(picture, x, y, region, mode);
+            for (const auto& [px, py] : {std::pair{4, 3}, {26, 19}, {15, 10}, {0, 0}, {32, 30}})
+                for (const unsigned shift : {0u, 24u})
+                    EXPECT_NEAR(levelAt(result, px, py, shift),
+                                summed(endless, kernelOf(x), kernelOf(y), px + margin, py + margin, shift),
+                                kRounding)
+                        << x << ", " << y << " at " << px << ", " << py;
+        }
+    }
+    EXPECT_TRUE(samePixels(blurred(picture, 3, 3, {}, easel::drawing::EdgeMode::Wrap), Surface(33, 31)));
+    EXPECT_TRUE(
+        samePixels(blurred(picture, 3, 3, region, easel::drawing::EdgeMode::None), blurred(picture, 3, 3)));
+}
+
 // An edge of full height becomes a slope; how its steps are spread is the blur's own curve.
 TEST(Blurs, SpreadByTheirDeviation) {
     for (const double deviation : {0.5, 1.0, 1.9, 2.0, 5.0, 8.0, 31.0, 150.0}) {

@@ -73,10 +73,10 @@ double convolvedAt(const drawing::ConvolveEffect& e, const Surface& picture, int
         for (int j = 0; j < e.columns; ++j) {
             int u = x - e.targetX + j;
             int v = y - e.targetY + i;
-            if (e.edge == drawing::ConvolveEffect::Edge::Duplicate) {
+            if (e.edge == drawing::EdgeMode::Duplicate) {
                 u = std::clamp(u, 0, picture.width() - 1);
                 v = std::clamp(v, 0, picture.height() - 1);
-            } else if (e.edge == drawing::ConvolveEffect::Edge::Wrap) {
+            } else if (e.edge == drawing::EdgeMode::Wrap) {
                 u = (u + 10 * picture.width()) % picture.width();
                 v = (v + 10 * picture.height()) % picture.height();
             }
@@ -87,9 +87,9 @@ double convolvedAt(const drawing::ConvolveEffect& e, const Surface& picture, int
 }
 
 TEST(Convolutions, SumTheCellsOfTheirKernelsTurned) {
-    using Edge = drawing::ConvolveEffect::Edge;
+    using drawing::EdgeMode;
     const Surface picture = anyPicture(13, 11);
-    for (const Edge edge : {Edge::Duplicate, Edge::Wrap, Edge::None}) {
+    for (const EdgeMode edge : {EdgeMode::Duplicate, EdgeMode::Wrap, EdgeMode::None}) {
         drawing::ConvolveEffect effect;
         effect.columns = 3;
         effect.rows = 2;

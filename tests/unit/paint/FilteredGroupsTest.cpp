@@ -79,6 +79,20 @@ TEST(Filters, ShowInTheirRegionAndNowhereElse) {
               rect(39, 28, 44, 52));
 }
 
+TEST(Filters, BlursGoOnWhereTheirInputEnds) {
+    const auto shown = [](const std::string& mode) {
+        return paintedText("<filter id='f'><feFlood flood-color='red' x='30' y='40' width='9' height='5'/>"
+                           "<feGaussianBlur stdDeviation='4' x='0' y='0' width='80' height='80' edgeMode='" +
+                           mode + "'/></filter>" + kRect);
+    };
+    paint::Surface red = plainPicture(80, 80, 0);
+    for (int y = 28; y < 52; ++y)
+        std::fill(red.row(y) + 16, red.row(y) + 64, kRed);
+    EXPECT_TRUE(samePixels(shown("duplicate"), red));
+    EXPECT_TRUE(samePixels(shown("wrap"), red));
+    EXPECT_NE(shown("none").row(42)[34], kRed);
+}
+
 TEST(Filters, TakeInWhatTheyName) {
     const auto middle = [](const std::string& steps) {
         return paintedText("<filter id='f' color-interpolation-filters='sRGB'>" + steps + "</filter>" + kRect)
@@ -193,6 +207,19 @@ TEST(FilteredGroups, APartPaintedAnewIsThatPartOfTheWhole) {
             for (int x = part.left; x < std::min(part.right, whole.width()); ++x)
                 ASSERT_EQ(again.row(y)[x], whole.row(y)[x]) << x << ", " << y;
     }
+}
+
+TEST(FilteredGroups, WhatComesInFromTheOtherSideNeedNotBeSeen) {
+    const drawing::Drawing drawing =
+        drawingOf("<filter id='f' x='0' y='0' width='1' height='1'><feGaussianBlur stdDeviation='4' "
+                  "edgeMode='wrap'/></filter><path d='M5 5H75V75z' fill='blue' filter='url(#f)'/>");
+    const paint::Surface whole = painted(drawing);
+    // The part at the left edge, into which the right one comes.
+    paint::Surface part(20, 20);
+    paint::renderDrawing(drawing, part.view(), Affine::translation(-4, -50));
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 20; ++x)
+            ASSERT_EQ(part.row(y)[x], whole.row(50 + y)[4 + x]) << x << ", " << y;
 }
 
 TEST(FilteredGroups, ThatAreTurnedLookAsIfTurnedAfterwards) {

@@ -114,13 +114,23 @@ TEST(FilterEffects, ChannelsHaveTransferFunctionsOfTheirOwn) {
               Kind::Identity);
 }
 
+TEST(FilterEffects, BlursEndAtTheEdgesUnlessStatedOtherwise) {
+    const auto edge = [](const std::string& stated) {
+        return effectOf<BlurEffect>("<feGaussianBlur " + stated + "/>").edge;
+    };
+    EXPECT_EQ(edge(""), EdgeMode::None);
+    EXPECT_EQ(edge("edgeMode='duplicate'"), EdgeMode::Duplicate);
+    EXPECT_EQ(edge("edgeMode='wrap'"), EdgeMode::Wrap);
+    EXPECT_EQ(edge("edgeMode='none'"), EdgeMode::None);
+    EXPECT_EQ(edge("edgeMode='mirror'"), EdgeMode::None);
+}
+
 TEST(FilterEffects, KernelsHaveATargetADivisorAndEdges) {
-    using Edge = ConvolveEffect::Edge;
     const auto plain = effectOf<ConvolveEffect>("<feConvolveMatrix kernelMatrix='0 0 0 0 0 0 0 0 0'/>");
     EXPECT_EQ(plain.columns, 3);
     EXPECT_EQ(plain.targetX, 1);
     EXPECT_EQ(plain.divisor, 1) << "the sum is 0";
-    EXPECT_EQ(plain.edge, Edge::Duplicate);
+    EXPECT_EQ(plain.edge, EdgeMode::Duplicate);
     EXPECT_FALSE(plain.keepsAlpha);
     const auto stated = effectOf<ConvolveEffect>(
         "<feConvolveMatrix order='2' kernelMatrix='1 2 3 4' divisor='5' bias='.5' targetX='0' "
@@ -129,13 +139,13 @@ TEST(FilterEffects, KernelsHaveATargetADivisorAndEdges) {
     EXPECT_EQ(stated.bias, 0.5);
     EXPECT_EQ(stated.targetX, 0);
     EXPECT_EQ(stated.targetY, 1);
-    EXPECT_EQ(stated.edge, Edge::Wrap);
+    EXPECT_EQ(stated.edge, EdgeMode::Wrap);
     EXPECT_TRUE(stated.keepsAlpha);
     EXPECT_EQ(stated.unit, (Point{2, 3}));
     EXPECT_EQ(
         effectOf<ConvolveEffect>("<feConvolveMatrix order='1' kernelMatrix='3' edgeMode='none' divisor='0'/>")
             .edge,
-        Edge::None);
+        EdgeMode::None);
     EXPECT_EQ(effectOf<ConvolveEffect>("<feConvolveMatrix order='1' kernelMatrix='3' divisor='0'/>").divisor,
               3);
     for (const char* wrong : {"order='1.5'", "order='1 1.5'", "order='-1'", "order='1 0'", "order='257 1'",
