@@ -1,6 +1,6 @@
 // Loading modules that are none.
 #include "easel/runtime/PluginModule.h"
-
+#include "easel/svg/Document.h"
 #include "tests/support/HostTest.h"
 
 #include <dlfcn.h>
@@ -38,7 +38,7 @@ TEST_F(PluginModuleTest, NamesFileAndReasonOfWhatIsNoModule) {
 TEST_F(PluginModuleTest, NeedsTheEntry) {
     // The host's own library is a module without the entry.
     Dl_info library{};
-    ASSERT_NE(dladdr(reinterpret_cast<const void*>(&easel::runtime::PluginModule::defaultFile), &library), 0);
+    ASSERT_NE(dladdr(reinterpret_cast<const void*>(&easel::svg::readBytes), &library), 0);
     EXPECT_THAT(reasonFor(std::filesystem::absolute(library.dli_fname), process_), HasSubstr("MainEntry"));
 }
 
