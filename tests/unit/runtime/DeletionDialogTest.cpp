@@ -1,4 +1,5 @@
 // The base of dialogs that delete: what it asks for, in which order it deletes, and that it destroys itself.
+#include "easel/runtime/CommandDialog.h"
 #include "easel/runtime/DeletionList.h"
 #include "easel/runtime/Process.h"
 #include "easel/runtime/User.h"
@@ -194,6 +195,20 @@ TEST(DeletionList, LeavesOutRowsThatAreNotThereAndRepeatedOnes) {
     EXPECT_THAT(list.selection(), testing::ElementsAre(0, 2));
     list.select({});
     EXPECT_FALSE(list.canConfirm());
+}
+
+TEST(DeletionList, IsOpenUntilItIsClosed) {
+    DeletionList list(
+        "", 0, [](const auto&) { return std::vector<std::string>(); }, easel::runtime::SelectionMode::Several,
+        [](DeletionCommand) {});
+    EXPECT_TRUE(list.isOpen());
+    list.close();
+    EXPECT_FALSE(list.isOpen());
+}
+
+TEST(CommandDialog, ListsNothingUntilItIsToldHowMuchThereIs) {
+    const easel::runtime::CommandDialog dialog;
+    EXPECT_THAT(dialog.textsNow({0, 1}), testing::ElementsAre("", ""));
 }
 
 } // namespace

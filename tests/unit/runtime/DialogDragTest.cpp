@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace easel::runtime {
 namespace {
 
@@ -57,6 +61,7 @@ TEST_F(DialogDragTest, AStopGoesToTheFrontOfAllAndThenToWhereItWas) {
     EXPECT_EQ(follow(0.4, 0.7), 0.7);
     const auto steps = drag_.takeBack();
     EXPECT_EQ(steps.size(), 3U);
+    EXPECT_EQ(std::adjacent_find(steps.begin(), steps.end()), steps.end()) << "each is a move of the mouse";
     std::vector<double> positions;
     for (std::size_t i = 0; i < steps.size(); ++i)
         positions.push_back(follow(0.7, 0.5));

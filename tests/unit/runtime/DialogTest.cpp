@@ -72,6 +72,9 @@ TEST_F(DialogTest, ADividerLeavesTheKeyboardWhereItIs) {
     dialog_.setDivider(6, false);
     dialog_.setFocus(6);
     EXPECT_EQ(dialog_.focus(), 6);
+    dialog_.setFocus(7);
+    EXPECT_EQ(dialog_.focus(), 0) << "there is no such item";
+    EXPECT_EQ(field().selection, (TextSelection{0, 0}));
     dialog_.setDivider(3, true);
     EXPECT_FALSE(field().divider) << "a field is not drawn by the program";
 }
@@ -225,6 +228,7 @@ TEST_F(DialogTest, AnotherScreenGivesAFreshImageAtItsResolutionAndKeepsThePortCu
     ports_.makeCurrent(&dialog_.port());
     dialog_.setScreen({2.0, {0x101010, 0, 0}});
     EXPECT_EQ(ports_.current(), &dialog_.port());
+    EXPECT_EQ(dialog_.screen(), (DialogScreen{2.0, {0x101010, 0, 0}}));
     EXPECT_EQ(dialog_.port().imageWidth(), 400);
     EXPECT_EQ(dialog_.port().pixels()[0], 0xff101010u);
     EXPECT_TRUE(dialog_.item(4)->invalid);

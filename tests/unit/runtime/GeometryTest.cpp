@@ -42,6 +42,12 @@ TEST(Restrict, IsExactOnAxesAndDiagonals) {
     Restrict(anchor, diagonal);
     EXPECT_EQ(diagonal.h - anchor.h, diagonal.v - anchor.v);
     EXPECT_NEAR(diagonal.h, 110.5, 1e-9);
+    for (const TPoint<double> way : {TPoint<double>(-100, 101), {-100, -101}, {100, -101}}) {
+        TPoint<double> other = way;
+        Restrict({0, 0}, other);
+        EXPECT_EQ(std::abs(other.h), std::abs(other.v));
+        EXPECT_NEAR(other.h, std::copysign(100.5, way.h), 1e-9);
+    }
 }
 
 TEST(Restrict, LeavesTheAnchorItselfAndPointsThatAreNotFinite) {

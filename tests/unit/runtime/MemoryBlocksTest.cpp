@@ -71,6 +71,21 @@ TEST(MemoryBlocks, ALockedBlockStaysInPlace) {
     EXPECT_TRUE(blocks.resize(block, 1 << 20));
 }
 
+TEST(MemoryBlocks, WhatIsAppendedToALockedBlockFitsOrIsRefused) {
+    for (const std::size_t size : {1U, 20U, 64U, 300U}) {
+        MemoryBlocks blocks;
+        char** const block = blocks.create(size);
+        blocks.lock(block);
+        const char* const place = *block;
+        for (std::size_t more = 1; more <= size; ++more) {
+            const auto before = *blocks.size(block);
+            const bool appended = blocks.append(block, std::string(more, 'x')).has_value();
+            EXPECT_EQ(*blocks.size(block), before + (appended ? more : 0));
+            ASSERT_EQ(*block, place) << size << " and " << more;
+        }
+    }
+}
+
 TEST(MemoryBlocks, MisuseIsCaughtAndCounted) {
     MemoryBlocks blocks;
     char** const block = blocks.create(8);

@@ -30,4 +30,16 @@ TEST(Menu, ANameThatFollowsAnotherEntryIsNotHeadedByIt) {
     EXPECT_FALSE(menu.isHeading(2));
 }
 
+TEST(Menu, AnEntryThatGoesLeavesTheOthersInTheirOrder) {
+    Menu menu;
+    for (const char* const text : {"One", "Two", "Three"})
+        menu.append({text});
+    menu.remove(2);
+    EXPECT_EQ(menu.text(1), "One");
+    EXPECT_EQ(menu.text(2), "Three");
+    EXPECT_FALSE(menu.has(3));
+    menu.remove(3);
+    EXPECT_TRUE(menu.has(2)) << "there was no third one any more";
+}
+
 } // namespace

@@ -13,6 +13,11 @@ using easel::runtime::PluginModule;
 using testing::HasSubstr;
 using testing::StartsWith;
 
+// What the system says, without the file that has been named already.
+auto ofLoading() {
+    return testing::AllOf(StartsWith("cannot be loaded: "), testing::Not(HasSubstr("/")));
+}
+
 // Why the file cannot be loaded, behind its name.
 std::string reasonFor(const std::filesystem::path& file, easel::runtime::Process& process) {
     const auto loaded = PluginModule::load(file, process);
@@ -31,8 +36,8 @@ TEST_F(PluginModuleTest, NamesFileAndReasonOfWhatIsNoModule) {
     tests::writeContent(folder_ / "empty.so", "");
     EXPECT_EQ(reasonFor(folder_ / "missing.so", process_), "no such file");
     EXPECT_EQ(reasonFor(folder_.path(), process_), "not a file");
-    EXPECT_THAT(reasonFor(folder_ / "text.so", process_), HasSubstr("cannot be loaded"));
-    EXPECT_THAT(reasonFor(folder_ / "empty.so", process_), HasSubstr("cannot be loaded"));
+    EXPECT_THAT(reasonFor(folder_ / "text.so", process_), ofLoading());
+    EXPECT_THAT(reasonFor(folder_ / "empty.so", process_), ofLoading());
 }
 
 TEST_F(PluginModuleTest, NeedsTheEntry) {

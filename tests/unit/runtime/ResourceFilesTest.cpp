@@ -151,6 +151,18 @@ TEST_F(ResourceFilesTest, ADamagedFileDoesNotOpenAndIsNamedToWhoeverWouldReadIt)
     EXPECT_EQ(blocks_.live(), 0U);
 }
 
+TEST_F(ResourceFilesTest, AFileOfDamagedResourcesDoesNotOpenAndIsNamedToWhoeverWouldReadIt) {
+    AppleDouble header = tests::headerWith("x");
+    header.setResourceFork({1, 2, 3});
+    const auto bytes = header.write();
+    writeContent(folder() / "a", "");
+    writeContent(folder() / "._a", {bytes.begin(), bytes.end()});
+    EXPECT_EQ(resources_.open(specOf("a"), Access::Write), ResourceFiles::kNoFile);
+    EXPECT_THAT(unreadable_, testing::IsEmpty());
+    EXPECT_EQ(resources_.open(specOf("a"), Access::Read), ResourceFiles::kNoFile);
+    EXPECT_THAT(unreadable_, ElementsAre(folder() / "a"));
+}
+
 TEST_F(ResourceFilesTest, AWriteThatFailsIsReportedAndTheOldFileStays) {
     dropFile(folder(), "a", "old");
     writeContent(base_ / "Trash", "in the way");

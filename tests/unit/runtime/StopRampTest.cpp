@@ -185,6 +185,7 @@ TEST(StopRamp, ANewStopLiesBehindTheActiveOneOrInTheWidestSpace) {
     EXPECT_EQ(StopRamp::in(rampOf({0, 0.5, 1}, 1))->add()->press.h, 400);
     EXPECT_EQ(StopRamp::in(rampOf({0, 0.25, 1}, 2))->add()->press.h, 350);
     EXPECT_EQ(StopRamp::in(rampOf({0, 0.5, 0.54, 1}, 1))->add()->press.h, 200) << "8 pixels are too near";
+    EXPECT_EQ(StopRamp::in(rampOf({0, 0.48, 0.52, 1}, 1))->add()->press.h, 196) << "the first of two as wide";
     std::vector<double> many;
     for (int i = 0; i <= 20; ++i)
         many.push_back(i / 20.0);

@@ -25,6 +25,7 @@ const files::Error kReadOnly{"folder", "read-only", {}};
 
 TEST_F(StorageTest, ThatNothingCanBeKeptIsToldOnceAndNotAgainOfTheDefaults) {
     storage_.tellNothingIsKept(kReadOnly);
+    EXPECT_EQ(told_.size(), 1U);
     storage_.tellNothingIsKept(kReadOnly);
     storage_.tellDefaultsNotKept(kReadOnly);
     EXPECT_THAT(told_,
