@@ -84,6 +84,23 @@ TEST(ReadBack, ComparesAPlainFillOnlyWhereItWasChanged) {
     EXPECT_EQ(lostOf(drawing, squareFile("fill='red'")), kFillLost);
 }
 
+TEST(ReadBack, OfAStrokeThatWasChangedWantsThatPaint) {
+    const auto drawingWith = [](const std::string& attributes) {
+        Drawing drawing = readOk(squareFile(attributes));
+        Object changed = *drawing.object(0);
+        changed.strokeOrigin = PaintOrigin::Edited;
+        drawing.amend(0, sealed(std::move(changed)));
+        return drawing;
+    };
+    const std::vector<std::string> strokes{"stroke='url(#g)'", "stroke='red'", "stroke='blue'",
+                                           "stroke='none'"};
+    for (const std::string& meant : strokes)
+        for (const std::string& read : strokes)
+            EXPECT_EQ(lostOf(drawingWith(meant), squareFile(read)),
+                      meant == read ? "" : "the stroke of object 1 would not be read back as it is now")
+                << meant << " and " << read;
+}
+
 TEST(ReadBack, WantsEachNewObjectAfterThoseOfTheFile) {
     Drawing drawing = readOk(squareFile("fill='red'"));
     Object added = newSquare(ColorPaint{{0, 0, 65535}, 1});

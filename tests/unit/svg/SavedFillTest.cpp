@@ -58,6 +58,15 @@ TEST(SavedFill, TakesThePlaceOfOneInCapitals) {
               recordText(someRecord()));
 }
 
+TEST(SavedFill, IsReplacedInItsPlaceBehindReferencesToQuotes) {
+    Drawing drawing = readOk(rectangleWith(
+        "style=\"font-family:&quot;a&quot;,&apos;b&#39;,&#34;c&amp;&#34;;fill:red;stroke:none\""));
+    giveGradient(drawing, 0, someRecord());
+    const std::string text = toBytes(drawing);
+    EXPECT_NE(text.find("c&amp;&#34;;fill:url(#"), std::string::npos) << text;
+    EXPECT_NE(text.find(");stroke:none\""), std::string::npos) << text;
+}
+
 TEST(SavedFill, ComesAfterEntitiesThatMayStateOne) {
     for (const char* style :
          {"&f;", "stroke:none;&f;", "&f;;fill:blue", "&f; stroke:none", "&g;", "&g;;fill:blue"}) {

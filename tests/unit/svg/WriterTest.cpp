@@ -261,6 +261,21 @@ TEST(SvgWriter, AddedObjectsGoBeforeTheRootsEndInItsUnits) {
     }
 }
 
+TEST(SvgWriter, AnAddedObjectHasItsGradientInARootThatWasEmptyToo) {
+    for (const std::string end : {"/>", "></svg>"}) {
+        Drawing drawing = readOk("<svg xmlns='http://www.w3.org/2000/svg' width='100' height='100'" + end);
+        Object object;
+        object.kind = Kind::Rect;
+        object.outline = rectanglePath({10, 10, 30, 30});
+        drawing.insert(0, sealed(object));
+        giveGradient(drawing, 0, oddRecord());
+        const Drawing again = readOk(toBytes(drawing));
+        ASSERT_EQ(again.size(), 1U);
+        ASSERT_TRUE(recordOf(again, 0));
+        EXPECT_EQ(recordText(*recordOf(again, 0)), recordText(oddRecord()));
+    }
+}
+
 TEST(SvgWriter, OfTwoCopiesOfAnObjectTheFirstKeepsItsElement) {
     const std::string element = "<rect id='a' width='9' height='9' fill='red'/>";
     Drawing drawing = readOk(svgFile(element));
