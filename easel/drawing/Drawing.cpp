@@ -29,11 +29,8 @@ Drawing::Drawing(double width, double height, std::vector<ObjectPtr> objects,
     : width_(width), height_(height), blends_(anyBlends(objects)), source_(std::move(source)),
       notes_(std::move(notes)) {
     list_.append(std::move(objects));
-    std::vector<PlaceIndex::Item> items;
-    items.reserve(list_.size());
-    list_.forEach(
-        [&](Slot slot, const ObjectPtr& object) { items.emplace_back(object->shownBounds(), slot); });
-    places_.assign(items);
+    places_.assign(static_cast<Slot>(list_.size()),
+                   [this](Slot slot) { return list_.object(slot)->shownBounds(); });
 }
 
 std::optional<std::size_t> Drawing::indexOfId(std::string_view id) const {

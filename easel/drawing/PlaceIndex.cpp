@@ -47,11 +47,11 @@ PlaceIndex::~PlaceIndex() = default;
 PlaceIndex::PlaceIndex(PlaceIndex&&) noexcept = default;
 PlaceIndex& PlaceIndex::operator=(PlaceIndex&&) noexcept = default;
 
-void PlaceIndex::assign(const std::vector<Item>& items) {
+void PlaceIndex::assign(Slot count, const std::function<Box(Slot)>& boxOf) {
     std::vector<TreeValue> values;
-    values.reserve(items.size());
-    for (const auto& [box, slot] : items)
-        if (!box.empty())
+    values.reserve(count);
+    for (Slot slot = 0; slot < count; ++slot)
+        if (const Box box = boxOf(slot); !box.empty())
             values.emplace_back(treeBox(box), slot);
     tree_->values = decltype(tree_->values)(values);
 }

@@ -3,23 +3,22 @@
 
 #include "easel/drawing/DisplayList.h"
 
+#include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace easel::drawing {
 
 class PlaceIndex {
   public:
-    using Item = std::pair<Box, Slot>;
-
     PlaceIndex();
     ~PlaceIndex();
     PlaceIndex(PlaceIndex&&) noexcept;
     PlaceIndex& operator=(PlaceIndex&&) noexcept;
 
-    // Replaces all there is; quicker than inserting one by one. Empty boxes are found by no query.
-    void assign(const std::vector<Item>& items);
+    // Replaces all there is by the slots from 0 on; quicker than inserting one by one. Empty boxes are found
+    // by no query.
+    void assign(Slot count, const std::function<Box(Slot)>& boxOf);
     void insert(const Box& box, Slot slot);
     // Box and slot are as they were inserted.
     void erase(const Box& box, Slot slot);

@@ -114,6 +114,10 @@ TEST(DisplayList, KnowsNoSlotThatItNeverGaveOut) {
     EXPECT_FALSE(list.holds(2));
 }
 
+void assign(PlaceIndex& places, const std::vector<Box>& boxes) {
+    places.assign(static_cast<Slot>(boxes.size()), [&](Slot slot) { return boxes[slot]; });
+}
+
 std::vector<Slot> sortedWithin(const PlaceIndex& places, const Box& area) {
     std::vector<Slot> found = places.within(area);
     std::sort(found.begin(), found.end());
@@ -122,27 +126,27 @@ std::vector<Slot> sortedWithin(const PlaceIndex& places, const Box& area) {
 
 TEST(PlaceIndex, FindsBoxesThatTheAreaMeetsAndNoOthersFarAway) {
     PlaceIndex places;
-    places.assign({{{0, 0, 10, 10}, 1}, {{20, 0, 30, 10}, 2}, {{0, 20, 10, 30}, 3}});
-    EXPECT_EQ(sortedWithin(places, {10, 10, 20, 20}), (std::vector<Slot>{1, 2, 3})) << "corners meet";
+    assign(places, {{0, 0, 10, 10}, {20, 0, 30, 10}, {0, 20, 10, 30}});
+    EXPECT_EQ(sortedWithin(places, {10, 10, 20, 20}), (std::vector<Slot>{0, 1, 2})) << "corners meet";
     EXPECT_EQ(sortedWithin(places, {11, 11, 19, 19}), std::vector<Slot>{});
-    EXPECT_EQ(sortedWithin(places, {5, 5, 6, 25}), (std::vector<Slot>{1, 3}));
+    EXPECT_EQ(sortedWithin(places, {5, 5, 6, 25}), (std::vector<Slot>{0, 2}));
     places.insert({12, 12, 13, 13}, 4);
     EXPECT_EQ(sortedWithin(places, {11, 11, 19, 19}), std::vector<Slot>{4});
     places.erase({12, 12, 13, 13}, 4);
     EXPECT_EQ(sortedWithin(places, {11, 11, 19, 19}), std::vector<Slot>{});
-    places.assign({{{0, 0, 1, 1}, 5}});
-    EXPECT_EQ(sortedWithin(places, {-100, -100, 100, 100}), std::vector<Slot>{5});
+    assign(places, {{0, 0, 1, 1}});
+    EXPECT_EQ(sortedWithin(places, {-100, -100, 100, 100}), std::vector<Slot>{0});
 }
 
 TEST(PlaceIndex, HasNoPlaceForNothing) {
     PlaceIndex places;
-    places.assign({{Box(), 1}, {{5, 5, 5, 5}, 2}});
-    places.insert(Box(), 3);
+    assign(places, {Box(), {5, 5, 5, 5}});
+    places.insert(Box(), 2);
     const double far = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(sortedWithin(places, {-far, -far, far, far}), std::vector<Slot>{2}) << "a point is a place";
+    EXPECT_EQ(sortedWithin(places, {-far, -far, far, far}), std::vector<Slot>{1}) << "a point is a place";
     EXPECT_EQ(sortedWithin(places, Box()), std::vector<Slot>{});
-    places.erase(Box(), 2);
-    EXPECT_EQ(sortedWithin(places, {5, 5, 5, 5}), std::vector<Slot>{2});
+    places.erase(Box(), 1);
+    EXPECT_EQ(sortedWithin(places, {5, 5, 5, 5}), std::vector<Slot>{1});
 }
 
 // Around 2^26 neighboring numbers of single precision are 8 apart.
