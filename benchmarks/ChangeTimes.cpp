@@ -36,7 +36,7 @@ void ChangeTimes::measure() {
 
 void ChangeTimes::recolorObject(std::size_t index) {
     drawing_.prepareUndo(1);
-    auto copy = std::make_shared<drawing::Object>(*drawing_.object(index));
+    auto copy = drawing::makeShared<drawing::Object>(*drawing_.object(index));
     copy->fill = drawing::ColorPaint{{static_cast<std::uint16_t>(changes_.size() * 1000), 0, 65535}, 1};
     drawing_.erase(index);
     drawing_.insert(index, std::move(copy));

@@ -34,7 +34,7 @@ template <class Change> void changeOwn(const std::shared_ptr<HostObject>& state,
         return;
     drawing::Object own = *state->object;
     change(own);
-    state->object = std::make_shared<const drawing::Object>(std::move(own));
+    state->object = drawing::makeShared<const drawing::Object>(std::move(own));
 }
 
 // Null for a list of no drawing.

@@ -4,6 +4,7 @@
 #include "easel/drawing/BlendMode.h"
 #include "easel/drawing/Color.h"
 #include "easel/drawing/Geometry.h"
+#include "easel/drawing/SharedPtr.h"
 
 #include <array>
 #include <cstddef>
@@ -151,7 +152,7 @@ struct TurbulenceEffect {
 
 // Objects, back to front, in drawing coordinates. Their groups are theirs alone. Never null.
 struct ImageEffect {
-    std::shared_ptr<const std::vector<std::shared_ptr<const Object>>> objects;
+    std::shared_ptr<const std::vector<SharedPtr<const Object>>> objects;
 };
 
 using FilterEffect =

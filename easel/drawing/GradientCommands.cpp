@@ -97,7 +97,7 @@ void putGradient(Object& object, const WholeGradient& gradient, PaintStep part) 
         return;
     RemainderPtr remainder;
     if (!gradient.remainder.empty())
-        remainder = std::make_shared<const Remainder>(gradient.remainder);
+        remainder = makeShared<const Remainder>(gradient.remainder);
     object.setWholeGradient(ObjectGradient(std::make_unique<CGradient>(gradient.record).release()),
                             std::move(remainder));
     if (object.fillPattern == FillPattern::None)

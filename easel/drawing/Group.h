@@ -4,6 +4,7 @@
 #include "easel/drawing/BlendMode.h"
 #include "easel/drawing/Mask.h"
 #include "easel/drawing/Path.h"
+#include "easel/drawing/SharedPtr.h"
 
 #include <memory>
 #include <vector>
@@ -30,7 +31,7 @@ struct ClipPath {
 // filtered, clipped, masked, made fainter by `opacity` and laid on what `parent` (null: the drawing) holds so
 // far, by its blend mode.
 struct Group {
-    std::shared_ptr<const Group> parent;
+    SharedPtr<const Group> parent;
     double opacity = 1;
     std::shared_ptr<const ClipPath> clip; // null: not clipped
     std::uint32_t depth = 1;              // number of groups up to the outermost, this one included
@@ -40,7 +41,7 @@ struct Group {
     std::shared_ptr<const Filter> filter; // null: not filtered
 };
 
-using GroupPtr = std::shared_ptr<const Group>;
+using GroupPtr = SharedPtr<const Group>;
 
 // Whether its objects need a layer of their own. Else they might as well lie in the parent.
 bool isLayer(const Group& group);

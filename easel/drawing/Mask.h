@@ -1,6 +1,8 @@
 // Masks: objects whose picture says how much of a layer shows.
 #pragma once
 
+#include "easel/drawing/SharedPtr.h"
+
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -18,7 +20,7 @@ enum class MaskMeasure : std::uint8_t {
 // Where its objects leave nothing, nothing shows.
 struct Mask {
     // Back to front, in drawing coordinates. Their groups are theirs alone.
-    std::vector<std::shared_ptr<const Object>> objects;
+    std::vector<SharedPtr<const Object>> objects;
     MaskMeasure measure = MaskMeasure::Luminance;
 };
 

@@ -70,7 +70,7 @@ void Object::setStrokePaint(Paint paint) {
         return;
     Style changed = styleOf(*this);
     changed.stroke.paint = std::move(paint);
-    style = std::make_shared<const Style>(std::move(changed));
+    style = makeShared<const Style>(std::move(changed));
     strokeOrigin = PaintOrigin::Edited;
 }
 
@@ -102,7 +102,7 @@ Box Object::boundsWithin(const Group* within) const {
 
 ObjectPtr sealed(Object object) {
     object.bounds = object.outline.bounds();
-    return std::make_shared<const Object>(std::move(object));
+    return makeShared<const Object>(std::move(object));
 }
 
 bool saysTheSame(const Object& a, const Object& b) {

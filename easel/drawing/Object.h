@@ -8,11 +8,11 @@
 #include "easel/drawing/Paint.h"
 #include "easel/drawing/Path.h"
 #include "easel/drawing/Remainder.h"
+#include "easel/drawing/SharedPtr.h"
 #include "easel/drawing/Style.h"
 
 #include <compare>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -69,22 +69,21 @@ struct Object {
     Kind kind = Kind::Path;
     FillRule fillRule = FillRule::NonZero;
     FillPattern fillPattern = FillPattern::None;
-    PaintOrigin fillOrigin = PaintOrigin::File;
-    PaintOrigin strokeOrigin = PaintOrigin::File;
+    PaintOrigin fillOrigin : 1 = PaintOrigin::File;
+    PaintOrigin strokeOrigin : 1 = PaintOrigin::File;
     ElementSpan source;
-    Name id;      // the element's id, UTF-8
-    Path outline; // in drawing coordinates
-    std::shared_ptr<const Affine>
-        units;                          // from the object's own units to the drawing; null: they are the same
-    std::shared_ptr<const Style> style; // null: not stroked, opaque
-    Paint fill;                         // what fills the object when it has no record
-    ObjectGradient gradient;            // the tool's record; empty: none
-    RemainderPtr remainder;             // what the record cannot hold
-    GroupPtr group;                     // innermost layer; null: the drawing itself
+    Name id;                       // the element's id, UTF-8
+    Path outline;                  // in drawing coordinates
+    SharedPtr<const Affine> units; // from the object's own units to the drawing; null: they are the same
+    SharedPtr<const Style> style;  // null: not stroked, opaque
+    Paint fill;                    // what fills the object when it has no record
+    ObjectGradient gradient;       // the tool's record; empty: none
+    RemainderPtr remainder;        // what the record cannot hold
+    GroupPtr group;                // innermost layer; null: the drawing itself
     // Painted over fill and stroke as far as the object itself shows, back to front: arrow heads and the
     // like, what a picture made of shapes holds, and what of a text has paints of its own. Their groups are
     // theirs alone. Null: none.
-    std::shared_ptr<const std::vector<std::shared_ptr<const Object>>> markers;
+    SharedPtr<const std::vector<SharedPtr<const Object>>> markers;
 
     // Tight box of the outline, without stroke. Kept by `sealed`.
     Box bounds;
@@ -111,7 +110,7 @@ struct Object {
     Box shownBounds() const { return group ? boundsWithin(nullptr) : paintBounds(); }
 };
 
-using ObjectPtr = std::shared_ptr<const Object>;
+using ObjectPtr = SharedPtr<const Object>;
 
 // Makes an object fit for a drawing: computes its bounds.
 ObjectPtr sealed(Object object);

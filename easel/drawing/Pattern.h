@@ -2,6 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
+#include "easel/drawing/SharedPtr.h"
 
 #include <memory>
 #include <vector>
@@ -12,7 +13,7 @@ struct Object;
 
 struct Pattern {
     // In the pattern's own units, back to front; never null. Their groups are theirs alone.
-    std::shared_ptr<const std::vector<std::shared_ptr<const Object>>> objects;
+    std::shared_ptr<const std::vector<SharedPtr<const Object>>> objects;
     Box cell;                   // in these units, with width and height above 0
     Affine toDrawing;           // from these units
     bool showsOverflow = false; // whether what reaches beyond the cell shows in its neighbors

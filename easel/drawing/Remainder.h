@@ -2,8 +2,8 @@
 #pragma once
 
 #include "easel/drawing/Geometry.h"
+#include "easel/drawing/SharedPtr.h"
 
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -29,6 +29,6 @@ struct Remainder {
 };
 
 // Null: there is no remainder.
-using RemainderPtr = std::shared_ptr<const Remainder>;
+using RemainderPtr = SharedPtr<const Remainder>;
 
 } // namespace easel::drawing

@@ -8,7 +8,7 @@ ShapeGradient described(const Gradient& gradient, const Path& outline) {
     ShapeGradient result{ObjectGradient(std::make_unique<CGradient>(description.record).release()), nullptr,
                          description.loss};
     if (!description.remainder.empty())
-        result.remainder = std::make_shared<const Remainder>(std::move(description.remainder));
+        result.remainder = makeShared<const Remainder>(std::move(description.remainder));
     return result;
 }
 

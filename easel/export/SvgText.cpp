@@ -137,7 +137,7 @@ class SvgWriter {
             style.opacity *= drawing::validOpacity(color->opacity);
             color->opacity = 1;
         }
-        object.style = std::make_shared<const drawing::Style>(std::move(style));
+        object.style = drawing::makeShared<const drawing::Style>(std::move(style));
         return object;
     }
     // False, with nothing written, if only its outline can say it. Of what is made of parts, only these show.

@@ -72,11 +72,11 @@ Path outlineOf(Kind kind, Arguments& arguments) {
     throw PlayError("a " + std::string(kindName(kind)) + " cannot be added");
 }
 
-std::shared_ptr<const drawing::Style> thinLine() {
+drawing::SharedPtr<const drawing::Style> thinLine() {
     static const auto style = [] {
         drawing::Style thin;
         thin.stroke.paint = drawing::ColorPaint{};
-        return std::make_shared<const drawing::Style>(std::move(thin));
+        return drawing::makeShared<const drawing::Style>(std::move(thin));
     }();
     return style;
 }

@@ -229,7 +229,7 @@ bool ObjectReader::setGradient(Object& object, const GradientElement& element, c
         return false;
     object.gradient = drawing::ObjectGradient(new CGradient(own->record));
     if (!own->remainder.empty())
-        object.remainder = std::make_shared<const drawing::Remainder>(std::move(own->remainder));
+        object.remainder = drawing::makeShared<const drawing::Remainder>(std::move(own->remainder));
     object.fillPattern = FillPattern::SolidBlack;
     return true;
 }
@@ -259,11 +259,11 @@ Paint ObjectReader::paintWithoutGradient(const PaintSpec& spec, const PaintPlace
     return plainPaint(spec.fallback, spec, style);
 }
 
-std::shared_ptr<const drawing::Affine> ObjectReader::sharedUnits(const drawing::Affine& units) {
+drawing::SharedPtr<const drawing::Affine> ObjectReader::sharedUnits(const drawing::Affine& units) {
     if (units == drawing::Affine())
         return nullptr;
     if (!lastUnits_ || *lastUnits_ != units)
-        lastUnits_ = std::make_shared<const drawing::Affine>(units);
+        lastUnits_ = drawing::makeShared<const drawing::Affine>(units);
     return lastUnits_;
 }
 
@@ -273,7 +273,7 @@ ObjectReader::StylePtr ObjectReader::shared(Style style) {
     for (const StylePtr& known : recent_)
         if (*known == style)
             return known;
-    auto made = std::make_shared<const Style>(std::move(style));
+    auto made = drawing::makeShared<const Style>(std::move(style));
     if (recent_.size() < kRecentStyles)
         recent_.push_back(made);
     else

@@ -36,7 +36,7 @@ class ObjectReader {
                                                    const Place& place) const;
 
   private:
-    using StylePtr = std::shared_ptr<const drawing::Style>;
+    using StylePtr = drawing::SharedPtr<const drawing::Style>;
 
     void setFill(drawing::Object& object, const PaintPlace& at, const ComputedStyle& style);
     // False if the gradient stays as the file says.
@@ -49,13 +49,13 @@ class ObjectReader {
     const GradientElement* gradientOf(const PaintSpec& spec) const;
     PlacedPaint place(const GradientElement& element, const PaintPlace& at) const;
     StylePtr shared(drawing::Style style);
-    std::shared_ptr<const drawing::Affine> sharedUnits(const drawing::Affine& units);
+    drawing::SharedPtr<const drawing::Affine> sharedUnits(const drawing::Affine& units);
 
     const Scene& scene_;
     PatternReader patterns_;
     std::vector<StylePtr> recent_; // styles of the last objects: neighbours mostly look alike
     std::size_t nextRecent_ = 0;
-    std::shared_ptr<const drawing::Affine> lastUnits_; // of the last object that has any of its own
+    drawing::SharedPtr<const drawing::Affine> lastUnits_; // of the last object that has any of its own
 };
 
 } // namespace easel::svg

@@ -22,11 +22,11 @@ void TreeReader::moveOpacity(drawing::Object& object, drawing::Group& group) {
         return;
     drawing::Style style = *object.style;
     style.opacity = 1;
-    object.style = std::make_shared<const drawing::Style>(std::move(style));
+    object.style = drawing::makeShared<const drawing::Style>(std::move(style));
 }
 
-TreeReader::FilteredGroups TreeReader::addFiltered(Place& place, const std::shared_ptr<drawing::Group>& group,
-                                                   std::size_t count) {
+TreeReader::FilteredGroups
+TreeReader::addFiltered(Place& place, const drawing::SharedPtr<drawing::Group>& group, std::size_t count) {
     FilteredGroups groups;
     if (!group || count == 0)
         return groups;

@@ -101,7 +101,7 @@ Group TreeReader::effectsOf(const StatedStyle& stated, const Box& box, const Pla
     return effects;
 }
 
-std::shared_ptr<Group> TreeReader::addGroup(Place& place, Group effects) {
+drawing::SharedPtr<Group> TreeReader::addGroup(Place& place, Group effects) {
     if (!isLayer(effects))
         return nullptr;
     effects.depth = place.group ? place.group->depth + 1 : 1;
@@ -110,7 +110,7 @@ std::shared_ptr<Group> TreeReader::addGroup(Place& place, Group effects) {
         return nullptr;
     }
     effects.parent = place.group;
-    auto group = std::make_shared<Group>(std::move(effects));
+    auto group = drawing::makeShared<Group>(std::move(effects));
     place.group = group;
     return group;
 }

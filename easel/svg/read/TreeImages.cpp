@@ -109,7 +109,7 @@ void TreeReader::addShapes(pugi::xml_node element, const StatedStyle& stated, Pl
     if (!object)
         return;
     if (!shapes->empty())
-        object->markers = std::make_shared<const std::vector<drawing::ObjectPtr>>(std::move(*shapes));
+        object->markers = drawing::makeShared<const std::vector<drawing::ObjectPtr>>(std::move(*shapes));
     addObject(std::move(*object), element, stated, frame->viewport, std::move(inside));
 }
 

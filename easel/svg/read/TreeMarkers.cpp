@@ -35,7 +35,7 @@ void TreeReader::addMarkers(drawing::Object& object, const Shape& shape, const P
             readMarker(marker, vertex, context, markers);
     }
     if (!markers.empty())
-        object.markers = std::make_shared<const std::vector<drawing::ObjectPtr>>(std::move(markers));
+        object.markers = drawing::makeShared<const std::vector<drawing::ObjectPtr>>(std::move(markers));
 }
 
 void TreeReader::readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,

@@ -39,14 +39,14 @@ class TreeReader {
   private:
     // The groups of one element that are filtered, in the order in which the filters work: the first is the
     // innermost.
-    using FilteredGroups = std::vector<std::shared_ptr<drawing::Group>>;
+    using FilteredGroups = std::vector<drawing::SharedPtr<drawing::Group>>;
 
     // A group whose clip path or mask is a share of what the group holds, and so has to wait until that is
     // read.
     struct WaitingGroup {
         pugi::xml_node element;
-        std::shared_ptr<drawing::Group> group; // null: none waits
-        Place place;                           // inside the element, before what narrows its content
+        drawing::SharedPtr<drawing::Group> group; // null: none waits
+        Place place;                              // inside the element, before what narrows its content
         std::size_t firstObject = 0;
         std::size_t firstHidden = 0;
         FilteredGroups filtered;
@@ -165,10 +165,11 @@ class TreeReader {
     drawing::Group effectsOf(const StatedStyle& stated, const drawing::Box& box, const Place& place);
     // Puts what is read in this place into a layer with these effects, if they have any. The new group, else
     // null.
-    std::shared_ptr<drawing::Group> addGroup(Place& place, drawing::Group effects);
+    drawing::SharedPtr<drawing::Group> addGroup(Place& place, drawing::Group effects);
     static void moveOpacity(drawing::Object& object, drawing::Group& group);
     // Adds groups for so many filters, the last of which is for the group that has been added already.
-    FilteredGroups addFiltered(Place& place, const std::shared_ptr<drawing::Group>& group, std::size_t count);
+    FilteredGroups addFiltered(Place& place, const drawing::SharedPtr<drawing::Group>& group,
+                               std::size_t count);
     // Gives them the filters that the style asks for; they hold the objects from this one on.
     void setFilters(const FilteredGroups& groups, const StatedStyle& stated, const drawing::Box& box,
                     const Place& place, std::size_t firstObject);

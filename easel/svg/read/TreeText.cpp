@@ -20,10 +20,10 @@ Place unpainted(Place place) {
     return place;
 }
 
-std::shared_ptr<const drawing::Style> withText(const Object& object, const type::SetText& text) {
+drawing::SharedPtr<const drawing::Style> withText(const Object& object, const type::SetText& text) {
     drawing::Style style = styleOf(object);
     style.text = std::make_shared<const type::SetText>(text);
-    return std::make_shared<const drawing::Style>(std::move(style));
+    return drawing::makeShared<const drawing::Style>(std::move(style));
 }
 
 } // namespace
@@ -74,7 +74,7 @@ std::optional<Object> TreeReader::textObject(pugi::xml_node element, const TextS
         own->id = drawing::Name();
         parts.push_back(sealed(std::move(*own)));
     }
-    whole->markers = std::make_shared<const std::vector<ObjectPtr>>(std::move(parts));
+    whole->markers = drawing::makeShared<const std::vector<ObjectPtr>>(std::move(parts));
     return whole;
 }
 

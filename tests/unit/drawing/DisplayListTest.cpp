@@ -49,6 +49,7 @@ TEST(DisplayList, HoldsObjectsAppendedTwiceInTheirOrder) {
     list.append({objects.begin(), objects.begin() + 700});
     list.append({objects.begin() + 700, objects.end()});
     std::vector<std::pair<Slot, ObjectPtr>> expected;
+    expected.reserve(objects.size());
     for (const ObjectPtr& object : objects)
         expected.emplace_back(static_cast<Slot>(expected.size()), object);
     expectHolds(list, expected);

@@ -223,7 +223,7 @@ TEST(DrawingPlaces, TheListenerHearsOfAnObjectAndOfWhereItsFilterShowsIt) {
     group.filter = std::make_shared<const Filter>(Filter{{}, {0, 0, 20, 30}, Affine::translation(100, 100)});
     Object object;
     object.outline = rectanglePath({10, 10, 20, 20});
-    object.group = std::make_shared<const Group>(group);
+    object.group = makeShared<const Group>(group);
     Drawing drawing(200, 200, {sealed(object)}, nullptr, {});
     Box told;
     drawing.setChangeListener([&](const Box& area) { told.add(area); });

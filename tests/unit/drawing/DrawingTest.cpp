@@ -237,9 +237,9 @@ TEST(Drawing, ASnapshotStaysAsItWasWhileTheDrawingChanges) {
 
 TEST(Drawing, ASnapshotSharesItsObjects) {
     const Drawing drawing = threeRectangles();
-    const long uses = drawing.object(0).use_count();
+    const auto uses = drawing.object(0).useCount();
     const Snapshot snapshot = drawing.snapshot();
-    EXPECT_EQ(drawing.object(0).use_count(), uses);
+    EXPECT_EQ(drawing.object(0).useCount(), uses);
 }
 
 TEST(Drawing, ARevisionComesBackWithItsState) {

@@ -205,7 +205,7 @@ TEST(GradientCommands, AreOnTheOutlineOrOnTheFrameOfTheStroke) {
     Style style;
     style.stroke.paint = ColorPaint();
     style.stroke.width = 6;
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     EXPECT_EQ(frameOf(object, PaintStep::Stroke).outline.bounds(), (Box{-3, -3, 103, 53}));
     EXPECT_EQ(frameOf(object, PaintStep::Stroke).inside, std::nullopt);
 }

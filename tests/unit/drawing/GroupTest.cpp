@@ -18,7 +18,7 @@ GroupPtr groupIn(const GroupPtr& parent, BlendMode blend = BlendMode::Normal, do
     group.parent = parent;
     group.blend = blend;
     group.opacity = opacity;
-    return std::make_shared<const Group>(group);
+    return makeShared<const Group>(group);
 }
 
 ObjectPtr squareIn(const GroupPtr& group) {

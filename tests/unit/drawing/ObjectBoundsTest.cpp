@@ -19,19 +19,19 @@ Object squareOf(double side) {
 }
 
 // A pen with round joins, which reaches half its width.
-std::shared_ptr<const Style> roundPen(double width) {
+SharedPtr<const Style> roundPen(double width) {
     Style style;
     style.stroke.paint = ColorPaint();
     style.stroke.width = width;
     style.stroke.join = LineJoin::Round;
-    return std::make_shared<const Style>(style);
+    return makeShared<const Style>(style);
 }
 
 GroupPtr groupIn(const GroupPtr& parent, const std::shared_ptr<const Filter>& filter = nullptr) {
     Group group;
     group.parent = parent;
     group.filter = filter;
-    return std::make_shared<const Group>(group);
+    return makeShared<const Group>(group);
 }
 
 std::shared_ptr<const Filter> filterOf(const Box& region, const Affine& toDrawing = {}) {
@@ -50,11 +50,11 @@ TEST(ObjectBounds, AreThoseOfTheOutlineWithHalfThePen) {
 TEST(ObjectBounds, GrowWithThePenWhereItsUnitsAreLarger) {
     Object object = squareOf(10);
     object.style = roundPen(4);
-    object.units = std::make_shared<const Affine>(Affine::scaling(3, 0.5));
+    object.units = makeShared<const Affine>(Affine::scaling(3, 0.5));
     EXPECT_EQ(sealed(object)->paintBounds(), (Box{-6, -6, 16, 16})) << "three times as wide at most";
     Style inDrawing = *object.style;
     inDrawing.stroke.inDrawingUnits = true;
-    object.style = std::make_shared<const Style>(inDrawing);
+    object.style = makeShared<const Style>(inDrawing);
     EXPECT_EQ(sealed(object)->paintBounds(), (Box{-2, -2, 12, 12}));
 }
 
@@ -63,7 +63,7 @@ TEST(ObjectBounds, HoldTheMarkersWithTheirOwnPens) {
     marker.outline = rectanglePath({20, -5, 30, 5});
     marker.style = roundPen(2);
     Object object = squareOf(10);
-    object.markers = std::make_shared<const std::vector<ObjectPtr>>(std::vector{sealed(marker)});
+    object.markers = makeShared<const std::vector<ObjectPtr>>(std::vector{sealed(marker)});
     EXPECT_EQ(sealed(object)->paintBounds(), (Box{0, -6, 31, 10}));
 }
 

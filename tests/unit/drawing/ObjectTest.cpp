@@ -29,7 +29,7 @@ Object square() {
     object.outline = rectanglePath({0, 0, 10, 10});
     object.fillPattern = FillPattern::SolidBlack;
     object.gradient = gradientAt(20);
-    object.remainder = std::make_shared<const Remainder>(Remainder{{{0, 0.5}}, std::nullopt});
+    object.remainder = makeShared<const Remainder>(Remainder{{{0, 0.5}}, std::nullopt});
     return object;
 }
 
@@ -106,14 +106,14 @@ TEST(Object, APlainStyleAndTheDrawingsUnitsStandForNone) {
     EXPECT_EQ(styleOf(object), Style());
     EXPECT_EQ(unitsOf(object), Affine());
     EXPECT_EQ(penUnitsOf(object), Affine());
-    object.units = std::make_shared<const Affine>(Affine::scaling(2, 3));
+    object.units = makeShared<const Affine>(Affine::scaling(2, 3));
     Style style = penOf(4);
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     EXPECT_EQ(styleOf(object).stroke.width, 4);
     EXPECT_EQ(unitsOf(object), Affine::scaling(2, 3));
     EXPECT_EQ(penUnitsOf(object), Affine::scaling(2, 3));
     style.stroke.inDrawingUnits = true;
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     EXPECT_EQ(penUnitsOf(object), Affine());
 }
 
@@ -150,7 +150,7 @@ TEST(Object, ThePatternAndTheStrokeItHasAlreadyAreNoEdit) {
     EXPECT_EQ(object.fillOrigin, PaintOrigin::File);
     object.setFillPattern(FillPattern::Other);
     EXPECT_EQ(object.fillOrigin, PaintOrigin::Edited);
-    object.style = std::make_shared<const Style>(penOf(3));
+    object.style = makeShared<const Style>(penOf(3));
     object.setStrokePaint(ColorPaint());
     EXPECT_EQ(object.strokeOrigin, PaintOrigin::File);
     object.setStrokePaint(ColorPaint{{1, 2, 3}, 0.5});
@@ -164,7 +164,7 @@ TEST(Object, SaysTheSameAsACopyWithEqualGradientAndRemainder) {
     Object copy = object;
     EXPECT_TRUE(saysTheSame(object, copy));
     copy.gradient = gradientAt(20);
-    copy.remainder = std::make_shared<const Remainder>(*object.remainder);
+    copy.remainder = makeShared<const Remainder>(*object.remainder);
     EXPECT_TRUE(saysTheSame(object, copy)) << "though they are other objects in memory";
 }
 
@@ -177,16 +177,16 @@ TEST(Object, SaysAnotherThingWhateverIsDifferent) {
         [](Object& object) { object.strokeOrigin = PaintOrigin::Edited; },
         [](Object& object) { object.source.tagEnd = 5; },
         [](Object& object) { object.id = std::string("other"); },
-        [](Object& object) { object.units = std::make_shared<const Affine>(); },
-        [](Object& object) { object.style = std::make_shared<const Style>(); },
+        [](Object& object) { object.units = makeShared<const Affine>(); },
+        [](Object& object) { object.style = makeShared<const Style>(); },
         [](Object& object) { object.fill = ColorPaint(); },
         [](Object& object) { object.gradient = gradientAt(21); },
         [](Object& object) { object.gradient = {}; },
         [](Object& object) { object.remainder = nullptr; },
         [](Object& object) {
-            object.remainder = std::make_shared<const Remainder>(Remainder{{{0, 0.75}}, std::nullopt});
+            object.remainder = makeShared<const Remainder>(Remainder{{{0, 0.75}}, std::nullopt});
         },
-        [](Object& object) { object.group = std::make_shared<const Group>(); },
+        [](Object& object) { object.group = makeShared<const Group>(); },
         [](Object& object) {
             object.outline = rectanglePath({0, 0, 10, 11});
         },
@@ -247,7 +247,7 @@ TEST(Stroke, FrameHoldsTheFourCornersOfThePenAtBothEndsOfALine) {
     Object line = square();
     line.kind = Kind::Line;
     line.outline = polylinePath({{10, 20}, {90, 20}});
-    line.style = std::make_shared<const Style>(penOf(8));
+    line.style = makeShared<const Style>(penOf(8));
     const Path outline = strokeFrame(line);
     const std::vector<Point> frame(outline.points().begin(), outline.points().end());
     for (const Point corner : {Point{6, 16}, Point{6, 24}, Point{94, 16}, Point{94, 24}})

@@ -26,7 +26,7 @@ Object line(const Gradient& gradient, double width = 8) {
     Style style;
     style.stroke.width = width;
     style.stroke.paint = std::make_shared<const Gradient>(gradient);
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     return object;
 }
 
@@ -60,7 +60,7 @@ TEST(StrokeGradient, IsDescribedAcrossALineThatHasNoHeight) {
 TEST(StrokeGradient, FrameReachesAsFarAsThePen) {
     Object object = line(redToBlue(LinearGeometry{{0, 0}, {1, 0}}));
     EXPECT_EQ(strokeFrame(object).bounds(), (Box{6, 16, 94, 24}));
-    object.units = std::make_shared<const Affine>(Affine::scaling(2, 0.5));
+    object.units = makeShared<const Affine>(Affine::scaling(2, 0.5));
     EXPECT_EQ(strokeFrame(object).bounds(), (Box{2, 18, 98, 22}));
 }
 

@@ -151,7 +151,7 @@ TEST(VectorExports, CarryOpacityAndEllipsesWithoutPictures) {
     CGradientData record;
     record.SetType(kRadialGradient);
     Object object = *withGradient("a", {0, 0, 90, 90}, record);
-    object.setWholeGradient(object.gradient, std::make_shared<const Remainder>(
+    object.setWholeGradient(object.gradient, makeShared<const Remainder>(
                                                  Remainder{{{0, 0.25}, {1, 1}}, Affine{2, 0, 0, 0.5, 0, 0}}));
     const auto drawing = drawingOf({sealed(object)});
     const auto bytes = encodePdf(drawing, pageOf(drawing, 1));

@@ -32,8 +32,8 @@ Object square(const Box& box, Rgb16 color) {
     return filled(rectanglePath(box), ColorPaint{color, 1});
 }
 
-std::shared_ptr<const Style> styled(const Style& style) {
-    return std::make_shared<const Style>(style);
+SharedPtr<const Style> styled(const Style& style) {
+    return makeShared<const Style>(style);
 }
 
 Surface rendered(const std::vector<ObjectPtr>& objects, int side = 100, const Affine& toSurface = {}) {
@@ -121,7 +121,7 @@ TEST(RenderDrawing, AStrokeIsShapedByTheObjectsOwnUnits) {
     style.stroke.width = 2;
     Object object = square({40, 40, 60, 60}, kRed);
     object.style = styled(style);
-    object.units = std::make_shared<const Affine>(Affine::scaling(10, 1));
+    object.units = makeShared<const Affine>(Affine::scaling(10, 1));
     const Surface surface = rendered({sealed(object)});
     EXPECT_EQ(surface.row(50)[31], 0xFF0000FFu); // ten to the left
     EXPECT_EQ(surface.row(50)[29], 0u);
@@ -132,7 +132,7 @@ TEST(RenderDrawing, AStrokeIsShapedByTheObjectsOwnUnits) {
 TEST(RenderDrawing, AGroupFadesAsOne) {
     Group group;
     group.opacity = 0.5;
-    const GroupPtr shared = std::make_shared<const Group>(group);
+    const GroupPtr shared = makeShared<const Group>(group);
     Object back = square({10, 10, 60, 60}, kRed);
     Object front = square({40, 40, 90, 90}, kBlue);
     back.group = front.group = shared;
@@ -146,10 +146,10 @@ TEST(RenderDrawing, GroupsWithinGroupsMultiply) {
     outer.opacity = 0.5;
     Group inner;
     inner.opacity = 0.5;
-    inner.parent = std::make_shared<const Group>(outer);
+    inner.parent = makeShared<const Group>(outer);
     inner.depth = 2;
     Object faint = square({10, 10, 60, 60}, kRed);
-    faint.group = std::make_shared<const Group>(inner);
+    faint.group = makeShared<const Group>(inner);
     Object half = square({70, 10, 90, 60}, kRed);
     half.group = inner.parent;
     const Surface surface = rendered({sealed(faint), sealed(half)});
@@ -170,7 +170,7 @@ Surface clipped(const std::shared_ptr<const ClipPath>& clip) {
     Group group;
     group.clip = clip;
     Object object = square({0, 0, 100, 100}, kRed);
-    object.group = std::make_shared<const Group>(group);
+    object.group = makeShared<const Group>(group);
     return rendered({sealed(object)});
 }
 
@@ -221,7 +221,7 @@ Drawing crowd() {
             Group made;
             made.opacity = i % 40 == 0 ? 0.6 : 1;
             made.clip = i % 60 == 0 ? clipTo({ellipsePath({450, 450}, 400, 300)}) : nullptr;
-            group = std::make_shared<const Group>(made);
+            group = makeShared<const Group>(made);
         }
         const Point center{place(random), place(random)};
         Object object = filled(ellipsePath(center, size(random), size(random)), ColorPaint{color(), 0.8});
@@ -303,8 +303,8 @@ TEST(RenderDrawing, NumbersThatAreNoneAndHugeOnesNeverHang) {
         group.clip = clipTo({rectanglePath({odd, 10, 90, 90})});
         Object object = filled(ellipsePath({odd, 50}, 40, odd), ColorPaint{kRed, odd});
         object.style = styled(style);
-        object.units = std::make_shared<const Affine>(Affine{odd, 0, 0, 1, odd, 0});
-        object.group = std::make_shared<const Group>(group);
+        object.units = makeShared<const Affine>(Affine{odd, 0, 0, 1, odd, 0});
+        object.group = makeShared<const Group>(group);
         Object withRecord = object;
         withRecord.setGradient(ObjectGradient(new CGradient(record)));
         rendered({sealed(object), sealed(withRecord)});

@@ -36,7 +36,7 @@ Object strokedWith(const Stroke& stroke) {
     Object object = rectangle();
     Style style;
     style.stroke = stroke;
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     return object;
 }
 
@@ -67,7 +67,7 @@ TEST(AddedObjects, KeepAPenThatIsMeasuredInTheDrawing) {
     Stroke stroke = redStroke();
     stroke.inDrawingUnits = true;
     Object object = strokedWith(stroke);
-    object.units = std::make_shared<const Affine>(Affine::scaling(2, 4));
+    object.units = makeShared<const Affine>(Affine::scaling(2, 4));
     EXPECT_THAT(writtenWith(object), HasSubstr("vector-effect=\"non-scaling-stroke\""));
     const Drawing again = readBack(object);
     EXPECT_TRUE(styleOf(*again.object(0)).stroke.inDrawingUnits);
@@ -76,9 +76,9 @@ TEST(AddedObjects, KeepAPenThatIsMeasuredInTheDrawing) {
 
 TEST(AddedObjects, KeepTheirUnitsUnlessTheseCannotBeTurnedRound) {
     Object object = strokedWith(redStroke());
-    object.units = std::make_shared<const Affine>(Affine{2, 0, 0, 4, 5, 6});
+    object.units = makeShared<const Affine>(Affine{2, 0, 0, 4, 5, 6});
     EXPECT_EQ(unitsOf(*readBack(object).object(0)), (Affine{2, 0, 0, 4, 5, 6}));
-    object.units = std::make_shared<const Affine>(Affine{0, 0, 0, 0, 5, 6});
+    object.units = makeShared<const Affine>(Affine{0, 0, 0, 0, 5, 6});
     EXPECT_EQ(readBack(object).object(0)->bounds, (Box{10, 20, 40, 60}));
 }
 
@@ -89,7 +89,7 @@ TEST(AddedObjects, KeepOpacitiesAndTheOrderOfPainting) {
     style.fillOpacity = 0.5;
     style.first = PaintStep::Stroke;
     style.stroke = redStroke();
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     object.fillRule = FillRule::EvenOdd;
     const Drawing again = readBack(object);
     EXPECT_EQ(styleOf(*again.object(0)), style);
@@ -107,10 +107,10 @@ TEST(AddedObjects, StateTheOpacityOfTheirFillWhereItIsNotFull) {
     EXPECT_THAT(writtenWith(object), Not(HasSubstr("opacity")));
     Style style;
     style.fillOpacity = 0;
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     EXPECT_THAT(writtenWith(object), HasSubstr(" fill-opacity=\"0\""));
     style.fillOpacity = 0.5;
-    object.style = std::make_shared<const Style>(style);
+    object.style = makeShared<const Style>(style);
     object.fill = ColorPaint{{65535, 0, 0}, 0.25};
     EXPECT_THAT(writtenWith(object), HasSubstr(" fill-opacity=\"0.125\""));
 }
