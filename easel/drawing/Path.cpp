@@ -133,6 +133,8 @@ Box Path::bounds() const {
 
 Path Path::transformed(const Affine& map) const {
     Path result = *this;
+    if (map == Affine())
+        return result;
     for (Point& p : result.memory_.ownPoints())
         p = map(p);
     return result;

@@ -56,7 +56,9 @@ class PathMemory {
     // Points follow the head, and verbs end at the end of the room.
     struct Head;
 
-    void moveTo(std::size_t room);
+    bool shared() const;
+    void copyTo(std::size_t room);
+    void resize(std::size_t room);
     void release() noexcept;
 
     Head* head_ = nullptr;

@@ -64,6 +64,13 @@ TEST(Path, ACopyIsUntouchedByChangesOfTheOther) {
     EXPECT_EQ(shifted.points().back(), (Point{15, 6}));
 }
 
+TEST(Path, AMapThatMovesNothingTakesNoMemory) {
+    Path path;
+    path.moveTo({1, 2});
+    path.lineTo({5, 6});
+    EXPECT_EQ(path.transformed(Affine()).points().data(), path.points().data());
+}
+
 TEST(Path, KeepsOrderHoweverLongItGrowsAndWhenItIsShrunk) {
     Path path;
     path.moveTo({0, 0});
