@@ -18,6 +18,16 @@ bool anyBlends(const std::vector<ObjectPtr>& objects) {
     });
 }
 
+// The slots with their indices, from back to front. They may be those of all objects.
+std::vector<std::pair<std::uint32_t, Slot>> inOrder(const DisplayList& list, const std::vector<Slot>& slots) {
+    std::vector<std::pair<std::uint32_t, Slot>> order;
+    order.reserve(slots.size());
+    for (const Slot slot : slots)
+        order.emplace_back(static_cast<std::uint32_t>(list.indexOf(slot)), slot);
+    std::sort(order.begin(), order.end());
+    return order;
+}
+
 } // namespace
 
 Drawing Drawing::create(double width, double height) {
@@ -45,10 +55,7 @@ std::optional<std::size_t> Drawing::indexOfId(std::string_view id) const {
 }
 
 std::vector<ObjectPtr> Drawing::objectsWithin(const Box& area) const {
-    std::vector<std::pair<std::size_t, Slot>> order;
-    for (const Slot slot : places_.within(area))
-        order.emplace_back(list_.indexOf(slot), slot);
-    std::sort(order.begin(), order.end());
+    const auto order = inOrder(list_, places_.within(area));
     std::vector<ObjectPtr> objects;
     objects.reserve(order.size());
     for (const auto& [index, slot] : order)
