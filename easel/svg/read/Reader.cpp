@@ -11,6 +11,7 @@
 #include <new>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace easel::svg {
 
@@ -56,40 +57,58 @@ void setBytes(Source& source, std::string bytes, std::uintmax_t limit) {
     source.bytes = std::move(bytes);
 }
 
+struct Content {
+    DrawingSize size;
+    std::vector<drawing::ObjectPtr> objects; // back to front
+    std::vector<std::string> notes;
+};
+
+// What the source's text shows. The tree of its elements goes at the end: it takes several times the text.
+Content readContent(Source& source, const ReadOptions& options) {
+    const std::string& text = source.text();
+    const XmlTree tree(text);
+    source.prefix = tree.prefix();
+    source.rootTag = tree.tagBegin(tree.root());
+    source.ownBlock = findOwnBlock(tree, text);
+    const Cascade cascade(tree);
+    source.sheetsStateFill = cascade.sheetsStateFill();
+    source.sheetsStateStroke = cascade.sheetsStateStroke();
+    PaintServers servers(tree, cascade);
+    Budget budget(text.size());
+    Notes notes;
+    if (cascade.sheetsImport())
+        notes.add(Unsupported::ExternalSheet);
+    const Surroundings around{source.file, {}};
+    TextFonts fonts(tree, budget);
+    const Scene scene{tree, cascade, servers, budget, notes, around, fonts};
+    TreeReader reader(scene, source, options.progress);
+    reader.readRoot();
+    source.objects.shrink_to_fit();
+    if (servers.circular())
+        notes.add(Unsupported::Circle);
+    if (servers.linearLight())
+        notes.add(Unsupported::LinearLight);
+    return {reader.size(), reader.takeObjects(), notes.sentences()};
+}
+
 Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOptions& options) {
     auto source = std::make_shared<Source>();
     setBytes(*source, std::move(bytes), options.largestFile);
     source->file = std::move(file);
     if (source->encoding != Encoding::Utf8)
         source->decoded = decode(source->bytes, source->encoding);
-    const std::string& text = source->text();
-    if (source->bytes.size() > options.largestFile || text.size() > kLargestText)
+    if (source->bytes.size() > options.largestFile || source->text().size() > kLargestText)
         throw ReadError{std::make_error_code(std::errc::file_too_large), "the file is too large"};
+    Content content = readContent(*source, options);
+    return {content.size.width, content.size.height, std::move(content.objects), std::move(source),
+            std::move(content.notes)};
+}
 
-    const XmlTree tree(text);
-    source->prefix = tree.prefix();
-    source->rootTag = tree.tagBegin(tree.root());
-    source->ownBlock = findOwnBlock(tree, text);
-    const Cascade cascade(tree);
-    source->sheetsStateFill = cascade.sheetsStateFill();
-    source->sheetsStateStroke = cascade.sheetsStateStroke();
-    PaintServers servers(tree, cascade);
-    Budget budget(text.size());
-    Notes notes;
-    if (cascade.sheetsImport())
-        notes.add(Unsupported::ExternalSheet);
-    const Surroundings around{source->file, {}};
-    TextFonts fonts(tree, budget);
-    const Scene scene{tree, cascade, servers, budget, notes, around, fonts};
-    TreeReader reader(scene, *source, options.progress);
-    reader.readRoot();
-    source->objects.shrink_to_fit();
-    if (servers.circular())
-        notes.add(Unsupported::Circle);
-    if (servers.linearLight())
-        notes.add(Unsupported::LinearLight);
-    return {reader.size().width, reader.size().height, reader.takeObjects(), std::move(source),
-            notes.sentences()};
+// The bytes themselves are given back.
+std::string takenAsText(files::Bytes& bytes) {
+    std::string text(bytes.begin(), bytes.end());
+    bytes = files::Bytes();
+    return text;
 }
 
 Error outOfMemory(const std::filesystem::path& file) {
@@ -121,8 +140,8 @@ Result<Drawing> readBytesOf(const std::filesystem::path& file, std::string bytes
 
 Result<Drawing> readFile(const std::filesystem::path& file, const ReadOptions& options) {
     try {
-        return files::readWholeFile(file, options.largestFile).and_then([&](const files::Bytes& bytes) {
-            return readNamed({bytes.begin(), bytes.end()}, file, file, options);
+        return files::readWholeFile(file, options.largestFile).and_then([&](files::Bytes bytes) {
+            return readNamed(takenAsText(bytes), file, file, options);
         });
     } catch (const std::bad_alloc&) {
         return tl::unexpected(outOfMemory(file));
