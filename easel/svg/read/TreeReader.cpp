@@ -139,9 +139,10 @@ void TreeReader::readElement(pugi::xml_node element, const Place& place) {
     const std::string_view name = scene_.tree.svgName(element);
     if (name.empty())
         return;
-    if (isShape(name))
+    if (isShape(name)) {
         readShapeElement(element, name, place);
-    else if (name == "image")
+        forget(element);
+    } else if (name == "image")
         readImage(element, place);
     else if (name == "text")
         readTextElement(element, place);
@@ -184,6 +185,12 @@ std::optional<TreeReader::Styled> TreeReader::styled(pugi::xml_node element, con
         return std::nullopt;
     start.inside.style = place.style.inherited(start.stated, start.inside.lengths);
     return start;
+}
+
+// What an element took goes to the objects that are made of the next ones.
+void TreeReader::forget(pugi::xml_node shape) {
+    if (apart_ == 0 && scene_.tree.readOnce() && !shape.first_child() && !shape.attribute("id"))
+        shape.parent().remove_child(shape);
 }
 
 bool TreeReader::isOutOfSight(const Styled& start) const {

@@ -87,7 +87,7 @@ void XmlTree::index(const std::string& text) {
             for (pugi::xml_attribute attribute : element.attributes())
                 if (std::strchr(attribute.value(), '&'))
                     attribute.set_value(entities.expanded(attribute.value()).c_str());
-        noteNamespaces(element);
+        noteAttributes(element);
         if (std::string_view(element.name()).ends_with("style")) {
             sheets_.push_back(element);
         }
@@ -110,18 +110,24 @@ void XmlTree::numberIds() {
     withIds_.resize(count);
 }
 
-void XmlTree::noteNamespaces(pugi::xml_node element) {
+void XmlTree::noteAttributes(pugi::xml_node element) {
     for (const pugi::xml_attribute attribute : element.attributes()) {
         const std::string_view name = attribute.name();
-        if (name.substr(0, 5) != "xmlns")
-            continue;
-        const bool isSvg = attribute.value() == kSvgNamespace;
-        if (name.substr(0, 6) == "xmlns:" && isSvg)
-            svgPrefixes_.insert(std::string(name.substr(6)) + ':');
-        // A root in another language; inside a drawing foreign elements carry prefixes.
-        if (name == "xmlns" && !isSvg && element == root_ && *attribute.value() != '\0')
-            plainNamesAreSvg_ = false;
+        if (name.starts_with("xmlns"))
+            noteNamespace(element, attribute);
+        else if ((name == "href" || name == "xlink:href") && !localId(attribute.value()).empty())
+            showsAgain_ = showsAgain_ || !std::string_view(element.name()).ends_with("Gradient");
     }
+}
+
+void XmlTree::noteNamespace(pugi::xml_node element, pugi::xml_attribute attribute) {
+    const std::string_view name = attribute.name();
+    const bool isSvg = attribute.value() == kSvgNamespace;
+    if (name.starts_with("xmlns:") && isSvg)
+        svgPrefixes_.insert(std::string(name.substr(6)) + ':');
+    // A root in another language; inside a drawing foreign elements carry prefixes.
+    if (name == "xmlns" && !isSvg && element == root_ && *attribute.value() != '\0')
+        plainNamesAreSvg_ = false;
 }
 
 std::string_view XmlTree::svgName(pugi::xml_node element) const {

@@ -41,13 +41,17 @@ class XmlTree {
     std::optional<std::size_t> idNumber(std::string_view id) const;
     // What may be style sheets, in the order of the text.
     const std::vector<pugi::xml_node>& sheets() const { return sheets_; }
+    // Whether each shape is read once and then no more: nothing in the text shows another element again, and
+    // no style sheet asks what stands beside an element. What an id names may still be asked for.
+    bool readOnce() const { return !showsAgain_ && sheets_.empty(); }
     // Where the '<' of the element's start tag is in the text.
     std::size_t tagBegin(pugi::xml_node element) const;
 
   private:
     void index(const std::string& text);
     void numberIds();
-    void noteNamespaces(pugi::xml_node element);
+    void noteAttributes(pugi::xml_node element);
+    void noteNamespace(pugi::xml_node element, pugi::xml_attribute attribute);
 
     pugi::xml_document document_;
     pugi::xml_node root_;
@@ -56,6 +60,7 @@ class XmlTree {
     std::pmr::monotonic_buffer_resource idMemory_;
     std::pmr::unordered_map<std::string_view, std::uint32_t> idNumbers_{&idMemory_};
     std::vector<pugi::xml_node> sheets_;
+    bool showsAgain_ = false; // whether any element but a gradient refers to another one
     bool plainNamesAreSvg_ = true;
     std::unordered_set<std::string> svgPrefixes_; // with their colons
 };
