@@ -64,6 +64,34 @@ TEST(Path, ACopyIsUntouchedByChangesOfTheOther) {
     EXPECT_EQ(shifted.points().back(), (Point{15, 6}));
 }
 
+// As large pieces of memory do, its piece grows and shrinks in place.
+TEST(Path, KeepsOrderWithVeryManyPoints) {
+    constexpr int kSteps = 50'000;
+    Path path;
+    path.moveTo({0, 0});
+    for (int i = 1; i < kSteps; ++i)
+        if (i % 3 == 0)
+            path.cubicTo({1.0 * i, 1}, {1.0 * i, 2}, {1.0 * i, 0});
+        else
+            path.lineTo({1.0 * i, 0});
+    const Path grown = path;
+    path.shrinkToFit();
+    Path longer = grown;
+    longer.lineTo({-1, 0});
+    path.lineTo({-1, 0});
+    path.shrinkToFit();
+    EXPECT_EQ(path, longer);
+    ASSERT_EQ(grown.verbs().size(), std::size_t{kSteps});
+    std::size_t point = 1;
+    for (int i = 1; i < kSteps; ++i) {
+        const bool cubic = i % 3 == 0;
+        ASSERT_EQ(path.verbs()[static_cast<std::size_t>(i)], cubic ? Verb::Cubic : Verb::Line) << i;
+        point += cubic ? 2 : 0;
+        ASSERT_EQ(path.points()[point++], (Point{1.0 * i, 0})) << i;
+    }
+    EXPECT_EQ(path.points().size(), point + 1);
+}
+
 TEST(Path, AMapThatMovesNothingTakesNoMemory) {
     Path path;
     path.moveTo({1, 2});
