@@ -50,17 +50,29 @@ TEST(ShapesReadOnce, AMarkerIsMadeOfShapesThatAreReadForEachLine) {
     }
 }
 
-TEST(ShapesReadOnce, AFillMayNameAShapeOrWhatIsInsideOne) {
-    const Drawing drawing = readOk(
-        svgFile("<rect id='r' width='9' height='9'><linearGradient id='g'><stop stop-color='red'/>"
-                "<stop offset='1'/></linearGradient></rect>"
-                "<rect width='9' height='9' fill='url(#r) #f00'/><rect width='9' height='9' fill='url(#g)'/>"
-                "<rect width='9' height='9'><linearGradient id='h'><stop/><stop offset='1'/>"
-                "</linearGradient></rect><rect width='9' height='9' fill='url(#h)'/>"));
-    ASSERT_EQ(drawing.size(), 5u);
-    EXPECT_EQ(std::get<ColorPaint>(drawing.object(1)->fill), (ColorPaint{{65535, 0, 0}, 1}));
-    EXPECT_TRUE(drawing.object(2)->showsGradient());
-    EXPECT_TRUE(drawing.object(4)->showsGradient());
+// So many that what they took is given to something else.
+std::string manySquares() {
+    std::string squares;
+    for (int i = 0; i < 5000; ++i)
+        squares += "<rect width='1' height='1'/>";
+    return squares;
+}
+
+TEST(ShapesReadOnce, AFillMayNameAShape) {
+    const Drawing drawing =
+        readOk(svgFile(manySquares() + "<rect id='r' width='9' height='9'/>" + manySquares() +
+                       "<rect width='9' height='9' fill='url(#r) #f00'/>"));
+    ASSERT_EQ(drawing.size(), 10'002u);
+    EXPECT_EQ(std::get<ColorPaint>(drawing.object(10'001)->fill), (ColorPaint{{65535, 0, 0}, 1}));
+}
+
+TEST(ShapesReadOnce, AFillMayNameAGradientInsideAShape) {
+    const Drawing drawing = readOk(svgFile(manySquares() +
+                                           "<rect width='9' height='9'><linearGradient id='g'><stop/><stop "
+                                           "offset='1'/></linearGradient></rect>" +
+                                           manySquares() + "<rect width='9' height='9' fill='url(#g)'/>"));
+    ASSERT_EQ(drawing.size(), 10'002u);
+    EXPECT_TRUE(drawing.object(10'001)->showsGradient());
 }
 
 } // namespace
