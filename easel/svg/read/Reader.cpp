@@ -7,6 +7,8 @@
 #include "easel/svg/text/Source.h"
 #include "easel/svg/text/Tags.h"
 
+#include <malloc.h>
+
 #include <memory>
 #include <new>
 #include <string>
@@ -21,6 +23,8 @@ using files::Result;
 
 namespace {
 
+// What reading these took is worth being looked for and given back to the system.
+constexpr std::size_t kLargeText = std::size_t{1} << 20;
 // Spans are kept in 32 bits.
 constexpr std::uintmax_t kLargestText = UINT32_MAX;
 
@@ -99,9 +103,13 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
         source->decoded = decode(source->bytes, source->encoding);
     if (source->bytes.size() > options.largestFile || source->text().size() > kLargestText)
         throw ReadError{std::make_error_code(std::errc::file_too_large), "the file is too large"};
+    const bool large = source->text().size() > kLargeText;
     Content content = readContent(*source, options);
-    return {content.size.width, content.size.height, std::move(content.objects), std::move(source),
-            std::move(content.notes)};
+    Drawing drawing(content.size.width, content.size.height, std::move(content.objects), std::move(source),
+                    std::move(content.notes));
+    if (large)
+        malloc_trim(0);
+    return drawing;
 }
 
 // The bytes themselves are given back.
