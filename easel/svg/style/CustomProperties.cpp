@@ -102,7 +102,8 @@ bool isCustomProperty(std::string_view name) {
 }
 
 bool asksForCustomProperty(std::string_view value) {
-    return findFunction(value) != value.size();
+    // Of each element most properties are not stated at all, or in a word.
+    return value.size() > kFunction.size() && findFunction(value) != value.size();
 }
 
 const CustomProperties* CustomValues::add(const CustomProperties* outer, std::vector<Declaration> own) {
