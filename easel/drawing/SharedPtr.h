@@ -1,10 +1,12 @@
 // A counted pointer for what drawings hold very many of: it takes the room of one pointer, and the count lies
-// beside the value in one piece of memory. Of both, std::shared_ptr takes twice as much.
+// beside the value in one piece of memory. Of both, std::shared_ptr takes twice as much, and Boost's pointer
+// of one word wants the count within the value, where it would be copied with it.
 #pragma once
 
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -60,7 +62,7 @@ template <class T> class SharedPtr {
     }
     void release() noexcept {
         if (counted_ && counted_->uses.fetch_sub(1, std::memory_order_acq_rel) == 1)
-            delete counted_;
+            std::unique_ptr<Held>(counted_).reset();
     }
 
     Held* counted_ = nullptr;
@@ -69,7 +71,8 @@ template <class T> class SharedPtr {
 // A new value, made of these.
 template <class Made, class... Arguments> SharedPtr<Made> makeShared(Arguments&&... arguments) {
     using Held = typename SharedPtr<Made>::Held;
-    return SharedPtr<Made>(new Held(std::in_place, std::forward<Arguments>(arguments)...));
+    return SharedPtr<Made>(
+        std::make_unique<Held>(std::in_place, std::forward<Arguments>(arguments)...).release());
 }
 
 } // namespace easel::drawing

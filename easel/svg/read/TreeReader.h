@@ -101,9 +101,9 @@ class TreeReader {
         Place inside;
     };
     std::optional<Styled> styled(pugi::xml_node element, const Place& place) const;
-    // Hidden elements still count where somebody waits for the box of what they are in.
     // Takes a shape that has been read out of the tree, if nothing can ask for it again.
     void forget(pugi::xml_node shape);
+    // Hidden elements still count where somebody waits for the box of what they are in.
     bool isOutOfSight(const Styled& start) const;
     void readShapeElement(pugi::xml_node element, std::string_view name, const Place& place);
     void readImage(pugi::xml_node element, const Place& place);

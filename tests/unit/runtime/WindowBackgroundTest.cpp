@@ -103,10 +103,10 @@ TEST_F(WindowBackgroundTest, TheNextDrawingIsPaintedInTheBackgroundToo) {
 
 TEST_F(WindowBackgroundTest, ADrawingThatIsShownNoMoreIsHeldByNothing) {
     window_.paintMarked();
-    const std::weak_ptr<const drawing::Object> object = window_.drawing().object(0);
-    ASSERT_FALSE(object.expired());
+    const drawing::ObjectPtr object = window_.drawing().object(0);
+    ASSERT_GT(object.useCount(), 1U);
     window_.setDrawing(drawing::Drawing::create(100, 50));
-    EXPECT_TRUE(object.expired());
+    EXPECT_EQ(object.useCount(), 1U);
 }
 
 TEST_F(WindowBackgroundTest, AnotherZoomIsPaintedBesideToo) {
