@@ -198,6 +198,7 @@ TEST(PdfFile, OnALargerPageTheDrawingIsInItsPlaceAndNothingBesideIt) {
 TEST(ExportDrawing, CancelledAtAnyReportItLeavesTheFileThatWasThere) {
     const tests::TemporaryFolder folder;
     std::vector<ObjectPtr> objects;
+    objects.reserve(1000);
     for (int i = 0; i < 1000; ++i)
         objects.push_back(withGradient("", {i * 0.1, 0, i * 0.1 + 9, 90}, {}));
     const auto drawing = drawingOf(objects);
