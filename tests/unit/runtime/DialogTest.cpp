@@ -103,6 +103,10 @@ TEST_F(DialogTest, ACharacterThatTheHostCannotEncodeIsRefusedWithoutAHit) {
     EXPECT_EQ(field().shownText(), "a\xc3\xa9");
 }
 
+TEST_F(DialogTest, ANewFieldHasItsCaretBeforeItsText) {
+    EXPECT_EQ(DialogItem().selection, (TextSelection{0, 0}));
+}
+
 TEST_F(DialogTest, AFieldHolds255CharactersAndNoMore) {
     dialog_.setText(3, std::string(254, 'x'));
     EXPECT_EQ(type(U"y"), EditOutcome::Accepted);

@@ -72,6 +72,7 @@ TEST_F(ResourceFilesTest, TheSearchGoesFromTheCurrentFileDownTheChain) {
     const auto empty = resources_.open(specOf("empty"), Access::Read);
     const auto high = resources_.open(specOf("high"), Access::Read);
     EXPECT_THAT(resources_.openFiles(), ElementsAre(ResourceFiles::kHostFile, low, empty, high));
+    EXPECT_THAT(resources_.openFiles(), testing::Each(testing::Ne(ResourceFiles::kNoFile)));
     EXPECT_EQ(contentOf(resources_.get(kResourceType, 0)), "from high");
     resources_.use(empty);
     EXPECT_EQ(contentOf(resources_.get(kResourceType, 0)), "from low");
@@ -161,6 +162,17 @@ TEST_F(ResourceFilesTest, AFileOfDamagedResourcesDoesNotOpenAndIsNamedToWhoeverW
     EXPECT_THAT(unreadable_, testing::IsEmpty());
     EXPECT_EQ(resources_.open(specOf("a"), Access::Read), ResourceFiles::kNoFile);
     EXPECT_THAT(unreadable_, ElementsAre(folder() / "a"));
+}
+
+TEST_F(ResourceFilesTest, ResourcesThatAreMoreThanAFileCanHoldAreReportedAndTheOldFileStays) {
+    dropFile(folder(), "a", "old");
+    const auto number = resources_.open(specOf("a"), Access::Write);
+    // Resources begin in the first 16 megabytes of their file.
+    for (const std::int16_t id : {std::int16_t{0}, std::int16_t{1}})
+        EXPECT_TRUE(resources_.add(blockOf(std::string(17U << 20, 'x')), kResourceType, id, ""));
+    expectedFailures_ = 1;
+    resources_.close(number);
+    EXPECT_EQ(keptIn(folder(), "a"), "old");
 }
 
 TEST_F(ResourceFilesTest, AWriteThatFailsIsReportedAndTheOldFileStays) {

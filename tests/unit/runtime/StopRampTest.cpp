@@ -264,6 +264,9 @@ TEST(PreviewGestures, ACentreOutsideIsReachedByADragFromWithin) {
     const MouseGesture out = moveCentreTo(item, {-5, 500});
     EXPECT_EQ(out.press, (PixelPoint{10, 119}));
     EXPECT_THAT(out.way, ElementsAre(PixelPoint{-5, 500}));
+    EXPECT_EQ(moveCentreTo(item, {500, -5}).press, (PixelPoint{209, 20}));
+    EXPECT_EQ(moveCentreTo(item, {30, 40}).press, (PixelPoint{30, 40}))
+        << "inside there is no need to go far";
 }
 
 } // namespace

@@ -51,6 +51,16 @@ TEST_F(StorageTest, ANameInAFolderThatIsNotThereIsRefusedWithThatReasonAndOnlyOn
     ASSERT_TRUE(refusal);
     EXPECT_EQ(refusal->message(), "a: its folder is not there");
     EXPECT_FALSE(storage_.takeRefusal());
+    EXPECT_TRUE(storage_.keptAll()) << "nothing was to be kept";
+}
+
+TEST_F(StorageTest, ANameThatIsRefusedSinceNothingCanBeKeptIsSomethingThatWasNotKept) {
+    storage_.tellNothingIsKept(kReadOnly);
+    EXPECT_TRUE(storage_.keptAll());
+    classic::FileSpec spec;
+    storage_.resolve(0, 0, "a", spec);
+    EXPECT_EQ(storage_.takeRefusal().value_or(files::Error{}).message(), "folder: read-only");
+    EXPECT_FALSE(storage_.keptAll());
 }
 
 TEST_F(StorageTest, ANameThatAFileHasOrCanHaveIsNotRefused) {

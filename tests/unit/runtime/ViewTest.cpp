@@ -20,6 +20,8 @@ TEST(View, TakesPointsOfTheDrawingToTheWindowAndBack) {
 
 TEST(View, ShowsNothingUntilItHasASize) {
     EXPECT_EQ(View().seen(), (Box{0, 0, 0, 0}));
+    EXPECT_EQ(View().toWindow({3, 4}), (Point{3, 4})) << "and is as large as the drawing";
+    EXPECT_EQ(View().toImage()({3, 4}), (Point{3, 4}));
 }
 
 } // namespace
