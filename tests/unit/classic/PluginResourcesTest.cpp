@@ -53,6 +53,8 @@ TEST(PluginResources, ADialogHasItsItemsInTheOrderOfTheirNumbers) {
     EXPECT_EQ(dialog->items[0].kind, ItemResourceKind::Button);
     EXPECT_EQ(dialog->items[0].role, ButtonResourceRole::Default);
     EXPECT_EQ(dialog->items[0].top, 384);
+    EXPECT_EQ(dialog->items[0].left, 336);
+    EXPECT_EQ(dialog->items[0].bottom, 416);
     EXPECT_EQ(dialog->items[0].right, 424);
     EXPECT_EQ(dialog->items[0].label, "l");
     EXPECT_EQ(dialog->items[1].menu, 7);
@@ -78,6 +80,21 @@ TEST(PluginResources, AlertsCursorsAndIconsAreFound) {
     EXPECT_EQ(resources.cursor(5000)->hotV, 8);
     EXPECT_EQ(resources.cursor(5000)->width, 32);
     EXPECT_EQ(resources.icon(5100)->file, "/plug/In/i.svg");
+}
+
+TEST(PluginResources, ATextHasUpTo255CharactersAndACursorUpTo256PixelsEachWay) {
+    const auto text = [](std::size_t length) {
+        return "<strings id='1'><string>" + std::string(length, 'x') + "</string></strings>";
+    };
+    EXPECT_EQ(parsed(text(255)).string(1, 1).size(), 255U);
+    EXPECT_NE(refusal(text(256)).find("more than 255 characters"), std::string::npos);
+    const auto cursor = [](const std::string& size) {
+        return "<cursor id='1' file='c' hotspot='0 0' size='" + size + "'/>";
+    };
+    for (const char* const size : {"1 1", "1 256", "256 1"})
+        EXPECT_NE(parsed(cursor(size)).cursor(1), nullptr) << size;
+    for (const char* const size : {"0 1", "1 0", "257 1", "1 257"})
+        EXPECT_NE(refusal(cursor(size)).find("has a size outside 1 to 256"), std::string::npos) << size;
 }
 
 TEST(PluginResources, WhatIsWrongIsNamedWithTheFileAndTheElement) {

@@ -87,6 +87,16 @@ TEST(ResourceFork, WhatIsWrittenIsReadBack) {
     }
 }
 
+TEST(ResourceFork, AResourceWithoutBytesIsReadBackWhereverItLies) {
+    ResourceFork fork;
+    fork.put(resource(kTemplate, 0, "gradient"));
+    fork.put(resource(kTemplate, 1, ""));
+    const auto read = ResourceFork::read(fork.write().value());
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->resources().size(), 2U);
+    EXPECT_EQ(read->find(kTemplate, 1)->data, Bytes());
+}
+
 TEST(ResourceFork, TheClassicLayoutIsWrittenByteForByte) {
     ResourceFork fork;
     fork.put(resource(kTemplate, 0, "ab", ""));
@@ -239,6 +249,18 @@ TEST(ResourceFork, WhatTheLayoutHasNoRoomForIsNotWritten) {
     ResourceFork names;
     names.put(resource(kString, 0, "", std::string(256, 'n')));
     EXPECT_EQ(names.write(), std::nullopt);
+    // The place of a name is a number below 65535, which stands for none.
+    ResourceFork named;
+    for (std::int16_t id = 0; id < 255; ++id)
+        named.put(resource(kString, id, "", std::string(255, 'n')));
+    named.put(resource(kString, 255, "", std::string(253, 'n')));
+    ResourceFork tooManyNames = named;
+    named.put(resource(kString, 256, "", "last"));
+    const auto read = ResourceFork::read(named.write().value());
+    EXPECT_EQ(read->find(kString, 256)->name, "last");
+    tooManyNames.put(resource(kString, 255, "", std::string(254, 'n')));
+    tooManyNames.put(resource(kString, 256, "", "last"));
+    EXPECT_EQ(tooManyNames.write(), std::nullopt);
     ResourceFork many;
     for (int id = 0; id < 6000; ++id)
         many.put(resource(kString, static_cast<std::int16_t>(id), ""));
