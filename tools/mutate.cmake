@@ -2,9 +2,9 @@
 # MUTATED there is a program of its unit tests that brings the room along and takes the rest from the library as it lies in
 # the folder. So one file is compiled after a fault, or after one in a header no more than the room and its tests.
 
-# The room's files are compiled alone and without much optimisation; in groups if MUTATED_TOGETHER is set.
+# The room's files are compiled alone and without much optimization and warnings; in groups if MUTATED_TOGETHER is set.
 function(compile_for_faults target)
-  target_compile_options(${target} PRIVATE -O1)
+  target_compile_options(${target} PRIVATE -O1 -w)
   if(MUTATED_TOGETHER)
     set_target_properties(${target} PROPERTIES UNITY_BUILD_BATCH_SIZE 0)
   else()
@@ -14,16 +14,20 @@ endfunction()
 
 function(program_for_faults room objects)
   add_executable(mutated_${room})
-  foreach(property IN ITEMS SOURCES COMPILE_DEFINITIONS INCLUDE_DIRECTORIES LINK_LIBRARIES)
+  foreach(property IN ITEMS SOURCES COMPILE_DEFINITIONS COMPILE_OPTIONS INCLUDE_DIRECTORIES LINK_LIBRARIES)
     get_target_property(value unit_${room} ${property})
     if(value)
       list(REMOVE_ITEM value kestradhost)
+      if(property STREQUAL "SOURCES")
+        list(TRANSFORM value REPLACE "^([^/].*)" "${CMAKE_SOURCE_DIR}/tests/\\1")
+      endif()
       set_target_properties(mutated_${room} PROPERTIES ${property} "${value}")
     endif()
   endforeach()
   target_link_libraries(mutated_${room} PRIVATE ${objects} "-L${CMAKE_BINARY_DIR}/bin" -lkestradhost)
-  set_target_properties(mutated_${room} PROPERTIES BUILD_RPATH "${CMAKE_BINARY_DIR}/bin" ENABLE_EXPORTS ON)
-  tests_together(mutated_${room})
+  set_target_properties(mutated_${room} PROPERTIES BUILD_RPATH "${CMAKE_BINARY_DIR}/bin" ENABLE_EXPORTS ON
+                        DEFINE_SYMBOL "")
+  read_ahead(mutated_${room} test_headers)
 endfunction()
 
 function(prepare_for_faults)
