@@ -865,6 +865,14 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>the object &quot;%1&quot;</source>
         <translation>Objekt „%1“</translation>
     </message>
+    <message>
+        <source>Fonts are read from the folder of the drawing and those below it, and from nowhere else.</source>
+        <translation>Schriften werden aus dem Ordner der Zeichnung und denen darunter gelesen und von nirgendwo sonst.</translation>
+    </message>
+    <message>
+        <source>Fonts that are damaged or of unknown kinds are replaced by others.</source>
+        <translation>Beschädigte Schriften und solche unbekannter Art werden durch andere ersetzt.</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::Canvas</name>

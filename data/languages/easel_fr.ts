@@ -865,6 +865,14 @@ Easel fonctionne sans cet outil.</translation>
         <source>the object &quot;%1&quot;</source>
         <translation>objet «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>Fonts are read from the folder of the drawing and those below it, and from nowhere else.</source>
+        <translation>Les polices sont lues dans le dossier du dessin et ceux qu’il contient, et nulle part ailleurs.</translation>
+    </message>
+    <message>
+        <source>Fonts that are damaged or of unknown kinds are replaced by others.</source>
+        <translation>Les polices endommagées ou de type inconnu sont remplacées par d’autres.</translation>
+    </message>
 </context>
 <context>
     <name>easel::window::Canvas</name>

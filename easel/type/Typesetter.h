@@ -41,6 +41,8 @@ struct Cluster {
     std::vector<Glyph> glyphs;
 };
 
+class LoadedFont;
+
 class Typesetter {
   public:
     Typesetter() = default;
@@ -54,6 +56,8 @@ class Typesetter {
     virtual FontMetrics metrics(const Font& font) = 0;
     // Whether there is a family of that name, or the name stands for one that is.
     virtual bool has(const std::string& family) = 0;
+    // A font out of the bytes of its file; null if they are of no kind that is read.
+    virtual std::shared_ptr<LoadedFont> load(std::string /*bytes*/) { return nullptr; }
 };
 
 // The one of the program; null if its library cannot be loaded.

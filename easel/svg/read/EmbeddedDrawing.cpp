@@ -1,5 +1,5 @@
 #include "easel/svg/read/EmbeddedDrawing.h"
-#include "easel/svg/read/FontReader.h"
+#include "easel/svg/read/TextFonts.h"
 
 #include "easel/svg/read/TreeReader.h"
 #include "easel/svg/text/Encoding.h"
@@ -31,7 +31,7 @@ std::optional<std::vector<drawing::ObjectPtr>> readTree(const ShapePicture& pict
     Surroundings around = outer.around;
     around.file = picture.file;
     around.open.push_back(&picture);
-    TextFonts fonts(tree, outer.budget);
+    TextFonts fonts(tree, cascade, around, outer.budget, outer.notes);
     const Scene scene{tree, cascade, servers, outer.budget, outer.notes, around, fonts};
     TreeReader reader(scene, source, {});
     if (!reader.readPlaced(place))

@@ -70,8 +70,8 @@ class FontElement {
     FontElement(const XmlTree& tree, pugi::xml_node element, Budget& budget)
         : tree_(tree), element_(element), budget_(budget) {}
 
-    // Nothing if the element does not name a family.
-    std::optional<DrawnFont> read();
+    // `named`: instead of what the element says itself; null: nothing is. Nothing if no family is named.
+    std::optional<DrawnFont> read(const type::Font* named = nullptr);
 
   private:
     double measure(pugi::xml_node element, const char* name, double otherwise) const;
@@ -97,10 +97,14 @@ double FontElement::measure(pugi::xml_node element, const char* name, double oth
     return number && std::abs(*number) <= kLargestMeasure ? *number / unitsPerEm_ : otherwise;
 }
 
-std::optional<DrawnFont> FontElement::read() {
+std::optional<DrawnFont> FontElement::read(const type::Font* named) {
     for (const pugi::xml_node child : element_.children())
         if (tree_.svgName(child) == "font-face")
             readFace(child);
+    if (named) {
+        font_.font = *named;
+        font_.anyWeight = false;
+    }
     if (font_.font.families.empty())
         return std::nullopt;
     for (const pugi::xml_node child : element_.children()) {
@@ -224,12 +228,11 @@ std::vector<DrawnFont> readFonts(const XmlTree& tree, Budget& budget) {
     return fonts;
 }
 
-type::Typesetter* TextFonts::typesetter() {
-    type::Typesetter* const system = type::typesetter();
-    if (!std::exchange(made_, true) && system)
-        if (std::vector<DrawnFont> fonts = readFonts(tree_, budget_); !fonts.empty())
-            own_ = std::make_unique<type::DrawnTypesetter>(std::move(fonts), *system);
-    return own_ ? own_.get() : system;
+std::optional<DrawnFont> readFont(const XmlTree& tree, pugi::xml_node element, const type::Font& named,
+                                  Budget& budget) {
+    if (tree.svgName(element) != "font")
+        return std::nullopt;
+    return FontElement(tree, element, budget).read(&named);
 }
 
 } // namespace easel::svg

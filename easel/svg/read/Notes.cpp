@@ -13,6 +13,8 @@ constexpr std::array<std::string_view, kUnsupportedCount> kSentences = {
     "Pictures of more than 25 million pixels are kept in the file but not shown.",
     "Pictures are read from the folder of the drawing and those below it, and from nowhere else.",
     "Pictures in files that cannot be read are not shown.",
+    "Fonts are read from the folder of the drawing and those below it, and from nowhere else.",
+    "Fonts that are damaged or of unknown kinds are replaced by others.",
     "Content in other languages than SVG is kept in the file but not shown.",
     "Scripts are kept in the file but not run.",
     "Animations are kept in the file but not played.",

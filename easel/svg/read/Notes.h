@@ -17,6 +17,8 @@ enum class Unsupported : std::uint8_t {
     PictureTooLarge,
     PictureElsewhere,
     PictureMissing,
+    FontElsewhere,
+    FontUnreadable,
     Foreign,
     Script,
     Animation,
@@ -31,7 +33,7 @@ enum class Unsupported : std::uint8_t {
     DeepLayer,
     LinearLight,
 };
-inline constexpr std::size_t kUnsupportedCount = 20;
+inline constexpr std::size_t kUnsupportedCount = 22;
 
 class Notes {
   public:

@@ -2,7 +2,7 @@
 #include "easel/files/Gzip.h"
 #include "easel/files/WholeFile.h"
 #include "easel/svg/Document.h"
-#include "easel/svg/read/FontReader.h"
+#include "easel/svg/read/TextFonts.h"
 #include "easel/svg/read/TreeReader.h"
 #include "easel/svg/text/Source.h"
 #include "easel/svg/text/Tags.h"
@@ -83,7 +83,7 @@ Content readContent(Source& source, const ReadOptions& options) {
     if (cascade.sheetsImport())
         notes.add(Unsupported::ExternalSheet);
     const Surroundings around{source.file, {}};
-    TextFonts fonts(tree, budget);
+    TextFonts fonts(tree, cascade, around, budget, notes);
     const Scene scene{tree, cascade, servers, budget, notes, around, fonts};
     TreeReader reader(scene, source, options.progress);
     reader.readRoot();

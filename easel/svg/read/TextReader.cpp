@@ -1,6 +1,6 @@
 #include "easel/svg/read/TextReader.h"
 
-#include "easel/svg/read/FontReader.h"
+#include "easel/svg/read/TextFonts.h"
 #include "easel/type/Append.h"
 #include "easel/type/Layout.h"
 

@@ -1,5 +1,6 @@
 #include "easel/svg/style/Css.h"
 
+#include "easel/svg/style/CssText.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
@@ -30,28 +31,6 @@ std::string withoutComments(std::string_view text) {
         for (std::size_t at = result.find(mark); at != std::string::npos; at = result.find(mark, at))
             result.replace(at, mark.size(), mark.size(), ' ');
     return result;
-}
-
-// The length of the text before the first of `ends` that is not inside quotes or brackets.
-std::size_t lengthUntil(std::string_view text, std::string_view ends) {
-    char quote = 0;
-    int depth = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (quote) {
-            quote = c == quote ? '\0' : quote;
-            continue;
-        }
-        if (depth == 0 && ends.find(c) != std::string_view::npos)
-            return i;
-        if (c == '"' || c == '\'')
-            quote = c;
-        else if (c == '(' || c == '[')
-            ++depth;
-        else if ((c == ')' || c == ']') && depth > 0)
-            --depth;
-    }
-    return text.size();
 }
 
 // Takes a block, whose '{' is first, with everything inside it. One that is still open ends with the text.
@@ -123,6 +102,8 @@ void StyleSheet::addRules(std::string_view text, const MediaSize& media, int dep
         Scanner scanner(head);
         if (!scanner.take('@'))
             addRules(head, block);
+        else if (scanner.takeWord("font-face") && trimmed(scanner.rest()).empty())
+            fontFaces_.push_back(parseDeclarations(block));
         else if (depth < kDeepestBlock && scanner.takeWord("media") && mediaMatches(scanner.rest(), media))
             addRules(block, media, depth + 1);
     }

@@ -28,10 +28,12 @@ std::vector<Declaration> parseDeclarations(std::string_view text);
 class StyleSheet {
   public:
     // Adds the rules of a sheet, which are stronger than equal ones added before. Rules with selectors of
-    // other kinds are passed over, and so are at-rules but @media.
+    // other kinds are passed over, and so are at-rules but @media and @font-face.
     void add(const std::string& text, const MediaSize& media);
 
     bool empty() const { return rules_.empty(); }
+    // What each rule @font-face says, in their order.
+    const std::vector<std::vector<Declaration>>& fontFaces() const { return fontFaces_; }
     // Declarations of all rules that match, weakest first.
     std::vector<Declaration> declarationsFor(const SelectorSubject& subject) const;
 
@@ -48,6 +50,7 @@ class StyleSheet {
 
     std::vector<std::unique_ptr<const std::string>> texts_; // what the declarations point into
     std::vector<Rule> rules_;
+    std::vector<std::vector<Declaration>> fontFaces_;
     // Rules by what their last compound asks first, so that an element looks at few of them.
     Bucket byId_, byClass_, byElement_;
     std::vector<std::size_t> others_;

@@ -139,6 +139,7 @@ class Cascade {
     bool sheetsStateFill() const { return sheetsStateFill_; }
     bool sheetsStateStroke() const { return sheetsStateStroke_; }
     bool sheetsImport() const { return sheetsImport_; }
+    const std::vector<std::vector<Declaration>>& fontFaces() const { return sheet_.fontFaces(); }
 
   private:
     void addSheet(pugi::xml_node styleElement);

@@ -10,54 +10,11 @@ namespace easel::type {
 
 using drawing::Affine;
 using drawing::Path;
-using drawing::Point;
 
 namespace {
 
 // Enough for every letter of the fonts of a drawing, and for one page of ideographs.
 constexpr std::size_t kMostOutlines = 20000;
-
-Path& pathOf(void* data) {
-    return *static_cast<Path*>(data);
-}
-
-Point point(float x, float y) {
-    return {static_cast<double>(x), static_cast<double>(y)};
-}
-
-void draw(hb_font_t* font, std::uint32_t glyph, hb_draw_funcs_t* pen, Path& path) {
-#if HB_VERSION_ATLEAST(7, 0, 0)
-    hb_font_draw_glyph(font, glyph, pen, &path);
-#else
-    hb_font_get_glyph_shape(font, glyph, pen, &path);
-#endif
-}
-
-void moveTo(hb_draw_funcs_t*, void* path, hb_draw_state_t*, float x, float y, void*) {
-    pathOf(path).moveTo(point(x, y));
-}
-
-void lineTo(hb_draw_funcs_t*, void* path, hb_draw_state_t*, float x, float y, void*) {
-    pathOf(path).lineTo(point(x, y));
-}
-
-void cubicTo(hb_draw_funcs_t*, void* path, hb_draw_state_t*, float x1, float y1, float x2, float y2, float x,
-             float y, void*) {
-    pathOf(path).cubicTo(point(x1, y1), point(x2, y2), point(x, y));
-}
-
-// A quadratic curve is the cubic one whose controls lie two thirds of the way to its own.
-void quadraticTo(hb_draw_funcs_t*, void* path, hb_draw_state_t* state, float x1, float y1, float x, float y,
-                 void*) {
-    const Point start = point(state->current_x, state->current_y);
-    const Point control = point(x1, y1);
-    const Point end = point(x, y);
-    pathOf(path).cubicTo(start + (control - start) * (2.0 / 3), end + (control - end) * (2.0 / 3), end);
-}
-
-void closePath(hb_draw_funcs_t*, void* path, hb_draw_state_t*, void*) {
-    pathOf(path).close();
-}
 
 FcPattern* patternOf(PangoFont* font) {
     return PANGO_IS_FC_FONT(font) ? pango_fc_font_get_pattern(PANGO_FC_FONT(font)) : nullptr;
@@ -116,13 +73,7 @@ FacePtr faceOf(PangoFont* font, const Affine& slant, double unitsPerEm) {
 
 } // namespace
 
-GlyphOutlines::GlyphOutlines(double unitsPerEm) : unitsPerEm_(unitsPerEm), pen_(hb_draw_funcs_create()) {
-    hb_draw_funcs_set_move_to_func(pen_.get(), moveTo, nullptr, nullptr);
-    hb_draw_funcs_set_line_to_func(pen_.get(), lineTo, nullptr, nullptr);
-    hb_draw_funcs_set_quadratic_to_func(pen_.get(), quadraticTo, nullptr, nullptr);
-    hb_draw_funcs_set_cubic_to_func(pen_.get(), cubicTo, nullptr, nullptr);
-    hb_draw_funcs_set_close_path_func(pen_.get(), closePath, nullptr, nullptr);
-}
+GlyphOutlines::GlyphOutlines(double unitsPerEm) : unitsPerEm_(unitsPerEm) {}
 
 GlyphOutlines::KnownFont& GlyphOutlines::known(PangoFont* font) {
     KnownFont& known = fonts_[font];
@@ -145,8 +96,7 @@ Path GlyphOutlines::of(PangoFont* font, std::uint32_t glyph) {
     const auto [place, isNew] = own.outlines.try_emplace(glyph);
     if (isNew) {
         ++count_;
-        Path path;
-        draw(pango_font_get_hb_font(font), glyph, pen_.get(), path);
+        Path path = pen_.outlineOf(pango_font_get_hb_font(font), glyph);
         if (own.embolden)
             path = emboldened(path, unitsPerEm_);
         place->second = path.transformed(own.toEms);

@@ -3,8 +3,8 @@
 
 #include "easel/drawing/Path.h"
 #include "easel/type/Face.h"
+#include "easel/type/pango/GlyphPen.h"
 
-#include <hb.h>
 #include <pango/pango.h>
 
 #include <cstdint>
@@ -39,12 +39,8 @@ class GlyphOutlines {
 
     KnownFont& known(PangoFont* font);
 
-    struct DestroyFuncs {
-        void operator()(hb_draw_funcs_t* funcs) const { hb_draw_funcs_destroy(funcs); }
-    };
-
     double unitsPerEm_;
-    std::unique_ptr<hb_draw_funcs_t, DestroyFuncs> pen_;
+    GlyphPen pen_;
     std::unordered_map<PangoFont*, KnownFont> fonts_;
     std::size_t count_ = 0;
 };

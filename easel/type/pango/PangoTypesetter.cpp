@@ -1,8 +1,9 @@
 #include "easel/type/pango/PangoTypesetter.h"
 
 #include "easel/type/Append.h"
+#include "easel/type/pango/FontInBytes.h"
+#include "easel/type/pango/FontMeasures.h"
 
-#include <hb-ot.h>
 #include <pango/pangofc-fontmap.h>
 #include <pango/pangoft2.h>
 
@@ -144,27 +145,6 @@ std::string keyOf(const Line& line) {
     return key;
 }
 
-double height(hb_font_t* font, hb_ot_metrics_tag_t tag, double otherwise) {
-    hb_position_t value = 0;
-    return hb_ot_metrics_get_position(font, tag, &value) ? value / kUnitsPerEm : otherwise;
-}
-
-// Fonts that do not say it have it in their letters.
-double xHeight(hb_font_t* font) {
-    hb_codepoint_t glyph = 0;
-    hb_glyph_extents_t extents;
-    if (hb_font_get_nominal_glyph(font, 'x', &glyph) && hb_font_get_glyph_extents(font, glyph, &extents))
-        return extents.y_bearing / kUnitsPerEm;
-    return FontMetrics().xHeight;
-}
-
-double baseline(hb_font_t* font, hb_ot_layout_baseline_tag_t tag) {
-    hb_position_t value = 0;
-    hb_ot_layout_get_baseline_with_fallback(font, tag, HB_DIRECTION_LTR, HB_OT_TAG_DEFAULT_SCRIPT,
-                                            HB_OT_TAG_DEFAULT_LANGUAGE, &value);
-    return value / kUnitsPerEm;
-}
-
 } // namespace
 
 PangoTypesetter::PangoTypesetter() : fonts_(pango_ft2_font_map_new()), outlines_(kUnitsPerEm) {
@@ -263,26 +243,12 @@ FontMetrics PangoTypesetter::metrics(const Font& font) {
     const std::lock_guard lock(mutex_);
     const Held<PangoFont> own(
         pango_font_map_load_font(fonts_.get(), context_.get(), descriptionOf(font).get()));
-    FontMetrics metrics;
     hb_font_t* const fontOfMetrics = own ? pango_font_get_hb_font(own.get()) : nullptr;
-    if (!fontOfMetrics)
-        return metrics;
-    hb_font_extents_t extents;
-    if (hb_font_get_h_extents(fontOfMetrics, &extents)) {
-        metrics.ascent = extents.ascender / kUnitsPerEm;
-        metrics.descent = extents.descender / kUnitsPerEm;
-    }
-    metrics.xHeight = height(fontOfMetrics, HB_OT_METRICS_TAG_X_HEIGHT, xHeight(fontOfMetrics));
-    metrics.hanging = baseline(fontOfMetrics, HB_OT_LAYOUT_BASELINE_TAG_HANGING);
-    metrics.mathematical = baseline(fontOfMetrics, HB_OT_LAYOUT_BASELINE_TAG_MATH);
-    metrics.ideographic = baseline(fontOfMetrics, HB_OT_LAYOUT_BASELINE_TAG_IDEO_EMBOX_BOTTOM_OR_LEFT);
-    metrics.underlineThickness =
-        height(fontOfMetrics, HB_OT_METRICS_TAG_UNDERLINE_SIZE, metrics.underlineThickness);
-    metrics.underline = height(fontOfMetrics, HB_OT_METRICS_TAG_UNDERLINE_OFFSET, metrics.underline);
-    metrics.strikethroughThickness =
-        height(fontOfMetrics, HB_OT_METRICS_TAG_STRIKEOUT_SIZE, metrics.strikethroughThickness);
-    metrics.strikethrough = height(fontOfMetrics, HB_OT_METRICS_TAG_STRIKEOUT_OFFSET, metrics.strikethrough);
-    return metrics;
+    return fontOfMetrics ? metricsOf(fontOfMetrics, kUnitsPerEm) : FontMetrics();
+}
+
+std::shared_ptr<LoadedFont> PangoTypesetter::load(std::string bytes) {
+    return loadFont(std::move(bytes));
 }
 
 bool PangoTypesetter::has(const std::string& family) {

@@ -25,6 +25,9 @@ constexpr const char* kSystemContext = "system";
         "core",
         "Pictures are read from the folder of the drawing and those below it, and from nowhere else."),
     QT_TRANSLATE_NOOP("core", "Pictures in files that cannot be read are not shown."),
+    QT_TRANSLATE_NOOP(
+        "core", "Fonts are read from the folder of the drawing and those below it, and from nowhere else."),
+    QT_TRANSLATE_NOOP("core", "Fonts that are damaged or of unknown kinds are replaced by others."),
     QT_TRANSLATE_NOOP("core", "Content in other languages than SVG is kept in the file but not shown."),
     QT_TRANSLATE_NOOP("core", "Scripts are kept in the file but not run."),
     QT_TRANSLATE_NOOP("core", "Animations are kept in the file but not played."),

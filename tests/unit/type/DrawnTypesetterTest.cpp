@@ -22,10 +22,34 @@ DrawnFont fontOf(const std::string& family, int weight = 400) {
     return font;
 }
 
+// A loaded font that has small letters only, each as wide as it is told.
+class SmallLetters : public LoadedFont {
+  public:
+    explicit SmallLetters(double width) : width_(width) {}
+
+    bool has(char32_t character) const override { return character >= U'a' && character <= U'z'; }
+    std::vector<Cluster> shape(std::string_view text, const Look& look) override {
+        texts.emplace_back(text);
+        looks.push_back(look);
+        return {{0, text.size(), {}, width_, false, false, nullptr, {}}};
+    }
+    FontMetrics metrics() override {
+        FontMetrics metrics;
+        metrics.ascent = 2;
+        return metrics;
+    }
+
+    std::vector<std::string> texts; // that were shaped
+    std::vector<Look> looks;
+
+  private:
+    double width_;
+};
+
 class DrawnFonts : public testing::Test {
   protected:
     std::vector<Cluster> shape(const std::string& text, const Font& font, bool rightToLeft = false) {
-        DrawnTypesetter typesetter(fonts, others);
+        DrawnTypesetter typesetter(fonts, others, loaded);
         Line line;
         line.text = text;
         line.runs.push_back({text.size(), std::make_shared<const Font>(font)});
@@ -40,7 +64,15 @@ class DrawnFonts : public testing::Test {
     }
 
     BoxTypesetter others;
+    // The letters of the face.
+    std::shared_ptr<SmallLetters> load(const Font& font, double width) {
+        auto letters = std::make_shared<SmallLetters>(width);
+        loaded.push_back({font, letters});
+        return letters;
+    }
+
     std::vector<DrawnFont> fonts;
+    std::vector<LoadedFace> loaded;
 };
 
 using Widths = std::vector<double>;
@@ -115,6 +147,60 @@ TEST_F(DrawnFonts, HaveMeasuresOfTheirOwn) {
     DrawnTypesetter typesetter(fonts, others);
     EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 3);
     EXPECT_EQ(typesetter.metrics({"Boxes"}).ascent, 1);
+}
+
+TEST_F(DrawnFonts, LoadedOnesSetWhatTheyHaveAndTheNextFamilyTheRest) {
+    const auto letters = load({"Own"}, 3);
+    const auto clusters = shape("abXc\u200dd", {"Own,Boxes"});
+    ASSERT_EQ(clusters.size(), 3U);
+    EXPECT_EQ(letters->texts, (std::vector<std::string>{"ab", "c\u200dd"})) << "joiners stay with letters";
+    EXPECT_EQ(clusters[0].end, 2U);
+    EXPECT_EQ(clusters[1].advance, BoxTypesetter::kWidth);
+    EXPECT_EQ(clusters[1].begin, 2U);
+    EXPECT_EQ(clusters[2].begin, 3U);
+    EXPECT_EQ(clusters[2].end, 8U);
+    EXPECT_EQ(advances("aX", {"Own"}), (Widths{3, BoxTypesetter::kWidth})) << "the system has more letters";
+}
+
+TEST_F(DrawnFonts, LoadedOnesAreMadeBoldAndLeanWhereNothingNearerIsThere) {
+    const auto regular = load({"Own"}, 1);
+    shape("a", {"Own", 600, Slant::Italic});
+    EXPECT_TRUE(regular->looks.back().embolden);
+    EXPECT_TRUE(regular->looks.back().slant);
+    shape("a", {"Own", 500}, true);
+    EXPECT_FALSE(regular->looks.back().embolden);
+    EXPECT_FALSE(regular->looks.back().slant);
+    EXPECT_TRUE(regular->looks.back().rightToLeft);
+    const auto boldItalic = load({"Own", 700, Slant::Italic}, 2);
+    shape("a", {"Own", 600, Slant::Oblique});
+    ASSERT_EQ(boldItalic->looks.size(), 1U);
+    EXPECT_FALSE(boldItalic->looks.back().embolden);
+    EXPECT_FALSE(boldItalic->looks.back().slant);
+}
+
+TEST_F(DrawnFonts, OfLoadedOnesThatAreAlikeTheFirstIsTakenAndBeforeDrawnOnes) {
+    fonts.push_back(fontOf("Own"));
+    fonts.back().add(glyphOf(U"a", 5));
+    load({"Own"}, 2);
+    load({"Own"}, 3);
+    EXPECT_EQ(advances("a", {"oWN"}), Widths{2});
+}
+
+TEST_F(DrawnFonts, FamiliesOfTheSystemStandInForOnesThatHaveNoLetters) {
+    loaded.push_back({{"Own"}, nullptr, "Boxes"});
+    EXPECT_EQ(advances("a", {"Own"}), Widths{BoxTypesetter::kWidth});
+    EXPECT_EQ(others.lines.back().runs.back().font->families, "Boxes,Own");
+    DrawnTypesetter typesetter(fonts, others, loaded);
+    EXPECT_TRUE(typesetter.has("own"));
+    EXPECT_FALSE(typesetter.has("Nowhere"));
+    EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 1);
+}
+
+TEST_F(DrawnFonts, MeasuresOfLoadedOnesAreTheirs) {
+    load({"Own"}, 2);
+    DrawnTypesetter typesetter(fonts, others, loaded);
+    EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 2);
+    EXPECT_TRUE(typesetter.has("OWN"));
 }
 
 } // namespace

@@ -1,0 +1,119 @@
+// A font of a few letters, all of them boxes that stand on the line, so that where they go can be told by
+// hand.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tests {
+
+// In units of which an em has 1000.
+struct SmallGlyph {
+    char32_t character = 0; // 0: the sign for what the font lacks
+    int width = 0;
+    int height = 0;
+    int advance = 0;
+};
+
+// The first glyph is the sign for what is lacking; the others come in the order of their characters.
+inline const std::vector<SmallGlyph>& smallGlyphs() {
+    static const std::vector<SmallGlyph> kGlyphs = {{0, 100, 1000, 500},
+                                                    {U'A', 500, 500, 600},
+                                                    {U'B', 1000, 500, 1200},
+                                                    {U'\u05d0', 300, 500, 400},
+                                                    {U'\u05d1', 200, 500, 300}};
+    return kGlyphs;
+}
+
+// Numbers as fonts have them, the highest byte first.
+class FontBytes {
+  public:
+    FontBytes& add(std::size_t bytes, std::int64_t value) {
+        for (std::size_t i = bytes; i > 0; --i)
+            text_ += static_cast<char>(value >> (8 * (i - 1)) & 0xFF);
+        return *this;
+    }
+    FontBytes& words(const std::vector<int>& values) {
+        for (const int value : values)
+            add(2, value);
+        return *this;
+    }
+    FontBytes& add(const std::string& text) {
+        text_ += text;
+        return *this;
+    }
+    FontBytes& fill() {
+        text_.resize((text_.size() + 3) / 4 * 4);
+        return *this;
+    }
+    std::size_t size() const { return text_.size(); }
+    const std::string& text() const { return text_; }
+
+  private:
+    std::string text_;
+};
+
+// The tables of the font by their names.
+inline std::map<std::string, std::string> smallFontTables() {
+    const auto& glyphs = smallGlyphs();
+    const auto count = static_cast<int>(glyphs.size());
+    FontBytes head, hhea, maxp, hmtx, cmap, loca, glyf;
+    head.add(4, 0x10000).add(4, 0x10000).add(4, 0).add(4, 0x5F0F3CF5).words({0, 1000}).add(8, 0).add(8, 0);
+    head.words({0, 0, 1000, 1000, 0, 8, 2, 0, 0});
+    hhea.add(4, 0x10000).words({800, -200, 0, 1200, 0, 0, 1000, 1, 0, 0, 0, 0, 0, 0, 0, count});
+    maxp.add(4, 0x10000).words({count, 4, 1, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0});
+    cmap.words({0, 1, 3, 10}).add(4, 12);
+    cmap.words({12, 0}).add(4, 16 + 12 * (count - 1)).add(4, 0).add(4, count - 1);
+    for (int i = 0; i < count; ++i) {
+        const SmallGlyph& glyph = glyphs[static_cast<std::size_t>(i)];
+        hmtx.words({glyph.advance, 0});
+        if (i > 0)
+            cmap.add(4, glyph.character).add(4, glyph.character).add(4, i);
+        loca.add(2, static_cast<std::int64_t>(glyf.size() / 2));
+        // One contour of four points on the outline, with no instructions.
+        glyf.words({1, 0, 0, glyph.width, glyph.height, 3, 0}).add(4, 0x01010101);
+        glyf.words({0, 0, glyph.width, 0, 0, glyph.height, 0, -glyph.height}).fill();
+    }
+    loca.add(2, static_cast<std::int64_t>(glyf.size() / 2));
+    return {{"cmap", cmap.text()}, {"glyf", glyf.text()}, {"head", head.text()}, {"hhea", hhea.text()},
+            {"hmtx", hmtx.text()}, {"loca", loca.text()}, {"maxp", maxp.text()}};
+}
+
+// As a TrueType file.
+inline std::string smallFont() {
+    const auto tables = smallFontTables();
+    const auto count = static_cast<int>(tables.size());
+    FontBytes file, data;
+    file.add(4, 0x10000).words({count, 64, 2, count * 16 - 64});
+    for (const auto& [name, table] : tables) {
+        file.add(name).add(4, 0).add(4, static_cast<std::int64_t>(12 + 16 * tables.size() + data.size()));
+        file.add(4, static_cast<std::int64_t>(table.size()));
+        data.add(table).fill();
+    }
+    return file.text() + data.text();
+}
+
+// The same as a WOFF file, whose tables need not be made smaller.
+inline std::string smallWoff() {
+    const auto tables = smallFontTables();
+    FontBytes directory, data;
+    for (const auto& [name, table] : tables) {
+        directory.add(name).add(4, static_cast<std::int64_t>(44 + 20 * tables.size() + data.size()));
+        directory.add(4, static_cast<std::int64_t>(table.size()));
+        directory.add(4, static_cast<std::int64_t>(table.size())).add(4, 0);
+        data.add(table).fill();
+    }
+    FontBytes file;
+    file.add("wOFF").add(4, 0x10000).add(4, static_cast<std::int64_t>(44 + directory.size() + data.size()));
+    file.words({static_cast<int>(tables.size()), 0});
+    file.add(4, static_cast<std::int64_t>(smallFont().size())).words({1, 0});
+    for (int i = 0; i < 5; ++i)
+        file.add(4, 0);
+    return file.text() + directory.text() + data.text();
+}
+
+} // namespace tests
