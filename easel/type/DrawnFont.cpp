@@ -29,21 +29,24 @@ const DrawnGlyph* DrawnFont::missing() const {
     return missing_ < glyphs_.size() ? &glyphs_[missing_] : nullptr;
 }
 
-void DrawnFont::addKerning(const std::vector<std::size_t>& left, std::vector<std::size_t> right,
+void DrawnFont::addKerning(Follow how, const std::vector<std::size_t>& left, std::vector<std::size_t> right,
                            double nearer) {
+    Kernings& kernings = how == Follow::Down ? down_ : across_;
     std::sort(right.begin(), right.end());
     for (const std::size_t glyph : left)
-        kerningsOf_[glyph].push_back(kernings_.size());
-    kernings_.push_back({std::move(right), nearer});
+        kernings.of[glyph].push_back(kernings.all.size());
+    kernings.all.push_back({std::move(right), nearer});
 }
 
-double DrawnFont::kerning(const DrawnGlyph& left, const DrawnGlyph& right) const {
-    const auto known = kerningsOf_.find(numberOf(left));
-    if (known == kerningsOf_.end())
+double DrawnFont::kerning(Follow how, const DrawnGlyph& left, const DrawnGlyph& right) const {
+    const Kernings& kernings = how == Follow::Down ? down_ : across_;
+    const auto known = kernings.of.find(numberOf(left));
+    if (known == kernings.of.end())
         return 0;
     for (const std::size_t each : known->second)
-        if (std::binary_search(kernings_[each].right.begin(), kernings_[each].right.end(), numberOf(right)))
-            return kernings_[each].nearer;
+        if (const Kerning& kerning = kernings.all[each];
+            std::binary_search(kerning.right.begin(), kerning.right.end(), numberOf(right)))
+            return kerning.nearer;
     return 0;
 }
 

@@ -18,7 +18,13 @@ struct DrawnGlyph {
     std::u32string characters; // none: the glyph stands for what the font lacks
     drawing::Path outline;     // the pen stands at the origin, down is positive
     double advance = 0;
+    // Of a letter that stands in a vertical line: where the pen is then, and how far down the next one is.
+    drawing::Point top{};
+    double down = 1;
 };
+
+// How letters follow each other: side by side, or standing one below the other.
+enum class Follow : std::uint8_t { Across, Down };
 
 class DrawnFont {
   public:
@@ -35,8 +41,9 @@ class DrawnFont {
     const DrawnGlyph* missing() const;
 
     // Moves any of the one glyphs and any of the others that follow them nearer to each other.
-    void addKerning(const std::vector<std::size_t>& left, std::vector<std::size_t> right, double nearer);
-    double kerning(const DrawnGlyph& left, const DrawnGlyph& right) const;
+    void addKerning(Follow how, const std::vector<std::size_t>& left, std::vector<std::size_t> right,
+                    double nearer);
+    double kerning(Follow how, const DrawnGlyph& left, const DrawnGlyph& right) const;
 
     // What stands for its outlines elsewhere: no file.
     const FacePtr& face() const { return face_; }
@@ -54,8 +61,11 @@ class DrawnFont {
 
     std::vector<DrawnGlyph> glyphs_;
     std::unordered_map<char32_t, std::vector<std::size_t>> byFirst_;
-    std::vector<Kerning> kernings_;
-    std::unordered_map<std::size_t, std::vector<std::size_t>> kerningsOf_; // a glyph on the left
+    struct Kernings {
+        std::vector<Kerning> all;
+        std::unordered_map<std::size_t, std::vector<std::size_t>> of; // a glyph on the left
+    };
+    Kernings across_, down_;
     std::size_t missing_ = SIZE_MAX;
     FacePtr face_;
 };

@@ -2,6 +2,7 @@
 
 #include "easel/text/Ascii.h"
 #include "easel/text/Utf8.h"
+#include "easel/type/StandingLetters.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -10,6 +11,8 @@
 #include <utility>
 
 namespace easel::type {
+
+using drawing::Affine;
 
 namespace {
 
@@ -188,10 +191,24 @@ void DrawnTypesetter::addDrawn(std::vector<Part>& parts, const Line& line, std::
             if (parts.empty() || !parts.back().isDrawn())
                 parts.push_back({at, at, {}, nullptr, {}, {}});
             Part& part = parts.back();
-            if (last && !part.clusters.empty())
-                part.clusters.back().advance -= choice.drawn->kerning(*last, *glyph);
-            part.clusters.push_back(
-                {at, end, glyph->outline, glyph->advance, line.rightToLeft, false, choice.drawn->face(), {}});
+            const bool isUpright = line.vertical && stands(rest.front(), line.upright);
+            if (last && !part.clusters.empty() && part.clusters.back().upright == isUpright)
+                part.clusters.back().advance -=
+                    choice.drawn->kerning(isUpright ? Follow::Down : Follow::Across, *last, *glyph);
+            part.clusters.push_back({at,
+                                     end,
+                                     glyph->outline,
+                                     glyph->advance,
+                                     line.rightToLeft,
+                                     isUpright,
+                                     choice.drawn->face(),
+                                     {}});
+            if (isUpright) {
+                Cluster& cluster = part.clusters.back();
+                cluster.outline =
+                    glyph->outline.transformed(Affine::translation(-glyph->top.x, -glyph->top.y));
+                cluster.advance = glyph->down;
+            }
             part.end = end;
         }
         last = glyph;

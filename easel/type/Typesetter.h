@@ -57,7 +57,7 @@ class Typesetter {
     // Whether there is a family of that name, or the name stands for one that is.
     virtual bool has(const std::string& family) = 0;
     // A font out of the bytes of its file; null if they are of no kind that is read.
-    virtual std::shared_ptr<LoadedFont> load(std::string /*bytes*/) { return nullptr; }
+    virtual std::shared_ptr<LoadedFont> load(std::string&& /*bytes*/) { return nullptr; }
 };
 
 // The one of the program; null if its library cannot be loaded.

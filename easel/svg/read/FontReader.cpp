@@ -78,7 +78,7 @@ class FontElement {
     void readFace(pugi::xml_node face);
     void readMetrics(pugi::xml_node face);
     void readGlyph(pugi::xml_node glyph, bool missing);
-    void readKerning(pugi::xml_node pair);
+    void readKerning(pugi::xml_node pair, type::Follow how);
     std::vector<std::size_t> glyphsOf(pugi::xml_node pair, const char* characters, const char* names) const;
 
     const XmlTree& tree_;
@@ -114,8 +114,8 @@ std::optional<DrawnFont> FontElement::read(const type::Font* named) {
             readGlyph(child, name == "missing-glyph");
     }
     for (const pugi::xml_node child : element_.children())
-        if (tree_.svgName(child) == "hkern")
-            readKerning(child);
+        if (const std::string_view name = tree_.svgName(child); name == "hkern" || name == "vkern")
+            readKerning(child, name == "vkern" ? type::Follow::Down : type::Follow::Across);
     return std::move(font_);
 }
 
@@ -156,7 +156,7 @@ void FontElement::readMetrics(pugi::xml_node face) {
 void FontElement::readGlyph(pugi::xml_node element, bool missing) {
     const std::string_view form = element.attribute("arabic-form").value();
     const std::string_view orientation = element.attribute("orientation").value();
-    // Letters are set one by one, side by side.
+    // Letters are set one by one, and have one shape wherever they stand.
     if ((!form.empty() && form != "isolated") || orientation == "v")
         return;
     DrawnGlyph glyph;
@@ -167,7 +167,13 @@ void FontElement::readGlyph(pugi::xml_node element, bool missing) {
     glyph.outline = parsePathData(element.attribute("d").value())
                         .path.transformed(Affine::scaling(1 / unitsPerEm_, -1 / unitsPerEm_));
     budget_.spend(glyph.outline.points().size() + glyph.characters.size());
-    glyph.advance = measure(element, "horiz-adv-x", measure(element_, "horiz-adv-x", 0));
+    const double usualAdvance = measure(element_, "horiz-adv-x", 0);
+    glyph.advance = measure(element, "horiz-adv-x", usualAdvance);
+    // What neither the glyph nor the font says: halfway along and as high as letters are, and an em down.
+    const double topX = measure(element_, "vert-origin-x", usualAdvance / 2);
+    const double topY = measure(element_, "vert-origin-y", font_.metrics.ascent);
+    glyph.top = {measure(element, "vert-origin-x", topX), -measure(element, "vert-origin-y", topY)};
+    glyph.down = measure(element, "vert-adv-y", measure(element_, "vert-adv-y", 1));
     const std::size_t number = font_.size();
     byCharacters_[glyph.characters].push_back(number);
     for (std::string_view names = element.attribute("glyph-name").value(); !names.empty();) {
@@ -178,12 +184,12 @@ void FontElement::readGlyph(pugi::xml_node element, bool missing) {
     font_.add(std::move(glyph));
 }
 
-void FontElement::readKerning(pugi::xml_node pair) {
+void FontElement::readKerning(pugi::xml_node pair, type::Follow how) {
     const std::vector<std::size_t> left = glyphsOf(pair, "u1", "g1");
     std::vector<std::size_t> right = glyphsOf(pair, "u2", "g2");
     budget_.spend(1 + left.size() + right.size());
     if (!left.empty() && !right.empty())
-        font_.addKerning(left, std::move(right), measure(pair, "k", 0));
+        font_.addKerning(how, left, std::move(right), measure(pair, "k", 0));
 }
 
 std::vector<std::size_t> FontElement::glyphsOf(pugi::xml_node pair, const char* characters,

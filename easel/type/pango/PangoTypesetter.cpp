@@ -247,7 +247,7 @@ FontMetrics PangoTypesetter::metrics(const Font& font) {
     return fontOfMetrics ? metricsOf(fontOfMetrics, kUnitsPerEm) : FontMetrics();
 }
 
-std::shared_ptr<LoadedFont> PangoTypesetter::load(std::string bytes) {
+std::shared_ptr<LoadedFont> PangoTypesetter::load(std::string&& bytes) {
     return loadFont(std::move(bytes));
 }
 

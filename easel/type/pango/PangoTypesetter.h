@@ -18,7 +18,7 @@ class PangoTypesetter : public Typesetter {
     std::vector<Cluster> shape(const Line& line) override;
     FontMetrics metrics(const Font& font) override;
     bool has(const std::string& family) override;
-    std::shared_ptr<LoadedFont> load(std::string bytes) override;
+    std::shared_ptr<LoadedFont> load(std::string&& bytes) override;
 
   private:
     std::vector<Cluster> shapeNew(const Line& line);

@@ -60,6 +60,40 @@ TEST(SvgFont, PairsOfWhatTheFontLacksOrOfRangesThatAreNoneAreNotKerned) {
     expectBox(boundsOf(fontWith("<hkern u1='u+0041' u2='U+4a,U+0042' k='200'/>"), "AB"), 100, 40, 128, 50);
 }
 
+Box boundsDown(const std::string& font, const std::string& text, const std::string& orientation = "upright") {
+    const Drawing drawing = readOk(svgFile("<defs>" + font +
+                                           "</defs><text x='100' y='50' font-size='20' font-family='Own' "
+                                           "style='writing-mode:vertical-rl;text-orientation:" +
+                                           orientation + "'>" + text + "</text>"));
+    EXPECT_EQ(drawing.size(), 1U);
+    return drawing.size() == 0 ? Box() : drawing.object(0)->bounds;
+}
+
+TEST(SvgFont, LettersThatStandInAColumnHangFromTheirOwnPlace) {
+    // Unless stated, that is halfway along what the font says letters take, and as high as they go; the next
+    // one comes an em below.
+    expectBox(boundsDown(fontWith(""), "A"), 94, 56, 104, 66);
+    expectBox(boundsDown(fontWith(""), "AA"), 94, 56, 104, 86);
+    const std::string font =
+        "<font horiz-adv-x='600' vert-origin-x='0' vert-origin-y='500' vert-adv-y='1500'>"
+        "<font-face font-family='Own' units-per-em='1000' ascent='900'/>"
+        "<glyph unicode='A' d='M0 0H500V500H0Z'/>"
+        "<glyph unicode='B' d='M0 0H500V500H0Z' vert-origin-x='500' vert-origin-y='0' "
+        "vert-adv-y='200'/></font>";
+    expectBox(boundsDown(font, "A"), 100, 50, 110, 60);
+    expectBox(boundsDown(font, "AA"), 100, 50, 110, 90);
+    expectBox(boundsDown(font, "B"), 90, 40, 100, 50);
+    expectBox(boundsDown(font, "BA"), 90, 40, 110, 64);
+}
+
+TEST(SvgFont, PairsInAColumnAreKernedByTheirOwnElements) {
+    const std::string kerned = fontWith("<vkern u1='A' g2='a' k='200'/><hkern u1='A' u2='A' k='100'/>");
+    expectBox(boundsDown(kerned, "AA"), 94, 56, 104, 82);
+    // Side by side, on a line and where the line is turned with its letters.
+    EXPECT_NEAR(boundsOf(kerned, "AA").width(), 20, 1e-9);
+    EXPECT_NEAR(boundsDown(kerned, "AA", "mixed").height(), 20, 1e-9);
+}
+
 TEST(SvgFont, GlyphsAreThoseOfLettersThatStandAlone) {
     // The first glyph of a letter is the one that is shown.
     const std::string wide = "d='M0 0H2000V500H0Z'/>";

@@ -119,8 +119,32 @@ TEST_F(DrawnFonts, KerningMovesTheSecondOfAPair) {
     fonts.push_back(fontOf("Own"));
     const std::size_t a = fonts.back().add(glyphOf(U"A", 2));
     const std::size_t v = fonts.back().add(glyphOf(U"V", 2));
-    fonts.back().addKerning({a}, {v}, 0.25);
+    fonts.back().addKerning(Follow::Across, {a}, {v}, 0.25);
+    fonts.back().addKerning(Follow::Down, {a}, {v}, 0.5);
     EXPECT_EQ(advances("AVA", {"Own"}), (Widths{1.75, 2, 2}));
+}
+
+TEST_F(DrawnFonts, InAColumnLettersStandAsTheirScriptWantsIt) {
+    fonts.push_back(fontOf("Own"));
+    for (const char32_t letter : U"A\u4e00\u3042\uac00\u300c\u30fc\u00e9\U00020000")
+        if (letter != 0)
+            fonts.back().add(glyphOf({letter}, 2));
+    const auto standing = [&](Upright upright) {
+        DrawnTypesetter typesetter(fonts, others);
+        Line line;
+        line.text = "A\u4e00\u3042\uac00\u300c\u30fc\u00e9\U00020000";
+        line.runs.push_back({line.text.size(), std::make_shared<const Font>(Font{"Own"})});
+        line.vertical = true;
+        line.upright = upright;
+        std::string result;
+        for (const Cluster& cluster : typesetter.shape(line))
+            result += cluster.upright ? 'I' : '-';
+        return result;
+    };
+    // Ideographs, kana and syllables stand; brackets, long dashes and letters of the West do not.
+    EXPECT_EQ(standing(Upright::ByScript), "-III---I");
+    EXPECT_EQ(standing(Upright::All), "IIIIIIII");
+    EXPECT_EQ(standing(Upright::None), "--------");
 }
 
 TEST_F(DrawnFonts, TheNearestWeightIsTaken) {

@@ -15,7 +15,7 @@ namespace {
 std::shared_ptr<LoadedFont> loaded(const std::string& bytes) {
     Typesetter* const typesetter = easel::type::typesetter();
     EXPECT_NE(typesetter, nullptr);
-    return typesetter ? typesetter->load(bytes) : nullptr;
+    return typesetter ? typesetter->load(std::string(bytes)) : nullptr;
 }
 
 void expectBox(const Box& box, double width, double height) {
