@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <latch>
 #include <thread>
 #include <utility>
 
@@ -94,8 +95,10 @@ TEST(SharedPtr, WithoutAValueIsNull) {
 
 TEST(SharedPtr, ThreadsCountTogether) {
     const auto shared = makeShared<const int>(5);
-    const auto copyOften = [&shared] {
-        for (int i = 0; i < 100'000; ++i)
+    std::latch start(2);
+    const auto copyOften = [&] {
+        start.arrive_and_wait();
+        for (int i = 0; i < 1'000'000; ++i)
             static_cast<void>(SharedPtr<const int>(shared));
     };
     std::thread other(copyOften);
