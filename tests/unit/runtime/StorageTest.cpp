@@ -35,13 +35,16 @@ TEST_F(StorageTest, ThatNothingCanBeKeptIsToldOnceAndNotAgainOfTheDefaults) {
 TEST_F(StorageTest, ATemplateThatCouldNotBeKeptIsToldOfEvenSo) {
     storage_.tellNothingIsKept(kReadOnly);
     told_.clear();
+    EXPECT_TRUE(storage_.keptAll());
     storage_.tellError(kReadOnly);
     EXPECT_THAT(told_, ElementsAre("folder: read-only. The change was not kept."));
+    EXPECT_FALSE(storage_.keptAll());
 }
 
 TEST_F(StorageTest, DefaultsThatUnexpectedlyCouldNotBeKeptAreToldOf) {
     storage_.tellDefaultsNotKept(kReadOnly);
     EXPECT_THAT(told_, ElementsAre("folder: read-only. The change was not kept."));
+    EXPECT_FALSE(storage_.keptAll());
 }
 
 TEST_F(StorageTest, ANameInAFolderThatIsNotThereIsRefusedWithThatReasonAndOnlyOnce) {
