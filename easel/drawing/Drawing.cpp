@@ -1,5 +1,7 @@
 #include "easel/drawing/Drawing.h"
 
+#include "easel/drawing/MemoryReserve.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -76,6 +78,8 @@ std::optional<std::size_t> Drawing::pick(Point point, double reach, KindSet kind
 }
 
 void Drawing::insert(std::size_t index, ObjectPtr object) {
+    demandMemory();
+    history_.makeRoom();
     const Slot slot = list_.newSlot();
     putIn(index, slot, object);
     const Edit* const last = history_.lastEdit();
@@ -87,6 +91,8 @@ void Drawing::insert(std::size_t index, ObjectPtr object) {
 }
 
 void Drawing::erase(std::size_t index) {
+    demandMemory();
+    history_.makeRoom();
     const Slot slot = list_.slotAt(index);
     ObjectPtr object = takeOut(slot);
     history_.record({Edit::What::Erase, slot, index, std::move(object)});
@@ -104,6 +110,7 @@ void Drawing::amend(std::size_t index, const ObjectPtr& object) {
 }
 
 bool Drawing::undo() {
+    demandMemory();
     const Step* step = history_.takeUndo(selectedSlots());
     if (step)
         revert(*step);
@@ -124,6 +131,7 @@ void Drawing::revert(const Step& step) {
 }
 
 bool Drawing::redo() {
+    demandMemory();
     const Step* step = history_.takeRedo();
     if (!step)
         return false;

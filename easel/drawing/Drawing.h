@@ -62,8 +62,9 @@ class Drawing {
     // `reach` drawing units of its outline.
     std::optional<std::size_t> pick(Point point, double reach, KindSet kinds) const;
 
-    // Changes. Each belongs to the step opened by the last `prepareUndo`, or, without one, to none.
-    // index <= size(). The new object is not selected.
+    // Changes. Each belongs to the step opened by the last `prepareUndo`, or, without one, to none. Where
+    // memory runs short (MemoryReserve.h), each throws std::bad_alloc before it changes anything, as undo and
+    // redo do. index <= size(). The new object is not selected.
     void insert(std::size_t index, ObjectPtr object);
     // index < size(). The object is no longer selected.
     void erase(std::size_t index);

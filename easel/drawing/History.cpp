@@ -1,8 +1,19 @@
 #include "easel/drawing/History.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace easel::drawing {
+
+namespace {
+
+template <class Item> void makeRoomIn(std::vector<Item>& items) {
+    constexpr std::size_t kFewest = 2;
+    if (items.size() == items.capacity())
+        items.reserve(std::max(kFewest, items.size() * 2));
+}
+
+} // namespace
 
 void History::prepare(long kind, std::vector<Slot> selection) {
     settle();
@@ -29,6 +40,13 @@ void History::record(Edit edit) {
         return;
     done_.back().edits.push_back(std::move(edit));
     done_.back().revisionAfter = revision_;
+}
+
+void History::makeRoom() {
+    if (prepared_)
+        makeRoomIn(done_);
+    if (prepared_ || open_)
+        makeRoomIn((prepared_ ? *prepared_ : done_.back()).edits);
 }
 
 const Edit* History::lastEdit() const {

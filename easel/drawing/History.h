@@ -36,8 +36,10 @@ class History {
     void prepare(long kind, std::vector<Slot> selection);
     // Changes from here on belong to no step until the next `prepare`.
     void close();
-    // Takes note of a change. Without an open step it cannot be undone.
+    // Takes note of a change. Without an open step it cannot be undone. Throws nothing after `makeRoom`.
     void record(Edit edit);
+    // Has the memory for the next change. Throws std::bad_alloc if there is none.
+    void makeRoom();
 
     // The last change of the open step; null if it has none.
     const Edit* lastEdit() const;

@@ -1,6 +1,8 @@
 // Exchanges the selected objects for changed ones.
 #include "easel/drawing/SelectedGradients.h"
 
+#include "easel/drawing/WholeChange.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -61,13 +63,15 @@ bool changeSelectedObjects(Drawing& drawing, PaintStep part,
             changes.emplace_back(index, std::move(object));
     if (changes.empty())
         return false;
-    drawing.prepareUndo(kGradientUndo);
-    for (auto& [index, object] : changes) {
-        drawing.erase(index);
-        drawing.insert(index, std::move(object));
-        drawing.select(index);
-    }
-    drawing.closeUndo();
+    changeWholly(drawing, [&] {
+        drawing.prepareUndo(kGradientUndo);
+        for (auto& [index, object] : changes) {
+            drawing.erase(index);
+            drawing.insert(index, std::move(object));
+            drawing.select(index);
+        }
+        drawing.closeUndo();
+    });
     return true;
 }
 

@@ -1,6 +1,7 @@
 // Calls the tool and cleans up behind a call that was cancelled.
 #include "easel/window/canvas/PluginTool.h"
 
+#include "easel/drawing/WholeChange.h"
 #include "easel/runtime/ToolCalls.h"
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/canvas/ToolKeys.h"
@@ -65,7 +66,9 @@ void PluginTool::work(Canvas& canvas, QPointF place) {
     {
         const Waiting::Call call(interaction_.waiting);
         const InputGate::Scope scope(interaction_.gate, &canvas);
-        outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(place));
+        drawing::changeWholly(window.drawing(), [&] {
+            outcome = runtime::clickWithTool(tool_, window, canvas.toLocal(place));
+        });
         // A drag that was broken off has let go of the button where it stood; nothing was to come of it.
         if (interaction_.waiting.cancelled() && window.drawing().undoLevels() > levels) {
             window.drawing().takeBack();

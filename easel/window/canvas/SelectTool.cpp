@@ -1,6 +1,8 @@
 // Selecting and deleting.
 #include "easel/window/canvas/SelectTool.h"
 
+#include "easel/drawing/WholeChange.h"
+
 #include "easel/window/canvas/Canvas.h"
 #include "easel/window/look/PathConversion.h"
 
@@ -96,10 +98,12 @@ void deleteSelection(drawing::Drawing& drawing) {
     const std::vector<std::size_t> selection = drawing.selection();
     if (selection.empty())
         return;
-    drawing.prepareUndo(kDeletionUndo);
-    for (auto index = selection.rbegin(); index != selection.rend(); ++index)
-        drawing.erase(*index);
-    drawing.closeUndo();
+    drawing::changeWholly(drawing, [&] {
+        drawing.prepareUndo(kDeletionUndo);
+        for (auto index = selection.rbegin(); index != selection.rend(); ++index)
+            drawing.erase(*index);
+        drawing.closeUndo();
+    });
 }
 
 } // namespace easel::window
