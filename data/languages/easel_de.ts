@@ -550,6 +550,10 @@ Easel läuft ohne dieses Werkzeug.</translation>
         <source>Keys in the Gradient Editor</source>
         <translation>Tasten im Verlaufseditor</translation>
     </message>
+    <message>
+        <source>%1: there is not enough memory for that, and it was not done. The drawing is as it was before.</source>
+        <translation>%1: Der Speicher reicht dafür nicht, und es wurde nicht getan. Die Zeichnung ist, wie sie vorher war.</translation>
+    </message>
 </context>
 <context>
     <name>core</name>
@@ -1462,6 +1466,10 @@ Easel läuft ohne dieses Werkzeug.</translation>
     <message>
         <source>The center is at %1 now</source>
         <translation>Der Mittelpunkt liegt jetzt bei %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show “%1” as it is.</source>
+        <translation>Der Speicher reicht nicht, um „%1“ so zu zeigen, wie sie ist.</translation>
     </message>
 </context>
 <context>

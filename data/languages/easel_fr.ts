@@ -550,6 +550,10 @@ Easel fonctionne sans cet outil.</translation>
         <source>Keys in the Gradient Editor</source>
         <translation>Touches dans l’éditeur de dégradés</translation>
     </message>
+    <message>
+        <source>%1: there is not enough memory for that, and it was not done. The drawing is as it was before.</source>
+        <translation>%1&#xa0;: la mémoire n’y suffit pas, et rien n’a été fait. Le dessin est tel qu’avant.</translation>
+    </message>
 </context>
 <context>
     <name>core</name>
@@ -1462,6 +1466,10 @@ Easel fonctionne sans cet outil.</translation>
     <message>
         <source>The center is at %1 now</source>
         <translation>Le centre est maintenant à %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show “%1” as it is.</source>
+        <translation>La mémoire ne suffit pas pour montrer «&#xa0;%1&#xa0;» tel qu’il est.</translation>
     </message>
 </context>
 <context>

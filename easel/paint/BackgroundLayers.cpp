@@ -17,17 +17,18 @@ std::size_t bytesIn(const FilteredPicture& picture) {
                           : 0;
 }
 
-BackgroundLayers::Pixels paintedBy(const BackgroundLayers::Painting& painting, const Unwanted& unwanted) {
+} // namespace
+
+BackgroundLayers::Pixels BackgroundLayers::paintedBy(const Painting& painting, const Unwanted& unwanted) {
     try {
         return painting(unwanted);
     } catch (const GivenUp&) {
         return nullptr;
     } catch (const std::bad_alloc&) {
+        shortage_ = true;
         return nullptr;
     }
 }
-
-} // namespace
 
 void BackgroundLayers::beginFrame(std::chrono::milliseconds patience) {
     collect();

@@ -5,6 +5,7 @@
 #include "easel/paint/FilteredPicture.h"
 #include "easel/paint/pixels/WorkQueue.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstddef>
@@ -56,6 +57,8 @@ class BackgroundLayers {
     Shown layer(const Layer& layer, const std::function<Painting()>& painting);
     // Where layers have been painted since this was last asked.
     std::vector<drawing::Box> takeReady();
+    // Whether a layer was not painted for want of memory since this was last asked.
+    bool takeShortage() { return shortage_.exchange(false); }
     // Whether everything that was asked for is there.
     bool idle();
     // Nothing that is known or under way is of use any more.
@@ -86,7 +89,10 @@ class BackgroundLayers {
     Shown shown(Entries::iterator entry);
     WorkQueue& queueOf(Kind kind) { return kind == Kind::Picture ? pictures_ : objects_; }
 
+    Pixels paintedBy(const Painting& painting, const Unwanted& unwanted);
+
     std::function<void()> ready_;
+    std::atomic<bool> shortage_ = false;
     std::chrono::steady_clock::time_point deadline_; // of the present frame
     unsigned frame_ = 0;
     unsigned view_ = 0;

@@ -141,6 +141,10 @@ void DrawingWindow::markReady() {
             mark(area);
 }
 
+bool DrawingWindow::takeShortage() {
+    return background_ && background_->takeShortage();
+}
+
 void DrawingWindow::paintAtOnce() {
     background_ = nullptr;
     mark(view_.seen());
@@ -155,7 +159,7 @@ void DrawingWindow::paintMarked() {
         image_ = std::make_unique<paint::Surface>(width, height);
         marks_.assign(1, view_.seen());
     }
-    for (const drawing::Box& mark : std::exchange(marks_, {})) {
+    for (const drawing::Box& mark : marks_) {
         const paint::PixelRect box = pixelsOf(mark, view_.toImage(), *image_);
         if (box.empty())
             continue;
@@ -163,6 +167,8 @@ void DrawingWindow::paintMarked() {
         paint::renderDrawing(drawing_, image_->view().clippedTo(box), view_.toImage(), paint::usefulThreads(),
                              filterPictures_.get(), background_.get());
     }
+    // Not before, as painting may find no memory.
+    marks_.clear();
 }
 
 } // namespace easel::runtime

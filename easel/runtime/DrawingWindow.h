@@ -67,6 +67,8 @@ class DrawingWindow {
     void paintInBackground(std::function<void()> ready);
     // Marks what has been painted in the background since this was last called.
     void markReady();
+    // Whether something was left out for want of memory since this was last asked.
+    bool takeShortage();
     // Gives up what is under way in the background; all is painted at once again.
     void paintAtOnce();
     // Painted at least once before this is asked for.

@@ -1,5 +1,6 @@
 #include "easel/paint/pixels/WorkQueue.h"
 
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -27,10 +28,12 @@ bool WorkQueue::putOff(const WorkPtr& work) {
     try {
         if (!thread_.joinable())
             thread_ = std::thread([this] { run(); });
+        waiting_.push_back(work);
     } catch (const std::system_error&) {
         return false;
+    } catch (const std::bad_alloc&) {
+        return false;
     }
-    waiting_.push_back(work);
     changed_.notify_one();
     return true;
 }
@@ -38,10 +41,10 @@ bool WorkQueue::putOff(const WorkPtr& work) {
 void WorkQueue::giveUp(const WorkPtr& work) {
     const std::lock_guard lock(mutex_);
     work->unwanted = true;
-    std::erase(waiting_, work);
+    waiting_.remove(work);
 }
 
-std::vector<WorkQueue::WorkPtr> WorkQueue::takeEnded() {
+std::list<WorkQueue::WorkPtr> WorkQueue::takeEnded() {
     const std::lock_guard lock(mutex_);
     return std::exchange(ended_, {});
 }
@@ -52,14 +55,19 @@ void WorkQueue::run() {
         changed_.wait(lock, [this] { return ending_ || !waiting_.empty(); });
         if (ending_)
             return;
-        running_ = waiting_.front();
-        waiting_.pop_front();
+        std::list<WorkPtr> next;
+        next.splice(next.begin(), waiting_, waiting_.begin());
+        running_ = next.front();
         Work& work = *running_;
         work.begun = true;
         lock.unlock();
-        work.run(work.unwanted);
+        try {
+            work.run(work.unwanted);
+        } catch (const std::bad_alloc&) {
+            // It ends here like work that nobody wants any more.
+        }
         lock.lock();
-        ended_.push_back(std::move(running_));
+        ended_.splice(ended_.end(), next);
         running_ = nullptr;
     }
 }

@@ -3,12 +3,11 @@
 
 #include <atomic>
 #include <condition_variable>
-#include <deque>
 #include <functional>
+#include <list>
 #include <memory>
 #include <mutex>
 #include <thread>
-#include <vector>
 
 namespace easel::paint {
 
@@ -26,7 +25,7 @@ inline void endIfUnwanted(const Unwanted* unwanted) {
 class WorkQueue {
   public:
     struct Work {
-        std::function<void(const Unwanted& unwanted)> run; // must not throw
+        std::function<void(const Unwanted& unwanted)> run; // may throw std::bad_alloc, and ends with it
         Unwanted unwanted = false;
         std::atomic<bool> begun = false;
     };
@@ -38,12 +37,12 @@ class WorkQueue {
     WorkQueue(const WorkQueue&) = delete;
     WorkQueue& operator=(const WorkQueue&) = delete;
 
-    // Where no thread can be had, the work is done here and now.
+    // Where no thread can be had, or no memory to remember the work, it is done here and now.
     void post(const WorkPtr& work);
     // The work ends early, or never begins.
     void giveUp(const WorkPtr& work);
     // What has ended, so that what it refers to is destroyed by the caller's thread and not by the queue's.
-    std::vector<WorkPtr> takeEnded();
+    std::list<WorkPtr> takeEnded();
 
   private:
     bool putOff(const WorkPtr& work);
@@ -51,8 +50,8 @@ class WorkQueue {
 
     std::mutex mutex_; // guards what follows
     std::condition_variable changed_;
-    std::deque<WorkPtr> waiting_;
-    std::vector<WorkPtr> ended_;
+    std::list<WorkPtr> waiting_;
+    std::list<WorkPtr> ended_;
     bool ending_ = false;
     WorkPtr running_;
     std::thread thread_;

@@ -53,6 +53,8 @@ Canvas::Canvas(runtime::DrawingWindow& window, Interaction& interaction, OpenCan
         const auto show = [this] {
             window_.markReady();
             marked();
+            if (window_.takeShortage())
+                Q_EMIT cannotPaint();
         };
         QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
     });

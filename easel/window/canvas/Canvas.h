@@ -85,11 +85,14 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     void toolReleased();
     void shapeChosen(std::size_t index);
     void pickedUp(easel::drawing::Point inDrawing);
+    // There is no memory to paint the drawing, or all of it, at this zoom.
+    void cannotPaint();
 
   protected:
     bool viewportEvent(QEvent* event) override;
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void paintMarked();
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -133,6 +136,7 @@ class Canvas : public QAbstractScrollArea, public PointerSurface {
     bool spaceDown_ = false;
     bool picksUp_ = false;
     std::optional<QRectF> marquee_;
+    bool canPaint_ = true;
     QRect shownFeedback_;
     double flash_ = 0;
     bool updateDue_ = false;

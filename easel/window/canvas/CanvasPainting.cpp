@@ -8,6 +8,8 @@
 #include <QPainter>
 
 #include <cmath>
+#include <new>
+#include <utility>
 
 namespace easel::window {
 namespace {
@@ -88,21 +90,33 @@ void drawFeedback(QPainter& painter, const runtime::DrawingWindow& window) {
 
 } // namespace
 
+void Canvas::paintMarked() {
+    try {
+        window_.paintMarked();
+        canPaint_ = true;
+    } catch (const std::bad_alloc&) {
+        if (std::exchange(canPaint_, false))
+            Q_EMIT cannotPaint();
+    }
+}
+
 void Canvas::paintEvent(QPaintEvent* event) {
     const double ratio = devicePixelRatioF();
     if (window_.view().deviceScale != ratio)
         updateView();
     // The image gets all that is marked, of which the window may be asked to show only a part for now.
     const QRegion later = markedRegion() - event->region();
-    window_.paintMarked();
+    paintMarked();
     viewport()->update(later);
 
     QPainter painter(viewport());
     const QRectF exposed = QRectF(event->rect());
     // A disabled canvas waits for its drawing and shows the ground alone.
-    const QRectF shownPage = isEnabled() ? onPixels(page(), ratio) : QRectF();
+    const QRectF shownPage = isEnabled() && canPaint_ ? onPixels(page(), ratio) : QRectF();
     if (!shownPage.contains(exposed))
         drawGround(painter, exposed, shownPage);
+    if (!canPaint_)
+        return;
     for (const QRect& part : event->region())
         drawPage(painter, part, shownPage, window_.image(), ratio);
 

@@ -5,11 +5,16 @@
 
 #include <QPointer>
 
+#include <chrono>
 #include <new>
+#include <thread>
 #include <utility>
 
 namespace easel::window {
 namespace {
+
+constexpr int kMostTries = 100;
+constexpr std::chrono::milliseconds kPause{100};
 
 files::Result<> write(JournalWriter::Place& place, const drawing::Snapshot& drawing) {
     try {
@@ -22,26 +27,45 @@ files::Result<> write(JournalWriter::Place& place, const drawing::Snapshot& draw
         }
         return place.journal->keep(bytes);
     } catch (const std::bad_alloc&) {
-        return tl::unexpected(files::Error{place.origin, "there is not enough memory to write it",
-                                           std::make_error_code(std::errc::not_enough_memory)});
+        return tl::unexpected(notEnoughMemoryToWrite(place.origin));
     }
+}
+
+// Waits some seconds for memory, if there is none.
+template <class Work> void withMemory(const Work& work) {
+    for (int tries = 0; tries < kMostTries; ++tries)
+        try {
+            return work();
+        } catch (const std::bad_alloc&) {
+            std::this_thread::sleep_for(kPause);
+        }
 }
 
 } // namespace
 
+files::Error notEnoughMemoryToWrite(const std::filesystem::path& file) {
+    return {file, "there is not enough memory to write it",
+            std::make_error_code(std::errc::not_enough_memory)};
+}
+
 void JournalWriter::keep(PlacePtr place, drawing::Snapshot drawing, QObject* receiver,
                          std::function<void(const files::Result<>& kept)> landed) {
+    // Has its place before it is needed: even to say that there is no memory takes some.
+    auto kept = std::make_shared<files::Result<>>(tl::unexpected(files::Error()));
     const auto snapshot = underWay_.insert(underWay_.end(), std::move(drawing));
     const QPointer<QObject> wanted = receiver;
-    worker_.post([this, place = std::move(place), snapshot, wanted, landed = std::move(landed)] {
-        const files::Result<> kept = write(*place, *snapshot);
-        keptLast_ = kept.has_value();
-        const auto land = [this, snapshot, wanted, landed, kept] {
-            underWay_.erase(snapshot);
-            if (wanted)
-                landed(kept);
-        };
-        QMetaObject::invokeMethod(this, land, Qt::QueuedConnection);
+    worker_.post([this, place = std::move(place), snapshot, wanted, landed = std::move(landed),
+                  kept = std::move(kept)] {
+        withMemory([&] { *kept = write(*place, *snapshot); });
+        keptLast_ = kept->has_value();
+        withMemory([&] {
+            const auto land = [this, snapshot, wanted, landed, kept] {
+                underWay_.erase(snapshot);
+                if (wanted)
+                    landed(*kept);
+            };
+            QMetaObject::invokeMethod(this, land, Qt::QueuedConnection);
+        });
     });
 }
 

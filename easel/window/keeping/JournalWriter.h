@@ -15,6 +15,9 @@
 
 namespace easel::window {
 
+// Why a drawing cannot be kept where there is no memory for its bytes.
+files::Error notEnoughMemoryToWrite(const std::filesystem::path& file);
+
 class JournalWriter : public QObject {
     Q_OBJECT
 

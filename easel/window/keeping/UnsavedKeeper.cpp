@@ -5,6 +5,7 @@
 #include "easel/window/waiting/CoreTexts.h"
 
 #include <chrono>
+#include <new>
 #include <utility>
 
 namespace easel::window {
@@ -56,10 +57,15 @@ bool UnsavedKeeper::keepNow(const drawing::Drawing& drawing) {
 }
 
 void UnsavedKeeper::keep() {
+    try {
+        writer_.keep(place_, drawing_->snapshot(), this,
+                     [this](const files::Result<>& kept) { landed(kept); });
+    } catch (const std::bad_alloc&) {
+        return landed(tl::unexpected(notEnoughMemoryToWrite(place_->origin)));
+    }
     underWay_ = true;
     mayHaveJournal_ = true;
     keptRevision_ = drawing_->revision();
-    writer_.keep(place_, drawing_->snapshot(), this, [this](const files::Result<>& kept) { landed(kept); });
 }
 
 void UnsavedKeeper::landed(const files::Result<>& kept) {

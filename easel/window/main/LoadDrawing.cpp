@@ -1,6 +1,7 @@
 // Drives a progress dialog from the reader's reports.
 #include "easel/window/main/LoadDrawing.h"
 
+#include "easel/drawing/MemoryReserve.h"
 #include "easel/files/AtomicFile.h"
 #include "easel/files/WholeFile.h"
 #include "easel/recovery/Journal.h"
@@ -21,8 +22,9 @@ constexpr qint64 kFrameTime = 33;
 
 // Calls `read` with options that show its progress over that window and let the user cancel it.
 template <class Read>
-files::Result<drawing::Drawing> readBeside(const QString& name, Interaction& interaction, QWidget* over,
-                                           Read read) {
+files::Result<drawing::Drawing> readBeside(const std::filesystem::path& file, Interaction& interaction,
+                                           QWidget* over, Read read) {
+    const QString name = QFile::decodeName(file.filename().c_str());
     const Waiting::Call call(interaction.waiting);
     const auto dialog = makeProgressDialog(QObject::tr("Opening %1 \u2026").arg(name), over);
     const InputGate::Scope scope(interaction.gate, dialog.get());
@@ -38,7 +40,11 @@ files::Result<drawing::Drawing> readBeside(const QString& name, Interaction& int
         }
         return !dialog->wasCanceled() && !interaction.waiting.cancelled();
     };
-    return read(options);
+    files::Result<drawing::Drawing> drawing = read(options);
+    // One that leaves no memory for a change is too large.
+    if (drawing && !drawing::memoryIsLeft())
+        return tl::unexpected(outOfMemory(file));
+    return drawing;
 }
 
 // The file with the content that it has, unless it is younger than the other file.
@@ -55,12 +61,16 @@ files::KnownFile knownBefore(const std::filesystem::path& file, const std::files
 
 } // namespace
 
+files::Error outOfMemory(const std::filesystem::path& file) {
+    return {file, "there is not enough memory for it", std::make_error_code(std::errc::not_enough_memory)};
+}
+
 files::Result<LoadedDrawing> loadDrawing(const QString& file, Interaction& interaction, QWidget* over) {
     const std::filesystem::path path = QFile::encodeName(file).toStdString();
     // What a save of this drawing left when the program was killed goes now.
     files::removeLeftovers(path.parent_path());
     files::KnownFile known(QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString());
-    return readBeside(QFileInfo(file).fileName(), interaction, over,
+    return readBeside(path, interaction, over,
                       [&](const svg::ReadOptions& options) { return svg::readFile(path, options); })
         .map([&](drawing::Drawing drawing) {
             known.setContent(svg::openedBytes(drawing));
@@ -74,8 +84,8 @@ files::Result<LoadedDrawing> loadKept(const recovery::Journal& journal, Interact
     if (!bytes)
         return tl::unexpected(bytes.error());
     const std::filesystem::path& origin = journal.origin();
-    const QString name = QFile::decodeName((origin.empty() ? journal.drawing() : origin).filename().c_str());
-    auto drawing = readBeside(name, interaction, over, [&](const svg::ReadOptions& options) {
+    const std::filesystem::path& shown = origin.empty() ? journal.drawing() : origin;
+    auto drawing = readBeside(shown, interaction, over, [&](const svg::ReadOptions& options) {
         return svg::readBytesOf(origin, {bytes->begin(), bytes->end()}, options);
     });
     if (!drawing)

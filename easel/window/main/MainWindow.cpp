@@ -90,6 +90,12 @@ MainWindow::MainWindow(SharedParts& shared, LoadedDrawing loaded)
         statusBar()->showMessage(QStringLiteral("%1 \u2014 %2").arg(shapeName(shape), fillText(shape)),
                                  kMessageTime);
     });
+    connect(
+        canvas_, &Canvas::cannotPaint, this,
+        [this] {
+            notice_->tell(tr("There is not enough memory to show \u201c%1\u201d as it is.").arg(name()));
+        },
+        Qt::QueuedConnection);
     connect(canvas_, &Canvas::zoomChanged, this, &MainWindow::showZoom);
     connect(&shared_.tools, &ToolChoice::activeChanged, this, &MainWindow::toolChanged);
     connect(&unsaved_, &UnsavedKeeper::failed, this, [this](const QString& reason) {

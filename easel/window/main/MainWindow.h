@@ -49,6 +49,8 @@ class MainWindow : public QMainWindow {
     ~MainWindow() override;
 
     const QString& file() const { return file_; }
+    // What the user calls the drawing.
+    QString name() const;
     // Whether nothing was ever done to it and it came from no file, so that it is only a place to open
     // something in.
     bool isPristine() const;
@@ -174,7 +176,6 @@ class MainWindow : public QMainWindow {
     void toolChanged();
     void showZoom(double zoom);
     void nothingToPaint();
-    QString name() const;
     void setFile(files::KnownFile file);
     void showDrawing(drawing::Drawing drawing);
 

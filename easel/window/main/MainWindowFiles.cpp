@@ -105,9 +105,9 @@ MainWindow::Saved MainWindow::saveTo(const QString& file) {
     drawingWindow_.drawing().markSaved();
     files::KnownFile known(path);
     known.setContent(*bytes);
-    const std::optional<std::string> before = contentBefore_;
+    std::optional<std::string> before = std::move(contentBefore_);
     setFile(std::move(known));
-    contentBefore_ = before;
+    contentBefore_ = std::move(before);
     shared_.recentFiles.add(file_);
     drawingChanged();
     statusBar()->showMessage(tr("Saved %1").arg(name()), kMessageTime);

@@ -25,6 +25,7 @@
 
 #include <QFile>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QSessionManager>
 #include <QSettings>
 #include <QTimer>
@@ -102,6 +103,31 @@ void hearSessionEnd(const Application& application, Workspace& workspace) {
     QObject::connect(&application, &Application::sessionOver, &workspace, &Workspace::leave);
 }
 
+// Which drawing it was is only guessed: the one that the user looks at.
+void hearLackOfMemory(const Application& application, Workspace& workspace, DialogStack& dialogs) {
+    QObject::connect(
+        &application, &Application::ranOutOfMemory, &workspace,
+        [&workspace, &dialogs, telling = false]() mutable {
+            if (telling)
+                return;
+            if (workspace.isEmpty()) {
+                std::fputs("easel: not enough memory\n", stderr);
+                return QCoreApplication::exit(2);
+            }
+            const QScopedValueRollback<bool> scope(telling, true);
+            const QWidget* front = dialogs.parentForNext();
+            while (front && !qobject_cast<const MainWindow*>(front))
+                front = front->parentWidget();
+            const auto* window = qobject_cast<const MainWindow*>(front);
+            tellProblem(
+                QObject::tr(
+                    "%1: there is not enough memory for that, and it was not done. The drawing is as it "
+                    "was before.")
+                    .arg(window ? window->name() : QObject::tr("Easel")),
+                dialogs);
+        });
+}
+
 } // namespace
 } // namespace easel::window
 
@@ -140,6 +166,7 @@ int easelRunWindow(const easel::window::StartUp& startUp, int argc, char** argv)
     PluginSession plugin(startUp.plugin, languages, process, shared.tools, shared.interaction.waiting);
     shared.templateFolder = folderOfTemplates(startUp);
     hearSessionEnd(application, workspace);
+    hearLackOfMemory(application, workspace, shared.interaction.dialogs);
     const TerminationSignals signals([&workspace] { workspace.quit(); });
     QTimer::singleShot(0, &workspace, [&] {
         openFirstWindows(workspace, startUp, shared);

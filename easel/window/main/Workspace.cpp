@@ -76,10 +76,14 @@ void Workspace::openFile(const QString& file, QWidget* over) {
         return;
     }
     const QString path = QFileInfo(file).absoluteFilePath();
-    if (place)
-        place->setDrawing(*std::move(loaded));
-    else
-        show(*std::move(loaded));
+    try {
+        if (place)
+            place->setDrawing(*std::move(loaded));
+        else
+            show(*std::move(loaded));
+    } catch (const std::bad_alloc&) {
+        return tellProblem(outOfMemory(QFile::encodeName(file).toStdString()), shared_.interaction.dialogs);
+    }
     shared_.recentFiles.add(path);
 }
 

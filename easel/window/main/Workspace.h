@@ -48,6 +48,8 @@ class Workspace : public QObject {
     bool mayEnd();
     // Closes all windows, asking about unsaved changes. What the plug-in waits for is cancelled first.
     void quit();
+    // Whether there is no window.
+    bool isEmpty() const { return windows_.empty(); }
     // Ends the program without asking. What is in journals stays there for the next start.
     void leave();
 

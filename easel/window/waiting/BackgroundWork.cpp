@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <exception>
+#include <system_error>
 #include <thread>
 
 namespace easel::window {
@@ -60,7 +61,7 @@ void runInBackground(Interaction& interaction, const QString& text, QWidget* ove
         done = part;
         return wanted.load();
     });
-    std::jthread worker([&] {
+    const auto doIt = [&] {
         try {
             work(progress);
         } catch (...) {
@@ -70,7 +71,14 @@ void runInBackground(Interaction& interaction, const QString& text, QWidget* ove
         // Whoever sleeps until something happens has to wake up and see it.
         QMetaObject::invokeMethod(
             qApp, [] {}, Qt::QueuedConnection);
-    });
+    };
+    std::jthread worker;
+    try {
+        worker = std::jthread(doIt);
+    } catch (const std::system_error&) {
+        // Without a thread to spare the window has to wait.
+        doIt();
+    }
     QTimer frames;
     QObject::connect(&frames, &QTimer::timeout, dialog.get(), [&] { showProgress(*dialog, done); });
     frames.start(kFramePause);
@@ -79,7 +87,8 @@ void runInBackground(Interaction& interaction, const QString& text, QWidget* ove
         if (dialog->wasCanceled() || interaction.waiting.cancelled())
             wanted = false;
     }
-    worker.join();
+    if (worker.joinable())
+        worker.join();
     if (failure)
         std::rethrow_exception(failure);
 }

@@ -175,14 +175,18 @@ TEST_F(BackgroundLayersTest, LeaveOutWhatFindsNoRoomInThisView) {
     EXPECT_EQ(pixelOf(layers.layer(layer(other_), plain(9, kSide))), 9U) << "what is seen no longer goes";
 }
 
-TEST_F(BackgroundLayersTest, StayEmptyWithoutMemory) {
+TEST_F(BackgroundLayersTest, StayEmptyWithoutMemoryWhichIsSaidOnce) {
     BackgroundLayers layers([] {});
     layers.beginFrame(kUntilItIsThere);
+    layers.layer(layer(other_), plain(7));
+    EXPECT_FALSE(layers.takeShortage());
     const auto shown = layers.layer(layer(what_), [] {
         return [](const Unwanted&) -> BackgroundLayers::Pixels { throw std::bad_alloc(); };
     });
     EXPECT_TRUE(shown.exact);
     EXPECT_EQ(pixelOf(shown), 0U);
+    EXPECT_TRUE(layers.takeShortage());
+    EXPECT_FALSE(layers.takeShortage());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <future>
 #include <memory>
+#include <new>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -44,6 +45,14 @@ TEST(WorkQueue, DoesOneThingAfterTheOther) {
     queue.post(workOf([&](const Unwanted&) { last.set_value(); }));
     last.get_future().wait();
     EXPECT_EQ(done, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+TEST(WorkQueue, GoesOnAfterWorkThatFoundNoMemory) {
+    std::promise<void> last;
+    WorkQueue queue;
+    queue.post(workOf([](const Unwanted&) { throw std::bad_alloc(); }));
+    queue.post(workOf([&](const Unwanted&) { last.set_value(); }));
+    last.get_future().wait();
 }
 
 TEST(WorkQueue, NeverBeginsWhatWasGivenUp) {
