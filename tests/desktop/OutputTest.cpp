@@ -20,7 +20,13 @@ class OutputTest : public DesktopTest {
   protected:
     fs::path in(const char* name) const { return folder() / name; }
     void exportAs(const std::string& key, const std::string& title, const fs::path& file) {
-        chooseInMenu({"alt+f", "e", key});
+        // The file of an export before is there a little before the window hears keys again. Escape closes a
+        // menu that heard only some.
+        EXPECT_TRUE(eventually([&] {
+            screen().key("Escape");
+            chooseInMenu({"alt+f", "e", key});
+            return eventually([&] { return hasWindow("Export as " + title); }, 1s);
+        }));
         answerFileDialog("Export as " + title, file);
     }
     // As many keys as it takes to change the size, and Return.
