@@ -68,9 +68,9 @@ TEST_F(MemoryTest, ADrawingThatIsTooLargeIsRefusedByNameAndTheOneThatIsOpenStays
 
 TEST_F(MemoryTest, AChangeThatFindsNoMemoryIsGivenUpAndAllBeforeItCanBeUndone) {
     constexpr int kMoreThanFits = 20;
-    writeRows(drawing(), 200);
+    writeRows(drawing(), 60);
     startWithDrawing();
-    leave(8);
+    leave(30);
     reverseAll();
     for (int i = 0; i < kMoreThanFits; ++i)
         screen().key("ctrl+shift+r");
