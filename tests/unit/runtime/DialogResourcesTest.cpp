@@ -17,6 +17,8 @@ constexpr const char* kResources = R"(<resources>
     <popup item="5" bounds="70 10 90 110" menu="8"/>
     <radio item="6" bounds="92 10 99 110" title="Cheap"/>
   </dialog>
+  <dialog id="6" width="200" height="100"><popup item="1" bounds="70 10 90 110" menu="5"/></dialog>
+  <menu id="5"/>
   <menu id="8"><entry>One&#8230;</entry><separator/><entry enabled="no">Three</entry></menu>
   <alert id="9" title="Sure" confirm="Do it" decline="Leave it" text="Really?" detail="It is final."/>
 </resources>)";
@@ -58,6 +60,8 @@ TEST_F(DialogResourcesTest, APopupShowsItsMenuAndEveryDialogHasAMenuOfItsOwn) {
     const Menu& menu = *one->items[4].menu;
     ASSERT_EQ(menu.count(), 3);
     EXPECT_EQ(menu.text(1), "One\xe2\x80\xa6");
+    EXPECT_EQ(one->items[4].value, 1);
+    EXPECT_EQ(dialog(6).value().items[0].value, 0) << "there is no first entry";
     EXPECT_TRUE(menu.selectable(1));
     EXPECT_FALSE(menu.selectable(2)) << "a separator";
     EXPECT_FALSE(menu.selectable(3)) << "disabled";

@@ -105,6 +105,7 @@ TEST_F(DialogTest, ACharacterThatTheHostCannotEncodeIsRefusedWithoutAHit) {
 
 TEST_F(DialogTest, ANewFieldHasItsCaretBeforeItsText) {
     EXPECT_EQ(DialogItem().selection, (TextSelection{0, 0}));
+    EXPECT_FALSE(DialogItem().isNumber) << "and takes any text";
 }
 
 TEST_F(DialogTest, AFieldHolds255CharactersAndNoMore) {
@@ -115,6 +116,9 @@ TEST_F(DialogTest, AFieldHolds255CharactersAndNoMore) {
     EXPECT_EQ(type(U"z"), EditOutcome::Accepted) << "in place of a selected one";
     EXPECT_EQ(field().text.size(), 255u);
     EXPECT_EQ(dialog_.enterText(3, std::string(256, 'x')), EditOutcome::Refused);
+    dialog_.setFocus(4);
+    EXPECT_EQ(dialog_.enterText(3, std::string(255, 'x')), EditOutcome::Accepted);
+    EXPECT_EQ(dialog_.focus(), 3);
 }
 
 TEST_F(DialogTest, ErasingTakesTheSelectionOrOneCharacterAndIsAHitEvenWhenNothingIsLeft) {
@@ -224,6 +228,8 @@ TEST_F(DialogTest, DrawsInvalidItemsOnceInTheOrderOfTheirNumbers) {
     EXPECT_TRUE(dialog_.item(6)->invalid);
     dialog_.drawInvalidItems();
     EXPECT_EQ(gDrawn, (std::vector<int>{4, 6, 6}));
+    dialog_.setDrawProcedure(6, recordDrawing);
+    EXPECT_TRUE(dialog_.item(6)->invalid) << "it may look otherwise now";
 }
 
 TEST_F(DialogTest, AnotherScreenGivesAFreshImageAtItsResolutionAndKeepsThePortCurrent) {
@@ -236,6 +242,14 @@ TEST_F(DialogTest, AnotherScreenGivesAFreshImageAtItsResolutionAndKeepsThePortCu
     EXPECT_EQ(dialog_.port().imageWidth(), 400);
     EXPECT_EQ(dialog_.port().pixels()[0], 0xff101010u);
     EXPECT_TRUE(dialog_.item(4)->invalid);
+    EXPECT_EQ(dialog_.port().takeDamage(), dialog_.port().bounds()) << "all of it is to be shown";
+}
+
+TEST_F(DialogTest, OnlyAPopupHasEntriesToChoose) {
+    for (const int other : {0, 1, 3, 4, 7})
+        EXPECT_EQ(dialog_.chooseEntry(other, 1), EditOutcome::Refused) << other;
+    EXPECT_EQ(dialog_.chooseEntry(5, 2), EditOutcome::Accepted);
+    EXPECT_EQ(hits(), std::vector<int>{5});
 }
 
 TEST_F(DialogTest, NoPortIsCurrentOnceItsDialogIsGone) {

@@ -66,6 +66,16 @@ TEST_F(WindowBackgroundTest, GoingThereAndBackPaintsAllAnew) {
     EXPECT_EQ(pixel(20, 20), kFlood) << "nobody has to wait for it any more";
 }
 
+TEST_F(WindowBackgroundTest, WhatWasReadyMarksNothingOnceAllIsPaintedAtOnceAgain) {
+    window_.paintInBackground([&] { ready_.release(); });
+    window_.paintMarked();
+    ready_.acquire();
+    window_.paintAtOnce();
+    window_.paintMarked();
+    window_.markReady();
+    EXPECT_THAT(window_.marks(), IsEmpty());
+}
+
 TEST_F(WindowBackgroundTest, WhatIsReadyIsMarkedOnceAndOnlyWhereItLies) {
     window_.paintInBackground([&] { ready_.release(); });
     window_.paintMarked();
