@@ -11,7 +11,6 @@
 #include <random>
 #include <string_view>
 #include <sys/file.h>
-#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -49,18 +48,17 @@ fs::path nameFor(const fs::path& file) {
 files::Result<FileUse> FileUse::begin(const fs::path& folder, const fs::path& file) {
     std::error_code ignored;
     fs::create_directories(folder, ignored);
-    // Somebody who looks between making and locking the mark takes it for a leftover and removes it.
-    constexpr int kTries = 5;
-    files::Error error;
-    for (int i = 0; i < kTries; ++i) {
-        const fs::path mark = folder / nameFor(file);
-        FileDescriptor open(::open(mark.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-        struct stat status {};
-        if (open && ::flock(open.number(), LOCK_EX | LOCK_NB) == 0 && ::fstat(open.number(), &status) == 0 &&
-            status.st_nlink > 0)
-            return FileUse(mark, std::move(open));
-        error = files::lastSystemError(mark);
-    }
+    const fs::path name = nameFor(file);
+    const fs::path mark = folder / name;
+    // Whoever finds a mark that is not locked takes it for a leftover and removes it, so it has another name
+    // first.
+    const fs::path unlocked = folder / ('.' + name.native());
+    FileDescriptor open(::open(unlocked.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (open && ::flock(open.number(), LOCK_EX | LOCK_NB) == 0 &&
+        ::rename(unlocked.c_str(), mark.c_str()) == 0)
+        return FileUse(mark, std::move(open));
+    files::Error error = files::lastSystemError(mark);
+    ::unlink(unlocked.c_str());
     return tl::unexpected(std::move(error));
 }
 
