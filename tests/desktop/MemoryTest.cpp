@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <fstream>
 
 namespace desktop {
@@ -43,7 +44,10 @@ class MemoryTest : public DesktopTest {
         return pages;
     }
     void setLimit(std::uint64_t bytes) {
-        const rlimit limit{bytes, RLIM_INFINITY};
+        // The hard limit stays, since not everybody may raise it.
+        rlimit limit{};
+        ASSERT_EQ(prlimit(program().id(), RLIMIT_AS, nullptr, &limit), 0);
+        limit.rlim_cur = std::min<std::uint64_t>(bytes, limit.rlim_max);
         ASSERT_EQ(prlimit(program().id(), RLIMIT_AS, &limit, nullptr), 0);
     }
 };
