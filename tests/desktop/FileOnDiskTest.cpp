@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <sys/stat.h>
@@ -44,16 +45,20 @@ class FileOnDiskTest : public DesktopTest {
         const int before = top_;
         EXPECT_TRUE(eventually([&] { return top() > before; })) << "a notice";
     }
-    void rememberPlace() { top_ = top(); }
+    void rememberPlace() {
+        EXPECT_TRUE(eventually([&] { return top() > 0; }));
+        top_ = top();
+    }
 
     // Its buttons stand at the right, the last one puts it away. A click that comes while the notice still
     // finds its place is lost; once one was heard, the notice gives its place back.
     void pressInNotice(int fromRight) {
         const Area window = drawingWindow().content;
-        const int below = top();
+        int lowest = 0;
         EXPECT_TRUE(eventually([&] {
+            lowest = std::max(lowest, top());
             screen().click({window.right - 50 - 98 * fromRight, window.top + 73});
-            return eventually([&] { return top() != below; }, 500ms);
+            return eventually([&] { return top() > 0 && top() < lowest; }, 500ms);
         }));
     }
 
@@ -64,6 +69,7 @@ class FileOnDiskTest : public DesktopTest {
     }
 
   private:
+    // Of the drawing on the screen; 0 while it is not there.
     int top() const {
         const auto marker = screen().picture().find(kMarker);
         return marker ? marker->top : 0;
