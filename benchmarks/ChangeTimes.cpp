@@ -39,7 +39,7 @@ void ChangeTimes::recolorObject(std::size_t index) {
     auto copy = drawing::makeShared<drawing::Object>(*drawing_.object(index));
     copy->fill = drawing::ColorPaint{{static_cast<std::uint16_t>(changes_.size() * 1000), 0, 65535}, 1};
     drawing_.erase(index);
-    drawing_.insert(index, std::move(copy));
+    drawing_.insert(index, copy);
     drawing_.closeUndo();
 }
 

@@ -164,15 +164,20 @@ Window DesktopTest::waitForDialog(const std::string& title) {
 }
 
 bool DesktopTest::vanishes(const std::string& title) {
-    return eventually([&] { return !hasWindow(title); });
+    return eventually([&] { return !hasWindow(title); }) &&
+           eventually([&] { return screen().windows().empty() || hasKeyboard({}); });
+}
+
+bool DesktopTest::hasKeyboard(const std::string& title) const {
+    return screen()
+        .window([&](const Window& each) {
+            return each.id == screen().activeWindow() && each.title.starts_with(title);
+        })
+        .has_value();
 }
 
 bool DesktopTest::getsKeyboard(const std::string& title) {
-    return eventually([&] {
-        const auto window =
-            screen().window([](const Window& each) { return each.id == screen().activeWindow(); });
-        return window && window->title.starts_with(title);
-    });
+    return eventually([&] { return hasKeyboard(title); });
 }
 
 Area DesktopTest::waitForColor(std::uint32_t color) {

@@ -71,10 +71,12 @@ class DesktopTest : public testing::Test {
     Window waitForDialog(const std::string& title);
     bool hasWindow(const std::string& title) const;
     std::size_t windowsWith(const std::string& title) const;
+    // Keys that are pressed between the end of a window and when another one has the keyboard are lost, so
+    // that is waited for as well, if there is any.
     bool vanishes(const std::string& title);
     // Waits until a window whose title begins so has the keyboard, which comes a little after the window.
-    // Keys that are pressed between the end of one window and then are lost.
     bool getsKeyboard(const std::string& title = {});
+    bool hasKeyboard(const std::string& title) const;
     // The window of the drawing, whatever is unsaved in it.
     Window drawingWindow() { return waitForWindow("drawing.svg"); }
 
