@@ -95,7 +95,8 @@ TEST_F(DialogTest, EveryKeystrokeIsAHitAndReplacesTheSelection) {
 TEST_F(DialogTest, ACharacterThatTheHostCannotEncodeIsRefusedWithoutAHit) {
     dialog_.setText(3, "a");
     EXPECT_EQ(type(U"\u4e2d"), EditOutcome::Refused);
-    EXPECT_EQ(type(U"\t"), EditOutcome::Refused);
+    for (const char32_t* key : {U"\t", U"\x1f", U"\x7f"})
+        EXPECT_EQ(type(key), EditOutcome::Refused) << "keys that write nothing";
     EXPECT_EQ(field().text, "a");
     EXPECT_TRUE(hits().empty());
     EXPECT_EQ(type(U"\u00e9"), EditOutcome::Accepted);
@@ -236,13 +237,23 @@ TEST_F(DialogTest, AnotherScreenGivesAFreshImageAtItsResolutionAndKeepsThePortCu
     dialog_.setDrawProcedure(4, recordDrawing);
     dialog_.drawInvalidItems();
     ports_.makeCurrent(&dialog_.port());
-    dialog_.setScreen({2.0, {0x101010, 0, 0}});
+    const DialogScreen other{2.0, {0x101010, 0, 0, 0x404040}};
+    dialog_.setScreen(other);
     EXPECT_EQ(ports_.current(), &dialog_.port());
-    EXPECT_EQ(dialog_.screen(), (DialogScreen{2.0, {0x101010, 0, 0}}));
+    EXPECT_EQ(dialog_.screen(), other);
     EXPECT_EQ(dialog_.port().imageWidth(), 400);
     EXPECT_EQ(dialog_.port().pixels()[0], 0xff101010u);
+    dialog_.port().eraseRect({.left = 0, .top = 0, .right = 1, .bottom = 1});
+    EXPECT_EQ(dialog_.port().pixels()[0], 0xff404040u) << "what erasing leaves is of the theme too";
     EXPECT_TRUE(dialog_.item(4)->invalid);
     EXPECT_EQ(dialog_.port().takeDamage(), dialog_.port().bounds()) << "all of it is to be shown";
+}
+
+TEST_F(DialogTest, ErasesToTheColorOfTheScreenThatItIsMadeFor) {
+    Dialog dialog(description(), {1.0, {0x101010, 0, 0, 0x404040}}, ports_);
+    dialog.port().eraseRect({.left = 0, .top = 0, .right = 1, .bottom = 1});
+    EXPECT_EQ(dialog.port().pixels()[0], 0xff404040u);
+    EXPECT_EQ(dialog.port().pixels()[1], 0xff101010u);
 }
 
 TEST_F(DialogTest, OnlyAPopupHasEntriesToChoose) {
