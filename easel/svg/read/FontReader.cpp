@@ -3,6 +3,7 @@
 #include "easel/svg/style/TextStyle.h"
 #include "easel/svg/text/PathData.h"
 #include "easel/svg/text/Scanner.h"
+#include "easel/text/Hexadecimal.h"
 #include "easel/text/Utf8.h"
 
 #include <algorithm>
@@ -39,15 +40,10 @@ std::optional<char32_t> hexadecimal(std::string_view digits, char32_t forAny) {
     if (digits.empty() || digits.size() > 6)
         return std::nullopt;
     for (const char c : digits) {
-        const char lower = text::lowerCase(c);
-        if (c == '?')
-            value = value * 16 + forAny;
-        else if (text::isDigit(c))
-            value = value * 16 + static_cast<char32_t>(c - '0');
-        else if (lower >= 'a' && lower <= 'f')
-            value = value * 16 + static_cast<char32_t>(lower - 'a' + 10);
-        else
+        const auto digit = c == '?' ? std::optional<unsigned>(forAny) : text::hexadecimalDigit(c);
+        if (!digit)
             return std::nullopt;
+        value = value * 16 + *digit;
     }
     return value;
 }

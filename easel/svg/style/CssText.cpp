@@ -1,6 +1,7 @@
 #include "easel/svg/style/CssText.h"
 
 #include "easel/svg/text/Scanner.h"
+#include "easel/text/Hexadecimal.h"
 #include "easel/text/Utf8.h"
 
 #include <algorithm>
@@ -9,20 +10,17 @@ namespace easel::svg {
 
 namespace {
 
-bool isHexadecimal(char c) {
-    const char lower = text::lowerCase(c);
-    return text::isDigit(c) || (lower >= 'a' && lower <= 'f');
-}
-
 // What stands behind a backslash: a character by its number, the end of a line, which goes, or any other
 // character, which stands for itself.
 void appendEscape(std::string& result, std::string_view& rest) {
     constexpr std::size_t kMostDigits = 6;
     char32_t number = 0;
     std::size_t digits = 0;
-    for (; digits < std::min(rest.size(), kMostDigits) && isHexadecimal(rest[digits]); ++digits) {
-        const char lower = text::lowerCase(rest[digits]);
-        number = number * 16 + static_cast<char32_t>(text::isDigit(lower) ? lower - '0' : lower - 'a' + 10);
+    for (; digits < std::min(rest.size(), kMostDigits); ++digits) {
+        const auto digit = text::hexadecimalDigit(rest[digits]);
+        if (!digit)
+            break;
+        number = number * 16 + *digit;
     }
     rest.remove_prefix(digits);
     if (digits > 0) {

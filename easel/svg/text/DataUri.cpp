@@ -3,6 +3,7 @@
 #include "easel/svg/text/DataUri.h"
 
 #include "easel/text/Ascii.h"
+#include "easel/text/Hexadecimal.h"
 
 #include <array>
 #include <cstddef>
@@ -11,6 +12,7 @@
 namespace easel::svg {
 
 using text::equalIgnoringCase;
+using text::hexadecimalDigit;
 using text::isSpace;
 using text::trimmed;
 
@@ -28,13 +30,6 @@ constexpr std::array<std::uint8_t, 256> kDigitValues = [] {
         values[static_cast<unsigned char>(kDigits[i])] = static_cast<std::uint8_t>(i);
     return values;
 }();
-
-int hexValue(char c) {
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
 
 std::optional<std::string> fromBase64(std::string_view text) {
     std::string bytes;
@@ -73,10 +68,11 @@ std::string withoutPercents(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool escaped =
-            text[i] == '%' && i + 2 < text.size() && hexValue(text[i + 1]) >= 0 && hexValue(text[i + 2]) >= 0;
-        result += escaped ? static_cast<char>(hexValue(text[i + 1]) << 4 | hexValue(text[i + 2])) : text[i];
-        i += escaped ? 2 : 0;
+        const bool escapes = text[i] == '%' && i + 2 < text.size();
+        const auto high = escapes ? hexadecimalDigit(text[i + 1]) : std::nullopt;
+        const auto low = escapes ? hexadecimalDigit(text[i + 2]) : std::nullopt;
+        result += high && low ? static_cast<char>(*high << 4 | *low) : text[i];
+        i += high && low ? 2 : 0;
     }
     return result;
 }
