@@ -1,5 +1,6 @@
 // Reads an SVG file into a drawing.
 #include "easel/files/Gzip.h"
+#include "easel/files/MemoryErrors.h"
 #include "easel/files/WholeFile.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/read/TextFonts.h"
@@ -119,10 +120,6 @@ std::string takenAsText(files::Bytes& bytes) {
     return text;
 }
 
-Error outOfMemory(const std::filesystem::path& file) {
-    return {file, "there is not enough memory for it", std::make_error_code(std::errc::not_enough_memory)};
-}
-
 // `source` is the file that the bytes are from, empty if they are from none.
 Result<Drawing> readNamed(std::string bytes, const std::filesystem::path& name,
                           const std::filesystem::path& source, const ReadOptions& options) {
@@ -131,7 +128,7 @@ Result<Drawing> readNamed(std::string bytes, const std::filesystem::path& name,
     } catch (const ReadError& error) {
         return tl::unexpected(Error{name, error.reason, error.code});
     } catch (const std::bad_alloc&) {
-        return tl::unexpected(outOfMemory(name));
+        return tl::unexpected(files::tooLargeForMemory(name));
     }
 }
 
@@ -152,7 +149,7 @@ Result<Drawing> readFile(const std::filesystem::path& file, const ReadOptions& o
             return readNamed(takenAsText(bytes), file, file, options);
         });
     } catch (const std::bad_alloc&) {
-        return tl::unexpected(outOfMemory(file));
+        return tl::unexpected(files::tooLargeForMemory(file));
     }
 }
 

@@ -1,6 +1,7 @@
 // Writes drawings as SVG files.
 #include "easel/files/AtomicFile.h"
 #include "easel/files/Gzip.h"
+#include "easel/files/MemoryErrors.h"
 #include "easel/svg/Document.h"
 #include "easel/svg/text/Scanner.h"
 #include "easel/svg/text/Source.h"
@@ -94,8 +95,7 @@ files::Result<std::string> bytesFor(const Drawing& drawing, const std::filesyste
     try {
         return checkedBytes(drawing.snapshot(), file);
     } catch (const std::bad_alloc&) {
-        return tl::unexpected(files::Error{file, "there is not enough memory to write it",
-                                           std::make_error_code(std::errc::not_enough_memory)});
+        return tl::unexpected(files::notEnoughMemoryToWrite(file));
     }
 }
 

@@ -1,6 +1,7 @@
 // Turns snapshots into bytes and bytes into journals, behind the window's back.
 #include "easel/window/keeping/JournalWriter.h"
 
+#include "easel/files/MemoryErrors.h"
 #include "easel/svg/Document.h"
 
 #include <QPointer>
@@ -27,7 +28,7 @@ files::Result<> write(JournalWriter::Place& place, const drawing::Snapshot& draw
         }
         return place.journal->keep(bytes);
     } catch (const std::bad_alloc&) {
-        return tl::unexpected(notEnoughMemoryToWrite(place.origin));
+        return tl::unexpected(files::notEnoughMemoryToWrite(place.origin));
     }
 }
 
@@ -42,11 +43,6 @@ template <class Work> void withMemory(const Work& work) {
 }
 
 } // namespace
-
-files::Error notEnoughMemoryToWrite(const std::filesystem::path& file) {
-    return {file, "there is not enough memory to write it",
-            std::make_error_code(std::errc::not_enough_memory)};
-}
 
 void JournalWriter::keep(PlacePtr place, drawing::Snapshot drawing, QObject* receiver,
                          std::function<void(const files::Result<>& kept)> landed) {

@@ -15,9 +15,6 @@
 
 namespace easel::window {
 
-// Why a drawing cannot be kept where there is no memory for its bytes.
-files::Error notEnoughMemoryToWrite(const std::filesystem::path& file);
-
 class JournalWriter : public QObject {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 #include "easel/window/keeping/UnsavedKeeper.h"
 
 #include "easel/drawing/Drawing.h"
+#include "easel/files/MemoryErrors.h"
 #include "easel/window/waiting/CoreTexts.h"
 
 #include <chrono>
@@ -61,7 +62,7 @@ void UnsavedKeeper::keep() {
         writer_.keep(place_, drawing_->snapshot(), this,
                      [this](const files::Result<>& kept) { landed(kept); });
     } catch (const std::bad_alloc&) {
-        return landed(tl::unexpected(notEnoughMemoryToWrite(place_->origin)));
+        return landed(tl::unexpected(files::notEnoughMemoryToWrite(place_->origin)));
     }
     underWay_ = true;
     mayHaveJournal_ = true;

@@ -3,6 +3,7 @@
 
 #include "easel/drawing/MemoryReserve.h"
 #include "easel/files/AtomicFile.h"
+#include "easel/files/MemoryErrors.h"
 #include "easel/files/WholeFile.h"
 #include "easel/recovery/Journal.h"
 #include "easel/window/waiting/BackgroundWork.h"
@@ -43,7 +44,7 @@ files::Result<drawing::Drawing> readBeside(const std::filesystem::path& file, In
     files::Result<drawing::Drawing> drawing = read(options);
     // One that leaves no memory for a change is too large.
     if (drawing && !drawing::memoryIsLeft())
-        return tl::unexpected(outOfMemory(file));
+        return tl::unexpected(files::tooLargeForMemory(file));
     return drawing;
 }
 
@@ -60,10 +61,6 @@ files::KnownFile knownBefore(const std::filesystem::path& file, const std::files
 }
 
 } // namespace
-
-files::Error outOfMemory(const std::filesystem::path& file) {
-    return {file, "there is not enough memory for it", std::make_error_code(std::errc::not_enough_memory)};
-}
 
 files::Result<LoadedDrawing> loadDrawing(const QString& file, Interaction& interaction, QWidget* over) {
     const std::filesystem::path path = QFile::encodeName(file).toStdString();

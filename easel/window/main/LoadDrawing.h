@@ -28,7 +28,4 @@ files::Result<LoadedDrawing> loadDrawing(const QString& file, Interaction& inter
 files::Result<LoadedDrawing> loadKept(const recovery::Journal& journal, Interaction& interaction,
                                       QWidget* over);
 
-// That the file's drawing is too large for this machine.
-files::Error outOfMemory(const std::filesystem::path& file);
-
 } // namespace easel::window

@@ -1,6 +1,7 @@
 // Makes windows and answers what they ask of the program.
 #include "easel/window/main/Workspace.h"
 
+#include "easel/files/MemoryErrors.h"
 #include "easel/recovery/Journal.h"
 #include "easel/window/main/LoadDrawing.h"
 #include "easel/window/main/MainWindow.h"
@@ -82,7 +83,8 @@ void Workspace::openFile(const QString& file, QWidget* over) {
         else
             show(*std::move(loaded));
     } catch (const std::bad_alloc&) {
-        return tellProblem(outOfMemory(QFile::encodeName(file).toStdString()), shared_.interaction.dialogs);
+        return tellProblem(files::tooLargeForMemory(QFile::encodeName(file).toStdString()),
+                           shared_.interaction.dialogs);
     }
     shared_.recentFiles.add(path);
 }
