@@ -24,10 +24,10 @@ struct FilterInput {
     std::size_t step = 0; // for Kind::Step
 };
 
-// Lengths and places of effects are in the units of the filter.
 // What an effect takes for pixels beyond the edges of its input.
 enum class EdgeMode : std::uint8_t { Duplicate, Wrap, None };
 
+// Lengths and places of effects are in the units of the filter.
 struct BlurEffect {
     Point deviation; // of the bell curve, each way; not below 0
     EdgeMode edge = EdgeMode::None;

@@ -74,7 +74,10 @@ DrawnTypesetter::Choice DrawnTypesetter::nearest(const std::string& family, cons
     int least = std::numeric_limits<int>::max();
     const auto isNearer = [&](const Font& font, bool anyWeight) {
         const int away = isOf(font, family) ? distance(font, anyWeight, asked) : least;
-        return std::exchange(least, std::min(least, away)) > away;
+        if (away >= least)
+            return false;
+        least = away;
+        return true;
     };
     for (const LoadedFace& face : loaded_)
         if (isNearer(face.font, false))
@@ -195,20 +198,15 @@ void DrawnTypesetter::addDrawn(std::vector<Part>& parts, const Line& line, std::
             if (last && !part.clusters.empty() && part.clusters.back().upright == isUpright)
                 part.clusters.back().advance -=
                     choice.drawn->kerning(isUpright ? Follow::Down : Follow::Across, *last, *glyph);
+            const drawing::Point origin = isUpright ? glyph->top : drawing::Point();
             part.clusters.push_back({at,
                                      end,
-                                     glyph->outline,
-                                     glyph->advance,
+                                     glyph->outline.transformed(Affine::translation(-origin.x, -origin.y)),
+                                     isUpright ? glyph->down : glyph->advance,
                                      line.rightToLeft,
                                      isUpright,
                                      choice.drawn->face(),
                                      {}});
-            if (isUpright) {
-                Cluster& cluster = part.clusters.back();
-                cluster.outline =
-                    glyph->outline.transformed(Affine::translation(-glyph->top.x, -glyph->top.y));
-                cluster.advance = glyph->down;
-            }
             part.end = end;
         }
         last = glyph;
