@@ -15,7 +15,8 @@ Statement = collections.namedtuple("Statement", "tokens start end")
 
 SKIPPED = r"//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*"
 TEXTS = r'"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])*\''
-NUMBERS = r"0[xX][0-9a-fA-F]+[uUlL]*|(?:\d+\.\d*|\.\d+|\d+)(?:[eE][+-]?\d+)?[uUlLfF]*"
+# Digits may stand in groups with an apostrophe between them.
+NUMBERS = r"0[xX][0-9a-fA-F']+[uUlL]*|(?:\d[\d']*\.?\d*|\.\d+)(?:[eE][+-]?\d+)?[uUlLfF]*"
 WORDS = r"[A-Za-z_]\w*"
 SIGNS = r"<=>|<<=|>>=|->|::|\+\+|--|&&|\|\||[<>=!+\-*/%&|^]=|[^\s]"
 TOKEN = re.compile(f"(?P<skip>{SKIPPED})|(?P<text>{TEXTS})|(?P<number>{NUMBERS})|{WORDS}|{SIGNS}", re.S | re.M)
@@ -57,7 +58,7 @@ def operator_mutations(text, tokens):
 
 def number_mutations(tokens):
     for before, token in zip(tokens, tokens[1:]):
-        match = re.fullmatch(r"(0[xX][0-9a-fA-F]+|[\d.]+)([uUlLfF]*)", token.text)
+        match = re.fullmatch(r"(0[xX][0-9a-fA-F]+|[\d.]+)([uUlLfF]*)", token.text.replace("'", ""))
         if not match or not token.text[0].isdigit() or before.text == "align":
             continue
         digits, suffix = match.groups()

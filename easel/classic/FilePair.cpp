@@ -71,7 +71,7 @@ FinderInfo readFinderInfo(const FilePair& file) {
             return place.info;
         if (place.answer == Answer::None)
             return {};
-        const bool isCutShort = place.needed <= beginning.size() || beginning.size() < size;
+        const bool isCutShort = beginning.size() < size;
         if (place.answer == Answer::NotAppleDouble || isCutShort || place.needed > kFarthestInfo)
             return infoOfDamaged(file);
         size = static_cast<std::size_t>(place.needed);

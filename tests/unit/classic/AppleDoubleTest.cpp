@@ -169,6 +169,18 @@ TEST(AppleDouble, ABeginningThatEndsInItsTableAsksForTheWholeTable) {
     EXPECT_EQ(findFinderInfo(ByteView(whole).first(infoEnd)).info, kInfo);
 }
 
+TEST(AppleDouble, WhatLooksLikeAnEntryBehindTheTableIsNone) {
+    using Answer = FinderInfoPlace::Answer;
+    const auto whole = handMade(AppleDouble::kVersion2, {{9, kFinderEntry}, {2, "fork"}}, "0123456789abcdef");
+    auto bytes = whole;
+    // The entries trade places in the table, which then ends before the second one.
+    std::swap_ranges(bytes.begin() + 26, bytes.begin() + 38, bytes.begin() + 38);
+    EXPECT_EQ(findFinderInfo(bytes).answer, Answer::Here);
+    setNumber(bytes, 24, std::uint16_t{1});
+    EXPECT_EQ(findFinderInfo(bytes).answer, Answer::None);
+    EXPECT_EQ(findFinderInfo(ByteView(bytes).first(38)).answer, Answer::None) << "it ends with its table";
+}
+
 TEST(AppleDouble, RandomDamageNeverReadsOutOfBounds) {
     std::mt19937 random(3);
     const auto whole = handMade(AppleDouble::kVersion2, {{2, "fork"}, {9, kFinderEntry}}, "0123456789abcdef");

@@ -165,4 +165,21 @@ TEST(FailingCommits, ManyDeletionsAreFlushedTogetherAndFailuresReported) {
     EXPECT_EQ(keptIn(stage.folder / "Templates", "a.GRD"), "none");
 }
 
+TEST(FailingCommits, OfManyDeletionsNoneIsFlushedByItself) {
+    Stage stage;
+    dropFile(stage.folder / "Templates", "a.GRD", "old");
+    int reports = 0;
+    HostFiles files(StoragePlaces{stage.folder, stage.base / "Trash"}, [&](const Error&) { ++reports; });
+    const auto found = files.findSecondaryFolder("Templates", FolderCreation::IfMissing);
+    FileSpec spec;
+    files.resolve(found.spec.volume, found.spec.folder, ":Templates:a.GRD", spec);
+    {
+        const FailingCalls failing("fsync", EIO);
+        const HostFiles::ManyChanges many(files);
+        EXPECT_EQ(files.remove(spec), FileResult::Done);
+    }
+    EXPECT_EQ(reports, 0) << "what flushes one file at a time is not asked";
+    EXPECT_EQ(keptIn(stage.folder / "Templates", "a.GRD"), "none");
+}
+
 } // namespace

@@ -75,6 +75,15 @@ TEST_F(FilePairTest, ReadingGoesOnWhereItWasInterrupted) {
     EXPECT_TRUE(FailingCalls::cameToNumber());
 }
 
+TEST_F(FilePairTest, AHeaderThatIsCutShortIsNotReadAgain) {
+    writeHeader(100);
+    std::filesystem::resize_file(pair_.header(), 90);
+    // It is opened, read, and read to its end.
+    const FailingCalls failing(4, EIO);
+    EXPECT_EQ(readFinderInfo(pair_).type, tests::kTemplateType);
+    EXPECT_FALSE(FailingCalls::cameToNumber());
+}
+
 TEST_F(FilePairTest, ReadingEndsWithTheFileWhateverFailedBefore) {
     writeHeader(100);
     errno = EINTR;

@@ -145,4 +145,12 @@ TEST(GradientBytes, DamageIsNamed) {
     }
 }
 
+TEST(GradientBytes, ARecordOfTheRightLengthForNoStopsIsRefused) {
+    auto bytes = *gradientToBytes(sample());
+    bytes.resize(72 + 4);
+    setNumber(bytes, 8, static_cast<std::uint32_t>(bytes.size()));
+    setNumber(bytes, 68, std::uint32_t{0});
+    EXPECT_EQ(tests::errorOf(gradientFromBytes(resealed(bytes))), GradientDamage::WrongStopCount);
+}
+
 } // namespace

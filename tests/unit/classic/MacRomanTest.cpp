@@ -47,6 +47,8 @@ TEST(MacRoman, AgreesWithTheSystemsTable) {
         EXPECT_EQ(fromMacRoman(text), theirs) << byte;
     }
     EXPECT_EQ(fromMacRoman("\xDB"), "€");
+    EXPECT_EQ(fromMacRoman("\xC6"), "\u2206") << "the increment sign";
+    EXPECT_EQ(fromMacRoman("\xF0"), "\uF8FF") << "the last character for private use";
 }
 
 TEST(MacRoman, DecomposedTextBecomesTheComposedCharacter) {

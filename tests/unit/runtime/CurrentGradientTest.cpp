@@ -64,6 +64,19 @@ TEST_F(CurrentGradientTest, IsThatOfTheShapeWhateverTheToolPutsOnTop) {
     EXPECT_EQ(found->Angle(), 33);
 }
 
+TEST_F(CurrentGradientTest, IsThatOfTheShapeThatTheToolPutsInItsPlace) {
+    const auto found = foundWith([](DWindow* pressed, const EventRecord&, const TPoint<double>&) {
+        drawing::Drawing& drawing = pressed->State().window->drawing();
+        const drawing::ObjectPtr same = drawing.object(0);
+        drawing.erase(0);
+        drawing.insert(0, same);
+        giveGradient(drawing, 33);
+        return true;
+    });
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->Angle(), 33);
+}
+
 TEST_F(CurrentGradientTest, IsNoneWhereTheToolDeletesTheShape) {
     EXPECT_FALSE(foundWith([](DWindow* pressed, const EventRecord&, const TPoint<double>&) {
         pressed->State().window->drawing().erase(0);

@@ -47,6 +47,12 @@ TEST_F(PluginModuleTest, NeedsTheEntry) {
     EXPECT_THAT(reasonFor(std::filesystem::absolute(library.dli_fname), process_), HasSubstr("MainEntry"));
 }
 
+TEST(PluginMessages, HaveTheNumbersThatPluginsKnow) {
+    // As host/Palette.h says.
+    EXPECT_EQ(easel::runtime::kStartUpMessage, 1);
+    EXPECT_EQ(easel::runtime::kShutDownMessage, 2);
+}
+
 TEST(PluginModuleFile, IsExpectedBesideTheProgram) {
     const std::filesystem::path file = PluginModule::defaultFile();
     EXPECT_EQ(file.filename(), "Gradient.so");
