@@ -1,4 +1,5 @@
 // Which values attributes, style sheets and style attributes give an element.
+#include "easel/svg/style/CssIdentifier.h"
 #include "easel/svg/style/ElementSubject.h"
 #include "easel/svg/style/PropertyGrammar.h"
 #include "easel/svg/text/Length.h"
@@ -43,8 +44,9 @@ void Cascade::addSheet(pugi::xml_node styleElement) {
     std::string text;
     for (const pugi::xml_node part : styleElement.children())
         text += part.value();
-    const auto names = [&text](std::string_view word) {
-        return findIgnoringCase(text, word) != std::string_view::npos;
+    const std::string plain = withPlainNames(text);
+    const auto names = [&plain](std::string_view word) {
+        return findIgnoringCase(plain, word) != std::string_view::npos;
     };
     sheetsStateFill_ = sheetsStateFill_ || names("fill");
     sheetsStateStroke_ = sheetsStateStroke_ || names("stroke");
@@ -65,10 +67,10 @@ std::vector<Declaration> Cascade::gather(pugi::xml_node element, StatedStyle& st
     };
     for (const pugi::xml_attribute attribute : element.attributes())
         if (const auto property = propertyFromName(attribute.name()))
-            style.set(*property, attribute.value(), Importance::Normal);
+            style.set(*property, values_.plain(attribute.value()), Importance::Normal);
     if (!sheet_.empty())
         state(sheet_.declarationsFor(ElementSubject(*this, element)));
-    state(parseDeclarations(element.attribute("style").value()));
+    state(parseDeclarations(values_.plain(element.attribute("style").value())));
     return custom;
 }
 

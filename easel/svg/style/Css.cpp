@@ -1,5 +1,6 @@
 #include "easel/svg/style/Css.h"
 
+#include "easel/svg/style/CssIdentifier.h"
 #include "easel/svg/style/CssText.h"
 #include "easel/svg/text/Scanner.h"
 
@@ -81,7 +82,7 @@ std::vector<Declaration> parseDeclarations(std::string_view text) {
 }
 
 void StyleSheet::add(const std::string& text, const MediaSize& media) {
-    texts_.push_back(std::make_unique<const std::string>(withoutComments(text)));
+    texts_.push_back(std::make_unique<const std::string>(withPlainNames(withoutComments(text))));
     addRules(*texts_.back(), media, 0);
 }
 

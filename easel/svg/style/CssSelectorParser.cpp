@@ -1,5 +1,7 @@
 // Reads selectors.
+#include "easel/svg/style/CssIdentifier.h"
 #include "easel/svg/style/CssSelector.h"
+#include "easel/svg/style/CssText.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <cmath>
@@ -11,12 +13,6 @@ namespace {
 // Matching goes from compound to compound by recursion.
 constexpr std::size_t kMostCompounds = 100;
 constexpr double kFarthestPosition = 1e6;
-
-std::string_view withoutQuotes(std::string_view text) {
-    const bool quoted =
-        text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.back() == text.front();
-    return quoted ? text.substr(1, text.size() - 2) : text;
-}
 
 AttributeMatch takeAttributeMatch(Scanner& scanner) {
     if (scanner.take('~'))
@@ -34,19 +30,19 @@ bool parseAttributeTest(Scanner& scanner, CompoundSelector& compound) {
     Scanner inside(scanner.until(']'));
     inside.skipSpaces();
     AttributeTest test;
-    test.name = inside.word();
+    test.name = takeIdentifier(inside);
     // A prefix stands before a bar; in the file before a colon.
     if (inside.rest().size() > 1 && inside.peek() == '|' && inside.rest()[1] != '=') {
         inside.next();
         test.name += ':';
-        test.name += inside.word();
+        test.name += takeIdentifier(inside);
     }
     inside.skipSpaces();
     if (!inside.done()) {
         test.match = takeAttributeMatch(inside);
         if (!inside.take('='))
             return false;
-        test.value = withoutQuotes(trimmed(inside.rest()));
+        test.value = unquoted(inside.rest());
     }
     compound.attributes.push_back(std::move(test));
     return !compound.attributes.back().name.empty();
@@ -140,14 +136,14 @@ std::optional<CompoundSelector> parseCompound(Scanner& scanner, Inside inside) {
     CompoundSelector compound;
     const std::size_t before = scanner.rest().size();
     if (!scanner.take('*'))
-        compound.element = scanner.word();
+        compound.element = takeIdentifier(scanner);
     while (true) {
         bool good = true;
         if (scanner.take('.')) {
-            compound.classes.emplace_back(scanner.word());
+            compound.classes.push_back(takeIdentifier(scanner));
             good = !compound.classes.back().empty();
         } else if (scanner.take('#')) {
-            compound.id = scanner.word();
+            compound.id = takeIdentifier(scanner);
             good = !compound.id.empty();
         } else if (scanner.take('[')) {
             good = parseAttributeTest(scanner, compound);

@@ -1,41 +1,12 @@
 #include "easel/svg/style/CssText.h"
 
+#include "easel/svg/style/CssIdentifier.h"
 #include "easel/svg/text/Scanner.h"
-#include "easel/text/Hexadecimal.h"
 #include "easel/text/Utf8.h"
 
 #include <algorithm>
 
 namespace easel::svg {
-
-namespace {
-
-// What stands behind a backslash: a character by its number, the end of a line, which goes, or any other
-// character, which stands for itself.
-void appendEscape(std::string& result, std::string_view& rest) {
-    constexpr std::size_t kMostDigits = 6;
-    char32_t number = 0;
-    std::size_t digits = 0;
-    for (; digits < std::min(rest.size(), kMostDigits); ++digits) {
-        const auto digit = text::hexadecimalDigit(rest[digits]);
-        if (!digit)
-            break;
-        number = number * 16 + *digit;
-    }
-    rest.remove_prefix(digits);
-    if (digits > 0) {
-        text::appendUtf8(result, number);
-        rest.remove_prefix(!rest.empty() && isSpace(rest.front()) ? 1 : 0);
-    } else if (rest.starts_with("\r\n")) {
-        rest.remove_prefix(2);
-    } else if (!rest.empty()) {
-        if (rest.front() != '\n' && rest.front() != '\r' && rest.front() != '\f')
-            result += rest.front();
-        rest.remove_prefix(1);
-    }
-}
-
-} // namespace
 
 std::size_t lengthUntil(std::string_view text, std::string_view ends) {
     char quote = 0;
@@ -66,10 +37,16 @@ std::string unquoted(std::string_view text) {
     while (true) {
         const std::size_t end = std::min(rest.find('\\'), rest.size());
         result += rest.substr(0, end);
-        if (end == rest.size())
+        if (rest.size() - end < 2)
             return result;
         rest.remove_prefix(end + 1);
-        appendEscape(result, rest);
+        // The line goes on behind a backslash at its end.
+        if (rest.starts_with("\r\n"))
+            rest.remove_prefix(2);
+        else if (rest.front() == '\n' || rest.front() == '\r' || rest.front() == '\f')
+            rest.remove_prefix(1);
+        else
+            text::appendUtf8(result, takeEscape(rest));
     }
 }
 

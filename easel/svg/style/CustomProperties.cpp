@@ -1,5 +1,6 @@
 #include "easel/svg/style/CustomProperties.h"
 
+#include "easel/svg/style/CssIdentifier.h"
 #include "easel/svg/text/ReadError.h"
 #include "easel/svg/text/Scanner.h"
 
@@ -117,6 +118,12 @@ std::string_view CustomValues::replaced(std::string_view value, const CustomProp
     if (!replacement.append(value, 0))
         return {};
     return *values_.insert(replacement.take()).first;
+}
+
+std::string_view CustomValues::plain(std::string_view text) {
+    if (text.find('\\') == std::string_view::npos)
+        return text;
+    return *values_.insert(withPlainNames(text)).first;
 }
 
 } // namespace easel::svg

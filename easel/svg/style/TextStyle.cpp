@@ -1,5 +1,7 @@
 #include "easel/svg/style/TextStyle.h"
 
+#include "easel/svg/style/CssIdentifier.h"
+#include "easel/svg/style/CssText.h"
 #include "easel/svg/style/Words.h"
 #include "easel/svg/text/Scanner.h"
 
@@ -131,15 +133,18 @@ std::optional<bool> parseRightToLeft(std::string_view text) {
     return valueOf(text, kWords);
 }
 
-bool isNameOfWords(std::string_view name) {
-    Scanner scanner(name);
+// Identifiers with a blank between them; nothing for anything else.
+std::optional<std::string> nameOfWords(std::string_view text) {
+    std::string name;
+    Scanner scanner(text);
     while (!scanner.done()) {
-        scanner.take('-');
-        if (text::isDigit(scanner.peek()) || scanner.word().empty())
-            return false;
+        const std::string word = takeIdentifier(scanner);
+        if (word.empty())
+            return std::nullopt;
+        name.append(name.empty() ? "" : " ").append(word);
         scanner.skipSpaces();
     }
-    return true;
+    return name;
 }
 
 // What is handed down stays where nothing or "inherit" is stated.
@@ -223,14 +228,15 @@ std::string familyNames(std::string_view stated) {
     while (!scanner.done()) {
         scanner.skipSeparator();
         const char quote = scanner.peek();
-        std::string_view name;
+        std::string name;
         if (scanner.take('"') || scanner.take('\'')) {
-            name = scanner.until(quote);
+            name = unquoted(scanner.until(quote));
             scanner.until(',');
         } else {
-            name = trimmed(scanner.until(','));
-            if (!isNameOfWords(name))
+            auto words = nameOfWords(trimmed(scanner.until(',')));
+            if (!words)
                 return {};
+            name = *std::move(words);
         }
         if (!name.empty())
             names.append(names.empty() ? "" : ",").append(name);

@@ -6,15 +6,6 @@
 
 namespace easel::svg {
 
-namespace {
-
-bool isWordByte(char c) {
-    return text::isLetter(c) || text::isDigit(c) || c == '-' || c == '_' ||
-           static_cast<unsigned char>(c) >= 0x80;
-}
-
-} // namespace
-
 void Scanner::skipSpaces() {
     while (!rest_.empty() && isSpace(rest_.front()))
         rest_.remove_prefix(1);

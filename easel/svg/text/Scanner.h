@@ -13,6 +13,12 @@ using text::findIgnoringCase;
 using text::isSpace;
 using text::trimmed;
 
+// What words are made of: letters, digits, '-', '_' and bytes above ASCII.
+inline bool isWordByte(char c) {
+    return text::isLetter(c) || text::isDigit(c) || c == '-' || c == '_' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
 class Scanner {
   public:
     explicit Scanner(std::string_view text) : rest_(text) {}
@@ -32,7 +38,7 @@ class Scanner {
     char next();
     // A decimal number right here; one too large for a double is infinite. Nothing is taken if there is none.
     std::optional<double> number();
-    // A run of letters, digits, '-', '_' and bytes above ASCII; may be empty.
+    // A run of what words are made of; may be empty.
     std::string_view word();
     // Everything up to `end`, which is taken too; the whole rest if it does not come.
     std::string_view until(char end);

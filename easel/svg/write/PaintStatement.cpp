@@ -1,6 +1,7 @@
 #include "easel/svg/write/PaintStatement.h"
 
 #include "easel/svg/style/Css.h"
+#include "easel/svg/style/CssIdentifier.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <array>
@@ -26,7 +27,7 @@ std::string withoutPlainReferences(std::string_view style) {
 const Declaration* strongest(const std::vector<Declaration>& declarations, std::string_view property) {
     const Declaration* strongest = nullptr;
     for (const Declaration& declaration : declarations)
-        if (equalIgnoringCase(declaration.name, property) &&
+        if (equalIgnoringCase(withPlainNames(declaration.name), property) &&
             (!strongest || declaration.importance == Importance::Important ||
              strongest->importance == Importance::Normal))
             strongest = &declaration;

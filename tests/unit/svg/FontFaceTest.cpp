@@ -59,6 +59,7 @@ TEST(FontFace, IsForAFamilyAndSaysHowItLooks) {
         parsed("Font-Family:'My Font', other;src:url(a);FONT-WEIGHT:Bold;font-style:Oblique 10deg");
     ASSERT_TRUE(face);
     EXPECT_EQ(face->font.families, "My Font");
+    EXPECT_EQ(parsed("font-family:\\33 D\\.Font;src:url(a)")->font.families, "3D.Font");
     EXPECT_EQ(face->font.weight, 700);
     EXPECT_EQ(face->font.slant, easel::type::Slant::Italic);
     const auto weightOf = [](const std::string& weight) {

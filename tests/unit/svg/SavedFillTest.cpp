@@ -48,6 +48,17 @@ TEST(SavedFill, IsStrongerThanASheetEvenInAStyleThatDoesNotEnd) {
               recordText(someRecord()));
 }
 
+TEST(SavedFill, TakesThePlaceOfOneWithEscapes) {
+    Drawing drawing = readOk(rectangleWith("style='f\\69ll:red;opacity:1'"));
+    giveGradient(drawing, 0, someRecord());
+    const std::string text = toBytes(drawing);
+    EXPECT_NE(text.find("style='f\\69ll:url(#"), std::string::npos) << text;
+    for (const char* attributes : {"style='f\\69ll:red !important'", "style='fill:red;\\66 ill:lime'"})
+        EXPECT_EQ(savedRecord(rectangleWith(attributes)), recordText(someRecord())) << attributes;
+    EXPECT_EQ(savedRecord(svgFile("<style>rect{f\\69ll:red}</style><rect width='9' height='9'/>")),
+              recordText(someRecord()));
+}
+
 TEST(SavedFill, TakesThePlaceOfOneInCapitals) {
     Drawing drawing = readOk(rectangleWith("style='Stroke:red;FILL : Lime;opacity:1'"));
     giveGradient(drawing, 0, someRecord());

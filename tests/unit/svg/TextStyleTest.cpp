@@ -117,6 +117,7 @@ TEST(TextStyle, FamiliesLoseTheirQuotesAndOneThatIsNoNameSpoilsTheList) {
     EXPECT_EQ(familyNames("DejaVu Sans"), "DejaVu Sans");
     EXPECT_EQ(familyNames("-my-font, x"), "-my-font,x");
     EXPECT_EQ(familyNames("'', serif"), "serif");
+    EXPECT_EQ(familyNames("\\33 D  L\\65tters, 'it\\27s'"), "3D Letters,it's") << "escapes, and one blank";
     for (const char* none : {"", "3D Letters, serif", "serif, 1", "a!b", "-3"})
         EXPECT_EQ(familyNames(none), "") << none;
     TextStyle outer;
