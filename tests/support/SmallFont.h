@@ -116,4 +116,46 @@ inline std::string smallWoff() {
     return file.text() + directory.text() + data.text();
 }
 
+// The same as a WOFF2 file: all tables one behind the other, packed by Brotli, which may leave them as they
+// are.
+inline std::string smallWoff2() {
+    // The tables that every font has are named by their numbers. Letters that are not packed in a way of
+    // their own are said to be so.
+    constexpr int kAsTheyAre = 3 << 6;
+    const std::vector<std::pair<std::string, int>> order = {{"cmap", 0},
+                                                            {"glyf", 10 | kAsTheyAre},
+                                                            {"loca", 11 | kAsTheyAre},
+                                                            {"head", 1},
+                                                            {"hhea", 2},
+                                                            {"hmtx", 3},
+                                                            {"maxp", 4}};
+    const auto tables = smallFontTables();
+    FontBytes directory, data;
+    for (const auto& [name, flags] : order) {
+        const std::string& table = tables.at(name);
+        directory.add(1, flags);
+        // Seven bits a byte, the highest first, each but the last with a mark.
+        if (table.size() >= 128)
+            directory.add(1, static_cast<std::int64_t>(128 | table.size() >> 7));
+        directory.add(1, static_cast<std::int64_t>(table.size() % 128));
+        data.add(table);
+    }
+    // One block of so many bytes that are not packed, and an empty last one.
+    const std::size_t block = (data.size() - 1) << 4 | 1U << 20;
+    FontBytes packed;
+    for (int i = 0; i < 3; ++i)
+        packed.add(1, static_cast<std::int64_t>(block >> (8 * i)));
+    packed.add(data.text()).add(1, 3);
+    const std::size_t size = (48 + directory.size() + packed.size() + 3) / 4 * 4;
+    FontBytes file;
+    file.add("wOF2").add(4, 0x10000).add(4, static_cast<std::int64_t>(size));
+    file.words({static_cast<int>(tables.size()), 0});
+    file.add(4, static_cast<std::int64_t>(smallFont().size()))
+        .add(4, static_cast<std::int64_t>(packed.size()));
+    file.words({1, 0});
+    for (int i = 0; i < 5; ++i)
+        file.add(4, 0);
+    return file.add(directory.text()).add(packed.text()).fill().text();
+}
+
 } // namespace tests

@@ -8,7 +8,8 @@
 
 namespace easel::type {
 
-// Null unless the bytes are those of a TrueType or OpenType font, packed as WOFF or not, that has outlines.
+// Null unless the bytes are those of a TrueType or OpenType font, packed as WOFF or WOFF2 or not, that has
+// outlines.
 std::shared_ptr<LoadedFont> loadFont(std::string bytes);
 
 } // namespace easel::type

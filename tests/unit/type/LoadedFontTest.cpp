@@ -26,7 +26,7 @@ void expectBox(const Box& box, double width, double height) {
 }
 
 TEST(LoadedFont, LettersAreAsTheFontHasThem) {
-    for (const std::string& bytes : {tests::smallFont(), tests::smallWoff()}) {
+    for (const std::string& bytes : {tests::smallFont(), tests::smallWoff(), tests::smallWoff2()}) {
         const auto font = loaded(bytes);
         ASSERT_TRUE(font);
         EXPECT_TRUE(font->has(U'B'));
@@ -91,7 +91,7 @@ TEST(LoadedFont, WhatIsNoFontOrTooLargeWhenUnpackedIsRefused) {
 }
 
 TEST(LoadedFont, ThatIsCutOrDamagedIsRefusedOrStillSetsText) {
-    for (const std::string& whole : {tests::smallFont(), tests::smallWoff()})
+    for (const std::string& whole : {tests::smallFont(), tests::smallWoff(), tests::smallWoff2()})
         for (std::size_t i = 0; i < whole.size(); ++i) {
             std::string changed = whole;
             changed[i] = static_cast<char>(changed[i] ^ 0xFF);
