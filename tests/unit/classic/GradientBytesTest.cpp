@@ -145,6 +145,23 @@ TEST(GradientBytes, DamageIsNamed) {
     }
 }
 
+TEST(GradientBytes, ARecordThatEndsBeforeItsStopsIsTooShort) {
+    for (std::size_t size = 12 + 4; size < 72 + 4; ++size) {
+        auto bytes = *gradientToBytes(sample());
+        bytes.resize(size);
+        setNumber(bytes, 8, static_cast<std::uint32_t>(size));
+        EXPECT_EQ(tests::errorOf(gradientFromBytes(resealed(bytes))), GradientDamage::WrongLength) << size;
+    }
+}
+
+TEST(GradientBytes, AMillionStopsAreKeptAndNoMore) {
+    auto gradient = sample();
+    gradient.ColorList().resize(1'000'000, CGradientColor({1, 2, 3}, 1));
+    EXPECT_TRUE(gradientToBytes(gradient));
+    gradient.ColorList().emplace_back(RGBColor{1, 2, 3}, 1);
+    EXPECT_FALSE(gradientToBytes(gradient));
+}
+
 TEST(GradientBytes, ARecordOfTheRightLengthForNoStopsIsRefused) {
     auto bytes = *gradientToBytes(sample());
     bytes.resize(72 + 4);

@@ -97,6 +97,10 @@ TEST_F(HostFilesTest, UnknownVolumesAndFoldersHaveTheirOwnResults) {
     FileSpec spec;
     EXPECT_EQ(files_.resolve(0, 0, "x", spec), FileResult::NoSuchVolume);
     EXPECT_EQ(files_.resolve(placeholder_.volume, 99, "x", spec), FileResult::NoSuchFolder);
+    EXPECT_EQ(files_.resolve(placeholder_.volume, placeholder_.folder + 1, "x", spec),
+              FileResult::NoSuchFolder)
+        << "the next one to be known";
+    EXPECT_EQ(files_.resolve(placeholder_.volume, 1, "x", spec), FileResult::NoSuchFolder);
     EXPECT_EQ(files_.resolve(placeholder_.volume, 2, ":None:x", spec), FileResult::NoSuchFolder);
     EXPECT_EQ(files_.resolve(placeholder_.volume, 2, ":..:x", spec), FileResult::BadName);
     EXPECT_EQ(files_.remove(FileSpec{}), FileResult::BadName);

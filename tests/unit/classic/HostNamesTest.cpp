@@ -63,6 +63,7 @@ TEST(HostNames, DiskNamesThatTheHostCannotHoldHaveNoHostName) {
          {"\u65E5\u672C.GRD", "\xFF.GRD", "._x", ".", "..", ".easel-save-0123456789abcdef~"})
         EXPECT_EQ(nameInHost(name), std::nullopt) << name;
     EXPECT_EQ(nameInHost(std::string(64, 'x')), std::nullopt);
+    EXPECT_EQ(nameInHost(std::string(63, 'x')), std::string(63, 'x'));
 }
 
 } // namespace

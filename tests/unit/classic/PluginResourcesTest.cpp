@@ -74,11 +74,16 @@ TEST(PluginResources, AlertsCursorsAndIconsAreFound) {
     const auto resources =
         parsed("<alert id='9320' title='T' text='Q?' detail='D' confirm='Yes' decline='No'/>"
                "<cursor id='5000' file='c.svg' hotspot='7 8' size='32 16'/><icon id='5100' file='i.svg'/>");
+    EXPECT_EQ(resources.alert(9320)->title, "T");
     EXPECT_EQ(resources.alert(9320)->text, "Q?");
+    EXPECT_EQ(resources.alert(9320)->detail, "D");
+    EXPECT_EQ(resources.alert(9320)->confirm, "Yes");
     EXPECT_EQ(resources.alert(9320)->decline, "No");
     EXPECT_EQ(resources.cursor(5000)->file, "/plug/In/c.svg");
+    EXPECT_EQ(resources.cursor(5000)->hotH, 7);
     EXPECT_EQ(resources.cursor(5000)->hotV, 8);
     EXPECT_EQ(resources.cursor(5000)->width, 32);
+    EXPECT_EQ(resources.cursor(5000)->height, 16);
     EXPECT_EQ(resources.icon(5100)->file, "/plug/In/i.svg");
 }
 
@@ -95,6 +100,25 @@ TEST(PluginResources, ATextHasUpTo255CharactersAndACursorUpTo256PixelsEachWay) {
         EXPECT_NE(parsed(cursor(size)).cursor(1), nullptr) << size;
     for (const char* const size : {"0 1", "1 0", "257 1", "1 257"})
         EXPECT_NE(refusal(cursor(size)).find("has a size outside 1 to 256"), std::string::npos) << size;
+}
+
+TEST(PluginResources, NumbersHaveSixteenBitsWithASign) {
+    const auto icon = [](const std::string& id) { return "<icon id='" + id + "' file='i.svg'/>"; };
+    EXPECT_NE(parsed(icon("32767")).icon(32767), nullptr);
+    EXPECT_NE(parsed(icon("-32768")).icon(-32768), nullptr);
+    for (const char* const id : {"32768", "-32769"})
+        EXPECT_NE(refusal(icon(id)).find("16-bit"), std::string::npos) << id;
+}
+
+TEST(PluginResources, ADialogHasUpToAThousandItems) {
+    const auto dialog = [](int items) {
+        std::string text = "<dialog id='1' width='1' height='1'>";
+        for (int item = 1; item <= items; ++item)
+            text += "<user item='" + std::to_string(item) + "' bounds='1 1 1 1'/>";
+        return text + "</dialog>";
+    };
+    EXPECT_EQ(parsed(dialog(1000)).dialog(1)->items.size(), 1000U);
+    EXPECT_NE(refusal(dialog(1001)), "accepted");
 }
 
 TEST(PluginResources, WhatIsWrongIsNamedWithTheFileAndTheElement) {

@@ -195,6 +195,14 @@ TEST(ResourceFork, AListThatEndsBeyondTheMapIsDamage) {
     EXPECT_EQ(tests::errorOf(ResourceFork::read(bytes)), ForkDamage::ListOutside) << "all of it is outside";
 }
 
+TEST(ResourceFork, AMapThatIsCutShortIsToldFromOneThatLacksItsList) {
+    auto bytes = *ResourceFork().write();
+    setNumber(bytes, 12, std::uint32_t{28});
+    EXPECT_EQ(tests::errorOf(ResourceFork::read(bytes)), ForkDamage::ListOutside);
+    setNumber(bytes, 12, std::uint32_t{27});
+    EXPECT_EQ(tests::errorOf(ResourceFork::read(bytes)), ForkDamage::MapOutside);
+}
+
 // Two types with one list of so many references to empty resources. The map is as small as that can be.
 Bytes fileWithSharedReferences(std::uint16_t references) {
     const std::uint32_t dataSize = 2U * 4U * references;
@@ -261,14 +269,24 @@ TEST(ResourceFork, WhatTheLayoutHasNoRoomForIsNotWritten) {
     tooManyNames.put(resource(kString, 255, "", std::string(254, 'n')));
     tooManyNames.put(resource(kString, 256, "", "last"));
     EXPECT_EQ(tooManyNames.write(), std::nullopt);
+}
+
+TEST(ResourceFork, AsMuchIsWrittenAsTheLayoutHasRoomFor) {
+    // The map has 16 bits for the place of its names, which begin behind 38 bytes and 12 for each resource.
+    constexpr std::int16_t kMostOfOneType = (65535 - 38) / 12;
     ResourceFork many;
-    for (int id = 0; id < 6000; ++id)
-        many.put(resource(kString, static_cast<std::int16_t>(id), ""));
+    for (std::int16_t id = 0; id < kMostOfOneType; ++id)
+        many.put(resource(kString, id, ""));
+    EXPECT_EQ(ResourceFork::read(many.write().value())->resources().size(), std::size_t{kMostOfOneType});
+    many.put(resource(kString, kMostOfOneType, ""));
     EXPECT_EQ(many.write(), std::nullopt);
-    ResourceFork large;
-    large.put(resource(kString, 0, std::string(1 << 24, 'x')));
-    large.put(resource(kString, 1, ""));
-    EXPECT_EQ(large.write(), std::nullopt);
+    // A resource begins at a place of 24 bits, behind the four bytes with the length of the one before.
+    for (const std::size_t place : {0xFFFFFFU, 0x1000000U}) {
+        ResourceFork large;
+        large.put(resource(kString, 0, std::string(place - 4, 'x')));
+        large.put(resource(kString, 1, ""));
+        EXPECT_EQ(large.write().has_value(), place == 0xFFFFFF);
+    }
 }
 
 } // namespace
