@@ -57,6 +57,32 @@ TEST(MacBinary, HeadersAreAsTheSecondVersionOfTheFormatHasThem) {
     EXPECT_EQ(bytes[124] * 256 + bytes[125], remainderOf(ByteView(bytes).first(124)));
 }
 
+TEST(MacBinary, ForksOfAnySizeAreReadBack) {
+    for (const std::size_t size : {1U, 127U, 128U, 129U, 256U, 257U}) {
+        MacBinaryFile file = sample();
+        file.data = Bytes(size, 5);
+        file.resourceFork = Bytes(size, 7);
+        const auto bytes = writeMacBinary(file);
+        EXPECT_EQ(bytes.size() % 128, 0U) << size;
+        EXPECT_EQ(readMacBinary(bytes), file) << size;
+    }
+}
+
+TEST(MacBinary, ANameHasOneTo63Bytes) {
+    auto file = sample();
+    file.name = std::string(64, 'x');
+    EXPECT_EQ(readMacBinary(writeMacBinary(file))->name, std::string(63, 'x'));
+    auto bytes = writeMacBinary(sample());
+    for (const auto size : {std::uint8_t{0}, std::uint8_t{64}}) {
+        bytes[1] = size;
+        setNumber(bytes, 124, remainderOf(ByteView(bytes).first(124)));
+        EXPECT_FALSE(readMacBinary(bytes)) << int{size};
+    }
+    bytes[1] = 63;
+    setNumber(bytes, 124, remainderOf(ByteView(bytes).first(124)));
+    EXPECT_TRUE(readMacBinary(bytes));
+}
+
 TEST(MacBinary, EveryChangeOfTheHeaderIsNoticed) {
     auto bytes = writeMacBinary({"x", {}, {}, {}, 0});
     EXPECT_TRUE(readMacBinary(bytes));

@@ -18,6 +18,11 @@ constexpr const char* kResources = R"(<resources>
     <radio item="6" bounds="92 10 99 110" title="Cheap"/>
   </dialog>
   <dialog id="6" width="200" height="100"><popup item="1" bounds="70 10 90 110" menu="5"/></dialog>
+  <dialog id="4" width="80" height="50">
+    <separator item="1" bounds="1 1 9 9"/>
+    <edit item="2" bounds="1 1 9 9" number="yes"/>
+    <button item="3" bounds="1 1 9 9" title="Caf&#233;" cancel="yes" align="center"/>
+  </dialog>
   <menu id="5"/>
   <menu id="8"><entry>One&#8230;</entry><separator/><entry enabled="no">Three</entry></menu>
   <alert id="9" title="Sure" confirm="Do it" decline="Leave it" text="Really?" detail="It is final."/>
@@ -51,6 +56,28 @@ TEST_F(DialogResourcesTest, ADialogHasItsItemsWithPlacesTextsAndKinds) {
     EXPECT_EQ(made->items[2].tooltip, "In crowns");
     EXPECT_EQ(made->items[3].bounds, (paint::PixelRect{.left = 10, .top = 40, .right = 190, .bottom = 60}));
     EXPECT_EQ(made->items[5].kind, ItemKind::Radio);
+}
+
+TEST_F(DialogResourcesTest, ADialogsItemsAreEnabledUnlessTheySeparateOthers) {
+    const auto made = dialog(4);
+    ASSERT_TRUE(made);
+    EXPECT_EQ(made->id, 4);
+    EXPECT_EQ(made->height, 50);
+    const DialogItem& separator = made->items[0];
+    EXPECT_EQ(separator.kind, ItemKind::UserDrawn);
+    EXPECT_TRUE(separator.divider);
+    EXPECT_FALSE(separator.enabled);
+    const DialogItem& field = made->items[1];
+    EXPECT_EQ(field.number, 2);
+    EXPECT_TRUE(field.enabled);
+    EXPECT_FALSE(field.divider);
+    EXPECT_TRUE(field.isNumber);
+    EXPECT_EQ(field.alignment, TextAlignment::Left);
+    const DialogItem& button = made->items[2];
+    EXPECT_EQ(button.role, ButtonRole::Cancel);
+    EXPECT_EQ(button.text, "Caf\x8e");
+    EXPECT_EQ(button.alignment, TextAlignment::Center);
+    EXPECT_FALSE(button.isNumber);
 }
 
 TEST_F(DialogResourcesTest, APopupShowsItsMenuAndEveryDialogHasAMenuOfItsOwn) {

@@ -59,6 +59,13 @@ TEST_F(OrnamentsTest, AShadowLiesTwoPixelsBelowAndToTheRightOfItsSwatch) {
     EXPECT_EQ(port_.state(), before_);
 }
 
+TEST_F(OrnamentsTest, ARimGoesAroundTheSwatchWhereTheThemeHasOne) {
+    drawShadow(port_, {.shadow = kPaper, .rim = kInk}, {.left = 1, .top = 1, .right = 4, .bottom = 4});
+    EXPECT_THAT(rowsOf(port_),
+                ElementsAre("#####..", "#...#..", "#...#..", "#...#..", "#####..", ".......", "......."));
+    EXPECT_EQ(port_.state(), before_);
+}
+
 TEST(ThemeColor, EachLevelIsTheChannelThatIsShownAsThatLevel) {
     EXPECT_EQ(portColorOf(0x123456), (drawing::Rgb16{0x1212, 0x3434, 0x5656}));
     EXPECT_EQ(portColorOf(0xff0001), (drawing::Rgb16{0xffff, 0, 0x0101}));
