@@ -133,11 +133,15 @@ Box Path::bounds() const {
 
 Path Path::transformed(const Affine& map) const {
     Path result = *this;
-    if (map == Affine())
-        return result;
-    for (Point& p : result.memory_.ownPoints())
-        p = map(p);
+    result.transform(map);
     return result;
+}
+
+void Path::transform(const Affine& map) {
+    if (map == Affine())
+        return;
+    for (Point& p : memory_.ownPoints())
+        p = map(p);
 }
 
 } // namespace easel::drawing

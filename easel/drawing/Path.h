@@ -34,6 +34,8 @@ class Path {
     // finite are left out.
     Box bounds() const;
     Path transformed(const Affine& map) const;
+    // The same in the path's own memory, unless copies share it.
+    void transform(const Affine& map);
 
     friend bool operator==(const Path& a, const Path& b);
 

@@ -120,13 +120,13 @@ std::optional<ClipShape> ClipReader::shapeOf(pugi::xml_node element, const Place
     inside.style = place.style.inherited(stated, inside.lengths);
     if (equalIgnoringCase(stated[Property::Display], "none"))
         return std::nullopt;
-    const auto shape = visibleShape(element, stated, inside);
+    auto shape = visibleShape(element, stated, inside);
     if (!shape)
         return std::nullopt;
     scene_.budget.spend(Budget::kObject + shape->outline.points().size());
     const Box box = shape->box();
     inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, box);
-    auto outline = placedPath(shape->outline, inside.toDrawing);
+    auto outline = placedPath(std::move(shape->outline), inside.toDrawing);
     if (!outline) {
         scene_.notes.add(Unsupported::OutOfRange);
         return std::nullopt;

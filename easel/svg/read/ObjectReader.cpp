@@ -140,10 +140,13 @@ FillPattern patternOf(const Paint& fill) {
 
 } // namespace
 
-std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& shape, double opacity,
+std::optional<Object> ObjectReader::read(pugi::xml_node element, Shape shape, double opacity,
                                          const Place& place) {
     scene_.budget.spend(Budget::kObject + shape.outline.points().size());
-    auto outline = placedPath(shape.outline, place.toDrawing);
+    const PaintPlace at{shape.box(), place.toDrawing, place.lengths};
+    // The outline is moved in its place unless dashes are measured along it.
+    const drawing::Path stated = place.style.dashes ? shape.outline : drawing::Path();
+    auto outline = placedPath(std::move(shape.outline), place.toDrawing);
     if (!outline || !strokeInRange(place.style)) {
         scene_.notes.add(Unsupported::OutOfRange);
         return std::nullopt;
@@ -154,7 +157,6 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
     object.fillRule = place.style.fillRule;
     object.outline = std::move(*outline);
     object.units = sharedUnits(place.toDrawing);
-    const PaintPlace at{shape.box(), place.toDrawing, place.lengths};
     setFill(object, at, place.style);
     // A path that is neither closed nor filled is a line; only closed shapes take a gradient.
     if (object.kind == Kind::Path && object.fillPattern == FillPattern::None && !object.outline.closed())
@@ -175,7 +177,7 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, const Shape& sh
         style.stroke.dashOffset = place.style.dashOffset;
         if (place.style.dashes)
             style.stroke.dashes = *place.style.dashes;
-        scaleDashes(style.stroke, element, place.style.fixedStroke ? object.outline : shape.outline);
+        scaleDashes(style.stroke, element, place.style.fixedStroke ? object.outline : stated);
     }
     object.style = shared(std::move(style));
     return object;

@@ -23,7 +23,7 @@ class ObjectReader {
 
     // The object without its group. `place` is inside the element: its style and units are the element's own.
     // Nothing, which is noted, if its numbers are out of range.
-    std::optional<drawing::Object> read(pugi::xml_node element, const Shape& shape, double opacity,
+    std::optional<drawing::Object> read(pugi::xml_node element, Shape shape, double opacity,
                                         const Place& place);
 
     // A picture, still without what it shows. The outline is in the element's own units.

@@ -30,13 +30,13 @@ Place placeAround(const Scene& scene, pugi::xml_node element) {
     return place;
 }
 
-std::optional<drawing::Path> placedPath(const drawing::Path& path, const drawing::Affine& toDrawing) {
-    drawing::Path placed = path.transformed(toDrawing);
+std::optional<drawing::Path> placedPath(drawing::Path path, const drawing::Affine& toDrawing) {
+    path.transform(toDrawing);
     const auto near = [](drawing::Point p) { return inRange(p.x) && inRange(p.y); };
-    const auto points = placed.points();
+    const auto points = path.points();
     if (!std::all_of(points.begin(), points.end(), near))
         return std::nullopt;
-    return placed;
+    return path;
 }
 
 } // namespace easel::svg

@@ -47,8 +47,9 @@ struct Place {
 // The style that the elements around hand down to one, wherever it is shown.
 Place placeAround(const Scene& scene, pugi::xml_node element);
 
-// The path in drawing coordinates. Nothing if a coordinate is beyond what is computed with.
-std::optional<drawing::Path> placedPath(const drawing::Path& path, const drawing::Affine& toDrawing);
+// The path in drawing coordinates, in its own memory unless somebody shares it. Nothing if a coordinate is
+// beyond what is computed with.
+std::optional<drawing::Path> placedPath(drawing::Path path, const drawing::Affine& toDrawing);
 
 // Whether the number is one that can be computed with.
 bool inRange(double value);

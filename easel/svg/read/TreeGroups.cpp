@@ -82,10 +82,10 @@ Box TreeReader::boxOf(const WaitingGroup& waiting) const {
     return box;
 }
 
-void TreeReader::addHidden(const Shape& shape, const Place& place) {
-    scene_.budget.spend(Budget::kObject + shape.outline.points().size());
-    if (auto outline = placedPath(shape.outline, place.toDrawing))
-        hidden_.push_back(std::move(*outline));
+void TreeReader::addHidden(drawing::Path outline, const Place& place) {
+    scene_.budget.spend(Budget::kObject + outline.points().size());
+    if (auto placed = placedPath(std::move(outline), place.toDrawing))
+        hidden_.push_back(std::move(*placed));
 }
 
 bool TreeReader::asksForBox(const StatedStyle& stated) const {

@@ -50,7 +50,7 @@ std::optional<TreeReader::PictureFrame> TreeReader::framePicture(pugi::xml_node 
         return std::nullopt;
     inside.toDrawing = inside.toDrawing * transformOf(stated, inside.lengths, frame.viewport);
     if (!inside.style.visible) {
-        addHidden({drawing::Kind::Picture, drawing::rectanglePath(frame.viewport), {}}, inside);
+        addHidden(drawing::rectanglePath(frame.viewport), inside);
         return std::nullopt;
     }
     frame.fit =

@@ -21,11 +21,16 @@ bool takesMarkers(drawing::Kind kind) {
 
 } // namespace
 
-void TreeReader::addMarkers(drawing::Object& object, const Shape& shape, const Place& place) {
+bool TreeReader::hasMarkers(const Shape& shape, const Place& place) {
     const auto& ids = place.style.markers;
     const auto isNone = [](std::string_view id) { return id.empty(); };
-    if (!takesMarkers(shape.kind) || std::all_of(ids.begin(), ids.end(), isNone))
+    return takesMarkers(shape.kind) && !std::all_of(ids.begin(), ids.end(), isNone);
+}
+
+void TreeReader::addMarkers(drawing::Object& object, const Shape& shape, const Place& place) {
+    if (!hasMarkers(shape, place))
         return;
+    const auto& ids = place.style.markers;
     Place context = place;
     context.style.context = reader_.contextOf(ContextPaints::Giver::Shape, shape.box(), place);
     std::vector<drawing::ObjectPtr> markers;

@@ -202,20 +202,23 @@ void TreeReader::readShapeElement(pugi::xml_node element, std::string_view name,
     if (!start || isOutOfSight(*start))
         return;
     auto& [stated, inside] = *start;
-    const auto shape = readShape(element, name, stated, inside.lengths);
+    auto shape = readShape(element, name, stated, inside.lengths);
     if (!shape)
         return;
     const Box box = shape->outline.bounds();
     inside.toDrawing = place.toDrawing * transformOf(stated, inside.lengths, box);
     if (!inside.style.visible)
-        return addHidden(*shape, inside);
+        return addHidden(std::move(shape->outline), inside);
     noteEffects(stated);
     for (const pugi::xml_node child : element.children())
         scene_.notes.addElement(scene_.tree.svgName(child));
-    auto object = reader_.read(element, *shape, parseOpacity(stated[Property::Opacity], 1), inside);
+    // Markers stand on the shape as it is stated; without them it is moved in its place.
+    const Shape marked = hasMarkers(*shape, inside) ? *shape : Shape();
+    auto object =
+        reader_.read(element, *std::move(shape), parseOpacity(stated[Property::Opacity], 1), inside);
     if (!object)
         return;
-    addMarkers(*object, *shape, inside);
+    addMarkers(*object, marked, inside);
     addObject(std::move(*object), element, stated, box, std::move(inside));
 }
 

@@ -129,6 +129,7 @@ class TreeReader {
     void readTextElement(pugi::xml_node element, const Place& place);
     std::optional<drawing::Object> textObject(pugi::xml_node element, const TextShape& text, double opacity,
                                               const Place& place);
+    static bool hasMarkers(const Shape& shape, const Place& place);
     void addMarkers(drawing::Object& object, const Shape& shape, const Place& place);
     void readMarker(pugi::xml_node marker, const MarkerVertex& vertex, const Place& shape,
                     std::vector<drawing::ObjectPtr>& markers);
@@ -191,7 +192,7 @@ class TreeReader {
     static bool showsOverflow(const StatedStyle& stated);
     void noteEffects(const StatedStyle& stated);
     // Keeps the box of a shape that is not shown for those that ask for the box of a group.
-    void addHidden(const Shape& shape, const Place& place);
+    void addHidden(drawing::Path outline, const Place& place);
     void addSource(drawing::Object& object, pugi::xml_node element, const Place& place);
     void addUseInstance(pugi::xml_node use, pugi::xml_node target, Place& place);
     void tick();

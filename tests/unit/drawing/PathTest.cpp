@@ -99,6 +99,27 @@ TEST(Path, AMapThatMovesNothingTakesNoMemory) {
     EXPECT_EQ(path.transformed(Affine()).points().data(), path.points().data());
 }
 
+TEST(Path, IsMappedInItsOwnMemoryUnlessACopySharesIt) {
+    const Affine map = Affine::translation(3, -1) * Affine::rotation(30) * Affine::scaling(2, 5);
+    const std::vector<Point> corners = {{0, 0}, {4, 1}, {-2, 7.5}};
+    const std::vector<Point> mapped = {map(corners[0]), map(corners[1]), map(corners[2])};
+
+    Path path = polygonPath(corners);
+    const Point* const memory = path.points().data();
+    const Path shared = path;
+    path.transform(map);
+    EXPECT_EQ(path, polygonPath(mapped));
+    EXPECT_EQ(shared, polygonPath(corners));
+
+    Path alone = shared.transformed(map.inverse());
+    const Point* const own = alone.points().data();
+    EXPECT_NE(own, memory);
+    const Path expected = alone.transformed(map);
+    alone.transform(map);
+    EXPECT_EQ(alone.points().data(), own);
+    EXPECT_EQ(alone, expected);
+}
+
 TEST(Path, KeepsOrderHoweverLongItGrowsAndWhenItIsShrunk) {
     Path path;
     path.moveTo({0, 0});
