@@ -3,6 +3,7 @@
 #include "easel/svg/text/Arc.h"
 #include "easel/svg/text/Scanner.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -13,9 +14,19 @@ using drawing::Point;
 
 namespace {
 
+// From so many letters on, room is made for all steps at once: each takes two letters at least. What grows
+// and shrinks leaves memory behind that nobody uses; of room that is never used the system gives none.
+constexpr std::size_t kLongText = std::size_t{1} << 20;
+// Not for more than these: a system that promises no more than it has would refuse so much.
+constexpr std::size_t kLettersWithRoom = kLongText * 64;
+
 class PathParser {
   public:
-    explicit PathParser(std::string_view text) : scanner_(text) {}
+    explicit PathParser(std::string_view text) : scanner_(text) {
+        const std::size_t steps = std::min(text.size(), kLettersWithRoom) / 2;
+        if (text.size() >= kLongText)
+            path_.reserve(steps, steps);
+    }
 
     PathData parse() {
         scanner_.skipSpaces();
