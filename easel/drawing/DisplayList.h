@@ -15,6 +15,8 @@ namespace easel::drawing {
 class DisplayList {
   public:
     std::size_t size() const { return size_; }
+    // Slots that were given out, in the list or not.
+    std::size_t slotCount() const { return blockOf_.size(); }
     bool holds(Slot slot) const;
     // index < size()
     Slot slotAt(std::size_t index) const;

@@ -36,43 +36,59 @@ float atLeast(double value) {
 TreeBox treeBox(const Box& box) {
     return {{atMost(box.left), atMost(box.top)}, {atLeast(box.right), atLeast(box.bottom)}};
 }
+
+// Building a tree takes more memory beside it than the tree itself: that of one of several at most.
+constexpr Slot kSlotsOfATree = Slot{1} << 17;
 } // namespace
 
 struct PlaceIndex::Tree {
     bg::index::rtree<TreeValue, bg::index::quadratic<16>> values;
 };
 
-PlaceIndex::PlaceIndex() : tree_(std::make_unique<Tree>()) {}
+PlaceIndex::PlaceIndex() = default;
 PlaceIndex::~PlaceIndex() = default;
 PlaceIndex::PlaceIndex(PlaceIndex&&) noexcept = default;
 PlaceIndex& PlaceIndex::operator=(PlaceIndex&&) noexcept = default;
 
 void PlaceIndex::assign(Slot count, const std::function<Box(Slot)>& boxOf) {
+    trees_.clear();
     std::vector<TreeValue> values;
-    values.reserve(count);
-    for (Slot slot = 0; slot < count; ++slot)
-        if (const Box box = boxOf(slot); !box.empty())
-            values.emplace_back(treeBox(box), slot);
-    tree_->values = decltype(tree_->values)(values);
+    values.reserve(std::min(count, kSlotsOfATree));
+    for (Slot slot = 0; slot < count;) {
+        const Slot end = slot + std::min(count - slot, kSlotsOfATree);
+        values.clear();
+        for (; slot < end; ++slot)
+            if (const Box box = boxOf(slot); !box.empty())
+                values.emplace_back(treeBox(box), slot);
+        trees_.push_back(std::make_unique<Tree>(Tree{decltype(Tree::values)(values)}));
+    }
+}
+
+PlaceIndex::Tree& PlaceIndex::treeOf(Slot slot) {
+    const std::size_t number = slot / kSlotsOfATree;
+    while (trees_.size() <= number)
+        trees_.push_back(std::make_unique<Tree>());
+    return *trees_[number];
 }
 
 void PlaceIndex::insert(const Box& box, Slot slot) {
     if (!box.empty())
-        tree_->values.insert(TreeValue(treeBox(box), slot));
+        treeOf(slot).values.insert(TreeValue(treeBox(box), slot));
 }
 
 void PlaceIndex::erase(const Box& box, Slot slot) {
     if (!box.empty())
-        tree_->values.remove(TreeValue(treeBox(box), slot));
+        treeOf(slot).values.remove(TreeValue(treeBox(box), slot));
 }
 
 std::vector<Slot> PlaceIndex::within(const Box& area) const {
     std::vector<Slot> found;
     if (area.empty())
         return found;
-    for (auto it = tree_->values.qbegin(bg::index::intersects(treeBox(area))); it != tree_->values.qend();
-         ++it)
-        found.push_back(it->second);
+    const auto meetsArea = bg::index::intersects(treeBox(area));
+    for (const auto& tree : trees_)
+        for (auto it = tree->values.qbegin(meetsArea); it != tree->values.qend(); ++it)
+            found.push_back(it->second);
     return found;
 }
 

@@ -27,7 +27,10 @@ class PlaceIndex {
 
   private:
     struct Tree;
-    std::unique_ptr<Tree> tree_;
+
+    Tree& treeOf(Slot slot);
+
+    std::vector<std::unique_ptr<Tree>> trees_; // each for the slots of one range
 };
 
 } // namespace easel::drawing

@@ -139,6 +139,24 @@ TEST(PlaceIndex, FindsBoxesThatTheAreaMeetsAndNoOthersFarAway) {
     EXPECT_EQ(sortedWithin(places, {-100, -100, 100, 100}), std::vector<Slot>{0});
 }
 
+// So many that they lie in several trees.
+TEST(PlaceIndex, FindsBoxesOfVeryManySlots) {
+    constexpr Slot kCount = 300'000;
+    const auto boxOf = [](Slot slot) { return Box{1.0 * slot, 0, 1.0 * slot, 1}; };
+    PlaceIndex places;
+    places.assign(kCount, boxOf);
+    for (const Slot slot : {0U, 131'071U, 131'072U, 262'144U, kCount - 1}) {
+        EXPECT_EQ(sortedWithin(places, boxOf(slot)), std::vector<Slot>{slot});
+        places.erase(boxOf(slot), slot);
+        EXPECT_EQ(sortedWithin(places, boxOf(slot)), std::vector<Slot>{});
+    }
+    const Slot later = 1'000'000;
+    places.insert({7.5, 0, 7.5, 1}, later);
+    EXPECT_EQ(sortedWithin(places, {7, 0, 8, 1}), (std::vector<Slot>{7, 8, later}));
+    assign(places, {{0, 0, 1, 1}});
+    EXPECT_EQ(sortedWithin(places, {0, 0, kCount, 1}), std::vector<Slot>{0});
+}
+
 TEST(PlaceIndex, HasNoPlaceForNothing) {
     PlaceIndex places;
     assign(places, {Box(), {5, 5, 5, 5}});

@@ -262,7 +262,7 @@ TEST(DrawingPlaces, PicksAndFindsWhatALookAtEachObjectWould) {
             if (distanceFrom(objects[i]->bounds, p) <= reach)
                 front = i;
         EXPECT_EQ(drawing.pick(p, reach, KindSet::all()), front) << round;
-        const Box area{p.x, p.y, p.x + number(0, 200), p.y + number(0, 200)};
+        const Box area{p.x, p.y, p.x + number(0, 900), p.y + number(0, 900)};
         std::vector<ObjectPtr> within;
         for (const ObjectPtr& object : objects)
             if (object->bounds.overlaps(area))
