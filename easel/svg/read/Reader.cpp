@@ -88,7 +88,6 @@ Content readContent(Source& source, const ReadOptions& options) {
     const Scene scene{tree, cascade, servers, budget, notes, around, fonts};
     TreeReader reader(scene, source, options.progress);
     reader.readRoot();
-    source.objects.shrink_to_fit();
     if (servers.circular())
         notes.add(Unsupported::Circle);
     if (servers.linearLight())
@@ -106,6 +105,7 @@ Drawing readDrawing(std::string bytes, std::filesystem::path file, const ReadOpt
         throw ReadError{std::make_error_code(std::errc::file_too_large), "the file is too large"};
     const bool large = source->text().size() > kLargeText;
     Content content = readContent(*source, options);
+    source->objects.shrinkToFit();
     Drawing drawing(content.size.width, content.size.height, std::move(content.objects), std::move(source),
                     std::move(content.notes));
     if (large)

@@ -242,7 +242,7 @@ void TreeReader::addSource(Object& object, pugi::xml_node element, const Place& 
     const std::size_t begin = scene_.tree.tagBegin(element);
     object.source = {static_cast<std::uint32_t>(begin),
                      static_cast<std::uint32_t>(tagEnd(source_.text(), begin)), place.use};
-    source_.objects.push_back(object.source);
+    source_.objects.add(object.source);
     if (asksForContext(place.style.fill))
         source_.contextFills.insert(object.source);
     if (asksForContext(place.style.stroke))

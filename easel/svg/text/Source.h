@@ -3,6 +3,7 @@
 
 #include "easel/drawing/Drawing.h"
 #include "easel/svg/text/Encoding.h"
+#include "easel/svg/text/PackedSpans.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -44,7 +45,7 @@ struct Source : drawing::DocumentSource {
     drawing::Affine rootToDrawing;
     bool sheetsStateFill = false;
     bool sheetsStateStroke = false;
-    std::vector<drawing::ElementSpan> objects; // of every object that was read, in the drawing's order
+    PackedSpans objects; // the elements of every object that was read, in the drawing's order
     // Those of them that take their fill or stroke from a `use` element.
     std::set<drawing::ElementSpan> contextFills, contextStrokes;
     std::vector<UseInstance> useInstances; // number 1 is the first

@@ -35,7 +35,7 @@ std::vector<ObjectPtr> inFileOrder(const Snapshot& drawing) {
     });
     std::vector<ObjectPtr> objects;
     if (const auto* const source = dynamic_cast<const Source*>(drawing.source.get()))
-        for (const ElementSpan& element : source->objects)
+        for (const ElementSpan& element : source->objects.all())
             if (const auto found = kept.find(element); found != kept.end())
                 objects.push_back(found->second);
     objects.insert(objects.end(), added.begin(), added.end());

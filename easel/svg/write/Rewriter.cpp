@@ -95,7 +95,7 @@ void Rewriter::gatherChanges() {
         if (object->source.inFile())
             present.push_back(object->source);
     });
-    std::vector<ElementSpan> known = source_.objects;
+    std::vector<ElementSpan> known = source_.objects.all();
     std::sort(known.begin(), known.end());
     std::sort(present.begin(), present.end());
     std::vector<ElementSpan> missing;
@@ -181,7 +181,7 @@ void Rewriter::keepCopiesOf(std::uint32_t tag) {
 }
 
 void Rewriter::gatherCopies() {
-    for (const ElementSpan& element : source_.objects)
+    for (const ElementSpan& element : source_.objects.all())
         if (element.use != 0)
             copies_.emplace(element.tagBegin, element.use);
     for (const UseInstance& inner : source_.useInstances)
