@@ -15,12 +15,12 @@ std::size_t DrawnFont::add(DrawnGlyph glyph) {
     return number;
 }
 
-const DrawnGlyph* DrawnFont::match(std::u32string_view characters) const {
-    const auto known = byFirst_.find(characters.front());
+const DrawnGlyph* DrawnFont::match(std::u32string_view letters) const {
+    const auto known = byFirst_.find(letters.front());
     if (known == byFirst_.end())
         return nullptr;
     for (const std::size_t number : known->second)
-        if (characters.starts_with(glyphs_[number].characters))
+        if (letters.starts_with(glyphs_[number].characters))
             return &glyphs_[number];
     return nullptr;
 }

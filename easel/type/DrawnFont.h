@@ -30,14 +30,15 @@ class DrawnFont {
   public:
     Font font; // the one family it is for, and how its letters look
     bool anyWeight = false;
+    std::vector<Characters> characters; // that it is for; none: all
     FontMetrics metrics;
 
     // Glyphs are numbered in the order they come in; the first that fits is taken.
     std::size_t add(DrawnGlyph glyph);
     const DrawnGlyph& glyph(std::size_t number) const { return glyphs_[number]; }
     std::size_t size() const { return glyphs_.size(); }
-    // The glyph that stands for what the characters begin with; null: none does.
-    const DrawnGlyph* match(std::u32string_view characters) const;
+    // The glyph that stands for what the letters begin with; null: none does.
+    const DrawnGlyph* match(std::u32string_view letters) const;
     const DrawnGlyph* missing() const;
 
     // Moves any of the one glyphs and any of the others that follow them nearer to each other.

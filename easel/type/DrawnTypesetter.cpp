@@ -1,13 +1,10 @@
 #include "easel/type/DrawnTypesetter.h"
 
-#include "easel/text/Ascii.h"
 #include "easel/text/Utf8.h"
 #include "easel/type/StandingLetters.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace easel::type {
@@ -16,36 +13,23 @@ using drawing::Affine;
 
 namespace {
 
-// The smaller, the nearer to what is asked for.
-int distance(const Font& font, bool anyWeight, const Font& asked) {
-    constexpr int kOtherSlant = 10000;
-    const bool sameSlant = (font.slant == Slant::Upright) == (asked.slant == Slant::Upright);
-    return (sameSlant ? 0 : kOtherSlant) + (anyWeight ? 0 : std::abs(font.weight - asked.weight));
-}
-
-bool isOf(const Font& font, const std::string& family) {
-    return text::equalIgnoringCase(font.families, family);
-}
-
 // Letters that are bold are not made bolder, and those that lean lean enough.
 Look lookOf(const LoadedFace& face, const Font& asked, bool rightToLeft) {
     constexpr int kBold = 600;
-    return {asked.weight >= kBold && face.font.weight < kBold,
-            asked.slant != Slant::Upright && face.font.slant == Slant::Upright, asked.ligatures, rightToLeft,
-            asked.language};
+    const auto said = face.weights;
+    const Weights own = (said ? said : face.letters->weights()).value_or(Weights{0, face.font.weight});
+    return {asked.weight >= kBold && own.most < kBold,
+            asked.slant != Slant::Upright && face.font.slant == Slant::Upright,
+            asked.ligatures,
+            rightToLeft,
+            asked.language,
+            own.nearest(asked.weight)};
 }
 
 // What says how other letters are to be set goes with them.
 bool goesWithOthers(char32_t c) {
     return (c >= 0x200B && c <= 0x200F) || (c >= 0x202A && c <= 0x202E) || (c >= 0x2060 && c <= 0x2069) ||
            (c >= 0xFE00 && c <= 0xFE0F);
-}
-
-// The font of the system that stands in for one.
-Font instead(const LoadedFace& face, const Font& asked) {
-    Font font = asked;
-    font.families = face.systemFamily + ',' + asked.families;
-    return font;
 }
 
 std::size_t lengthOf(std::u32string_view characters) {
@@ -59,59 +43,21 @@ std::size_t lengthOf(std::u32string_view characters) {
 
 DrawnTypesetter::DrawnTypesetter(std::vector<DrawnFont> fonts, Typesetter& others,
                                  std::vector<LoadedFace> loaded)
-    : fonts_(std::move(fonts)), loaded_(std::move(loaded)), others_(others) {
-    for (DrawnFont& font : fonts_)
+    : own_{std::move(fonts), std::move(loaded)}, others_(others) {
+    for (DrawnFont& font : own_.drawn)
         font.sealFace();
 }
 
 bool DrawnTypesetter::has(const std::string& family) {
-    const Choice own = nearest(family, {});
-    return own.drawn || own.loaded || others_.has(family);
-}
-
-DrawnTypesetter::Choice DrawnTypesetter::nearest(const std::string& family, const Font& asked) const {
-    Choice choice;
-    int least = std::numeric_limits<int>::max();
-    const auto isNearer = [&](const Font& font, bool anyWeight) {
-        const int away = isOf(font, family) ? distance(font, anyWeight, asked) : least;
-        if (away >= least)
-            return false;
-        least = away;
-        return true;
-    };
-    for (const LoadedFace& face : loaded_)
-        if (isNearer(face.font, false))
-            choice = {nullptr, &face};
-    for (const DrawnFont& font : fonts_)
-        if (isNearer(font.font, font.anyWeight))
-            choice = {&font, nullptr};
-    return choice;
-}
-
-DrawnTypesetter::Choice DrawnTypesetter::choose(const Font& font) {
-    const std::string& names = font.families;
-    for (std::size_t begin = 0; begin <= names.size();) {
-        const std::size_t end = std::min(names.find(',', begin), names.size());
-        const std::string name = names.substr(begin, end - begin);
-        Choice choice = nearest(name, font);
-        choice.isLast = end == names.size();
-        if (choice.drawn || choice.loaded)
-            return choice;
-        if (others_.has(name))
-            return {};
-        begin = end + 1;
-    }
-    return {};
+    return own_.has(family) || others_.has(family);
 }
 
 FontMetrics DrawnTypesetter::metrics(const Font& font) {
-    const Choice choice = choose(font);
-    if (choice.drawn)
-        return choice.drawn->metrics;
-    if (!choice.loaded)
-        return others_.metrics(font);
-    return choice.loaded->letters ? choice.loaded->letters->metrics()
-                                  : others_.metrics(instead(*choice.loaded, font));
+    const FontChoice choice(own_, others_, std::make_shared<const Font>(font));
+    const ChosenFont& main = choice.main();
+    if (main.drawn)
+        return main.drawn->metrics;
+    return main.loaded ? main.loaded->letters->metrics() : others_.metrics(*main.system);
 }
 
 std::vector<Cluster> DrawnTypesetter::shape(const Line& line) {
@@ -133,86 +79,77 @@ std::vector<Cluster> DrawnTypesetter::shape(const Line& line) {
 
 void DrawnTypesetter::addRun(std::vector<Part>& parts, const Line& line, std::size_t begin,
                              const FontRun& run) {
-    const Choice choice = choose(*run.font);
-    if (choice.drawn)
-        return addDrawn(parts, line, begin, run, choice);
-    if (choice.loaded && choice.loaded->letters)
-        return addLoaded(parts, line, begin, run, *choice.loaded);
-    if (choice.loaded)
-        return addOthers(parts, begin,
-                         {run.end, std::make_shared<const Font>(instead(*choice.loaded, *run.font))});
-    addOthers(parts, begin, run);
+    const FontChoice choice(own_, others_, run.font);
+    if (choice.isSystemAlone())
+        return addOthers(parts, begin, run, false);
+    const std::vector<char32_t> points =
+        text::codePointsOf(std::string_view(line.text).substr(begin, run.end - begin));
+    std::u32string_view rest(points.data(), points.size());
+    Next last;
+    for (std::size_t at = begin; !rest.empty(); at = last.end) {
+        Next next;
+        const bool goesAlong = at > begin && !last.found.font.drawn && goesWithOthers(rest.front());
+        next.found = goesAlong ? last.found : choice.of(rest);
+        const DrawnGlyph* const glyph = next.found.glyph;
+        const std::size_t count = glyph && !glyph->characters.empty() ? glyph->characters.size() : 1;
+        next.begin = at;
+        next.end = at + lengthOf(rest.substr(0, count));
+        next.first = rest.front();
+        next.goesOn = at > begin && next.found.font == last.found.font;
+        next.before = next.goesOn ? last.found.glyph : nullptr;
+        add(parts, line, run, next);
+        last = std::move(next);
+        rest.remove_prefix(count);
+    }
 }
 
-void DrawnTypesetter::addOthers(std::vector<Part>& parts, std::size_t begin, const FontRun& run) {
+void DrawnTypesetter::add(std::vector<Part>& parts, const Line& line, const FontRun& run, const Next& next) {
+    const ChosenFont& font = next.found.font;
+    if (font.drawn)
+        return addDrawn(parts, line, next);
+    if (!font.loaded)
+        return addOthers(parts, next.begin, {next.end, font.system}, next.goesOn);
+    if (!next.goesOn)
+        parts.push_back({next.begin,
+                         next.end,
+                         {},
+                         font.loaded->letters.get(),
+                         lookOf(*font.loaded, *run.font, line.rightToLeft),
+                         {}});
+    parts.back().end = next.end;
+}
+
+void DrawnTypesetter::addOthers(std::vector<Part>& parts, std::size_t begin, const FontRun& run,
+                                bool goesOn) {
     if (parts.empty() || parts.back().runs.empty())
         parts.push_back({begin, begin, {}, nullptr, {}, {}});
     Part& part = parts.back();
     part.end = run.end;
-    part.runs.push_back({run.end - part.begin, run.font});
+    if (!goesOn)
+        part.runs.push_back({0, run.font});
+    part.runs.back().end = run.end - part.begin;
 }
 
-void DrawnTypesetter::addLoaded(std::vector<Part>& parts, const Line& line, std::size_t begin,
-                                const FontRun& run, const LoadedFace& face) {
-    std::size_t at = begin;
-    bool isFirst = true;
-    for (const char32_t character :
-         text::codePointsOf(std::string_view(line.text).substr(begin, run.end - begin))) {
-        const std::size_t end = at + lengthOf({&character, 1});
-        // What the font lacks is for the next family, or for whichever the system has it in.
-        const bool isOthers =
-            !isFirst && goesWithOthers(character) ? !parts.back().loaded : !face.letters->has(character);
-        if (isOthers) {
-            addOthers(parts, at, {end, run.font});
-        } else {
-            if (isFirst || !parts.back().loaded)
-                parts.push_back(
-                    {at, at, {}, face.letters.get(), lookOf(face, *run.font, line.rightToLeft), {}});
-            parts.back().end = end;
-        }
-        isFirst = false;
-        at = end;
-    }
-}
-
-void DrawnTypesetter::addDrawn(std::vector<Part>& parts, const Line& line, std::size_t begin,
-                               const FontRun& run, const Choice& choice) {
-    const std::vector<char32_t> points =
-        text::codePointsOf(std::string_view(line.text).substr(begin, run.end - begin));
-    std::u32string_view rest(points.data(), points.size());
-    const DrawnGlyph* last = nullptr;
-    for (std::size_t at = begin; !rest.empty();) {
-        const DrawnGlyph* glyph = choice.drawn->match(rest);
-        const std::size_t count = glyph ? glyph->characters.size() : 1;
-        const std::size_t end = at + lengthOf(rest.substr(0, count));
-        // What the font lacks is for the next family, and the sign for that only without one.
-        if (!glyph && choice.isLast)
-            glyph = choice.drawn->missing();
-        if (!glyph) {
-            addOthers(parts, at, {end, run.font});
-        } else {
-            if (parts.empty() || !parts.back().isDrawn())
-                parts.push_back({at, at, {}, nullptr, {}, {}});
-            Part& part = parts.back();
-            const bool isUpright = line.vertical && stands(rest.front(), line.upright);
-            if (last && !part.clusters.empty() && part.clusters.back().upright == isUpright)
-                part.clusters.back().advance -=
-                    choice.drawn->kerning(isUpright ? Follow::Down : Follow::Across, *last, *glyph);
-            const drawing::Point origin = isUpright ? glyph->top : drawing::Point();
-            part.clusters.push_back({at,
-                                     end,
-                                     glyph->outline.transformed(Affine::translation(-origin.x, -origin.y)),
-                                     isUpright ? glyph->down : glyph->advance,
-                                     line.rightToLeft,
-                                     isUpright,
-                                     choice.drawn->face(),
-                                     {}});
-            part.end = end;
-        }
-        last = glyph;
-        at = end;
-        rest.remove_prefix(count);
-    }
+void DrawnTypesetter::addDrawn(std::vector<Part>& parts, const Line& line, const Next& next) {
+    if (parts.empty() || !parts.back().isDrawn())
+        parts.push_back({next.begin, next.begin, {}, nullptr, {}, {}});
+    Part& part = parts.back();
+    const DrawnFont& font = *next.found.font.drawn;
+    const DrawnGlyph& glyph = *next.found.glyph;
+    const bool isUpright = line.vertical && stands(next.first, line.upright);
+    if (next.before && part.clusters.back().upright == isUpright)
+        part.clusters.back().advance -=
+            font.kerning(isUpright ? Follow::Down : Follow::Across, *next.before, glyph);
+    const drawing::Point origin = isUpright ? glyph.top : drawing::Point();
+    part.clusters.push_back({next.begin,
+                             next.end,
+                             glyph.outline.transformed(Affine::translation(-origin.x, -origin.y)),
+                             isUpright ? glyph.down : glyph.advance,
+                             line.rightToLeft,
+                             isUpright,
+                             font.face(),
+                             {}});
+    part.end = next.end;
 }
 
 std::vector<Cluster> DrawnTypesetter::clustersOf(Part& part, const Line& line) {

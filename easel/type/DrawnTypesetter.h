@@ -1,8 +1,7 @@
 // Sets text in the fonts that a drawing brings along, and all other text in those of the system.
 #pragma once
 
-#include "easel/type/DrawnFont.h"
-#include "easel/type/LoadedFont.h"
+#include "easel/type/FontChoice.h"
 #include "easel/type/Typesetter.h"
 
 #include <vector>
@@ -33,25 +32,24 @@ class DrawnTypesetter : public Typesetter {
 
         bool isDrawn() const { return runs.empty() && !loaded; }
     };
-    struct Choice {
-        const DrawnFont* drawn = nullptr;
-        const LoadedFace* loaded = nullptr;
-        bool isLast = true; // of the families that are named
+    // Letters of one font, or one glyph of a drawn font, that come next.
+    struct Next {
+        std::size_t begin = 0; // bytes
+        std::size_t end = 0;
+        FontChoice::Found found;
+        // Of the run: what was before, if that was of the same font.
+        bool goesOn = false;
+        const DrawnGlyph* before = nullptr;
+        char32_t first = 0;
     };
 
-    Choice choose(const Font& font);
-    // The nearest of the fonts of one family; neither if none is of it.
-    Choice nearest(const std::string& family, const Font& asked) const;
     void addRun(std::vector<Part>& parts, const Line& line, std::size_t begin, const FontRun& run);
-    static void addOthers(std::vector<Part>& parts, std::size_t begin, const FontRun& run);
-    static void addDrawn(std::vector<Part>& parts, const Line& line, std::size_t begin, const FontRun& run,
-                         const Choice& choice);
-    static void addLoaded(std::vector<Part>& parts, const Line& line, std::size_t begin, const FontRun& run,
-                          const LoadedFace& face);
+    static void add(std::vector<Part>& parts, const Line& line, const FontRun& run, const Next& next);
+    static void addOthers(std::vector<Part>& parts, std::size_t begin, const FontRun& run, bool goesOn);
+    static void addDrawn(std::vector<Part>& parts, const Line& line, const Next& next);
     std::vector<Cluster> clustersOf(Part& part, const Line& line);
 
-    std::vector<DrawnFont> fonts_;
-    std::vector<LoadedFace> loaded_;
+    OwnFonts own_;
     Typesetter& others_;
 };
 

@@ -46,6 +46,14 @@ struct Font {
     friend bool operator==(const Font&, const Font&) = default;
 };
 
+// From one to another, both among them.
+struct Characters {
+    char32_t first = 0;
+    char32_t last = 0;
+
+    friend bool operator==(const Characters&, const Characters&) = default;
+};
+
 // Heights over the baseline, in ems; below it they are negative.
 struct FontMetrics {
     double ascent = 0.8;

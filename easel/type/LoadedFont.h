@@ -3,12 +3,24 @@
 
 #include "easel/type/Typesetter.h"
 
+#include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace easel::type {
+
+// From one to another.
+struct Weights {
+    int least = 400;
+    int most = 400;
+
+    int nearest(int weight) const { return std::clamp(weight, least, most); }
+
+    friend bool operator==(const Weights&, const Weights&) = default;
+};
 
 // How text is set in such a font.
 struct Look {
@@ -17,6 +29,7 @@ struct Look {
     bool ligatures = true;
     bool rightToLeft = false; // of the line as a whole
     std::string language{};   // as in xml:lang; empty: English
+    int weight = 400;         // of letters that have several
 };
 
 // May be used by one thread at a time.
@@ -28,6 +41,8 @@ class LoadedFont {
     virtual ~LoadedFont() = default;
 
     virtual bool has(char32_t character) const = 0;
+    // That letters can have; nothing where they have one.
+    virtual std::optional<Weights> weights() const { return std::nullopt; }
     // The clusters of text in this font alone, from left to right. What it lacks is its sign for that.
     virtual std::vector<Cluster> shape(std::string_view text, const Look& look) = 0;
     virtual FontMetrics metrics() = 0;
@@ -38,6 +53,9 @@ struct LoadedFace {
     Font font;                           // the one family it is for, and how its letters look
     std::shared_ptr<LoadedFont> letters; // null: those of the system
     std::string systemFamily{};          // that stands in for it, where it has no letters
+    std::optional<Weights>
+        weights{}; // that it is for; nothing: that of `font`, and whatever letters can have
+    std::vector<Characters> characters{}; // that it is for; none: all
 };
 
 } // namespace easel::type

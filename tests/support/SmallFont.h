@@ -84,8 +84,7 @@ inline std::map<std::string, std::string> smallFontTables() {
 }
 
 // As a TrueType file.
-inline std::string smallFont() {
-    const auto tables = smallFontTables();
+inline std::string fontOf(const std::map<std::string, std::string>& tables) {
     const auto count = static_cast<int>(tables.size());
     FontBytes file, data;
     file.add(4, 0x10000).words({count, 64, 2, count * 16 - 64});
@@ -97,7 +96,48 @@ inline std::string smallFont() {
     return file.text() + data.text();
 }
 
-// The same as a WOFF file, whose tables need not be made smaller.
+inline std::string smallFont() {
+    return fontOf(smallFontTables());
+}
+
+// What moves the letter behind A farther away towards the greatest weight: a rule, and by how much.
+inline void addVariableGap(std::map<std::string, std::string>& tables) {
+    FontBytes rule, amount;
+    rule.words({1, 0, 10, 30, 44, 1}).add("DFLT").words({8, 4, 0, 0, 0xFFFF, 1, 0, 1}).add("kern");
+    rule.words({8, 0, 1, 0, 1, 4, 1, 0, 1, 8}).words({1, 10, 0x44, 0, 16, 1, 1, 1, 0, 0, 0x8000});
+    amount.words({1, 3, 0, 0, 0, 0, 0}).add(4, 18);
+    amount.words({1}).add(4, 12).words({1}).add(4, 22).words({1, 1, 0, 1 << 14, 1 << 14, 1, 1, 1, 0, 100});
+    tables["GPOS"] = rule.text();
+    tables["GDEF"] = amount.text();
+}
+
+// The same with weights from 100 to 900: towards 900 each letter becomes 400 wider, and so does its advance,
+// to which 100 are added behind A.
+inline std::string smallVariableFont() {
+    constexpr int kFixed = 1 << 16;
+    constexpr int kOne = 1 << 14;
+    const auto count = static_cast<int>(smallGlyphs().size());
+    FontBytes axes, letters;
+    axes.words({1, 0, 16, 2, 1, 20, 0, 8}).add("wght");
+    axes.add(4, 100 * kFixed).add(4, 400 * kFixed).add(4, 900 * kFixed).words({0, 256});
+    // The changes of one letter: how far its four points, and the four that its advances are measured by, go
+    // to the right, and eight that do not go up.
+    FontBytes changes;
+    changes.words({1, 10, 19, 0xA000, kOne}).add(1, 0).add(1, 0x47).words({0, 400, 400, 0, 0, 400, 0, 0});
+    changes.add(1, 0x87).fill();
+    letters.words({1, 0, 1, 0}).add(4, 0).words({count, 1}).add(4, 20 + 4 * (count + 1));
+    for (int i = 0; i <= count; ++i)
+        letters.add(4, static_cast<std::int64_t>(changes.size()) * i);
+    for (int i = 0; i < count; ++i)
+        letters.add(changes.text());
+    auto tables = smallFontTables();
+    tables["fvar"] = axes.text();
+    tables["gvar"] = letters.text();
+    addVariableGap(tables);
+    return fontOf(tables);
+}
+
+// The small font as a WOFF file, whose tables need not be made smaller.
 inline std::string smallWoff() {
     const auto tables = smallFontTables();
     FontBytes directory, data;

@@ -1,9 +1,9 @@
 #include "easel/svg/read/FontReader.h"
 
 #include "easel/svg/style/TextStyle.h"
+#include "easel/svg/style/UnicodeRange.h"
 #include "easel/svg/text/PathData.h"
 #include "easel/svg/text/Scanner.h"
-#include "easel/text/Hexadecimal.h"
 #include "easel/text/Utf8.h"
 
 #include <algorithm>
@@ -27,38 +27,6 @@ constexpr double kLargestMeasure = 1e6; // in units of the font
 std::u32string charactersOf(std::string_view utf8) {
     const std::vector<char32_t> points = text::codePointsOf(utf8);
     return {points.begin(), points.end()};
-}
-
-// A letter, or letters from one to another.
-struct Range {
-    char32_t first = 0;
-    char32_t last = 0;
-};
-
-std::optional<char32_t> hexadecimal(std::string_view digits, char32_t forAny) {
-    char32_t value = 0;
-    if (digits.empty() || digits.size() > 6)
-        return std::nullopt;
-    for (const char c : digits) {
-        const auto digit = c == '?' ? std::optional<unsigned>(forAny) : text::hexadecimalDigit(c);
-        if (!digit)
-            return std::nullopt;
-        value = value * 16 + *digit;
-    }
-    return value;
-}
-
-// "U+41", "U+41-5A" or "U+4?".
-std::optional<Range> parseRange(std::string_view text) {
-    if (!text.starts_with("U+") && !text.starts_with("u+"))
-        return std::nullopt;
-    text.remove_prefix(2);
-    const std::size_t dash = text.find('-');
-    const auto first = hexadecimal(text.substr(0, dash), 0);
-    const auto last = hexadecimal(dash == std::string_view::npos ? text : text.substr(dash + 1), 0xf);
-    if (!first || !last)
-        return std::nullopt;
-    return Range{*first, *last};
 }
 
 class FontElement {
@@ -204,7 +172,7 @@ std::vector<std::size_t> FontElement::glyphsOf(pugi::xml_node pair, const char* 
         }
     };
     forEach(pair.attribute(characters).value(), [&](std::string_view each) {
-        const auto range = parseRange(trimmed(each));
+        const auto range = parseUnicodeRange(trimmed(each));
         if (!range)
             return add(byCharacters_, charactersOf(each));
         budget_.spend(font_.size());

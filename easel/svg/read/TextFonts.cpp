@@ -45,9 +45,9 @@ void TextFonts::add(const FontFace& face, type::Typesetter& system) {
         if (source.kind == FontSource::Kind::System) {
             if (!system.has(source.text))
                 continue;
-            return loaded_.push_back({face.font, nullptr, source.text});
+            return loaded_.push_back({face.font, nullptr, source.text, face.weights, face.characters});
         }
-        if (addReferred(face.font, source.text, system))
+        if (addReferred(face, source.text, system))
             return;
         isElsewhere = isElsewhere || (localId(source.text).empty() && !isDataUri(source.text) &&
                                       !placeBeside(around_.file, source.text));
@@ -55,11 +55,12 @@ void TextFonts::add(const FontFace& face, type::Typesetter& system) {
     notes_.add(isElsewhere ? Unsupported::FontElsewhere : Unsupported::FontUnreadable);
 }
 
-bool TextFonts::addReferred(const type::Font& font, std::string_view reference, type::Typesetter& system) {
+bool TextFonts::addReferred(const FontFace& face, std::string_view reference, type::Typesetter& system) {
     if (const std::string_view id = localId(reference); !id.empty()) {
-        auto drawn = readFont(tree_, tree_.byId(id), font, budget_);
+        auto drawn = readFont(tree_, tree_.byId(id), face.font, budget_);
         if (!drawn)
             return false;
+        drawn->characters = face.characters;
         drawn_.push_back(*std::move(drawn));
         return true;
     }
@@ -71,7 +72,7 @@ bool TextFonts::addReferred(const type::Font& font, std::string_view reference, 
     auto letters = system.load(std::move(bytes));
     const bool isGood = letters != nullptr;
     if (isGood)
-        loaded_.push_back({font, std::move(letters)});
+        loaded_.push_back({face.font, std::move(letters), {}, face.weights, face.characters});
     return isGood;
 }
 

@@ -27,7 +27,7 @@ class TextFonts {
     // If none of its sources can be used, that is noted.
     void add(const FontFace& face, type::Typesetter& system);
     // False if there is no font that can be used.
-    bool addReferred(const type::Font& font, std::string_view reference, type::Typesetter& system);
+    bool addReferred(const FontFace& face, std::string_view reference, type::Typesetter& system);
     std::string bytesOf(std::string_view reference);
 
     const XmlTree& tree_;

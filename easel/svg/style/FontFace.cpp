@@ -2,9 +2,11 @@
 
 #include "easel/svg/style/CssText.h"
 #include "easel/svg/style/TextStyle.h"
+#include "easel/svg/style/UnicodeRange.h"
 #include "easel/svg/text/Scanner.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace easel::svg {
@@ -35,19 +37,28 @@ std::vector<FontSource> sourcesIn(std::string_view text) {
     return sources;
 }
 
-// Of a range, what is nearest to the usual weight.
-int weightIn(std::string_view text) {
-    constexpr int kUsual = 400;
-    constexpr int kBold = 700;
-    if (equalIgnoringCase(text, "bold"))
-        return kBold;
-    Scanner scanner(text);
-    const auto least = scanner.number();
+constexpr int kUsualWeight = 400;
+
+std::optional<int> takeWeight(Scanner& scanner) {
+    constexpr int kBoldWeight = 700;
     scanner.skipSpaces();
-    const auto most = scanner.number();
-    if (!least || !(*least >= 1 && *least <= 1000))
-        return kUsual;
-    return static_cast<int>(most && *most >= *least ? std::clamp<double>(kUsual, *least, *most) : *least);
+    if (scanner.takeWord("normal"))
+        return kUsualWeight;
+    if (scanner.takeWord("bold"))
+        return kBoldWeight;
+    const auto number = scanner.number();
+    return number && *number >= 1 && *number <= 1000 ? std::optional(static_cast<int>(std::lround(*number)))
+                                                     : std::nullopt;
+}
+
+// One weight, or one and another.
+std::optional<type::Weights> weightsIn(std::string_view text) {
+    Scanner scanner(text);
+    const auto one = takeWeight(scanner);
+    if (!one)
+        return std::nullopt;
+    const int other = takeWeight(scanner).value_or(*one);
+    return type::Weights{std::min(*one, other), std::max(*one, other)};
 }
 
 } // namespace
@@ -65,7 +76,11 @@ std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptor
             if (auto sources = sourcesIn(value); !sources.empty())
                 face.sources = std::move(sources);
         } else if (is("font-weight")) {
-            face.font.weight = weightIn(value);
+            face.weights = weightsIn(value);
+            face.font.weight = face.weights.value_or(type::Weights()).nearest(kUsualWeight);
+        } else if (is("unicode-range")) {
+            if (auto ranges = parseUnicodeRanges(value))
+                face.characters = *std::move(ranges);
         } else if (is("font-style")) {
             const bool leans =
                 findIgnoringCase(value, "italic") == 0 || findIgnoringCase(value, "oblique") == 0;

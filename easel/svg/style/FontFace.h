@@ -2,7 +2,7 @@
 #pragma once
 
 #include "easel/svg/style/Css.h"
-#include "easel/type/Font.h"
+#include "easel/type/LoadedFont.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,8 +18,10 @@ struct FontSource {
 };
 
 struct FontFace {
-    type::Font font;                 // the one family it is for, and how its letters look
-    std::vector<FontSource> sources; // the best first
+    type::Font font;                          // the one family it is for, and how its letters look
+    std::optional<type::Weights> weights;     // that it is for; nothing: not said
+    std::vector<type::Characters> characters; // that it is for; none: all
+    std::vector<FontSource> sources;          // the best first
 };
 
 // Nothing without a family or a source.

@@ -2,6 +2,7 @@
 
 #include "easel/type/Append.h"
 #include "easel/type/pango/Embolden.h"
+#include "easel/type/pango/FontAxes.h"
 #include "easel/type/pango/FontMeasures.h"
 #include "easel/type/pango/GlyphPen.h"
 
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <tuple>
 #include <utility>
 
 namespace easel::type {
@@ -111,6 +113,7 @@ class FontInBytes : public LoadedFont {
 
     bool open();
     bool has(char32_t character) const override;
+    std::optional<Weights> weights() const override { return axes_.weights(); }
     std::vector<Cluster> shape(std::string_view text, const Look& look) override;
     FontMetrics metrics() override { return metricsOf(font_.get(), kShapedUnits); }
 
@@ -125,8 +128,10 @@ class FontInBytes : public LoadedFont {
     Owned<hb_font_t> font_;
     Owned<hb_buffer_t> buffer_;
     GlyphPen pen_;
-    FacePtr face_ = std::make_shared<const Face>();          // one in no file
-    std::map<std::pair<std::uint32_t, int>, Path> outlines_; // by glyph, and how it is made to look
+    FontAxes axes_;
+    FacePtr face_ = std::make_shared<const Face>(); // one in no file
+    // By glyph, how it is made to look, and weight.
+    std::map<std::tuple<std::uint32_t, int, int>, Path> outlines_;
 };
 
 bool FontInBytes::open() {
@@ -143,6 +148,7 @@ bool FontInBytes::open() {
         return false;
     font_.reset(hb_ft_font_create_referenced(face));
     hb_ft_font_set_load_flags(font_.get(), FT_LOAD_NO_HINTING | FT_LOAD_NO_BITMAP);
+    axes_ = FontAxes(face);
     return true;
 }
 
@@ -152,6 +158,8 @@ bool FontInBytes::has(char32_t character) const {
 }
 
 std::vector<Cluster> FontInBytes::shape(std::string_view text, const Look& look) {
+    if (axes_.setWeight(look.weight))
+        hb_ft_font_changed(font_.get());
     std::vector<Cluster> clusters;
     std::vector<Stretch> stretches = stretchesOf(text, look.rightToLeft);
     reorder(stretches);
@@ -202,7 +210,7 @@ void FontInBytes::shapeStretch(std::string_view text, const Stretch& stretch, co
 
 const Path& FontInBytes::outlineOf(std::uint32_t glyph, const Look& look) {
     const auto [known, isNew] =
-        outlines_.try_emplace({glyph, (look.embolden ? 1 : 0) + (look.slant ? 2 : 0)});
+        outlines_.try_emplace({glyph, (look.embolden ? 1 : 0) + (look.slant ? 2 : 0), axes_.weight()});
     if (isNew) {
         Path path = pen_.outlineOf(font_.get(), glyph);
         if (look.embolden)

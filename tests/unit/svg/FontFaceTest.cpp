@@ -74,6 +74,32 @@ TEST(FontFace, IsForAFamilyAndSaysHowItLooks) {
     EXPECT_EQ(parsed("font-family:a;src:url(b);font-style:normal")->font.slant, easel::type::Slant::Upright);
 }
 
+TEST(FontFace, MayBeForSeveralWeights) {
+    using easel::type::Weights;
+    const auto weightsOf = [](const std::string& weight) {
+        return parsed("font-family:a;src:url(b);font-weight:" + weight)->weights;
+    };
+    EXPECT_EQ(weightsOf("100 900"), (Weights{100, 900}));
+    EXPECT_EQ(weightsOf("900 100"), (Weights{100, 900}));
+    EXPECT_EQ(weightsOf("normal BOLD"), (Weights{400, 700}));
+    EXPECT_EQ(weightsOf("350"), (Weights{350, 350}));
+    for (const char* unsaid : {"auto", "2000", "0", "x"})
+        EXPECT_EQ(weightsOf(unsaid), std::nullopt) << unsaid;
+    EXPECT_EQ(parsed("font-family:a;src:url(b)")->weights, std::nullopt);
+}
+
+TEST(FontFace, MayBeForSomeCharacters) {
+    using easel::type::Characters;
+    const auto charactersOf = [](const std::string& ranges) {
+        return parsed("font-family:a;src:url(b);unicode-range:" + ranges)->characters;
+    };
+    EXPECT_THAT(charactersOf("U+26, u+0-7F , U+4??"),
+                ElementsAre(Characters{0x26, 0x26}, Characters{0, 0x7f}, Characters{0x400, 0x4ff}));
+    EXPECT_THAT(charactersOf("U+10FFFF"), ElementsAre(Characters{0x10ffff, 0x10ffff}));
+    for (const char* none : {"", "26", "U+", "U+5-4", "U+41, x", "U+1234567", "U+4g"})
+        EXPECT_THAT(charactersOf(none), IsEmpty()) << none;
+}
+
 std::string dataOf(const std::string& bytes) {
     return "url(\"data:;base64," + base64Text(bytes) + "\")";
 }
@@ -143,6 +169,22 @@ TEST(FontFace, LettersMayBeAFontElement) {
                                 "<glyph unicode='A' horiz-adv-x='600' d='M0 0H500V500H0Z'/></font>";
     const std::string text = drawingIn(ruleFor("url(\"#f\") format(svg)"));
     expectSmallLetters(readOk(text.substr(0, text.size() - 6) + element + "</svg>"));
+}
+
+TEST(FontFace, LettersComeFromTheRuleThatIsForThem) {
+    const std::string wide = dataOf(tests::smallVariableFont());
+    // A, 0.9 wide with an advance of 1.1, is of the one font, and B, an em wide, of the other.
+    const std::string heavy = "font-weight:900;unicode-range:";
+    const Drawing byCharacter =
+        readOk(drawingIn(ruleFor(dataOf(tests::smallFont()), heavy + "U+42") + ruleFor(wide, heavy + "U+41"),
+                         "<tspan font-weight='900'>AB</tspan>"));
+    expectBox(boundsOf(byCharacter), 10, 40, 10 + 22 + 20, 50);
+    const Drawing bold =
+        readOk(drawingIn(ruleFor(wide, "font-weight:100 900"), "<tspan font-weight='900'>A</tspan>B"));
+    // A as before, then B as it is at the usual weight.
+    expectBox(boundsOf(bold), 10, 40, 10 + 22 + 20, 50);
+    const Drawing unsaid = readOk(drawingIn(ruleFor(wide), "<tspan font-weight='900'>A</tspan>B"));
+    expectBox(boundsOf(unsaid), 10, 40, 10 + 22 + 20, 50);
 }
 
 TEST(FontFace, FilesAreReadFromTheFolderOfTheDrawingAndBelow) {

@@ -28,6 +28,7 @@ class SmallLetters : public LoadedFont {
     explicit SmallLetters(double width) : width_(width) {}
 
     bool has(char32_t character) const override { return character >= U'a' && character <= U'z'; }
+    std::optional<Weights> weights() const override { return own; }
     std::vector<Cluster> shape(std::string_view text, const Look& look) override {
         texts.emplace_back(text);
         looks.push_back(look);
@@ -41,6 +42,7 @@ class SmallLetters : public LoadedFont {
 
     std::vector<std::string> texts; // that were shaped
     std::vector<Look> looks;
+    std::optional<Weights> own;
 
   private:
     double width_;
@@ -218,6 +220,70 @@ TEST_F(DrawnFonts, FamiliesOfTheSystemStandInForOnesThatHaveNoLetters) {
     EXPECT_TRUE(typesetter.has("own"));
     EXPECT_FALSE(typesetter.has("Nowhere"));
     EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 1);
+}
+
+TEST_F(DrawnFonts, AreForTheirCharactersAlone) {
+    load({"Own"}, 2);
+    loaded.back().characters = {{U'a', U'c'}, {U'x', U'x'}};
+    load({"Own"}, 3);
+    loaded.back().characters = {{U'e', U'g'}};
+    load({"Next"}, 4);
+    EXPECT_EQ(advances("cdxefa", {"Own,Next"}), (Widths{2, 4, 2, 3, 2}));
+    EXPECT_EQ(advances("cd", {"Own"}), (Widths{2, BoxTypesetter::kWidth}));
+    fonts.push_back(fontOf("Drawn"));
+    fonts.back().add(glyphOf(U"a", 5));
+    fonts.back().add(glyphOf(U"b", 6));
+    fonts.back().add(glyphOf(U"", 7));
+    fonts.back().characters = {{U'a', U'a'}, {U'z', U'z'}};
+    EXPECT_EQ(advances("abz", {"Drawn"}), (Widths{5, BoxTypesetter::kWidth, 7}));
+    loaded.push_back({{"Instead"}, nullptr, "Boxes", {}, {{U'a', U'a'}}});
+    EXPECT_EQ(advances("ab", {"Instead,Next"}), (Widths{BoxTypesetter::kWidth, 4}));
+}
+
+TEST_F(DrawnFonts, LettersThatAllLackAreSetTogether) {
+    load({"Own"}, 2);
+    shape("aXYZa", {"Own,Boxes"});
+    EXPECT_EQ(others.lines.back().text, "XYZ");
+    EXPECT_EQ(others.lines.back().runs.size(), 1U);
+}
+
+TEST_F(DrawnFonts, LoadedOnesOfSeveralWeightsAreForEachOfThem) {
+    const auto light = load({"Own", 300}, 1);
+    loaded.back().weights = Weights{100, 350};
+    const auto heavy = load({"Own", 400}, 2);
+    loaded.back().weights = Weights{400, 800};
+    EXPECT_EQ(advances("a", {"Own", 350}), Widths{1});
+    EXPECT_EQ(light->looks.back().weight, 350);
+    EXPECT_EQ(advances("a", {"Own", 800}), Widths{2});
+    EXPECT_EQ(heavy->looks.back().weight, 800);
+    EXPECT_FALSE(heavy->looks.back().embolden) << "they are bold by themselves";
+    shape("a", {"Own", 1000});
+    EXPECT_EQ(heavy->looks.back().weight, 800);
+}
+
+TEST_F(DrawnFonts, LoadedOnesThatSayNothingOfWeightsHaveThoseOfTheirLetters) {
+    const auto letters = load({"Own"}, 1);
+    shape("a", {"Own", 700});
+    EXPECT_TRUE(letters->looks.back().embolden);
+    letters->own = Weights{200, 800};
+    shape("a", {"Own", 700});
+    EXPECT_EQ(letters->looks.back().weight, 700);
+    EXPECT_FALSE(letters->looks.back().embolden);
+    // What is said counts more.
+    loaded.back().weights = Weights{300, 300};
+    shape("a", {"Own", 700});
+    EXPECT_EQ(letters->looks.back().weight, 300);
+    EXPECT_TRUE(letters->looks.back().embolden);
+}
+
+TEST_F(DrawnFonts, MeasuresAreThoseOfTheFirstThatIsForABlank) {
+    load({"Own"}, 2);
+    loaded.back().characters = {{U'a', U'z'}};
+    DrawnTypesetter typesetter(fonts, others, loaded);
+    EXPECT_EQ(typesetter.metrics({"Own,Boxes"}).ascent, 1);
+    loaded.back().characters = {{U' ', U'~'}};
+    DrawnTypesetter other(fonts, others, loaded);
+    EXPECT_EQ(other.metrics({"Own,Boxes"}).ascent, 2);
 }
 
 TEST_F(DrawnFonts, MeasuresOfLoadedOnesAreTheirs) {

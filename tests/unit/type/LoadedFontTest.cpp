@@ -79,6 +79,27 @@ TEST(LoadedFont, LettersAreMadeBoldAndLeanWhereTheFontHasNoSuch) {
     expectBox(font->shape("A", {})[0].outline.bounds(), 0.5, 0.5);
 }
 
+TEST(LoadedFont, LettersOfSeveralWeightsHaveTheOneThatIsAskedFor) {
+    const auto font = loaded(tests::smallVariableFont());
+    ASSERT_TRUE(font);
+    EXPECT_EQ(font->weights(), (Weights{100, 900}));
+    const auto expectWidth = [&](int weight, double width) {
+        Look look;
+        look.weight = weight;
+        const auto clusters = font->shape("A", look);
+        ASSERT_EQ(clusters.size(), 1U);
+        expectBox(clusters[0].outline.bounds(), width, 0.5);
+        // Its own, and what is added behind it.
+        EXPECT_NEAR(clusters[0].advance, width + 0.1 + (width - 0.5) / 4, 1e-3);
+    };
+    expectWidth(400, 0.5);
+    expectWidth(900, 0.9);
+    expectWidth(650, 0.7);
+    expectWidth(1000, 0.9);
+    expectWidth(100, 0.5);
+    EXPECT_FALSE(loaded(tests::smallFont())->weights());
+}
+
 TEST(LoadedFont, WhatIsNoFontOrTooLargeWhenUnpackedIsRefused) {
     const std::string woff = tests::smallWoff();
     std::string huge = woff;
@@ -91,7 +112,8 @@ TEST(LoadedFont, WhatIsNoFontOrTooLargeWhenUnpackedIsRefused) {
 }
 
 TEST(LoadedFont, ThatIsCutOrDamagedIsRefusedOrStillSetsText) {
-    for (const std::string& whole : {tests::smallFont(), tests::smallWoff(), tests::smallWoff2()})
+    for (const std::string& whole :
+         {tests::smallFont(), tests::smallWoff(), tests::smallWoff2(), tests::smallVariableFont()})
         for (std::size_t i = 0; i < whole.size(); ++i) {
             std::string changed = whole;
             changed[i] = static_cast<char>(changed[i] ^ 0xFF);
