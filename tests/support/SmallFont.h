@@ -114,7 +114,7 @@ inline void addVariableGap(std::map<std::string, std::string>& tables) {
 // The same with weights from 100 to 900: towards 900 each letter becomes 400 wider, and so does its advance,
 // to which 100 are added behind A.
 inline std::string smallVariableFont() {
-    constexpr int kFixed = 1 << 16;
+    constexpr std::int64_t kFixed = 1 << 16;
     constexpr int kOne = 1 << 14;
     const auto count = static_cast<int>(smallGlyphs().size());
     FontBytes axes, letters;

@@ -88,7 +88,7 @@ Paint plainPaint(PaintSpec::Kind kind, const PaintSpec& spec, const ComputedStyl
     return NoPaint();
 }
 
-Paint kept(PlacedPaint placed) {
+Paint kept(PlacedPaint&& placed) {
     if (auto* const foreign = std::get_if<Gradient>(&placed))
         return std::make_shared<const Gradient>(std::move(*foreign));
     if (const auto* const color = std::get_if<ColorPaint>(&placed))

@@ -1,6 +1,8 @@
 #include "easel/svg/read/TextFonts.h"
 
 #include "easel/files/WholeFile.h"
+#include "easel/svg/read/FontFaceElement.h"
+#include "easel/svg/read/FontInDrawing.h"
 #include "easel/svg/read/FontReader.h"
 #include "easel/svg/read/PlaceBeside.h"
 #include "easel/svg/text/DataUri.h"
@@ -17,7 +19,6 @@ namespace {
 constexpr std::size_t kMostBytes = std::size_t{64} << 20; // of all fonts together
 // What opening a font costs, in points.
 constexpr std::size_t kOpening = 10'000;
-
 } // namespace
 
 type::Typesetter* TextFonts::typesetter() {
@@ -28,11 +29,13 @@ type::Typesetter* TextFonts::typesetter() {
 }
 
 void TextFonts::make(type::Typesetter& system) {
+    std::vector<FontFace> faces = readFontFaces(tree_);
+    for (const auto& rule : cascade_.fontFaces())
+        if (auto face = parseFontFace(rule))
+            faces.push_back(*std::move(face));
     // Of faces that are the same otherwise, the last counts.
-    const auto& rules = cascade_.fontFaces();
-    for (auto rule = rules.rbegin(); rule != rules.rend(); ++rule)
-        if (const auto face = parseFontFace(*rule))
-            add(*face, system);
+    for (auto face = faces.rbegin(); face != faces.rend(); ++face)
+        add(*face, system);
     std::vector<type::DrawnFont> elements = readFonts(tree_, budget_);
     std::move(elements.begin(), elements.end(), std::back_inserter(drawn_));
     if (!drawn_.empty() || !loaded_.empty())
@@ -56,24 +59,31 @@ void TextFonts::add(const FontFace& face, type::Typesetter& system) {
 }
 
 bool TextFonts::addReferred(const FontFace& face, std::string_view reference, type::Typesetter& system) {
-    if (const std::string_view id = localId(reference); !id.empty()) {
-        auto drawn = readFont(tree_, tree_.byId(id), face.font, budget_);
-        if (!drawn)
-            return false;
-        drawn->characters = face.characters;
-        drawn_.push_back(*std::move(drawn));
-        return true;
-    }
+    if (const std::string_view id = localId(reference); !id.empty())
+        return addDrawn(face, readFont(tree_, tree_.byId(id), face.font, budget_));
     std::string bytes = bytesOf(reference);
     if (bytes.empty() || bytes.size() > kMostBytes - bytesRead_)
         return false;
     budget_.spend(kOpening);
     bytesRead_ += bytes.size();
+    if (mayHoldFonts(bytes)) {
+        const std::size_t mark = std::min(reference.find('#'), reference.size());
+        return addDrawn(face,
+                        readFontIn(std::move(bytes), reference.substr(mark), kMostBytes, face.font, budget_));
+    }
     auto letters = system.load(std::move(bytes));
     const bool isGood = letters != nullptr;
     if (isGood)
         loaded_.push_back({face.font, std::move(letters), {}, face.weights, face.characters});
     return isGood;
+}
+
+bool TextFonts::addDrawn(const FontFace& face, std::optional<type::DrawnFont> font) {
+    if (!font)
+        return false;
+    font->characters = face.characters;
+    drawn_.push_back(*std::move(font));
+    return true;
 }
 
 // Empty if there are none that may be read.

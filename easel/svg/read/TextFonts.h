@@ -7,6 +7,7 @@
 #include "easel/type/DrawnTypesetter.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,7 @@ class TextFonts {
     void add(const FontFace& face, type::Typesetter& system);
     // False if there is no font that can be used.
     bool addReferred(const FontFace& face, std::string_view reference, type::Typesetter& system);
+    bool addDrawn(const FontFace& face, std::optional<type::DrawnFont> font);
     std::string bytesOf(std::string_view reference);
 
     const XmlTree& tree_;

@@ -63,8 +63,10 @@ std::optional<type::Weights> weightsIn(std::string_view text) {
 
 } // namespace
 
-std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptors) {
+std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptors,
+                                      std::vector<FontSource> sources) {
     FontFace face;
+    face.sources = std::move(sources);
     for (const auto& [name, value, importance] : descriptors) {
         const auto is = [descriptor = name](std::string_view other) {
             return equalIgnoringCase(descriptor, other);
@@ -73,8 +75,8 @@ std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptor
             const std::string names = familyNames(value);
             face.font.families = names.substr(0, names.find(','));
         } else if (is("src")) {
-            if (auto sources = sourcesIn(value); !sources.empty())
-                face.sources = std::move(sources);
+            if (auto stated = sourcesIn(value); !stated.empty())
+                face.sources = std::move(stated);
         } else if (is("font-weight")) {
             face.weights = weightsIn(value);
             face.font.weight = face.weights.value_or(type::Weights()).nearest(kUsualWeight);

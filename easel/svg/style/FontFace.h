@@ -24,7 +24,8 @@ struct FontFace {
     std::vector<FontSource> sources;          // the best first
 };
 
-// Nothing without a family or a source.
-std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptors);
+// `sources`: where the descriptors name none. Nothing without a family or a source.
+std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptors,
+                                      std::vector<FontSource> sources = {});
 
 } // namespace easel::svg

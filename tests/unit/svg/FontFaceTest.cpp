@@ -1,5 +1,6 @@
 // Fonts that style sheets bring along.
 #include "easel/svg/style/FontFace.h"
+#include "easel/files/Gzip.h"
 #include "easel/svg/style/CssText.h"
 #include "easel/svg/text/DataUri.h"
 #include "tests/support/SmallFont.h"
@@ -163,12 +164,64 @@ TEST(FontFace, AFamilyOfTheSystemMayHaveAnotherName) {
     EXPECT_NE(box.width(), boundsOf(readOk(drawingIn("", "BA", "DejaVu Sans"))).width());
 }
 
+// The letters of the small font, as shapes.
+std::string smallElement(const std::string& id) {
+    return "<font id='" + id +
+           "'><font-face font-family='Other' units-per-em='1000'/>"
+           "<glyph unicode='B' horiz-adv-x='1200' d='M0 0H1000V500H0Z'/>"
+           "<glyph unicode='A' horiz-adv-x='600' d='M0 0H500V500H0Z'/></font>";
+}
+
+// A drawing of the text "BA" with an element that says where its font is.
+std::string drawingWithFace(const std::string& sources, const std::string& attributes = "") {
+    return svgFile("<defs><font-face font-family='Small' " + attributes + "><font-face-src>" + sources +
+                   "</font-face-src></font-face></defs>" + smallElement("f") +
+                   "<text x='10' y='50' font-size='20' font-family='Small'>BA</text>");
+}
+
 TEST(FontFace, LettersMayBeAFontElement) {
-    const std::string element = "<font id='f'><font-face font-family='Other' units-per-em='1000'/>"
-                                "<glyph unicode='B' horiz-adv-x='1200' d='M0 0H1000V500H0Z'/>"
-                                "<glyph unicode='A' horiz-adv-x='600' d='M0 0H500V500H0Z'/></font>";
     const std::string text = drawingIn(ruleFor("url(\"#f\") format(svg)"));
-    expectSmallLetters(readOk(text.substr(0, text.size() - 6) + element + "</svg>"));
+    expectSmallLetters(readOk(text.substr(0, text.size() - 6) + smallElement("f") + "</svg>"));
+}
+
+TEST(FontFace, MayBeAnElementOfTheDrawing) {
+    expectSmallLetters(
+        readOk(drawingWithFace("<font-face-uri href='http://a/b.svg#f'/><font-face-name name='No Such "
+                               "Font'/><font-face-uri href='#g'/>"
+                               "<font-face-uri href='#f'><font-face-format string='svg'/></font-face-uri>"
+                               "<font-face-name name='DejaVu Serif'/>")));
+    const Box named = boundsOf(readOk(drawingIn("", "BA", "DejaVu Serif")));
+    const Box box = boundsOf(readOk(drawingWithFace("<font-face-name name='DejaVu Serif'/>")));
+    expectBox(box, named.left, named.top, named.right, named.bottom);
+    // Of two that are alike the last one counts, and one that is for other letters does not.
+    expectSmallLetters(readOk(drawingWithFace(
+        "<font-face-uri href='#f'/></font-face-src></font-face><font-face font-family='Small' "
+        "unicode-range='U+61-7A'><font-face-src><font-face-name name='DejaVu Serif'/>")));
+    EXPECT_THAT(readOk(drawingWithFace("<font-face-uri href='#g'/>")).notes(),
+                ElementsAre(HasSubstr("damaged or of unknown kinds")));
+}
+
+TEST(FontFace, LettersMayBeAFontElementOfADrawingBeside) {
+    const tests::TemporaryFolder folder;
+    const std::string fonts =
+        svgFile("<font id='g'><font-face/></font><defs>" + smallElement("f") + "</defs>");
+    tests::writeContent(folder / "fonts.svg", fonts);
+    tests::writeContent(folder / "one.svg", "\xEF\xBB\xBF" + svgFile(smallElement("x")));
+    tests::writeContent(folder / "packed.svgz", easel::files::packedGzip(fonts));
+    tests::writeContent(folder / "damaged.svg", "<svg><font");
+    tests::writeContent(folder / "small.ttf", tests::smallFont());
+    const auto readWith = [&](const std::string& reference) {
+        tests::writeContent(folder / "drawing.svg",
+                            drawingWithFace("<font-face-uri href='" + reference + "'/>"));
+        auto read = readFile(folder / "drawing.svg");
+        EXPECT_TRUE(read);
+        return read ? std::move(*read) : Drawing::create(1, 1);
+    };
+    for (const char* reference : {"fonts.svg#f", "one.svg", "packed.svgz#f", "small.ttf"})
+        expectSmallLetters(readWith(reference));
+    for (const char* reference : {"fonts.svg#none", "damaged.svg#f", "damaged.svg", "drawing.svg#none"})
+        EXPECT_THAT(readWith(reference).notes(), ElementsAre(HasSubstr("damaged or of unknown kinds")))
+            << reference;
 }
 
 TEST(FontFace, LettersComeFromTheRuleThatIsForThem) {
