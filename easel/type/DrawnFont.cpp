@@ -15,13 +15,15 @@ std::size_t DrawnFont::add(DrawnGlyph glyph) {
     return number;
 }
 
-const DrawnGlyph* DrawnFont::match(std::u32string_view letters) const {
+const DrawnGlyph* DrawnFont::match(std::u32string_view letters, Follow how) const {
     const auto known = byFirst_.find(letters.front());
     if (known == byFirst_.end())
         return nullptr;
-    for (const std::size_t number : known->second)
-        if (letters.starts_with(glyphs_[number].characters))
-            return &glyphs_[number];
+    for (const std::size_t number : known->second) {
+        const DrawnGlyph& glyph = glyphs_[number];
+        if (glyph.only.value_or(how) == how && letters.starts_with(glyph.characters))
+            return &glyph;
+    }
     return nullptr;
 }
 

@@ -7,11 +7,15 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace easel::type {
+
+// How letters follow each other: side by side, or standing one below the other.
+enum class Follow : std::uint8_t { Across, Down };
 
 // Measures are in ems.
 struct DrawnGlyph {
@@ -21,10 +25,8 @@ struct DrawnGlyph {
     // Of a letter that stands in a vertical line: where the pen is then, and how far down the next one is.
     drawing::Point top{};
     double down = 1;
+    std::optional<Follow> only{}; // how the letters follow each other that it is for; nothing: either way
 };
-
-// How letters follow each other: side by side, or standing one below the other.
-enum class Follow : std::uint8_t { Across, Down };
 
 class DrawnFont {
   public:
@@ -38,7 +40,7 @@ class DrawnFont {
     const DrawnGlyph& glyph(std::size_t number) const { return glyphs_[number]; }
     std::size_t size() const { return glyphs_.size(); }
     // The glyph that stands for what the letters begin with; null: none does.
-    const DrawnGlyph* match(std::u32string_view letters) const;
+    const DrawnGlyph* match(std::u32string_view letters, Follow how) const;
     const DrawnGlyph* missing() const;
 
     // Moves any of the one glyphs and any of the others that follow them nearer to each other.

@@ -88,13 +88,13 @@ void DrawnTypesetter::addRun(std::vector<Part>& parts, const Line& line, std::si
     Next last;
     for (std::size_t at = begin; !rest.empty(); at = last.end) {
         Next next;
+        next.how = line.vertical && stands(rest.front(), line.upright) ? Follow::Down : Follow::Across;
         const bool goesAlong = at > begin && !last.found.font.drawn && goesWithOthers(rest.front());
-        next.found = goesAlong ? last.found : choice.of(rest);
+        next.found = goesAlong ? last.found : choice.of(rest, next.how);
         const DrawnGlyph* const glyph = next.found.glyph;
         const std::size_t count = glyph && !glyph->characters.empty() ? glyph->characters.size() : 1;
         next.begin = at;
         next.end = at + lengthOf(rest.substr(0, count));
-        next.first = rest.front();
         next.goesOn = at > begin && next.found.font == last.found.font;
         next.before = next.goesOn ? last.found.glyph : nullptr;
         add(parts, line, run, next);
@@ -136,10 +136,9 @@ void DrawnTypesetter::addDrawn(std::vector<Part>& parts, const Line& line, const
     Part& part = parts.back();
     const DrawnFont& font = *next.found.font.drawn;
     const DrawnGlyph& glyph = *next.found.glyph;
-    const bool isUpright = line.vertical && stands(next.first, line.upright);
+    const bool isUpright = next.how == Follow::Down;
     if (next.before && part.clusters.back().upright == isUpright)
-        part.clusters.back().advance -=
-            font.kerning(isUpright ? Follow::Down : Follow::Across, *next.before, glyph);
+        part.clusters.back().advance -= font.kerning(next.how, *next.before, glyph);
     const drawing::Point origin = isUpright ? glyph.top : drawing::Point();
     part.clusters.push_back({next.begin,
                              next.end,

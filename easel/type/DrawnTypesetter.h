@@ -40,7 +40,7 @@ class DrawnTypesetter : public Typesetter {
         // Of the run: what was before, if that was of the same font.
         bool goesOn = false;
         const DrawnGlyph* before = nullptr;
-        char32_t first = 0;
+        Follow how = Follow::Across;
     };
 
     void addRun(std::vector<Part>& parts, const Line& line, std::size_t begin, const FontRun& run);

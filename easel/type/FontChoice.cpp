@@ -22,8 +22,7 @@ int slantDistance(const Font& font, const Font& asked) {
 
 // The smaller, the nearer to what is asked for.
 int distance(const DrawnFont& font, const Font& asked) {
-    return slantDistance(font.font, asked) +
-           (font.anyWeight ? 0 : std::abs(font.font.weight - asked.weight));
+    return slantDistance(font.font, asked) + (font.anyWeight ? 0 : std::abs(font.font.weight - asked.weight));
 }
 
 int distance(const LoadedFace& face, const Font& asked) {
@@ -87,12 +86,12 @@ ChosenFont FontChoice::standIn(const LoadedFace& face) const {
     return {nullptr, nullptr, std::make_shared<const Font>(std::move(font))};
 }
 
-FontChoice::Found FontChoice::of(std::u32string_view letters) const {
+FontChoice::Found FontChoice::of(std::u32string_view letters, Follow how) const {
     for (std::size_t i = 0; i < chosen_.size(); ++i) {
         const ChosenFont& font = chosen_[i];
         if (!areFor(*characters_[i], letters.front()))
             continue;
-        if (const DrawnGlyph* const glyph = font.drawn ? font.drawn->match(letters) : nullptr)
+        if (const DrawnGlyph* const glyph = font.drawn ? font.drawn->match(letters, how) : nullptr)
             return {font, glyph};
         if (!font.drawn && (!font.loaded || font.loaded->letters->has(letters.front())))
             return {font};

@@ -31,8 +31,9 @@ struct OwnFonts {
 
 class FontChoice {
   public:
-    // Goes through the families that are asked for. Of each it takes the fonts that look most like what is asked
-    // for: those that are as near as each other are for what those before them are not, loaded ones first.
+    // Goes through the families that are asked for. Of each it takes the fonts that look most like what is
+    // asked for: those that are as near as each other are for what those before them are not, loaded ones
+    // first.
     FontChoice(const OwnFonts& own, Typesetter& system, std::shared_ptr<const Font> asked);
 
     struct Found {
@@ -40,7 +41,7 @@ class FontChoice {
         const DrawnGlyph* glyph = nullptr; // of a drawn font
     };
     // The font for what the letters begin with.
-    Found of(std::u32string_view letters) const;
+    Found of(std::u32string_view letters, Follow how) const;
     // The font whose measures are those of the run: the one for a blank.
     const ChosenFont& main() const;
     bool isSystemAlone() const { return chosen_.empty(); }

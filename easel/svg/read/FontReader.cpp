@@ -120,10 +120,12 @@ void FontElement::readMetrics(pugi::xml_node face) {
 void FontElement::readGlyph(pugi::xml_node element, bool missing) {
     const std::string_view form = element.attribute("arabic-form").value();
     const std::string_view orientation = element.attribute("orientation").value();
-    // Letters are set one by one, and have one shape wherever they stand.
-    if ((!form.empty() && form != "isolated") || orientation == "v")
+    // Letters are set one by one, and the sign for what is lacking is the same wherever it stands.
+    if ((!form.empty() && form != "isolated") || (missing && orientation == "v"))
         return;
     DrawnGlyph glyph;
+    if (!missing && (orientation == "v" || orientation == "h"))
+        glyph.only = orientation == "v" ? type::Follow::Down : type::Follow::Across;
     if (!missing)
         glyph.characters = charactersOf(element.attribute("unicode").value());
     if (!missing && glyph.characters.empty())

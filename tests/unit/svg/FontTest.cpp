@@ -108,6 +108,23 @@ TEST(SvgFont, GlyphsAreThoseOfLettersThatStandAlone) {
     EXPECT_NEAR(widthOfC("<glyph unicode='C' orientation='h' " + wide), 40, 1e-9);
 }
 
+TEST(SvgFont, LettersThatStandInAColumnMayHaveGlyphsOfTheirOwn) {
+    const std::string font = fontWith("<glyph unicode='C' orientation='v' d='M0 0H300V700H0Z'/>"
+                                      "<glyph unicode='C' orientation='h' d='M0 0H200V500H0Z'/>"
+                                      "<missing-glyph orientation='v' d='M0 0H900V900H0Z'/>"
+                                      "<missing-glyph d='M0 0H100V100H0Z'/>"
+                                      "<glyph unicode='D' orientation='h' d='M0 0H800V500H0Z'/>");
+    const auto expectSize = [](const Box& box, double width, double height) {
+        EXPECT_NEAR(box.width(), width, 1e-9);
+        EXPECT_NEAR(box.height(), height, 1e-9);
+    };
+    expectSize(boundsDown(font, "C"), 6, 14);
+    expectSize(boundsOf(font, "C"), 4, 10);
+    // It lies on its side.
+    expectSize(boundsDown(font, "C", "sideways"), 10, 4);
+    expectSize(boundsDown(font, "D"), 2, 2);
+}
+
 TEST(SvgFont, MeasuresThatAreNoneAreTheUsualOnes) {
     for (const char* units :
          {"units-per-em='0'", "units-per-em='-5'", "units-per-em='1e9'", "units-per-em='em'"})
