@@ -145,7 +145,8 @@ std::optional<Object> ObjectReader::read(pugi::xml_node element, Shape shape, do
     scene_.budget.spend(Budget::kObject + shape.outline.points().size());
     const PaintPlace at{shape.box(), place.toDrawing, place.lengths};
     // The outline is moved in its place unless dashes are measured along it.
-    const drawing::Path stated = place.style.dashes ? shape.outline : drawing::Path();
+    const bool measured = place.style.dashes && element.attribute("pathLength");
+    const drawing::Path stated = measured ? shape.outline : drawing::Path();
     auto outline = placedPath(std::move(shape.outline), place.toDrawing);
     if (!outline || !strokeInRange(place.style)) {
         scene_.notes.add(Unsupported::OutOfRange);
