@@ -38,8 +38,10 @@ void fetch(const SurfaceView& surface, const PixelRect& area) {
     }
 }
 
-// Some 50 MB of them. Few shapes have more between the rows that a thread paints at a time.
-constexpr std::size_t kMostEdges = std::size_t{1} << 20;
+// 40 MB of them. Few shapes have more between the rows that a thread paints at a time.
+constexpr std::size_t kMostEdges = 1'000'000;
+// With those of one more curve. Growing to them leaves memory behind that nobody uses.
+constexpr std::size_t kRoomForMostEdges = std::size_t{1} << 20;
 
 // The largest parameter at the pixels of an area, and the smallest, which for circles may lie between the
 // corners.
@@ -166,6 +168,8 @@ void Painter::fillPart(const SurfaceView& surface, drawing::FillRule rule, const
 
 void Painter::fill(const SurfaceView& surface, const drawing::Path& shape, drawing::FillRule rule,
                    const Affine& toSurface, const PaintSource& source, double opacity) {
+    if (shape.verbs().size() > kMostEdges)
+        rasteriser_.reserve(kRoomForMostEdges);
     fillPart(surface, rule, toSurface, source, opacity, [&](std::size_t mostEdges) {
         addOutline(rasteriser_, shape, toSurface, mostEdges);
         return 1.0;

@@ -24,6 +24,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 namespace easel::paint {
@@ -48,7 +49,6 @@ void Rasteriser::begin(const PixelRect& clip) {
     highest_ = clip_.bottom * kUnit;
     lowest_ = clip_.top * kUnit;
     edges_.clear();
-    active_.clear();
 }
 
 void Rasteriser::addEdge(drawing::Point from, drawing::Point to) {
@@ -136,19 +136,26 @@ void Rasteriser::sweep(drawing::FillRule rule, CoverageSink& sink) {
     band_.reserve(static_cast<int>(rightmost_) + 1);
     lists_.reserve(clip_.left, clip_.right, band_.columns());
     std::sort(edges_.begin(), edges_.end(), [](const Edge& a, const Edge& b) { return a.top < b.top; });
-    auto next = edges_.begin();
-    for (std::int64_t top = 0; next != edges_.end() || !active_.empty(); top += kCoverageBandRows) {
-        if (active_.empty())
+    const auto isDone = [](const Edge& edge) { return edge.top == edge.bottom; };
+    // From the first that is not done to those that begin below the band.
+    auto first = edges_.begin();
+    auto next = first;
+    for (std::int64_t top = 0; first != edges_.end(); top += kCoverageBandRows) {
+        if (first == next)
             top = next->top / kUnit;
-        for (; next != edges_.end() && next->top < (top + kCoverageBandRows) * kUnit; ++next)
-            active_.push_back(*next);
-        sweepBand(top, rule, sink);
+        while (next != edges_.end() && next->top < (top + kCoverageBandRows) * kUnit)
+            ++next;
+        sweepBand({first, next}, top, rule, sink);
+        // What is left of them moves up to the others.
+        first = std::remove_if(std::make_reverse_iterator(next), std::make_reverse_iterator(first), isDone)
+                    .base();
     }
+    edges_.clear();
 }
 
-void Rasteriser::sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink) {
-    addEdges(active_, top, left_, right_, band_);
-    std::erase_if(active_, [](const Edge& edge) { return edge.top == edge.bottom; });
+void Rasteriser::sweepBand(std::span<Edge> edges, std::int64_t top, drawing::FillRule rule,
+                           CoverageSink& sink) {
+    addEdges(edges, top, left_, right_, band_);
     const std::int64_t bottom = std::min((lowest_ + kUnit - 1) / kUnit, top + kCoverageBandRows);
     for (std::int64_t row = top; row < bottom; ++row) {
         const RowCoverage coverage = collect(static_cast<std::size_t>(row - top), rule);

@@ -9,6 +9,7 @@
 #include "easel/paint/pixels/Surface.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace easel::paint {
@@ -18,6 +19,8 @@ class Rasteriser {
   public:
     // Forgets all edges; what follows is seen only within `clip`.
     void begin(const PixelRect& clip);
+    // Room for so many edges in all.
+    void reserve(std::size_t edges) { edges_.reserve(edges); }
     // One side of a polygon, in surface coordinates. The sides of a polygon may come in any order but all of
     // them must come, in one sense of rotation. A side with a coordinate that is not finite is left out.
     void addEdge(drawing::Point from, drawing::Point to);
@@ -28,13 +31,13 @@ class Rasteriser {
     std::size_t edgeCount() const { return edges_.size(); }
     // Encloses all pixels that the edges touch, within the clip.
     PixelRect bounds() const;
-    // Hands every row that the shape touches to the sink.
+    // Hands every row that the shape touches to the sink, and forgets the edges.
     void sweep(drawing::FillRule rule, CoverageSink& sink);
 
   private:
     void addInside(drawing::Point from, drawing::Point to);
     void addSloped(drawing::Point upper, drawing::Point lower, int winding);
-    void sweepBand(std::int64_t top, drawing::FillRule rule, CoverageSink& sink);
+    void sweepBand(std::span<Edge> edges, std::int64_t top, drawing::FillRule rule, CoverageSink& sink);
     RowCoverage collect(std::size_t row, drawing::FillRule rule);
 
     PixelRect clip_;
@@ -46,7 +49,6 @@ class Rasteriser {
     std::int64_t highest_ = 0;
     std::int64_t lowest_ = 0;
     std::vector<Edge> edges_;
-    std::vector<Edge> active_;
     CoverageBand band_;
     CoverageLists lists_; // of the current row
 };
