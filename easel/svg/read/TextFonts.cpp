@@ -9,6 +9,7 @@
 #include "easel/type/LoadedFont.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -19,12 +20,25 @@ namespace {
 constexpr std::size_t kMostBytes = std::size_t{64} << 20; // of all fonts together
 // What opening a font costs, in points.
 constexpr std::size_t kOpening = 10'000;
+
+std::size_t bytesBetweenTags(const XmlTree& tree) {
+    std::size_t bytes = 0;
+    for (pugi::xml_node node = tree.root(); node; node = nextInside(tree.root(), node)) {
+        const bool isText = node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+        if (isText && tree.svgName(node.parent()) != "style")
+            bytes += std::strlen(node.value());
+    }
+    return bytes;
+}
+
 } // namespace
 
 type::Typesetter* TextFonts::typesetter() {
     type::Typesetter* const system = type::typesetter();
-    if (!std::exchange(made_, true) && system)
+    if (!std::exchange(made_, true) && system) {
+        budget_.allowText(bytesBetweenTags(tree_));
         make(*system);
+    }
     return own_ ? own_.get() : system;
 }
 

@@ -20,11 +20,15 @@ class Budget {
     // One unit is worth a point of an outline.
     static constexpr std::size_t kBase = 8'000'000;
     static constexpr std::size_t kPerByte = 8;
+    // Of text, since a letter of one byte may have an outline of a hundred points.
+    static constexpr std::size_t kPerByteOfText = 128;
     static constexpr std::size_t kObject = 32;
 
     explicit Budget(std::size_t fileSize) : left_(kBase + kPerByte * fileSize) {}
     // For a file that is read along.
     void allow(std::size_t fileSize) { left_ += kPerByte * fileSize; }
+    // For so many bytes between tags, which may be text that is shown.
+    void allowText(std::size_t bytes) { left_ += kPerByteOfText * bytes; }
     void spend(std::size_t units) {
         if (units > left_)
             throw ReadError{Fault::TooComplex,

@@ -146,6 +146,16 @@ TEST(BadInput, ExponentialUseIsRefusedInBoundedTime) {
     EXPECT_EQ(errorOf(svgFile(content)).code, Fault::TooComplex);
 }
 
+// The letter's outline has a hundred points, so that the text has more than a small file may make of shapes.
+TEST(BadInput, LongTextIsReadAndRefusedOnlyWhereItIsRepeated) {
+    const std::string text =
+        "<font><font-face font-family='a' units-per-em='100'/><glyph unicode='a' d='M0 0" +
+        repeated("h9v9", 50) + "'/></font><text id='t' font-family='a'>" + std::string(90'000, 'a') +
+        "</text>";
+    EXPECT_EQ(readOk(svgFile(text)).size(), 1U);
+    EXPECT_EQ(errorOf(svgFile(text + repeated("<use href='#t'/>", 3))).code, Fault::TooComplex);
+}
+
 TEST(BadInput, EntityBombsAreRefused) {
     std::string types = "<!ENTITY e0 'fill:red;'>";
     for (int i = 1; i < 12; ++i)
