@@ -1,5 +1,6 @@
 // The command line of Easel.
 #include "easel/commands/Failure.h"
+#include "easel/commands/MemoryFailure.h"
 #include "easel/commands/PlayCommand.h"
 #include "easel/commands/RenderCommand.h"
 #include "easel/commands/SelfDescription.h"
@@ -44,10 +45,11 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
     // A file that may not grow further is an error of the write, to be told like any other.
     std::signal(SIGXFSZ, SIG_IGN);
+    easel::commands::explainLackOfMemory();
     try {
         return run(argc, argv);
     } catch (const std::bad_alloc&) {
-        std::fputs("easel: not enough memory\n", stderr);
+        std::fputs(easel::commands::kNotEnoughMemory, stderr);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "easel: %s\n", error.what());
     }

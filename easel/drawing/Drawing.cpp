@@ -1,6 +1,6 @@
 #include "easel/drawing/Drawing.h"
 
-#include "easel/drawing/MemoryReserve.h"
+#include "easel/memory/MemoryReserve.h"
 
 #include <algorithm>
 #include <utility>
@@ -97,7 +97,7 @@ std::optional<std::size_t> Drawing::pick(Point point, double reach, KindSet kind
 }
 
 void Drawing::insert(std::size_t index, ObjectPtr object) {
-    demandMemory();
+    memory::demandMemory();
     history_.makeRoom();
     const Slot slot = list_.newSlot();
     putIn(index, slot, object);
@@ -110,7 +110,7 @@ void Drawing::insert(std::size_t index, ObjectPtr object) {
 }
 
 void Drawing::erase(std::size_t index) {
-    demandMemory();
+    memory::demandMemory();
     history_.makeRoom();
     const Slot slot = list_.slotAt(index);
     ObjectPtr object = takeOut(slot);
@@ -129,7 +129,7 @@ void Drawing::amend(std::size_t index, const ObjectPtr& object) {
 }
 
 bool Drawing::undo() {
-    demandMemory();
+    memory::demandMemory();
     const Step* step = history_.takeUndo(selectedSlots());
     if (step)
         revert(*step);
@@ -150,7 +150,7 @@ void Drawing::revert(const Step& step) {
 }
 
 bool Drawing::redo() {
-    demandMemory();
+    memory::demandMemory();
     const Step* step = history_.takeRedo();
     if (!step)
         return false;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "easel/drawing/Drawing.h"
-#include "easel/drawing/MemoryReserve.h"
+#include "easel/memory/MemoryReserve.h"
 
 namespace easel::drawing {
 
@@ -12,7 +12,7 @@ template <class Change> void changeWholly(Drawing& drawing, const Change& change
     const std::size_t levels = drawing.undoLevels();
     try {
         change();
-        demandMemory();
+        memory::demandMemory();
     } catch (...) {
         if (drawing.undoLevels() > levels)
             drawing.takeBack();

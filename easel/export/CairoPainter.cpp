@@ -188,6 +188,7 @@ void CairoPainter::paintMask(const drawing::ClipPath& clip) {
 }
 
 void CairoPainter::paintObject(const Object& object) {
+    inCairo_.check();
     painted_.next();
     const drawing::Style& style = drawing::styleOf(object);
     const double opacity = drawing::validOpacity(style.opacity);

@@ -5,6 +5,7 @@
 #include "easel/export/CairoLetters.h"
 #include "easel/export/CairoPicture.h"
 #include "easel/export/Progress.h"
+#include "easel/memory/LibraryCall.h"
 #include "easel/paint/FilterPictures.h"
 #include "easel/paint/ObjectPaintSource.h"
 #include "easel/paint/Painter.h"
@@ -76,6 +77,7 @@ class CairoPainter {
     CairoPictures pictures_;
     CairoLetters letters_;
     PieceCount painted_;
+    const memory::LibraryCall inCairo_;
     paint::FilterPictures filterPictures_;
 };
 

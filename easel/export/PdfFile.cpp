@@ -2,6 +2,7 @@
 #include "easel/export/PdfFile.h"
 
 #include "easel/export/CairoPainter.h"
+#include "easel/memory/LibraryCall.h"
 
 #include <cairo-pdf.h>
 #include <cairo.h>
@@ -59,6 +60,8 @@ PdfPage pageOf(const drawing::Drawing& drawing, double scale, double dotsPerInch
 }
 
 files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, const Progress& progress) {
+    // Cairo takes some refusals for success.
+    const memory::LibraryCall inCairo;
     Output out{progress.part(kShareOfPainting, 1),
                kHalfOfAnObject * static_cast<double>(drawing.size() + 1),
                {},
@@ -77,6 +80,7 @@ files::Bytes encodePdf(const drawing::Drawing& drawing, const PdfPage& page, con
     }
     cairo_surface_finish(surface.get());
     check(out, cairo_surface_status(surface.get()));
+    inCairo.check();
     return std::move(out.bytes);
 }
 

@@ -2,6 +2,7 @@
 
 #include "easel/export/FontText.h"
 #include "easel/export/TextPieces.h"
+#include "easel/memory/LibraryCall.h"
 #include "easel/svg/write/ElementText.h"
 
 #include <algorithm>
@@ -82,7 +83,7 @@ bool textElements(const Object& object, std::vector<TextElement>& elements) {
     const Affine units = drawing::unitsOf(object);
     if (!typesetter || !text || !units.invertible())
         return false;
-    const auto pieces = piecesOf(*text, *typesetter);
+    const auto pieces = memory::complete([&] { return piecesOf(*text, *typesetter); });
     if (!pieces || !keepsPen(object, *pieces))
         return false;
     const TextPiece* const end = pieces->data() + pieces->size();

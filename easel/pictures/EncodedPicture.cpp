@@ -1,5 +1,6 @@
 #include "easel/pictures/EncodedPicture.h"
 
+#include "easel/memory/LibraryCall.h"
 #include "easel/pictures/PixelLoader.h"
 #include "easel/pictures/RecentPixels.h"
 
@@ -30,7 +31,7 @@ class EncodedPicture : public drawing::Picture {
             return nullptr;
         auto pixels = decoded_.lock();
         if (!pixels)
-            pixels = pixelLoader()->pixels(bytes_, format_, size_);
+            pixels = memory::complete([&] { return pixelLoader()->pixels(bytes_, format_, size_); });
         damaged_ = !pixels;
         decoded_ = pixels;
         if (pixels)
@@ -54,7 +55,7 @@ Opened openPicture(std::string bytes) {
     PixelLoader* const loader = format ? pixelLoader() : nullptr;
     if (!loader)
         return Refusal::UnknownFormat;
-    const auto size = loader->size(bytes, *format);
+    const auto size = memory::complete([&] { return loader->size(bytes, *format); });
     if (!size || size->width < 1 || size->height < 1)
         return Refusal::Damaged;
     if (std::int64_t{size->width} * size->height > kMostPixels)

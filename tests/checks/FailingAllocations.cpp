@@ -7,13 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* block, std::size_t size);
-void* __libc_memalign(std::size_t alignment, std::size_t size);
-}
-
 namespace {
 
 using Main = int(int, char**, char**);
@@ -40,6 +33,10 @@ bool refused() {
     return true;
 }
 
+template <class Function> Function* next(const char* name) {
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
 int countedMain(int argc, char** argv, char** environment) {
     firstToFail = number("FAIL_FROM");
     lastToFail = number("FAIL_TO");
@@ -53,26 +50,31 @@ int countedMain(int argc, char** argv, char** environment) {
 
 } // namespace
 
+// NOLINTBEGIN(readability-identifier-naming): the C library's names.
 extern "C" {
 
-void* malloc(std::size_t size) {
-    return refused() ? nullptr : __libc_malloc(size);
+// What the program's own allocator asks of the C library, and what asks the C library itself.
+void* __libc_malloc(std::size_t size) {
+    static const auto kNext = next<void*(std::size_t)>("__libc_malloc");
+    return refused() ? nullptr : kNext(size);
 }
-void* calloc(std::size_t count, std::size_t size) {
-    return refused() ? nullptr : __libc_calloc(count, size);
+void* __libc_calloc(std::size_t count, std::size_t size) {
+    static const auto kNext = next<void*(std::size_t, std::size_t)>("__libc_calloc");
+    return refused() ? nullptr : kNext(count, size);
 }
-void* realloc(void* block, std::size_t size) {
-    return refused() ? nullptr : __libc_realloc(block, size);
+void* __libc_realloc(void* block, std::size_t size) {
+    static const auto kNext = next<void*(void*, std::size_t)>("__libc_realloc");
+    return refused() ? nullptr : kNext(block, size);
 }
-void* aligned_alloc(std::size_t alignment, std::size_t size) {
-    return refused() ? nullptr : __libc_memalign(alignment, size);
+void* __libc_memalign(std::size_t alignment, std::size_t size) {
+    static const auto kNext = next<void*(std::size_t, std::size_t)>("__libc_memalign");
+    return refused() ? nullptr : kNext(alignment, size);
 }
 
 // While a module is loaded nothing is refused: its global objects have nobody to tell.
 void* dlopen(const char* file, int mode) {
     const bool before = counting.exchange(false);
-    void* const module =
-        reinterpret_cast<void* (*)(const char*, int)>(dlsym(RTLD_NEXT, "dlopen"))(file, mode);
+    void* const module = next<void*(const char*, int)>("dlopen")(file, mode);
     counting = before;
     return module;
 }
@@ -81,7 +83,7 @@ void* dlopen(const char* file, int mode) {
 int __libc_start_main(Main* main, int argc, char** argv, void (*init)(), void (*fini)(), void (*finish)(),
                       void* stackEnd) {
     programMain = main;
-    void* const next = dlsym(RTLD_NEXT, "__libc_start_main");
-    return reinterpret_cast<StartMain*>(next)(countedMain, argc, argv, init, fini, finish, stackEnd);
+    return next<StartMain>("__libc_start_main")(countedMain, argc, argv, init, fini, finish, stackEnd);
 }
 }
+// NOLINTEND(readability-identifier-naming)

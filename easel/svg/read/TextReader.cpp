@@ -1,5 +1,6 @@
 #include "easel/svg/read/TextReader.h"
 
+#include "easel/memory/LibraryCall.h"
 #include "easel/svg/read/TextFonts.h"
 #include "easel/type/Append.h"
 #include "easel/type/Layout.h"
@@ -15,8 +16,10 @@ drawing::Path TextShape::wholeOutline() const {
     return whole;
 }
 
-std::optional<TextShape> readText(pugi::xml_node element, const StatedStyle& stated, const Scene& scene,
-                                  const Place& place) {
+namespace {
+
+std::optional<TextShape> laidOutText(pugi::xml_node element, const StatedStyle& stated, const Scene& scene,
+                                     const Place& place) {
     type::Typesetter* const typesetter = scene.fonts.typesetter();
     if (!typesetter) {
         scene.notes.add(Unsupported::Text);
@@ -34,6 +37,13 @@ std::optional<TextShape> readText(pugi::xml_node element, const StatedStyle& sta
     for (type::PaintedOutline& each : placed.outlines)
         each.outline.shrinkToFit();
     return TextShape{std::move(placed.outlines), std::move(content.paints), placed.cells};
+}
+
+} // namespace
+
+std::optional<TextShape> readText(pugi::xml_node element, const StatedStyle& stated, const Scene& scene,
+                                  const Place& place) {
+    return memory::complete([&] { return laidOutText(element, stated, scene, place); });
 }
 
 } // namespace easel::svg

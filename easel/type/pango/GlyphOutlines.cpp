@@ -87,11 +87,14 @@ GlyphOutlines::KnownFont& GlyphOutlines::known(PangoFont* font) {
     return known;
 }
 
+void GlyphOutlines::forget() {
+    fonts_.clear();
+    count_ = 0;
+}
+
 Path GlyphOutlines::of(PangoFont* font, std::uint32_t glyph) {
-    if (count_ >= kMostOutlines) {
-        fonts_.clear();
-        count_ = 0;
-    }
+    if (count_ >= kMostOutlines)
+        forget();
     KnownFont& own = known(font);
     const auto [place, isNew] = own.outlines.try_emplace(glyph);
     if (isNew) {

@@ -27,6 +27,8 @@ class GlyphOutlines {
     drawing::Path of(PangoFont* font, std::uint32_t glyph);
     // What the outlines are those of.
     FacePtr face(PangoFont* font) { return known(font).face; }
+    // Makes all of them anew when they are asked for.
+    void forget();
 
   private:
     struct KnownFont {

@@ -1,5 +1,6 @@
 #include "easel/type/pango/PangoTypesetter.h"
 
+#include "easel/memory/LibraryCall.h"
 #include "easel/type/Append.h"
 #include "easel/type/pango/FontInBytes.h"
 #include "easel/type/pango/FontMeasures.h"
@@ -169,7 +170,17 @@ std::vector<Cluster> PangoTypesetter::shape(const Line& line) {
     return shortLines_.emplace(std::move(key), shapeNew(line)).first->second;
 }
 
+// Nothing is kept of what may lack something.
 std::vector<Cluster> PangoTypesetter::shapeNew(const Line& line) {
+    try {
+        return memory::complete([&] { return clustersOf(line); });
+    } catch (const std::bad_alloc&) {
+        outlines_.forget();
+        throw;
+    }
+}
+
+std::vector<Cluster> PangoTypesetter::clustersOf(const Line& line) {
     std::vector<Cluster> clusters;
     setDirection(context_.get(), line);
     const Attributes attributes = attributesOf(line);

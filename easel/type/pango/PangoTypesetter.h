@@ -22,6 +22,7 @@ class PangoTypesetter : public Typesetter {
 
   private:
     std::vector<Cluster> shapeNew(const Line& line);
+    std::vector<Cluster> clustersOf(const Line& line);
     // `letters`: where in the line letters begin.
     void addClusters(PangoItem& item, const Line& line, const std::vector<int>& letters,
                      std::vector<Cluster>& clusters);

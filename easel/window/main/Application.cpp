@@ -50,7 +50,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 bool Application::giveUp() {
-    drawing::memoryIsLeft();
+    memory::memoryIsLeft();
     telling_.start();
     return false;
 }

@@ -1,7 +1,7 @@
 // The application object of the desktop.
 #pragma once
 
-#include "easel/drawing/MemoryReserve.h"
+#include "easel/memory/MemoryReserve.h"
 #include "easel/window/waiting/TimingJournal.h"
 
 #include <QApplication>
@@ -31,7 +31,7 @@ class Application : public QApplication {
     bool giveUp();
 
     std::unique_ptr<TimingJournal> times_;
-    drawing::MemoryReserve reserve_;
+    memory::MemoryReserve reserve_;
     QTimer telling_;
 };
 

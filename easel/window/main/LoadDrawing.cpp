@@ -1,10 +1,10 @@
 // Drives a progress dialog from the reader's reports.
 #include "easel/window/main/LoadDrawing.h"
 
-#include "easel/drawing/MemoryReserve.h"
 #include "easel/files/AtomicFile.h"
 #include "easel/files/MemoryErrors.h"
 #include "easel/files/WholeFile.h"
+#include "easel/memory/MemoryReserve.h"
 #include "easel/recovery/Journal.h"
 #include "easel/window/waiting/BackgroundWork.h"
 #include "easel/window/waiting/Interaction.h"
@@ -43,7 +43,7 @@ files::Result<drawing::Drawing> readBeside(const std::filesystem::path& file, In
     };
     files::Result<drawing::Drawing> drawing = read(options);
     // One that leaves no memory for a change is too large.
-    if (drawing && !drawing::memoryIsLeft())
+    if (drawing && !memory::memoryIsLeft())
         return tl::unexpected(files::tooLargeForMemory(file));
     return drawing;
 }

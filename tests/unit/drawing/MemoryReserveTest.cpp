@@ -1,5 +1,5 @@
 // Memory that is kept so that changes of drawings are finished, or not begun.
-#include "easel/drawing/MemoryReserve.h"
+#include "easel/memory/MemoryReserve.h"
 
 #include "easel/drawing/SelectedGradients.h"
 #include "easel/drawing/WholeChange.h"
@@ -14,6 +14,7 @@
 namespace {
 
 using namespace easel::drawing;
+using namespace easel::memory;
 
 bool gHasMemory = true;
 

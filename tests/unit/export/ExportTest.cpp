@@ -3,6 +3,7 @@
 #include "easel/export/GradientRange.h"
 #include "easel/export/PdfFile.h"
 #include "easel/export/SvgText.h"
+#include "easel/memory/Refusals.h"
 
 #include "host/Gradient.h"
 
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <limits>
 #include <memory>
+#include <new>
 
 namespace {
 
@@ -145,6 +147,16 @@ TEST(PdfFile, GradientsAreShadingsAndTheSameTwoKinds) {
     EXPECT_EQ(text.find("/Subtype /Image"), std::string::npos);
     // 300 by 200 units at 96 to the inch, in points.
     EXPECT_NE(text.find("0 0 225 150"), std::string::npos);
+}
+
+// The library that writes it takes some refusals for success.
+TEST(PdfFile, IsGivenUpWhereMemoryWasRefusedWhileItWasWritten) {
+    const auto drawing = drawingOf({withGradient("a", {0, 0, 90, 90}, {})});
+    const Progress refusing([](double) {
+        easel::memory::countRefusal();
+        return true;
+    });
+    EXPECT_THROW(encodePdf(drawing, pageOf(drawing, 1), refusing), std::bad_alloc);
 }
 
 TEST(VectorExports, CarryOpacityAndEllipsesWithoutPictures) {

@@ -1,12 +1,13 @@
 // A handler for `new` that frees one piece after the other.
-#include "easel/drawing/MemoryReserve.h"
+#include "easel/memory/MemoryReserve.h"
+
+#include "easel/memory/LibraryCall.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <new>
-#include <utility>
 
-namespace easel::drawing {
+namespace easel::memory {
 
 namespace {
 
@@ -25,26 +26,32 @@ MemoryReserve::MemoryReserve(Source source) : source_(source), owner_(std::this_
 MemoryReserve::~MemoryReserve() {
     std::set_new_handler(nullptr);
     gReserve = nullptr;
-    for (void* piece : pieces_)
+    for (const std::atomic<void*>& piece : pieces_)
         std::free(piece);
 }
 
 void MemoryReserve::giveOut() {
-    if (std::this_thread::get_id() == gReserve->owner_)
-        for (void*& piece : gReserve->pieces_)
-            if (piece)
-                return std::free(std::exchange(piece, nullptr));
+    for (std::size_t i = 0; i < gReserve->share(); ++i)
+        if (void* const given = gReserve->pieces_[i].exchange(nullptr))
+            return std::free(given);
     throw std::bad_alloc();
+}
+
+// How many pieces, from the first on, this thread may have.
+std::size_t MemoryReserve::share() const {
+    if (LibraryCall::isUnderWayOnThisThread() || std::this_thread::get_id() == owner_)
+        return pieces_.size();
+    return LibraryCall::isUnderWay() ? pieces_.size() / 2 : 0;
 }
 
 bool memoryIsLeft() {
     if (!gReserve)
         return true;
-    for (void*& piece : gReserve->pieces_)
+    for (std::atomic<void*>& piece : gReserve->pieces_)
         if (!piece)
             piece = gReserve->source_(kPieceBytes);
     return std::all_of(gReserve->pieces_.begin(), gReserve->pieces_.end(),
-                       [](const void* piece) { return piece; });
+                       [](const std::atomic<void*>& piece) { return piece.load() != nullptr; });
 }
 
 void demandMemory() {
@@ -52,4 +59,4 @@ void demandMemory() {
         throw std::bad_alloc();
 }
 
-} // namespace easel::drawing
+} // namespace easel::memory

@@ -1,16 +1,19 @@
-// Memory put aside, so that what a change of a drawing has begun can be finished or undone when all else is
-// used up.
+// Memory put aside, so that what a change of a drawing or a library has begun can be finished or undone when
+// all else is used up.
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdlib>
 #include <thread>
 
-namespace easel::drawing {
+namespace easel::memory {
 
 // At most one at a time. While it exists, the thread that made it is given pieces of the reserve where `new`
-// would have to throw; other threads are refused as ever. Drawings begin no change once a piece is given out.
+// would have to throw, and so is a thread that is in a library (LibraryCall.h). Meanwhile others, among which
+// the library's own threads are, may have half of it; when none is in a library, they are refused as ever.
+// Drawings begin no change once a piece is given out.
 class MemoryReserve {
   public:
     // Where its memory comes from, which `std::free` gives back.
@@ -25,10 +28,11 @@ class MemoryReserve {
     friend bool memoryIsLeft();
 
     static void giveOut();
+    std::size_t share() const;
 
     Source source_;
     std::thread::id owner_;
-    std::array<void*, 8> pieces_{};
+    std::array<std::atomic<void*>, 8> pieces_{};
 };
 
 // Puts aside again what was given out; false if there is not so much memory now. Without a reserve there is
@@ -37,4 +41,4 @@ bool memoryIsLeft();
 // Throws std::bad_alloc if it is not.
 void demandMemory();
 
-} // namespace easel::drawing
+} // namespace easel::memory
