@@ -36,6 +36,10 @@ class ToldUser : public IdleUser {
         told.push_back(prompt + " " + std::to_string(color.blue));
         return picked;
     }
+    void runDeletion(runtime::DeletionList& list) override {
+        told.push_back("list of " + std::to_string(list.count()));
+        list.command(runtime::DeletionCommand::Cancel);
+    }
     runtime::MouseState mouse() override { return {{}, held}; }
 
     std::vector<std::string> told;
@@ -204,6 +208,18 @@ TEST_F(DialogCallsTest, AMenuTakesEntriesOneByOneAndSeveralInOneText) {
     EXPECT_EQ(text.Text(), "fourth");
     GetMenuItemText(menu, 4, text);
     EXPECT_EQ(text.Text(), "");
+}
+
+// Runs without a list of things.
+class BareDialog : public CCarbonDialogBase {
+  protected:
+    ~BareDialog() override = default;
+};
+
+TEST_F(DialogCallsTest, ADialogOfCommandsListsNothingByItself) {
+    EXPECT_FALSE((new BareDialog)->Run());
+    EXPECT_THAT(user_.told, ElementsAre("list of 0"));
+    EXPECT_EQ(process_.deletionList(), nullptr);
 }
 
 // Gives commands of its own to a dialog that knows no more than the base of all.

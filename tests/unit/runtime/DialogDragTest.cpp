@@ -67,6 +67,7 @@ TEST_F(DialogDragTest, AStopGoesToTheFrontOfAllAndThenToWhereItWas) {
         positions.push_back(follow(0.7, 0.5));
     EXPECT_EQ(positions.front(), -1) << "before every stop that a ramp has";
     EXPECT_EQ(positions.back(), 0.25);
+    EXPECT_EQ(follow(0.25, 0.5), 0.25) << "where it stays until the button goes up";
 }
 
 TEST_F(DialogDragTest, OnlyTheFirstValueAfterALookAtTheMouseIsTheDraggedOne) {

@@ -103,6 +103,37 @@ TEST_F(DialogObserverTest, HearsOfTheFocusWhenItMoves) {
     EXPECT_THAT(heard(), ElementsAre("focus", "focus", "focus", "selection 6"));
 }
 
+// Looks at an item as soon as it hears of it.
+class LookingObserver : public WritingObserver {
+  public:
+    explicit LookingObserver(const Dialog& dialog) : dialog_(dialog) {}
+
+    void itemChanged(int item, ItemChange) override {
+        const DialogItem& seen = *dialog_.item(item);
+        heard.push_back(seen.text + " " + std::to_string(seen.selection.from) + "-" +
+                        std::to_string(seen.selection.to) + " " + std::to_string(seen.value));
+    }
+    void focusChanged() override { heard.push_back(std::to_string(dialog_.focus())); }
+    void shownChanged() override { heard.emplace_back(dialog_.shown() ? "shown" : "hidden"); }
+
+  private:
+    const Dialog& dialog_;
+};
+
+TEST_F(DialogObserverTest, HearsOfWhatIsThereAlready) {
+    LookingObserver observer(dialog_);
+    dialog_.setObserver(&observer);
+    dialog_.setText(kOtherField, "abc");
+    dialog_.selectText(kOtherField, {1, 2});
+    dialog_.typeCharacter(U'x');
+    dialog_.setValue(kRadio, 1);
+    dialog_.chooseEntry(kPopup, 2);
+    dialog_.show();
+    EXPECT_THAT(observer.heard, ElementsAre("abc 3-3 0", "6", "abc 1-2 0", "axc 2-2 0", " 0-0 1", " 0-0 2",
+                                            "axc 0-3 0", "shown"));
+    dialog_.setObserver(nullptr);
+}
+
 TEST_F(DialogObserverTest, HearsOnceThatTheDialogIsShown) {
     EXPECT_FALSE(dialog_.shown());
     dialog_.show();
@@ -177,6 +208,14 @@ TEST_F(DialogObserverTest, HitsWaitInTheirOrderAndNoItemIsNone) {
     for (const int item : {kRadio, kRadio, kButton})
         EXPECT_EQ(dialog_.takeHit(), item);
     EXPECT_EQ(dialog_.takeHit(), std::nullopt);
+}
+
+TEST_F(DialogObserverTest, ATextThatIsEnteredTakesThePlaceOfAllThatWasThere) {
+    dialog_.setText(kField, "abcdef");
+    dialog_.selectText(kField, {2, 3});
+    EXPECT_EQ(dialog_.enterText(kField, "xy"), EditOutcome::Accepted);
+    EXPECT_EQ(dialog_.item(kField)->text, "xy");
+    EXPECT_EQ(dialog_.item(kField)->selection, (TextSelection{2, 2}));
 }
 
 TEST_F(DialogObserverTest, ErasingForwardsTakesTheCharacterBehindTheCaret) {

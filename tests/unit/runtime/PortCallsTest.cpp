@@ -288,6 +288,19 @@ TEST_F(GradientCallsTest, AnImageIsFilledAndCopiedToWhereItLies) {
     CGPathRelease(path);
 }
 
+TEST_F(GradientCallsTest, AnImageThatIsMadeWithoutAPortFitsADialogThatIsNotEnlarged) {
+    QD::SetPort(nullptr);
+    CSimplePixMap image({0, 0, 20, 20}, 32);
+    image.BeginDrawing();
+    QD::PaintRect({5, 5, 10, 10});
+    image.EndDrawing();
+    SetPortDialogPort(dialog_);
+    image.CopyFrom();
+    EXPECT_EQ(pixel(5, 5), kBlack);
+    EXPECT_EQ(pixel(9, 9), kBlack);
+    EXPECT_NE(pixel(10, 10), kBlack);
+}
+
 TEST_F(GradientCallsTest, AnItemShowsTheGradientThatIsCopiedToIt) {
     CSimplePixMap image(GetDialogItemBounds(dialog_, kUserItem), 32);
     const CGPath* const path = itemPath();

@@ -47,6 +47,13 @@ TEST_F(StorageTest, DefaultsThatUnexpectedlyCouldNotBeKeptAreToldOf) {
     EXPECT_FALSE(storage_.keptAll());
 }
 
+TEST_F(StorageTest, DefaultsAreNotKeptEvenWhereThatHasBeenTold) {
+    storage_.tellNothingIsKept(kReadOnly);
+    EXPECT_TRUE(storage_.keptAll());
+    storage_.tellDefaultsNotKept(kReadOnly);
+    EXPECT_FALSE(storage_.keptAll());
+}
+
 TEST_F(StorageTest, ANameInAFolderThatIsNotThereIsRefusedWithThatReasonAndOnlyOnce) {
     classic::FileSpec spec;
     storage_.resolve(0, 0, "a", spec);
