@@ -197,6 +197,21 @@ TEST(DeletionList, LeavesOutRowsThatAreNotThereAndRepeatedOnes) {
     EXPECT_FALSE(list.canConfirm());
 }
 
+TEST(DeletionList, IsCanceledWhateverIsSelectedAndConfirmedWhereSomethingIs) {
+    std::vector<DeletionCommand> given;
+    DeletionList list(
+        "", 1, [](const auto&) { return std::vector<std::string>{"thing"}; },
+        easel::runtime::SelectionMode::Several, [&](DeletionCommand command) { given.push_back(command); });
+    for (const bool selected : {false, true}) {
+        if (selected)
+            list.select({0});
+        list.command(DeletionCommand::Ok);
+        list.command(DeletionCommand::Cancel);
+    }
+    EXPECT_THAT(given,
+                testing::ElementsAre(DeletionCommand::Cancel, DeletionCommand::Ok, DeletionCommand::Cancel));
+}
+
 TEST(DeletionList, IsOpenUntilItIsClosed) {
     DeletionList list(
         "", 0, [](const auto&) { return std::vector<std::string>(); }, easel::runtime::SelectionMode::Several,

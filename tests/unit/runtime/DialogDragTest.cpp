@@ -83,6 +83,28 @@ TEST_F(DialogDragTest, OnlyTheFirstValueAfterALookAtTheMouseIsTheDraggedOne) {
     EXPECT_EQ(drag_.angleFor(3, 4), 3);
 }
 
+TEST_F(DialogDragTest, WhatIsSetWithThePressGoesBackToWhatWasBeforeIt) {
+    drag_.begin();
+    EXPECT_EQ(drag_.startFor({0.1, 0.1}, {0.5, 0.5}), (Point{0.5, 0.5}));
+    EXPECT_EQ(drag_.endFor({0.2, 0.2}, {0.6, 0.6}), (Point{0.6, 0.6}));
+    drag_.takeBack();
+    drag_.followed(dialog_);
+    EXPECT_EQ(drag_.startFor({0.5, 0.5}, {0.9, 0.9}), (Point{0.1, 0.1}));
+    EXPECT_EQ(drag_.endFor({0.6, 0.6}, {0.9, 0.9}), (Point{0.2, 0.2}));
+}
+
+TEST_F(DialogDragTest, WhatIsDrawnIsDrawnAgainOnceAllIsBack) {
+    for (const bool brokenOff : {false, true}) {
+        dialog_.drawInvalidItems();
+        drag_.begin();
+        drag_.followed(dialog_);
+        if (brokenOff)
+            drag_.takeBack();
+        drag_.finish(dialog_);
+        EXPECT_EQ(dialog_.item(2)->invalid, brokenOff);
+    }
+}
+
 TEST_F(DialogDragTest, AStopThatCameWithThePressIsPulledOffAgain) {
     drag_.begin();
     drag_.stopMade();

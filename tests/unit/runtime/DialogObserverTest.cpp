@@ -142,6 +142,19 @@ TEST_F(DialogObserverTest, HearsOnceThatTheDialogIsShown) {
     EXPECT_THAT(heard(), ElementsAre("selection 2", "shown"));
 }
 
+TEST_F(DialogObserverTest, HearsOfAMenuOnceThereIsSomethingInIt) {
+    DialogDescription made = description();
+    made.items[kPopup - 1].menu = std::make_shared<Menu>();
+    Dialog dialog(std::move(made), {}, ports_);
+    dialog.setObserver(&observer_);
+    dialog.flush();
+    EXPECT_THAT(heard(), IsEmpty());
+    dialog.item(kPopup)->menu->append({"First", true, false});
+    dialog.flush();
+    EXPECT_THAT(heard(), ElementsAre("menu 4"));
+    dialog.setObserver(nullptr);
+}
+
 TEST_F(DialogObserverTest, HearsOfAnotherScreenOnceAllOfItIsDrawn) {
     DialogScreen screen;
     screen.scale = 2;
