@@ -2,6 +2,7 @@
 #include "easel/commands/WindowCommand.h"
 
 #include "easel/files/OwnLibrary.h"
+#include "easel/memory/MemoryReserve.h"
 
 #include <CLI/CLI.hpp>
 
@@ -40,6 +41,8 @@ int runWindow(const window::StartUp& startUp, int argc, char** argv) {
                      "The commands play, render and templates work without one; see easel --help.\n";
         return 2;
     }
+    // The libraries of the desktop want memory from the first on.
+    const memory::MemoryReserve reserve;
     const auto run = files::loadedFrom(EASEL_WINDOW_LIBRARY, window::kRunWindowSymbol);
     if (!run) {
         std::cerr << "easel: there is no window: " << run.error().reason << "\n";

@@ -39,9 +39,8 @@ void MemoryReserve::giveOut() {
 
 // How many pieces, from the first on, this thread may have.
 std::size_t MemoryReserve::share() const {
-    if (LibraryCall::isUnderWayOnThisThread() || std::this_thread::get_id() == owner_)
-        return pieces_.size();
-    return LibraryCall::isUnderWay() ? pieces_.size() / 2 : 0;
+    const bool mayHaveAll = LibraryCall::isUnderWayOnThisThread() || std::this_thread::get_id() == owner_;
+    return mayHaveAll ? pieces_.size() : pieces_.size() / 2;
 }
 
 bool memoryIsLeft() {

@@ -11,9 +11,9 @@
 namespace easel::memory {
 
 // At most one at a time. While it exists, the thread that made it is given pieces of the reserve where `new`
-// would have to throw, and so is a thread that is in a library (LibraryCall.h). Meanwhile others, among which
-// the library's own threads are, may have half of it; when none is in a library, they are refused as ever.
-// Drawings begin no change once a piece is given out.
+// would have to throw, and so is a thread that is in a library (LibraryCall.h). Others, among which are
+// threads that the libraries of the desktop have of their own, may have half of it. Drawings begin no change
+// once a piece is given out.
 class MemoryReserve {
   public:
     // Where its memory comes from, which `std::free` gives back.

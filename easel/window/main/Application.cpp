@@ -2,6 +2,8 @@
 // a session from other ends.
 #include "easel/window/main/Application.h"
 
+#include "easel/memory/MemoryReserve.h"
+
 #include <QThreadPool>
 
 #include <new>

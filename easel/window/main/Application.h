@@ -1,7 +1,6 @@
 // The application object of the desktop.
 #pragma once
 
-#include "easel/memory/MemoryReserve.h"
 #include "easel/window/waiting/TimingJournal.h"
 
 #include <QApplication>
@@ -31,7 +30,6 @@ class Application : public QApplication {
     bool giveUp();
 
     std::unique_ptr<TimingJournal> times_;
-    memory::MemoryReserve reserve_;
     QTimer telling_;
 };
 

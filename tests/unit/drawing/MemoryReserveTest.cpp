@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <future>
 #include <new>
 #include <stdexcept>
 #include <vector>
@@ -70,13 +69,6 @@ TEST_F(MemoryReserveTest, IsGivenOutPieceByPieceAndThenThereIsNone) {
     gHasMemory = true;
     EXPECT_TRUE(memoryIsLeft());
     EXPECT_NO_THROW(std::get_new_handler()());
-}
-
-TEST_F(MemoryReserveTest, IsForItsOwnThreadOnly) {
-    gHasMemory = false;
-    auto other = std::async(std::launch::async, [] { std::get_new_handler()(); });
-    EXPECT_THROW(other.get(), std::bad_alloc);
-    EXPECT_TRUE(memoryIsLeft()) << "nothing was given out";
 }
 
 TEST_F(MemoryReserveTest, NoChangeBeginsOnceItIsTouchedAndAllGoOnWhenThereIsMemoryAgain) {

@@ -53,10 +53,6 @@ int piecesGiven() {
         }
 }
 
-int piecesGivenElsewhere() {
-    return std::async(std::launch::async, &piecesGiven).get();
-}
-
 TEST(LibraryCallTest, IsServedOutOfTheReserveOnAnyThread) {
     const MemoryReserve reserve;
     const auto inLibrary = [] {
@@ -66,11 +62,9 @@ TEST(LibraryCallTest, IsServedOutOfTheReserveOnAnyThread) {
     EXPECT_EQ(std::async(std::launch::async, inLibrary).get(), kPieces);
 }
 
-TEST(LibraryCallTest, LeavesHalfOfTheReserveToThreadsOfTheLibrary) {
+TEST(LibraryCallTest, OtherThreadsHaveHalfOfTheReserve) {
     const MemoryReserve reserve;
-    EXPECT_EQ(piecesGivenElsewhere(), 0) << "no library asks";
-    const LibraryCall call;
-    EXPECT_EQ(piecesGivenElsewhere(), kPieces / 2);
+    EXPECT_EQ(std::async(std::launch::async, &piecesGiven).get(), kPieces / 2);
     EXPECT_EQ(piecesGiven(), kPieces / 2) << "the other half is still there";
 }
 
