@@ -93,25 +93,5 @@ TEST_F(MemoryTest, AChangeThatFindsNoMemoryIsGivenUpAndAllBeforeItCanBeUndone) {
     EXPECT_EQ(quit(), 0);
 }
 
-// The library that writes it asks for memory all the time and would end the program.
-TEST_F(MemoryTest, APdfFileThatFindsNoMemoryIsGivenUpAndTheDrawingStays) {
-    writeRows(drawing(), 150);
-    startWithDrawing();
-    leave(40);
-    chooseInMenu({"alt+f", "e", "d"});
-    answerFileDialog("Export as PDF", folder() / "page.pdf");
-    waitForDialog("Easel");
-    giveBack();
-    EXPECT_THAT(messageOf(waitForDialog("Easel")), AllOf(HasSubstr("page.pdf"), HasSubstr("memory")));
-    screen().key("Escape");
-    EXPECT_TRUE(vanishes("Easel"));
-    EXPECT_FALSE(exists(folder() / "page.pdf"));
-    reverseAll();
-    waitForWindow("drawing.svg*");
-    screen().key("ctrl+z");
-    EXPECT_TRUE(vanishes("drawing.svg*"));
-    EXPECT_EQ(quit(), 0);
-}
-
 } // namespace
 } // namespace desktop
