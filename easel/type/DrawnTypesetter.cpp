@@ -23,7 +23,8 @@ Look lookOf(const LoadedFace& face, const Font& asked, bool rightToLeft) {
             asked.ligatures,
             rightToLeft,
             asked.language,
-            own.nearest(asked.weight)};
+            own.nearest(asked.weight),
+            face.variations + ',' + asked.variations};
 }
 
 // What says how other letters are to be set goes with them.

@@ -42,6 +42,8 @@ struct Font {
     bool smallCaps = false;
     bool ligatures = true;  // those that are not needed to write the script
     std::string language{}; // as in xml:lang; empty: English
+    // Places on the axes of variable fonts, as "wght=650,wdth=80", instead of what the rest says of them.
+    std::string variations{};
 
     friend bool operator==(const Font&, const Font&) = default;
 };

@@ -30,6 +30,7 @@ struct Look {
     bool rightToLeft = false; // of the line as a whole
     std::string language{};   // as in xml:lang; empty: English
     int weight = 400;         // of letters that have several
+    std::string variations{}; // as in Font
 };
 
 // May be used by one thread at a time.
@@ -54,7 +55,8 @@ struct LoadedFace {
     std::shared_ptr<LoadedFont> letters; // null: those of the system
     std::string systemFamily{};          // that stands in for it, where it has no letters
     std::optional<Weights>
-        weights{}; // that it is for; nothing: that of `font`, and whatever letters can have
+        weights{};            // that it is for; nothing: that of `font`, and whatever letters can have
+    std::string variations{}; // as in Font; those of what is asked for count more
     std::vector<Characters> characters{}; // that it is for; none: all
 };
 

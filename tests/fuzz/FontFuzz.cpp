@@ -16,7 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = "AB fi \u05d0\u05d1\u0301 \u0645\u0631 12";
     for (const bool changed : {false, true}) {
         std::size_t covered = 0;
-        for (const type::Cluster& cluster : font->shape(text, {changed, changed, !changed, changed})) {
+        const type::Look look{
+            changed, changed, !changed, changed, {}, changed ? 1 : 1000, changed ? "wdth=75,wght=333" : ""};
+        for (const type::Cluster& cluster : font->shape(text, look)) {
             fuzzing::require(cluster.begin < cluster.end && cluster.end <= text.size());
             fuzzing::require(std::isfinite(cluster.advance));
             for (const drawing::Point p : cluster.outline.points())

@@ -119,8 +119,9 @@ void TextContentReader::setUp(Level& level, pugi::xml_node element, const Stated
     if (const std::string_view space = spaceOf(element); !space.empty())
         level.preserve = space == "preserve";
     const TextStyle& style = textStyleOf(level.style);
-    type::Font font{familyNames(style.families), style.weight,  style.slant, style.stretch, style.smallCaps,
-                    style.letterSpacing == 0,    level.language};
+    type::Font font{
+        familyNames(style.families), style.weight,   style.slant,     style.stretch, style.smallCaps,
+        style.letterSpacing == 0,    level.language, style.variations};
     if (font.families.empty())
         font.families = kUsualFamily;
     if (!level.font || *level.font != font)

@@ -62,7 +62,8 @@ void TextFonts::add(const FontFace& face, type::Typesetter& system) {
         if (source.kind == FontSource::Kind::System) {
             if (!system.has(source.text))
                 continue;
-            return loaded_.push_back({face.font, nullptr, source.text, face.weights, face.characters});
+            return loaded_.push_back(
+                {face.font, nullptr, source.text, face.weights, face.variations, face.characters});
         }
         if (addReferred(face, source.text, system))
             return;
@@ -88,7 +89,8 @@ bool TextFonts::addReferred(const FontFace& face, std::string_view reference, ty
     auto letters = system.load(std::move(bytes));
     const bool isGood = letters != nullptr;
     if (isGood)
-        loaded_.push_back({face.font, std::move(letters), {}, face.weights, face.characters});
+        loaded_.push_back(
+            {face.font, std::move(letters), {}, face.weights, face.variations, face.characters});
     return isGood;
 }
 

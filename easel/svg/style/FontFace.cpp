@@ -80,6 +80,8 @@ std::optional<FontFace> parseFontFace(const std::vector<Declaration>& descriptor
         } else if (is("font-weight")) {
             face.weights = weightsIn(value);
             face.font.weight = face.weights.value_or(type::Weights()).nearest(kUsualWeight);
+        } else if (is("font-variation-settings")) {
+            face.variations = parseVariations(value).value_or(std::move(face.variations));
         } else if (is("unicode-range")) {
             if (auto ranges = parseUnicodeRanges(value))
                 face.characters = *std::move(ranges);

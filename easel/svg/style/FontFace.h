@@ -20,6 +20,7 @@ struct FontSource {
 struct FontFace {
     type::Font font;                          // the one family it is for, and how its letters look
     std::optional<type::Weights> weights;     // that it is for; nothing: not said
+    std::string variations;                   // as in type::Font
     std::vector<type::Characters> characters; // that it is for; none: all
     std::vector<FontSource> sources;          // the best first
 };

@@ -72,6 +72,7 @@ constexpr std::array<std::string_view, kPropertyCount> kNames = {"clip-path",
                                                                  "font-stretch",
                                                                  "font-style",
                                                                  "font-variant",
+                                                                 "font-variation-settings",
                                                                  "font-weight",
                                                                  "glyph-orientation-vertical",
                                                                  "letter-spacing",
@@ -123,6 +124,7 @@ void StatedStyle::setFont(std::string_view shorthand, Importance importance) {
         return;
     set(Property::FontStyle, font.style, importance);
     set(Property::FontVariant, font.variant, importance);
+    set(Property::FontVariationSettings, "normal", importance);
     set(Property::FontWeight, font.weight, importance);
     set(Property::FontStretch, font.stretch, importance);
     set(Property::FontSize, font.size, importance);

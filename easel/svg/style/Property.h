@@ -73,6 +73,7 @@ enum class Property : std::uint8_t {
     FontStretch,
     FontStyle,
     FontVariant,
+    FontVariationSettings,
     FontWeight,
     GlyphOrientation,
     LetterSpacing,
@@ -86,7 +87,7 @@ enum class Property : std::uint8_t {
     WordSpacing,
     WritingMode,
 };
-inline constexpr std::size_t kPropertyCount = 72;
+inline constexpr std::size_t kPropertyCount = 73;
 // From here on they are of text.
 inline constexpr Property kFirstOfText = Property::AlignmentBaseline;
 

@@ -175,6 +175,7 @@ TextStyle TextStyle::inherited(const StatedStyle& stated, const LengthContext& l
     read(stated, Property::FontVariant, &TextStyle::smallCaps, style, [](std::string_view text) {
         return std::optional(findIgnoringCase(text, "small-caps") != std::string_view::npos);
     });
+    read(stated, Property::FontVariationSettings, &TextStyle::variations, style, parseVariations);
     read(stated, Property::LetterSpacing, &TextStyle::letterSpacing, style, spacing);
     read(stated, Property::WordSpacing, &TextStyle::wordSpacing, style, spacing);
     read(stated, Property::TextAnchor, &TextStyle::anchor, style, parseAnchor);
@@ -199,6 +200,8 @@ bool isTextValue(Property property, std::string_view text) {
         return parseSlant(text).has_value();
     case Property::FontStretch:
         return parseStretch(text).has_value();
+    case Property::FontVariationSettings:
+        return parseVariations(text).has_value();
     case Property::LetterSpacing:
     case Property::WordSpacing:
         return parseSpacing(text, lengths).has_value();
@@ -242,6 +245,33 @@ std::string familyNames(std::string_view stated) {
             names.append(names.empty() ? "" : ",").append(name);
     }
     return names;
+}
+
+std::optional<std::string> parseVariations(std::string_view stated) {
+    constexpr std::size_t kTagLength = 4;
+    std::string places;
+    Scanner scanner(trimmed(stated));
+    if (equalIgnoringCase(scanner.rest(), "normal"))
+        return places;
+    while (true) {
+        const char quote = scanner.peek();
+        if (!scanner.take('"') && !scanner.take('\''))
+            return std::nullopt;
+        const std::string_view tag = scanner.until(quote);
+        scanner.skipSpaces();
+        const std::string_view before = scanner.rest();
+        if (tag.size() != kTagLength || tag.find_first_of(",=") != std::string_view::npos ||
+            !scanner.number())
+            return std::nullopt;
+        const std::string_view number = before.substr(0, before.size() - scanner.rest().size());
+        places.append(places.empty() ? "" : ",").append(tag).append("=").append(number);
+        scanner.skipSpaces();
+        if (scanner.done())
+            return places;
+        if (!scanner.take(','))
+            return std::nullopt;
+        scanner.skipSpaces();
+    }
 }
 
 std::optional<Baseline> parseBaseline(std::string_view text) {

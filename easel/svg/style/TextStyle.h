@@ -34,6 +34,7 @@ struct TextStyle {
     type::Slant slant = type::Slant::Upright;
     type::Stretch stretch = type::Stretch::Normal;
     bool smallCaps = false;
+    std::string variations; // as in type::Font
     double letterSpacing = 0;
     double wordSpacing = 0;
     type::Anchor anchor = type::Anchor::Start;
@@ -54,6 +55,9 @@ bool isTextValue(Property property, std::string_view text);
 // The families of a list as fontconfig is asked for them, without quotes. Empty if one of them is no name of
 // CSS: words without quotes begin with a letter.
 std::string familyNames(std::string_view stated);
+
+// The places on axes of fonts that are stated by their names in quotes, as type::Font has them.
+std::optional<std::string> parseVariations(std::string_view stated);
 
 // Nothing for other words, among them "auto" and "baseline".
 std::optional<Baseline> parseBaseline(std::string_view text);

@@ -7,6 +7,7 @@
 #include FT_FREETYPE_H
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace easel::type {
@@ -19,17 +20,22 @@ class FontAxes {
 
     // That the letters can have; nothing where they have one.
     std::optional<Weights> weights() const { return weights_; }
-    // Gives the face the weight that is nearest to this one; false if it has that already.
-    bool setWeight(int weight);
-    // That it was given; 0: none.
-    int weight() const { return weight_; }
+    // Gives the face the weight and the other places, as in Font, that are nearest to these; false if it has
+    // them already.
+    bool setPlaces(int weight, std::string_view variations);
 
   private:
+    struct Axis {
+        FT_ULong tag = 0;
+        double least = 0;
+        double usual = 0;
+        double most = 0;
+    };
+
     FT_Face face_ = nullptr;
     std::optional<Weights> weights_;
-    std::vector<FT_Fixed> places_; // on all axes
-    std::size_t weightAxis_ = 0;
-    int weight_ = 0;
+    std::vector<Axis> axes_;
+    std::vector<FT_Fixed> places_; // on all axes; none before any are set
 };
 
 } // namespace easel::type

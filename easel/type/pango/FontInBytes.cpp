@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <tuple>
 #include <utility>
 
 namespace easel::type {
@@ -130,8 +129,8 @@ class FontInBytes : public LoadedFont {
     GlyphPen pen_;
     FontAxes axes_;
     FacePtr face_ = std::make_shared<const Face>(); // one in no file
-    // By glyph, how it is made to look, and weight.
-    std::map<std::tuple<std::uint32_t, int, int>, Path> outlines_;
+    // Of letters in the places on the axes where they are now: by glyph, and how it is made to look.
+    std::map<std::pair<std::uint32_t, int>, Path> outlines_;
 };
 
 bool FontInBytes::open() {
@@ -158,8 +157,10 @@ bool FontInBytes::has(char32_t character) const {
 }
 
 std::vector<Cluster> FontInBytes::shape(std::string_view text, const Look& look) {
-    if (axes_.setWeight(look.weight))
+    if (axes_.setPlaces(look.weight, look.variations)) {
         hb_ft_font_changed(font_.get());
+        outlines_.clear();
+    }
     std::vector<Cluster> clusters;
     std::vector<Stretch> stretches = stretchesOf(text, look.rightToLeft);
     reorder(stretches);
@@ -210,7 +211,7 @@ void FontInBytes::shapeStretch(std::string_view text, const Stretch& stretch, co
 
 const Path& FontInBytes::outlineOf(std::uint32_t glyph, const Look& look) {
     const auto [known, isNew] =
-        outlines_.try_emplace({glyph, (look.embolden ? 1 : 0) + (look.slant ? 2 : 0), axes_.weight()});
+        outlines_.try_emplace({glyph, (look.embolden ? 1 : 0) + (look.slant ? 2 : 0)});
     if (isNew) {
         Path path = pen_.outlineOf(font_.get(), glyph);
         if (look.embolden)

@@ -54,6 +54,8 @@ Description descriptionOf(const Font& font) {
     pango_font_description_set_style(own, kStyles[static_cast<std::size_t>(font.slant)]);
     pango_font_description_set_stretch(own, static_cast<PangoStretch>(font.stretch));
     pango_font_description_set_variant(own, font.smallCaps ? PANGO_VARIANT_SMALL_CAPS : PANGO_VARIANT_NORMAL);
+    if (!font.variations.empty())
+        pango_font_description_set_variations(own, font.variations.c_str());
     pango_font_description_set_absolute_size(own, kUnitsPerEm);
     return description;
 }
@@ -140,7 +142,7 @@ std::string keyOf(const Line& line) {
                          line.rightToLeft,
                          line.vertical,
                          static_cast<int>(line.upright)};
-    std::string key = line.text + '\n' + font.families + '\n' + font.language;
+    std::string key = line.text + '\n' + font.families + '\n' + font.language + '\n' + font.variations;
     for (const int flag : flags)
         key += '\n' + std::to_string(flag);
     return key;

@@ -236,6 +236,12 @@ TEST(FontFace, LettersComeFromTheRuleThatIsForThem) {
         readOk(drawingIn(ruleFor(wide, "font-weight:100 900"), "<tspan font-weight='900'>A</tspan>B"));
     // A as before, then B as it is at the usual weight.
     expectBox(boundsOf(bold), 10, 40, 10 + 22 + 20, 50);
+    const std::string heaviest = "font-variation-settings:'wght' 900";
+    for (const Drawing& drawing :
+         {readOk(drawingIn(ruleFor(wide), "<tspan style=\"" + heaviest + "\">A</tspan>B")),
+          readOk(drawingIn(ruleFor(wide, heaviest),
+                           "A<tspan font-variation-settings='&quot;wght&quot; 400'>B</tspan>"))})
+        expectBox(boundsOf(drawing), 10, 40, 10 + 22 + 20, 50);
     const Drawing unsaid = readOk(drawingIn(ruleFor(wide), "<tspan font-weight='900'>A</tspan>B"));
     expectBox(boundsOf(unsaid), 10, 40, 10 + 22 + 20, 50);
 }

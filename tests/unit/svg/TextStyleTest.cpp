@@ -126,6 +126,21 @@ TEST(TextStyle, FamiliesLoseTheirQuotesAndOneThatIsNoNameSpoilsTheList) {
     EXPECT_EQ(styleWith(Property::FontFamily, "mono", outer).families, "mono");
 }
 
+TEST(TextStyle, PlacesOnAxesAreNumbersBehindNamesInQuotes) {
+    EXPECT_EQ(parseVariations("\"wght\" 650"), "wght=650");
+    EXPECT_EQ(parseVariations(" 'wght' -6.5e1 , \"GRAD\"80 "), "wght=-6.5e1,GRAD=80");
+    EXPECT_EQ(parseVariations("Normal"), "");
+    for (const char* none : {"", "wght 650", "'wght'", "'wght' x", "'wgh' 3", "'weight' 3", "'wg=t' 3",
+                             "'wght' 3,", "'wght' 3 'wdth' 4", "'wght' 3 normal"})
+        EXPECT_EQ(parseVariations(none), std::nullopt) << none;
+    TextStyle outer;
+    outer.variations = "wght=3";
+    EXPECT_EQ(styleWith(Property::FontVariationSettings, "x", outer).variations, "wght=3");
+    EXPECT_EQ(styleWith(Property::FontVariationSettings, "normal", outer).variations, "");
+    EXPECT_EQ(styleWith(Property::Font, "9px serif", outer).variations, "");
+    EXPECT_EQ(styleWith(Property::FontVariationSettings, "'wdth' 4", outer).variations, "wdth=4");
+}
+
 TEST(TextStyle, BaselinesLieAtTheHeightsOfTheFont) {
     type::FontMetrics metrics;
     metrics.ascent = 0.8;

@@ -236,7 +236,7 @@ TEST_F(DrawnFonts, AreForTheirCharactersAlone) {
     fonts.back().add(glyphOf(U"", 7));
     fonts.back().characters = {{U'a', U'a'}, {U'z', U'z'}};
     EXPECT_EQ(advances("abz", {"Drawn"}), (Widths{5, BoxTypesetter::kWidth, 7}));
-    loaded.push_back({{"Instead"}, nullptr, "Boxes", {}, {{U'a', U'a'}}});
+    loaded.push_back({{"Instead"}, nullptr, "Boxes", {}, {}, {{U'a', U'a'}}});
     EXPECT_EQ(advances("ab", {"Instead,Next"}), (Widths{BoxTypesetter::kWidth, 4}));
 }
 
@@ -274,6 +274,15 @@ TEST_F(DrawnFonts, LoadedOnesThatSayNothingOfWeightsHaveThoseOfTheirLetters) {
     shape("a", {"Own", 700});
     EXPECT_EQ(letters->looks.back().weight, 300);
     EXPECT_TRUE(letters->looks.back().embolden);
+}
+
+TEST_F(DrawnFonts, WhatIsAskedOfAxesComesBehindWhatTheirFontSays) {
+    const auto letters = load({"Own"}, 1);
+    loaded.back().variations = "wdth=75";
+    Font asked{"Own"};
+    asked.variations = "wght=300,slnt=5";
+    shape("a", asked);
+    EXPECT_EQ(letters->looks.back().variations, "wdth=75,wght=300,slnt=5");
 }
 
 TEST_F(DrawnFonts, MeasuresAreThoseOfTheFirstThatIsForABlank) {

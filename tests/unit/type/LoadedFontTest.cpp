@@ -83,9 +83,10 @@ TEST(LoadedFont, LettersOfSeveralWeightsHaveTheOneThatIsAskedFor) {
     const auto font = loaded(tests::smallVariableFont());
     ASSERT_TRUE(font);
     EXPECT_EQ(font->weights(), (Weights{100, 900}));
-    const auto expectWidth = [&](int weight, double width) {
+    const auto expectWidth = [&](int weight, double width, const std::string& variations = "") {
         Look look;
         look.weight = weight;
+        look.variations = variations;
         const auto clusters = font->shape("A", look);
         ASSERT_EQ(clusters.size(), 1U);
         expectBox(clusters[0].outline.bounds(), width, 0.5);
@@ -97,6 +98,12 @@ TEST(LoadedFont, LettersOfSeveralWeightsHaveTheOneThatIsAskedFor) {
     expectWidth(650, 0.7);
     expectWidth(1000, 0.9);
     expectWidth(100, 0.5);
+    // What is said of the axis itself counts more, and the last that is said.
+    expectWidth(400, 0.9, "wght=900");
+    expectWidth(900, 0.7, "wdth=50,wght=100,wght=650");
+    expectWidth(400, 0.9, ",wght=1e9");
+    expectWidth(900, 0.9, "wght,wght=,=,wgh=3");
+    expectWidth(400, 0.5);
     EXPECT_FALSE(loaded(tests::smallFont())->weights());
 }
 
