@@ -51,7 +51,7 @@ class SmallLetters : public LoadedFont {
 class DrawnFonts : public testing::Test {
   protected:
     std::vector<Cluster> shape(const std::string& text, const Font& font, bool rightToLeft = false) {
-        DrawnTypesetter typesetter(fonts, others, loaded);
+        DrawnTypesetter typesetter(fonts_, others_, loaded_);
         Line line;
         line.text = text;
         line.runs.push_back({text.size(), std::make_shared<const Font>(font)});
@@ -65,49 +65,49 @@ class DrawnFonts : public testing::Test {
         return widths;
     }
 
-    BoxTypesetter others;
+    BoxTypesetter others_;
     // The letters of the face.
     std::shared_ptr<SmallLetters> load(const Font& font, double width) {
         auto letters = std::make_shared<SmallLetters>(width);
-        loaded.push_back({font, letters});
+        loaded_.push_back({font, letters});
         return letters;
     }
 
-    std::vector<DrawnFont> fonts;
-    std::vector<LoadedFace> loaded;
+    std::vector<DrawnFont> fonts_;
+    std::vector<LoadedFace> loaded_;
 };
 
 using Widths = std::vector<double>;
 
 TEST_F(DrawnFonts, AreForTheirFamilyAlone) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().add(glyphOf(U"a", 2));
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().add(glyphOf(U"a", 2));
     EXPECT_EQ(advances("a", {"Own"}), Widths{2});
     EXPECT_EQ(advances("a", {"oWN"}), Widths{2});
     EXPECT_EQ(advances("a", {"Other"}), Widths{BoxTypesetter::kWidth});
 }
 
 TEST_F(DrawnFonts, AFamilyOfTheSystemThatIsNamedBeforeGoesFirst) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().add(glyphOf(U"a", 2));
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().add(glyphOf(U"a", 2));
     EXPECT_EQ(advances("a", {"Boxes,Own"}), Widths{BoxTypesetter::kWidth});
     EXPECT_EQ(advances("a", {"Nowhere,Own"}), Widths{2});
 }
 
 TEST_F(DrawnFonts, TheFirstGlyphThatFitsIsTaken) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().add(glyphOf(U"ffi", 3));
-    fonts.back().add(glyphOf(U"f", 1));
-    fonts.back().add(glyphOf(U"ff", 2));
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().add(glyphOf(U"ffi", 3));
+    fonts_.back().add(glyphOf(U"f", 1));
+    fonts_.back().add(glyphOf(U"ff", 2));
     EXPECT_EQ(advances("fffi", {"Own"}), (Widths{1, 3}));
     EXPECT_EQ(shape("fffi", {"Own"})[1].begin, 1U);
     EXPECT_EQ(shape("fffi", {"Own"})[1].end, 4U);
 }
 
 TEST_F(DrawnFonts, WhatOneLacksIsForTheNextFamilyOrASign) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().add(glyphOf(U"a", 2));
-    fonts.back().add(glyphOf(U"", 7));
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().add(glyphOf(U"a", 2));
+    fonts_.back().add(glyphOf(U"", 7));
     EXPECT_EQ(advances("ab", {"Own"}), (Widths{2, 7}));
     const auto clusters = shape("a\u00e4b", {"Own,Boxes"});
     ASSERT_EQ(clusters.size(), 3U);
@@ -118,21 +118,21 @@ TEST_F(DrawnFonts, WhatOneLacksIsForTheNextFamilyOrASign) {
 }
 
 TEST_F(DrawnFonts, KerningMovesTheSecondOfAPair) {
-    fonts.push_back(fontOf("Own"));
-    const std::size_t a = fonts.back().add(glyphOf(U"A", 2));
-    const std::size_t v = fonts.back().add(glyphOf(U"V", 2));
-    fonts.back().addKerning(Follow::Across, {a}, {v}, 0.25);
-    fonts.back().addKerning(Follow::Down, {a}, {v}, 0.5);
+    fonts_.push_back(fontOf("Own"));
+    const std::size_t a = fonts_.back().add(glyphOf(U"A", 2));
+    const std::size_t v = fonts_.back().add(glyphOf(U"V", 2));
+    fonts_.back().addKerning(Follow::Across, {a}, {v}, 0.25);
+    fonts_.back().addKerning(Follow::Down, {a}, {v}, 0.5);
     EXPECT_EQ(advances("AVA", {"Own"}), (Widths{1.75, 2, 2}));
 }
 
 TEST_F(DrawnFonts, InAColumnLettersStandAsTheirScriptWantsIt) {
-    fonts.push_back(fontOf("Own"));
+    fonts_.push_back(fontOf("Own"));
     for (const char32_t letter : U"A\u4e00\u3042\uac00\u300c\u30fc\u00e9\U00020000")
         if (letter != 0)
-            fonts.back().add(glyphOf({letter}, 2));
+            fonts_.back().add(glyphOf({letter}, 2));
     const auto standing = [&](Upright upright) {
-        DrawnTypesetter typesetter(fonts, others);
+        DrawnTypesetter typesetter(fonts_, others_);
         Line line;
         line.text = "A\u4e00\u3042\uac00\u300c\u30fc\u00e9\U00020000";
         line.runs.push_back({line.text.size(), std::make_shared<const Font>(Font{"Own"})});
@@ -150,27 +150,27 @@ TEST_F(DrawnFonts, InAColumnLettersStandAsTheirScriptWantsIt) {
 }
 
 TEST_F(DrawnFonts, TheNearestWeightIsTaken) {
-    fonts.push_back(fontOf("Own", 400));
-    fonts.back().add(glyphOf(U"a", 1));
-    fonts.push_back(fontOf("Own", 700));
-    fonts.back().add(glyphOf(U"a", 2));
+    fonts_.push_back(fontOf("Own", 400));
+    fonts_.back().add(glyphOf(U"a", 1));
+    fonts_.push_back(fontOf("Own", 700));
+    fonts_.back().add(glyphOf(U"a", 2));
     EXPECT_EQ(advances("a", {"Own", 300}), Widths{1});
     EXPECT_EQ(advances("a", {"Own", 600}), Widths{2});
 }
 
 TEST_F(DrawnFonts, FromTheRightLettersComeInTheOtherOrder) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().add(glyphOf(U"a", 1));
-    fonts.back().add(glyphOf(U"b", 2));
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().add(glyphOf(U"a", 1));
+    fonts_.back().add(glyphOf(U"b", 2));
     const auto clusters = shape("ab", {"Own"}, true);
     EXPECT_EQ(clusters[0].advance, 2);
     EXPECT_EQ(clusters[1].advance, 1);
 }
 
 TEST_F(DrawnFonts, HaveMeasuresOfTheirOwn) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().metrics.ascent = 3;
-    DrawnTypesetter typesetter(fonts, others);
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().metrics.ascent = 3;
+    DrawnTypesetter typesetter(fonts_, others_);
     EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 3);
     EXPECT_EQ(typesetter.metrics({"Boxes"}).ascent, 1);
 }
@@ -205,18 +205,18 @@ TEST_F(DrawnFonts, LoadedOnesAreMadeBoldAndLeanWhereNothingNearerIsThere) {
 }
 
 TEST_F(DrawnFonts, OfLoadedOnesThatAreAlikeTheFirstIsTakenAndBeforeDrawnOnes) {
-    fonts.push_back(fontOf("Own"));
-    fonts.back().add(glyphOf(U"a", 5));
+    fonts_.push_back(fontOf("Own"));
+    fonts_.back().add(glyphOf(U"a", 5));
     load({"Own"}, 2);
     load({"Own"}, 3);
     EXPECT_EQ(advances("a", {"oWN"}), Widths{2});
 }
 
 TEST_F(DrawnFonts, FamiliesOfTheSystemStandInForOnesThatHaveNoLetters) {
-    loaded.push_back({{"Own"}, nullptr, "Boxes"});
+    loaded_.push_back({{"Own"}, nullptr, "Boxes"});
     EXPECT_EQ(advances("a", {"Own"}), Widths{BoxTypesetter::kWidth});
-    EXPECT_EQ(others.lines.back().runs.back().font->families, "Boxes,Own");
-    DrawnTypesetter typesetter(fonts, others, loaded);
+    EXPECT_EQ(others_.lines.back().runs.back().font->families, "Boxes,Own");
+    DrawnTypesetter typesetter(fonts_, others_, loaded_);
     EXPECT_TRUE(typesetter.has("own"));
     EXPECT_FALSE(typesetter.has("Nowhere"));
     EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 1);
@@ -224,34 +224,34 @@ TEST_F(DrawnFonts, FamiliesOfTheSystemStandInForOnesThatHaveNoLetters) {
 
 TEST_F(DrawnFonts, AreForTheirCharactersAlone) {
     load({"Own"}, 2);
-    loaded.back().characters = {{U'a', U'c'}, {U'x', U'x'}};
+    loaded_.back().characters = {{U'a', U'c'}, {U'x', U'x'}};
     load({"Own"}, 3);
-    loaded.back().characters = {{U'e', U'g'}};
+    loaded_.back().characters = {{U'e', U'g'}};
     load({"Next"}, 4);
     EXPECT_EQ(advances("cdxefa", {"Own,Next"}), (Widths{2, 4, 2, 3, 2}));
     EXPECT_EQ(advances("cd", {"Own"}), (Widths{2, BoxTypesetter::kWidth}));
-    fonts.push_back(fontOf("Drawn"));
-    fonts.back().add(glyphOf(U"a", 5));
-    fonts.back().add(glyphOf(U"b", 6));
-    fonts.back().add(glyphOf(U"", 7));
-    fonts.back().characters = {{U'a', U'a'}, {U'z', U'z'}};
+    fonts_.push_back(fontOf("Drawn"));
+    fonts_.back().add(glyphOf(U"a", 5));
+    fonts_.back().add(glyphOf(U"b", 6));
+    fonts_.back().add(glyphOf(U"", 7));
+    fonts_.back().characters = {{U'a', U'a'}, {U'z', U'z'}};
     EXPECT_EQ(advances("abz", {"Drawn"}), (Widths{5, BoxTypesetter::kWidth, 7}));
-    loaded.push_back({{"Instead"}, nullptr, "Boxes", {}, {}, {{U'a', U'a'}}});
+    loaded_.push_back({{"Instead"}, nullptr, "Boxes", {}, {}, {{U'a', U'a'}}});
     EXPECT_EQ(advances("ab", {"Instead,Next"}), (Widths{BoxTypesetter::kWidth, 4}));
 }
 
 TEST_F(DrawnFonts, LettersThatAllLackAreSetTogether) {
     load({"Own"}, 2);
     shape("aXYZa", {"Own,Boxes"});
-    EXPECT_EQ(others.lines.back().text, "XYZ");
-    EXPECT_EQ(others.lines.back().runs.size(), 1U);
+    EXPECT_EQ(others_.lines.back().text, "XYZ");
+    EXPECT_EQ(others_.lines.back().runs.size(), 1U);
 }
 
 TEST_F(DrawnFonts, LoadedOnesOfSeveralWeightsAreForEachOfThem) {
     const auto light = load({"Own", 300}, 1);
-    loaded.back().weights = Weights{100, 350};
+    loaded_.back().weights = Weights{100, 350};
     const auto heavy = load({"Own", 400}, 2);
-    loaded.back().weights = Weights{400, 800};
+    loaded_.back().weights = Weights{400, 800};
     EXPECT_EQ(advances("a", {"Own", 350}), Widths{1});
     EXPECT_EQ(light->looks.back().weight, 350);
     EXPECT_EQ(advances("a", {"Own", 800}), Widths{2});
@@ -270,7 +270,7 @@ TEST_F(DrawnFonts, LoadedOnesThatSayNothingOfWeightsHaveThoseOfTheirLetters) {
     EXPECT_EQ(letters->looks.back().weight, 700);
     EXPECT_FALSE(letters->looks.back().embolden);
     // What is said counts more.
-    loaded.back().weights = Weights{300, 300};
+    loaded_.back().weights = Weights{300, 300};
     shape("a", {"Own", 700});
     EXPECT_EQ(letters->looks.back().weight, 300);
     EXPECT_TRUE(letters->looks.back().embolden);
@@ -278,7 +278,7 @@ TEST_F(DrawnFonts, LoadedOnesThatSayNothingOfWeightsHaveThoseOfTheirLetters) {
 
 TEST_F(DrawnFonts, WhatIsAskedOfAxesComesBehindWhatTheirFontSays) {
     const auto letters = load({"Own"}, 1);
-    loaded.back().variations = "wdth=75";
+    loaded_.back().variations = "wdth=75";
     Font asked{"Own"};
     asked.variations = "wght=300,slnt=5";
     shape("a", asked);
@@ -287,17 +287,17 @@ TEST_F(DrawnFonts, WhatIsAskedOfAxesComesBehindWhatTheirFontSays) {
 
 TEST_F(DrawnFonts, MeasuresAreThoseOfTheFirstThatIsForABlank) {
     load({"Own"}, 2);
-    loaded.back().characters = {{U'a', U'z'}};
-    DrawnTypesetter typesetter(fonts, others, loaded);
+    loaded_.back().characters = {{U'a', U'z'}};
+    DrawnTypesetter typesetter(fonts_, others_, loaded_);
     EXPECT_EQ(typesetter.metrics({"Own,Boxes"}).ascent, 1);
-    loaded.back().characters = {{U' ', U'~'}};
-    DrawnTypesetter other(fonts, others, loaded);
+    loaded_.back().characters = {{U' ', U'~'}};
+    DrawnTypesetter other(fonts_, others_, loaded_);
     EXPECT_EQ(other.metrics({"Own,Boxes"}).ascent, 2);
 }
 
 TEST_F(DrawnFonts, MeasuresOfLoadedOnesAreTheirs) {
     load({"Own"}, 2);
-    DrawnTypesetter typesetter(fonts, others, loaded);
+    DrawnTypesetter typesetter(fonts_, others_, loaded_);
     EXPECT_EQ(typesetter.metrics({"Own"}).ascent, 2);
     EXPECT_TRUE(typesetter.has("OWN"));
 }
