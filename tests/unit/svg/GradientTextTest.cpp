@@ -40,6 +40,10 @@ TEST(GradientText, WithoutAGeometryHasStopsBetweenTheEnds) {
                           "<stop offset=\"1\" stop-color=\"#0000ff\"/></"));
 }
 
+TEST(GradientText, WithoutAGeometryGoesAlongTheFirstUnit) {
+    EXPECT_THAT(textOfStops({{RGBColor{65535, 0, 0}, 0}}), HasSubstr(R"( x1="0" y1="0" x2="1" y2="0")"));
+}
+
 TEST(GradientText, WithoutAGeometryHasAStopOfNoPositionAtTheBeginning) {
     EXPECT_THAT(textOfStops({{RGBColor{65535, 0, 0}, std::numeric_limits<double>::quiet_NaN()}}),
                 HasSubstr("><stop offset=\"0\" stop-color=\"#ff0000\"/></"));

@@ -5,6 +5,8 @@
 namespace {
 
 using namespace easel::drawing;
+using testing::HasSubstr;
+using testing::Not;
 
 constexpr Rgb16 kRed{65535, 0, 0};
 constexpr Rgb16 kLime{0, 65535, 0};
@@ -157,6 +159,19 @@ TEST(UseContext, WhatIsWrittenOutBesideAChangedShapeKeepsThePaintsOfTheUseElemen
     const Stroke& stroke = styleOf(*again.object(1)).stroke;
     EXPECT_EQ(colorOf(stroke.paint), kBlue);
     EXPECT_EQ(stroke.opacity, 0.25);
+}
+
+TEST(UseContext, NoMoreIsStatedThanThePaintsThatWereAskedFor) {
+    Drawing drawing =
+        readOk(svgFile("<defs><g id='two'><rect width='10' height='10'/><rect x='30' width='10' "
+                       "height='10' fill='context-fill' stroke='green'/></g></defs>"
+                       "<use href='#two' fill='red'/><use href='#two' y='20' fill='lime'/>"));
+    giveGradient(drawing, 0, CGradientData());
+    const std::string text = easel::svg::toBytes(drawing);
+    EXPECT_THAT(text, HasSubstr("<use href='#two' y='20' fill='lime'/>"));
+    EXPECT_THAT(text, HasSubstr("#ff0000"));
+    EXPECT_THAT(text, Not(HasSubstr("#008000")));
+    EXPECT_THAT(text, Not(HasSubstr("fill-opacity")));
 }
 
 } // namespace
