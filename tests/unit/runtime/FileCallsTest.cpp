@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
+
 namespace tests {
 namespace {
 
@@ -81,7 +83,7 @@ TEST_F(FileCallsTest, APlaceThatIsNoneHasItsErrorAndLeavesTheRecordAlone) {
     EXPECT_EQ(FSMakeFSSpec(place_.vRefNum, 99, "a", &spec), kNoSuchFolder);
     EXPECT_EQ(FSMakeFSSpec(place_.vRefNum, place_.parID, "a:b", &spec), kBadName);
     EXPECT_EQ(spec.name[0], 6);
-    EXPECT_EQ(spec.parID, place_.parID);
+    EXPECT_EQ(std::int32_t{spec.parID}, std::int32_t{place_.parID});
 }
 
 TEST_F(FileCallsTest, ResourcesAreThoseOfTheFileThatIsUsed) {
