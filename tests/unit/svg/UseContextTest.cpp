@@ -2,6 +2,8 @@
 #include "easel/drawing/StandardGradient.h"
 #include "tests/unit/svg/ReadHelp.h"
 
+#include <gmock/gmock.h>
+
 namespace {
 
 using namespace easel::drawing;
