@@ -15,25 +15,6 @@ namespace {
 
 constexpr int kDeepestBlock = 16;
 
-// Without comments and the marks that hide a sheet from very old programs.
-std::string withoutComments(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    while (!text.empty()) {
-        const std::size_t begin = std::min(text.find("/*"), text.size());
-        result += text.substr(0, begin);
-        if (begin == text.size())
-            break;
-        const std::size_t end = text.find("*/", begin + 2);
-        text = end == std::string_view::npos ? std::string_view() : text.substr(end + 2);
-        result += ' ';
-    }
-    for (const std::string_view mark : {"<!--", "-->"})
-        for (std::size_t at = result.find(mark); at != std::string::npos; at = result.find(mark, at))
-            result.replace(at, mark.size(), mark.size(), ' ');
-    return result;
-}
-
 // Takes a block, whose '{' is first, with everything inside it. One that is still open ends with the text.
 std::string_view takeBlock(std::string_view& text) {
     int depth = 1;
@@ -65,6 +46,24 @@ std::optional<Declaration> declaration(std::string_view name, std::string_view v
 }
 
 } // namespace
+
+std::string withoutComments(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const std::size_t begin = std::min(text.find("/*"), text.size());
+        result += text.substr(0, begin);
+        if (begin == text.size())
+            break;
+        const std::size_t end = text.find("*/", begin + 2);
+        text = end == std::string_view::npos ? std::string_view() : text.substr(end + 2);
+        result += ' ';
+    }
+    for (const std::string_view mark : {"<!--", "-->"})
+        for (std::size_t at = result.find(mark); at != std::string::npos; at = result.find(mark, at))
+            result.replace(at, mark.size(), mark.size(), ' ');
+    return result;
+}
 
 std::vector<Declaration> parseDeclarations(std::string_view text) {
     std::vector<Declaration> result;

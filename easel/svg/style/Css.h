@@ -22,6 +22,9 @@ struct Declaration {
     Importance importance = Importance::Normal;
 };
 
+// The text without comments and the marks that hide a sheet from very old programs.
+std::string withoutComments(std::string_view text);
+
 // "name: value; name: value"
 std::vector<Declaration> parseDeclarations(std::string_view text);
 

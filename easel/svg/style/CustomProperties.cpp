@@ -121,9 +121,9 @@ std::string_view CustomValues::replaced(std::string_view value, const CustomProp
 }
 
 std::string_view CustomValues::plain(std::string_view text) {
-    if (text.find('\\') == std::string_view::npos)
+    if (text.find('\\') == std::string_view::npos && text.find("/*") == std::string_view::npos)
         return text;
-    return *values_.insert(withPlainNames(text)).first;
+    return *values_.insert(withPlainNames(withoutComments(text))).first;
 }
 
 } // namespace easel::svg

@@ -28,7 +28,7 @@ class CustomValues {
     // The value with every var() replaced; empty if one of them stands for nothing, or for too much.
     std::string_view replaced(std::string_view value, const CustomProperties* properties);
 
-    // The text with names in it made plain, see withPlainNames.
+    // The text without comments and with names in it made plain, see withPlainNames.
     std::string_view plain(std::string_view text);
 
   private:

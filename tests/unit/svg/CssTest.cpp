@@ -35,6 +35,16 @@ void expectBox(const Box& box, double left, double top, double right, double bot
     EXPECT_NEAR(box.bottom, bottom, 1e-9);
 }
 
+TEST(Css, CommentsInAttributesAreNothing) {
+    for (const char* red :
+         {"style='/* a */fill:red'", "style='fill:/* a */red'", "style='fill:red/* a */;stroke:none'",
+          "style='fill:lime;/* fill:blue;*/fill:red'", "fill='/* a */red'", "fill=' red/* a'"}) {
+        const Drawing drawing = readOk(svgFile("<rect width='9' height='9' " + std::string(red) + "/>"));
+        const auto* const color = std::get_if<ColorPaint>(&drawing.object(0)->fill);
+        EXPECT_TRUE(color && color->color == (Rgb16{65535, 0, 0})) << red;
+    }
+}
+
 TEST(Css, MediaRulesHoldForAScreenOfTheDrawingsSize) {
     const std::string red = "{ .a { fill: #f00 } }";
     for (const char* query :
