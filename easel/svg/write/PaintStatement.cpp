@@ -47,6 +47,16 @@ std::string important(const PaintStatement& statement) {
     return std::string(statement.property) + ':' + statement.paint + " !important";
 }
 
+// With blanks for its comments, so that all else keeps its place.
+std::string withBlankComments(std::string text) {
+    for (std::size_t at = text.find("/*"); at < text.size(); at = text.find("/*", at)) {
+        const std::size_t close = text.find("*/", at + 2);
+        const std::size_t end = close == std::string::npos ? text.size() : close + 2;
+        text.replace(at, end - at, end - at, ' ');
+    }
+    return text;
+}
+
 // Declarations go in front, so that nothing that the style leaves open takes them in.
 void beginStyle(Splices& splices, const RawTag& tag, const std::string& declarations) {
     if (const RawAttribute* const style = tag.find("style"))
@@ -59,7 +69,7 @@ void beginStyle(Splices& splices, const RawTag& tag, const std::string& declarat
 
 void statePaints(Splices& splices, const RawTag& tag, const std::vector<PaintStatement>& paints) {
     const RawAttribute* const style = tag.find("style");
-    const std::string styleText = withoutPlainReferences(tag.value("style"));
+    const std::string styleText = withBlankComments(withoutPlainReferences(tag.value("style")));
     const std::size_t lastReference = styleText.rfind('&');
     const bool hidden = lastReference != std::string::npos;
     const std::vector<Declaration> declarations = parseDeclarations(styleText);

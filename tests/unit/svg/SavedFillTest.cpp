@@ -38,7 +38,8 @@ TEST(SavedFill, IsTheOneThatCountsOfSeveralStatements) {
           "style='fill:blue !important;fill:red !important'", "fill='red' fill='blue'",
           "style=\"fill:red;font-family:&quot;a;fill:blue&quot;\"", "style='font-family:&apos;a&apos;'",
           "style='fill:red;stroke:none;font-family:&apos;a&apos;' fill='blue'", "style='font-family:\"a'",
-          "style=' '", "fill='red'", ""})
+          "style='/* a */fill:red'", "style='fill:red/* a;b */;stroke:none'",
+          "style='stroke:red/* fill:lime'", "style=' '", "fill='red'", ""})
         EXPECT_EQ(savedRecord(rectangleWith(attributes)), recordText(someRecord())) << attributes;
 }
 
